@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/storage/sort_order.h"
+
+#include "platform/values/currency.h"
+#include "platform/values/failure.h"
+
+#include <QStringList>
+
+namespace storage {
+
+namespace {
+
+int ordinalOf(const QString& name, const TableDefinition& table)
+{
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (name.compare(QLatin1StringView(table.columns[i].name), Qt::CaseInsensitive) == 0)
+            return static_cast<int>(i);
+    }
+    throw values::RuntimeFailure(values::FailureKind::InvalidCall, QStringLiteral("no column \"%1\"").arg(name));
+}
+
+bool takeWord(QString& text, QLatin1StringView word)
+{
+    if (!text.endsWith(word, Qt::CaseInsensitive))
+        return false;
+    text = text.chopped(word.size()).trimmed();
+    return true;
+}
+
+SortKey parseKey(QString text, const TableDefinition& table)
+{
+    const bool descending = takeWord(text, QLatin1StringView(" DESC"));
+    if (!descending)
+        takeWord(text, QLatin1StringView(" ASC"));
+    if (text.startsWith(u'[') && text.endsWith(u']'))
+        text = text.sliced(1).chopped(1);
+    return {ordinalOf(text, table), descending};
+}
+
+template <typename Number>
+int order(Number a, Number b)
+{
+    return a < b ? -1 : (b < a ? 1 : 0);
+}
+
+} // namespace
+
+std::vector<SortKey> parseSortOrder(const QString& columnList, const TableDefinition& table)
+{
+    std::vector<SortKey> keys;
+    if (columnList.trimmed().isEmpty())
+        return keys;
+    for (const QString& part : columnList.split(u','))
+        keys.push_back(parseKey(part.trimmed(), table));
+    return keys;
+}
+
+int compareCells(ColumnType type, const QString& a, const QString& b)
+{
+    switch (type) {
+    case ColumnType::Identity:
+    case ColumnType::Integer:
+    case ColumnType::Currency:
+        return order(a.toLongLong(), b.toLongLong());
+    case ColumnType::Money:
+        return order(values::Currency::tryParse(a), values::Currency::tryParse(b));
+    case ColumnType::Text:
+        break;
+    }
+    return a.compare(b, Qt::CaseInsensitive);
+}
+
+} // namespace storage

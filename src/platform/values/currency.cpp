@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/values/currency.h"
+
+#include "platform/values/digits.h"
+#include "platform/values/failure.h"
+
+#include <limits>
+
+namespace values {
+
+namespace {
+
+struct Amount {
+    bool negative;
+    QStringView whole; ///< with its commas
+    QStringView decimals;
+};
+
+/// Takes the brackets, the dollar sign and the minus off; nothing where they don't fit together.
+std::optional<bool> takeSigns(QStringView& text)
+{
+    int signs = 0;
+    if (digits::take(text, u'(')) {
+        if (!text.endsWith(u')')) {
+            return std::nullopt;
+        }
+        text.chop(1);
+        ++signs;
+    }
+    signs += digits::take(text, u'-');
+    digits::take(text, u'$');
+    signs += digits::take(text, u'-');
+    return signs < 2 ? std::optional(signs == 1) : std::nullopt;
+}
+
+/// A group that begins with zero is no group of thousands: "0,123" is more likely a decimal comma.
+bool isGrouped(QStringView whole)
+{
+    for (qsizetype fromEnd = 0; fromEnd < whole.size(); ++fromEnd) {
+        const QChar c = whole[whole.size() - 1 - fromEnd];
+        if (fromEnd % 4 == 3 ? c != u',' : !digits::isDigit(c)) {
+            return false;
+        }
+    }
+    return !whole.startsWith(u',') && !whole.startsWith(u'0');
+}
+
+std::optional<Amount> split(QStringView text)
+{
+    const std::optional<bool> negative = takeSigns(text);
+    if (!negative) {
+        return std::nullopt;
+    }
+    const qsizetype point = text.indexOf(u'.');
+    const Amount amount{
+        *negative, point < 0 ? text : text.first(point), point < 0 ? QStringView() : text.sliced(point + 1)};
+    const bool reads = (digits::areAll(amount.whole) || isGrouped(amount.whole)) && digits::areAll(amount.decimals)
+        && amount.decimals.size() <= 4 && !(amount.whole.isEmpty() && amount.decimals.isEmpty());
+    return reads ? std::optional(amount) : std::nullopt;
+}
+
+/// In ten-thousandths; nothing where it doesn't fit.
+std::optional<qint64> countOf(const Amount& amount)
+{
+    std::optional<quint64> size = 0;
+    for (const QStringView group : amount.whole.tokenize(u',')) {
+        size = digits::append(size, group);
+    }
+    const QStringView zeros = QStringView(u"0000").sliced(amount.decimals.size());
+    size = digits::append(digits::append(size, amount.decimals), zeros);
+    constexpr quint64 largest = std::numeric_limits<qint64>::max();
+    if (!size || *size > largest + amount.negative) {
+        return std::nullopt;
+    }
+    return static_cast<qint64>(amount.negative ? 0 - *size : *size);
+}
+
+RuntimeFailure overflow(const QString& detail)
+{
+    return RuntimeFailure(FailureKind::Overflow, detail);
+}
+
+} // namespace
+
+Currency Currency::parse(const QString& text)
+{
+    const std::optional<Amount> amount = split(text);
+    if (!amount) {
+        throw mismatch(text, QStringLiteral("an amount of money"));
+    }
+    const std::optional<qint64> count = countOf(*amount);
+    if (!count) {
+        throw overflow(u'"' + text + QStringLiteral("\" is too large an amount of money"));
+    }
+    return Currency(*count);
+}
+
+std::optional<Currency> Currency::tryParse(const QString& text)
+{
+    const std::optional<Amount> amount = split(text);
+    const std::optional<qint64> count = amount ? countOf(*amount) : std::nullopt;
+    return count ? std::optional(Currency(*count)) : std::nullopt;
+}
+
+QString Currency::toText() const
+{
+    const auto bits = static_cast<quint64>(count_);
+    const quint64 cents = ((count_ < 0 ? 0 - bits : bits) + 50) / 100;
+    QString text = QString::number(cents / 100);
+    for (qsizetype comma = text.size() - 3; comma > 0; comma -= 3) {
+        text.insert(comma, u',');
+    }
+    text = u'$' + text + u'.' + QString::number(cents % 100).rightJustified(2, u'0');
+    return count_ < 0 && cents > 0 ? u'(' + text + u')' : text;
+}
+
+Currency Currency::operator-() const
+{
+    return Currency() - *this;
+}
+
+Currency& Currency::operator+=(Currency other)
+{
+    qint64 sum = 0;
+    if (qAddOverflow(count_, other.count_, &sum)) {
+        throw overflow(QStringLiteral("a sum of money"));
+    }
+    count_ = sum;
+    return *this;
+}
+
+Currency& Currency::operator-=(Currency other)
+{
+    qint64 difference = 0;
+    if (qSubOverflow(count_, other.count_, &difference)) {
+        throw overflow(QStringLiteral("a difference of money"));
+    }
+    count_ = difference;
+    return *this;
+}
+
+} // namespace values

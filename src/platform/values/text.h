@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace values {
+
+/// The text in upper case: all of Unicode, by the same rules under every locale ("i" becomes "I" in Turkish too), where
+/// a character has no single capital by its capitals ("ß" becomes "SS").
+QString upper(const QString& text);
+
+/// True where `upper(a) == upper(b)`, without making the two where the texts are ASCII.
+bool equalUpper(const QString& a, const QString& b);
+
+} // namespace values

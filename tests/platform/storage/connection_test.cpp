@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage_test.h"
+
+using values::FailureKind;
+
+namespace {
+
+class ConnectionTest : public StorageTest {
+protected:
+    void SetUp() override
+    {
+        StorageTest::SetUp();
+        wordsView.Open();
+        for (int i = 0; i < 40; ++i)
+            addWord(wordsView, QString(500, 'w'));
+        wordsView.Close();
+    }
+
+    // Opens both tables, and expects the refusal that leaves everything as it was.
+    void expectRefusal(const char* what)
+    {
+        const auto before = files();
+        EXPECT_EQ(failureOf([this] {
+            thingsView.Open();
+            wordsView.Open();
+        }),
+            FailureKind::Database)
+            << what;
+        home.close();
+        EXPECT_EQ(files(), before) << what;
+    }
+};
+
+} // namespace
+
+TEST_F(ConnectionTest, RefusesADamagedCutOrForeignFileAndLeavesItAsItWas)
+{
+    const QByteArray whole = files().value("data.db");
+    EXPECT_EQ(storage::checkDatabase(path(), key),
+        (std::vector<storage::TableCount>{{"Stage", 0}, {"Things", 0}, {"Words", 40}}));
+    QByteArray damaged = whole;
+    damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 1);
+    const std::pair<const char*, QByteArray> cases[] = {
+        {"empty", ""},
+        {"cut to a page", whole.first(1024)},
+        {"cut by one byte", whole.chopped(1)},
+        {"damaged in the middle", damaged},
+        {"a text", QByteArray("no database at all ").repeated(400)},
+        {"an unencrypted database", "SQLite format 3" + QByteArray(8177, '\0')},
+    };
+    for (const auto& [what, bytes] : cases) {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(bytes);
+        file.close();
+        expectRefusal(what);
+        EXPECT_EQ(failureOf([this] { storage::checkDatabase(path(), key); }), FailureKind::Database) << what;
+    }
+}
+
+TEST_F(ConnectionTest, RefusesAMissingFileAFolderAWrongKeyAndOtherTables)
+{
+    home.setFile(path(), "another key");
+    expectRefusal("wrong key");
+    home.setFile(folder.filePath("none.db"), key);
+    expectRefusal("missing");
+    home.setFile(folder.path(), key);
+    expectRefusal("a folder");
+    home.setFile(path(), key);
+    runOnFile("ALTER TABLE Things RENAME TO Others");
+    expectRefusal("without a table");
+}
+
+TEST_F(ConnectionTest, KeepsOthersOutOfItsOneFileAndShowsNothing)
+{
+    wordsView.Open();
+    EXPECT_EQ(failureOf([this] { storage::Connection().open(path(), key); }), FailureKind::Database) << "in use";
+    wordsView.Close();
+    const QByteArray contents = files().value("data.db");
+    EXPECT_FALSE(contents.contains("wwww") || contents.contains("Words") || contents.startsWith("SQLite"));
+    EXPECT_EQ(files().keys(), QStringList({"data.db"}));
+    EXPECT_EQ(QFile::permissions(path()) & (QFile::ReadGroup | QFile::ReadOther), 0);
+}

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/storage/schema.h"
+#include "platform/storage/table_view.h"
+#include "platform/values/failure.h"
+#include "support/print.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace things {
+
+enum Column { ID, Name, Price, Count, Total };
+
+inline constexpr storage::Column columns[] = {
+    {"ID", storage::ColumnType::Identity},
+    {"Name of It"},
+    {"Price", storage::ColumnType::Money},
+    {"Count", storage::ColumnType::Integer},
+    {"Total", storage::ColumnType::Currency},
+};
+inline constexpr storage::TableDefinition table{"Things", columns};
+
+} // namespace things
+
+namespace words {
+
+enum Column { Word, Kind };
+
+inline constexpr storage::Column columns[] = {{"Word"}, {"Kind"}};
+inline constexpr storage::TableDefinition table{"Words", columns};
+
+} // namespace words
+
+namespace stage {
+
+enum Column { Name };
+
+inline constexpr storage::Column columns[] = {{"Name"}};
+inline constexpr storage::TableDefinition table{"Stage", columns, true};
+
+} // namespace stage
+
+/// A database of three tables in a folder of its own, not opened.
+class StorageTest : public testing::Test {
+protected:
+    static constexpr auto key = "a key";
+    static constexpr const storage::TableDefinition* tables[] = {&things::table, &words::table, &stage::table};
+
+    void SetUp() override
+    {
+        storage::createDatabase(path(), key, tables);
+        home.setFile(path(), key);
+    }
+
+    QString path() const { return folder.filePath(QStringLiteral("data.db")); }
+
+    /// Runs a statement on the file, past the views.
+    void runOnFile(const QByteArray& sql)
+    {
+        storage::execute(storage::openFile(path(), key, storage::Access::ReadWrite).get(), sql);
+    }
+
+    /// Each file of the folder with its bytes.
+    QMap<QString, QByteArray> files() const
+    {
+        QMap<QString, QByteArray> contents;
+        for (const QString& name : QDir(folder.path()).entryList(QDir::Files)) {
+            QFile file(folder.filePath(name));
+            if (file.open(QIODevice::ReadOnly))
+                contents[name] = file.readAll();
+        }
+        return contents;
+    }
+
+    static void addWord(storage::TableView& view, const QString& word, const QString& kind = {})
+    {
+        view.AddNew();
+        view.Fields(words::Word) = word;
+        view.Fields(words::Kind) = kind;
+        view.Update();
+    }
+
+    /// The words from the first row to the last, as a walk finds them; the view is behind its last row then.
+    static QStringList walk(storage::TableView& view, int column = words::Word)
+    {
+        QStringList found;
+        if (view.RecordCount() == 0)
+            return found;
+        for (view.MoveFirst(); !view.atEOF(); view.MoveNext())
+            found += view.Fields(column).text();
+        return found;
+    }
+
+    /// What a file holds in the first column of a table, read by a connection of its own.
+    static QStringList inFile(const QString& file, const storage::TableDefinition& table)
+    {
+        storage::Connection connection;
+        connection.setFile(file, key);
+        storage::TableView view(connection, table);
+        view.Open();
+        return walk(view);
+    }
+
+    QStringList wordsInFile() const { return inFile(path(), words::table); }
+
+    template <typename Operation>
+    static std::optional<values::FailureKind> failureOf(Operation operation)
+    {
+        try {
+            operation();
+            return {};
+        } catch (const values::RuntimeFailure& failure) {
+            return failure.kind();
+        }
+    }
+
+    QTemporaryDir folder;
+    storage::Connection home;
+    storage::TableView thingsView{home, things::table};
+    storage::TableView wordsView{home, words::table};
+    storage::TableView stageView{home, stage::table};
+};

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system/folder_copy.h"
+
+#include "platform/values/failure.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <map>
+#include <random>
+
+#include <sys/resource.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Pair;
+
+constexpr int Megabyte = 1 << 20;
+
+void put(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+// Every file and folder below a folder, hidden ones too, with the bytes of the files.
+std::map<std::string, std::string> treeOf(const QString& folder)
+{
+    std::map<std::string, std::string> tree;
+    QDirIterator walk(
+        folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        QFile file(walk.next());
+        const std::string name = QDir(folder).relativeFilePath(file.fileName()).toStdString();
+        tree[name] = file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(folder)";
+    }
+    return tree;
+}
+
+// The failure of a copy, or nothing.
+std::string failureOf(const QString& source, const QString& target, const sys::CopyProof& proof = {})
+{
+    try {
+        sys::copyFolder(source, target, proof);
+    } catch (const values::RuntimeFailure& failure) {
+        EXPECT_EQ(failure.kind(), values::FailureKind::File);
+        return failure.what();
+    }
+    return {};
+}
+
+class FolderCopy : public testing::Test {
+protected:
+    QTemporaryDir place;
+    const QString source = place.filePath("source");
+    const QString target = place.filePath("target");
+};
+
+} // namespace
+
+TEST_F(FolderCopy, LiesOverWhatIsThereAndKeepsTheRest)
+{
+    put(source + "/data", QByteArray(3 * Megabyte + 7, 'n'));
+    put(source + "/below/further/.hidden", "");
+    put(place.filePath("elsewhere"), "linked");
+    QFile::link(place.filePath("elsewhere"), source + "/link");
+    QFile::link(place.filePath("nowhere"), source + "/dead link");
+    put(target + "/data", "old");
+    put(target + "/mine", "mine");
+    put(target + "/.folder-copy-Xy12Zz", "left behind by a copy that was killed");
+
+    sys::copyFolder(source + "/", target + "/");
+    EXPECT_THAT(treeOf(target),
+        ElementsAre(Pair("below", "(folder)"), Pair("below/further", "(folder)"), Pair("below/further/.hidden", ""),
+            Pair("data", std::string(3 * Megabyte + 7, 'n')), Pair("link", "linked"), Pair("mine", "mine")));
+    EXPECT_FALSE(QFileInfo(target + "/link").isSymLink());
+    EXPECT_EQ(QFile::permissions(target + "/data") & (QFile::ReadGroup | QFile::ReadOther), 0);
+}
+
+TEST_F(FolderCopy, ThatFailsLeavesTheOldOneWhole)
+{
+    for (const char* name : {"/a", "/below/b"}) {
+        put(source + name, QByteArray(2 * Megabyte, 'n'));
+        put(target + name, "old");
+    }
+    const auto before = treeOf(target);
+    int proofs = 0;
+    EXPECT_THAT(failureOf(source, target,
+                    [&proofs](const QString&, const QString& copy) {
+                        EXPECT_EQ(QFileInfo(copy).size(), 2 * Megabyte);
+                        if (++proofs == 2)
+                            throw values::RuntimeFailure(values::FailureKind::File, "not proved");
+                    }),
+        HasSubstr("not proved"));
+    EXPECT_EQ(treeOf(target), before);
+
+    std::signal(SIGXFSZ, SIG_IGN); // a file that can't grow is to a writer the same as a disk that is full
+    rlimit former{};
+    getrlimit(RLIMIT_FSIZE, &former);
+    const rlimit full{Megabyte + 1, former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    const std::string failure = failureOf(source, target);
+    setrlimit(RLIMIT_FSIZE, &former);
+    EXPECT_THAT(failure, HasSubstr(target.toStdString()));
+    EXPECT_EQ(treeOf(target), before);
+}
+
+TEST_F(FolderCopy, RefusesWhatIsNoPlaceForIt)
+{
+    put(source + "/below/data", "data");
+    put(place.filePath("file"), "");
+    QFile::link(source, place.filePath("link"));
+    const auto before = treeOf(source);
+    for (const char* name : {"file", "missing/folder", "source", "source/below/copy", "link", "/proc"})
+        EXPECT_THAT(failureOf(source, QDir(place.path()).filePath(name)), HasSubstr("File failure: ")) << name;
+    EXPECT_EQ(treeOf(source), before);
+}
+
+TEST_F(FolderCopy, KilledAtAnyMomentLeavesEachFileOldOrNew)
+{
+    const QString other = place.filePath("other");
+    for (const char* name : {"/a", "/below/b"}) {
+        put(source + name, QByteArray(Megabyte, 'x'));
+        put(other + name, QByteArray(Megabyte, 'y'));
+    }
+    sys::copyFolder(source, target);
+    std::minstd_rand random(1);
+    for (int run = 0; run < 25; ++run) {
+        const itimerval moment{{0, 0}, {0, std::uniform_int_distribution(100, 15'000)(random)}};
+        const pid_t child = fork();
+        if (child == 0) {
+            std::signal(SIGALRM, SIG_DFL);
+            setitimer(ITIMER_REAL, &moment, nullptr);
+            while (true) {
+                sys::copyFolder(source, target);
+                sys::copyFolder(other, target);
+            }
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM);
+        auto tree = treeOf(target);
+        for (const char* name : {"a", "below/b"})
+            ASSERT_TRUE(tree[name] == std::string(Megabyte, 'x') || tree[name] == std::string(Megabyte, 'y')) << name;
+    }
+    sys::copyFolder(source, target);
+    EXPECT_EQ(treeOf(target), treeOf(source));
+}
