@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/forms/boundary.h"
+#include "platform/forms/buttons.h"
+#include "platform/forms/keyboard.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QShortcutEvent>
+
+namespace forms {
+
+/// What the toolkit's buttons of all kinds have to do for the layer; not for screens.
+template <class Base>
+class ButtonWidget : public Base {
+public:
+    ButtonWidget(QWidget* parent, Button& button)
+        : Base(parent)
+        , button_(button)
+    {
+        this->setFocusPolicy(Qt::StrongFocus);
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::Shortcut)
+            return Base::event(event);
+        const bool shared = static_cast<QShortcutEvent*>(event)->isAmbiguous();
+        fromToolkit([this, shared] { accessKey(shared); });
+        event->accept();
+        return true;
+    }
+
+    // The whole control takes the click, not only mark and caption.
+    bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        bool left = false;
+        fromToolkit([this, event, &left] { left = !handleKey(*event); });
+        if (left)
+            Base::keyPressEvent(event);
+        event->accept();
+    }
+
+    void keyReleaseEvent(QKeyEvent* event) override
+    {
+        fromToolkit([this, event] { Keyboard::up(button_, *event); });
+        Base::keyReleaseEvent(event);
+        event->accept();
+    }
+
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        // A box that opened while the button was down has taken the release.
+        if (!(QGuiApplication::mouseButtons() & event->button())) {
+            event->accept();
+            return;
+        }
+        Base::mousePressEvent(event);
+        if (event->button() == Qt::LeftButton)
+            fromToolkit([this] { button_.mouse(true); });
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton)
+            fromToolkit([this] { button_.mouse(false); });
+        Base::mouseReleaseEvent(event);
+    }
+
+private:
+    void accessKey(bool shared)
+    {
+        if (!button_.canTakeFocus())
+            return;
+        button_.setFocus();
+        if (!shared && button_.canTakeFocus())
+            button_.userChose();
+    }
+
+    /// True when the key needs nothing more from the toolkit.
+    bool handleKey(QKeyEvent& event)
+    {
+        const bool enter = Keyboard::isEnter(event);
+        if (enter && !button_.answersEnter() && Keyboard::pressDefault(button_.form()))
+            return true;
+        if (Keyboard::down(button_, event) || !Keyboard::pressText(button_, event))
+            return true;
+        if (enter) {
+            if (button_.answersEnter())
+                button_.userChose();
+            return true;
+        }
+        switch (event.key()) {
+        case Qt::Key_Escape:
+            return true;
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            return button_.moveByArrow(-1);
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            return button_.moveByArrow(1);
+        default:
+            return false;
+        }
+    }
+
+    Button& button_;
+};
+
+} // namespace forms

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/buttons.h"
+
+#include "platform/forms/boundary.h"
+#include "platform/forms/button_widget.h"
+#include "platform/forms/form.h"
+
+#include <QCheckBox>
+#include <QIcon>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <algorithm>
+
+namespace forms {
+
+QAbstractButton* Button::button() const
+{
+    return static_cast<QAbstractButton*>(widget());
+}
+
+QString Button::caption() const
+{
+    return button()->text();
+}
+
+void Button::setCaption(const QString& caption)
+{
+    button()->setText(caption);
+}
+
+// ---- command buttons
+
+CommandButton::CommandButton(Form& form, const QString& name)
+    : Button(form, name)
+{
+    auto* push = new ButtonWidget<QPushButton>(form.canvas(), *this);
+    push->setAutoDefault(false);
+    adopt(push);
+    QObject::connect(push, &QAbstractButton::clicked, push, [this] { clicked(); });
+}
+
+void CommandButton::userChose()
+{
+    press();
+}
+
+void CommandButton::clicked()
+{
+    if (!insideToolkitCall())
+        fromToolkit([this] { press(); });
+}
+
+void CommandButton::press()
+{
+    if (isEnabled() && isVisible())
+        fire(Click, "Click");
+}
+
+void CommandButton::setIcon(const QString& resource)
+{
+    button()->setIcon(QIcon(resource));
+}
+
+void CommandButton::setBackColour(const QColor& colour)
+{
+    Button::setBackColour(colour);
+    button()->update();
+}
+
+void CommandButton::setDefault(bool isDefault)
+{
+    if (isDefault == this->isDefault())
+        return;
+    const ToolkitCall call;
+    if (CommandButton* other = form().defaultButton())
+        static_cast<QPushButton*>(other->widget())->setDefault(false);
+    form().setDefaultButton(isDefault ? this : nullptr);
+    static_cast<QPushButton*>(widget())->setDefault(isDefault);
+}
+
+bool CommandButton::isDefault() const
+{
+    return form().defaultButton() == this;
+}
+
+// ---- option buttons
+
+namespace {
+
+std::vector<OptionButton*> groupOf(const OptionButton& option)
+{
+    std::vector<OptionButton*> group;
+    for (Control* control : option.form().controls())
+        if (auto* other = dynamic_cast<OptionButton*>(control))
+            if (other->widget()->parentWidget() == option.widget()->parentWidget())
+                group.push_back(other);
+    return group;
+}
+
+} // namespace
+
+OptionButton::OptionButton(Form& form, const QString& name)
+    : Button(form, name)
+{
+    auto* radio = new ButtonWidget<QRadioButton>(form.canvas(), *this);
+    adopt(radio);
+    QObject::connect(radio, &QAbstractButton::toggled, radio, [this](bool chosen) {
+        if (!chosen)
+            chosen_ = false; // another of the group has been chosen
+    });
+    QObject::connect(radio, &QAbstractButton::clicked, radio, [this] {
+        if (insideToolkitCall() || std::exchange(chosen_, true))
+            return;
+        fromToolkit([this] { fire(Click, "Click"); });
+    });
+}
+
+bool OptionButton::value() const
+{
+    return button()->isChecked();
+}
+
+void OptionButton::setValue(bool chosen)
+{
+    if (chosen == value())
+        return;
+    {
+        const ToolkitCall call;
+        // An exclusive group keeps its chosen button chosen.
+        button()->setAutoExclusive(chosen);
+        button()->setChecked(chosen);
+        button()->setAutoExclusive(true);
+    }
+    chosen_ = chosen;
+    fire(Click, "Click");
+}
+
+void OptionButton::userChose()
+{
+    if (!value())
+        setValue(true);
+}
+
+bool OptionButton::isTabStop() const
+{
+    auto group = groupOf(*this);
+    std::erase_if(group, [](const OptionButton* option) { return !option->canTakeFocus(); });
+    if (group.empty())
+        return false;
+    const auto chosen =
+        std::find_if(group.begin(), group.end(), [](const OptionButton* option) { return option->value(); });
+    if (chosen != group.end())
+        return *chosen == this;
+    const auto first = std::min_element(group.begin(), group.end(),
+        [](const OptionButton* one, const OptionButton* other) { return one->tabIndex() < other->tabIndex(); });
+    return *first == this;
+}
+
+bool OptionButton::moveByArrow(int direction)
+{
+    auto group = groupOf(*this);
+    std::erase_if(group, [this](const OptionButton* option) { return option != this && !option->canTakeFocus(); });
+    std::stable_sort(group.begin(), group.end(),
+        [](const OptionButton* one, const OptionButton* other) { return one->tabIndex() < other->tabIndex(); });
+    const auto count = static_cast<int>(group.size());
+    const auto here = static_cast<int>(std::find(group.begin(), group.end(), this) - group.begin());
+    OptionButton* next = group[static_cast<std::size_t>((here + direction + count) % count)];
+    next->setFocus();
+    next->setValue(true);
+    return true;
+}
+
+// ---- check boxes
+
+CheckBox::CheckBox(Form& form, const QString& name)
+    : Button(form, name)
+{
+    auto* check = new ButtonWidget<QCheckBox>(form.canvas(), *this);
+    adopt(check);
+    QObject::connect(check, &QAbstractButton::clicked, check, [this] {
+        if (!insideToolkitCall())
+            fromToolkit([this] { fire(Click, "Click"); });
+    });
+}
+
+int CheckBox::value() const
+{
+    return button()->isChecked() ? 1 : 0;
+}
+
+void CheckBox::setValue(int value)
+{
+    if (value == this->value())
+        return;
+    {
+        const ToolkitCall call;
+        button()->setChecked(value != 0);
+    }
+    fire(Click, "Click");
+}
+
+void CheckBox::userChose()
+{
+    setValue(1 - value());
+}
+
+} // namespace forms

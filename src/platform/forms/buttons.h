@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/forms/control.h"
+
+#include <QString>
+
+class QAbstractButton;
+
+namespace forms {
+
+/// What buttons have in common: a caption, whose "&" marks the access key. Alt with the access key moves the focus here
+/// and clicks; where two buttons share a key, it moves the focus only.
+class Button : public Control {
+public:
+    QString caption() const;
+    void setCaption(const QString& caption);
+
+protected:
+    using Control::Control;
+
+    QAbstractButton* button() const;
+
+    template <class Base>
+    friend class ButtonWidget;
+
+private:
+    /// What the user's key does: press, choose or tick.
+    virtual void userChose() = 0;
+
+    /// True for a button that answers Enter itself.
+    virtual bool answersEnter() const { return false; }
+
+    /// Moves to the neighbour of a group; false leaves the arrow key to the toolkit.
+    virtual bool moveByArrow(int) { return false; }
+
+    void mouse(bool down) { fire(down ? MouseDown : MouseUp, down ? "MouseDown" : "MouseUp"); }
+};
+
+/// A button that does something. MouseUp comes before Click.
+class CommandButton : public Button {
+public:
+    CommandButton(Form& form, const QString& name);
+
+    /// Fires Click, as the user's press does, where the button is enabled and visible.
+    void press();
+
+    /// The picture left of the caption: a path of the program's resources.
+    void setIcon(const QString& resource);
+
+    void setBackColour(const QColor& colour) override;
+
+    /// The default button answers Enter wherever the focus is, except in a box of several lines or on another button. A
+    /// form has one at most: making this one the default takes it from any other.
+    void setDefault(bool isDefault);
+    bool isDefault() const;
+
+private:
+    void userChose() override;
+    bool answersEnter() const override { return true; }
+    void clicked();
+};
+
+/// One choice of several; those in the same container exclude each other. Click fires when the user or the code chooses
+/// it.
+class OptionButton : public Button {
+public:
+    OptionButton(Form& form, const QString& name);
+
+    bool value() const;
+    void setValue(bool chosen);
+
+private:
+    bool isTabStop() const override;
+    void userChose() override;
+    bool moveByArrow(int direction) override;
+
+    bool chosen_ = false; // as of the last Click
+};
+
+/// A box that is ticked or not. Click fires when the user or the code changes it.
+class CheckBox : public Button {
+public:
+    CheckBox(Form& form, const QString& name);
+
+    /// 1 ticked, 0 clear.
+    int value() const;
+    void setValue(int value);
+
+private:
+    void userChose() override;
+};
+
+} // namespace forms

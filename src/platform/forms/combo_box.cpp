@@ -1,0 +1,409 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/combo_box.h"
+
+#include "platform/forms/boundary.h"
+#include "platform/forms/entry_keys.h"
+#include "platform/forms/form.h"
+#include "platform/forms/keyboard.h"
+#include "platform/forms/look.h"
+#include "platform/values/failure.h"
+
+#include <QAbstractItemView>
+#include <QAbstractListModel>
+#include <QComboBox>
+#include <QListView>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace forms {
+
+/// The items of a list; the toolkit's own model is slow with many.
+class ItemList : public QAbstractListModel {
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(items_.size());
+    }
+
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role == Qt::DisplayRole || role == Qt::EditRole)
+            return items_.at(index.row());
+        return {};
+    }
+
+    void replace(const QStringList& items)
+    {
+        beginResetModel();
+        items_ = items;
+        endResetModel();
+    }
+
+    const QStringList& items() const { return items_; }
+
+private:
+    QStringList items_;
+};
+
+/// The toolkit's box, with what it does on its own taken out: it completes nothing, adds nothing and doesn't turn with
+/// the wheel.
+class ComboEdit : public QComboBox {
+public:
+    ComboEdit(QWidget* parent, ComboBox& box, ComboStyle style, ItemList& items)
+        : QComboBox(parent)
+        , box_(box)
+        , items_(items)
+    {
+        setInsertPolicy(NoInsert);
+        setFocusPolicy(Qt::StrongFocus);
+        setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+        auto* list = new QListView(this);
+        list->setUniformItemSizes(true);
+        setView(list);
+        setModel(&items);
+        setMaxVisibleItems(16);
+        if (style == ComboStyle::Editable)
+            makeEditable();
+        QObject::connect(this, &QComboBox::activated, this, [this] { picked(); });
+    }
+
+    LineEdit* entry() const { return entry_; }
+
+    /// Replaces the items; text and selected item stay.
+    void setItems(const QStringList& items, int selected)
+    {
+        const ToolkitCall call;
+        const QString text = entry_ ? entry_->text() : QString();
+        items_.replace(items);
+        setCurrentIndex(selected);
+        if (entry_)
+            entry_->setText(text);
+    }
+
+    bool locked() const { return locked_; }
+
+    void setLocked(bool locked)
+    {
+        locked_ = locked;
+        if (entry_)
+            entry_->setReadOnly(locked);
+    }
+
+    void showPopup() override
+    {
+        if (locked_)
+            return;
+        selectWhatTheTextSays();
+        QComboBox::showPopup();
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        fromToolkit([this, event] { handleKey(*event); });
+        event->accept();
+    }
+
+    void keyReleaseEvent(QKeyEvent* event) override
+    {
+        fromToolkit([this, event] { Keyboard::up(box_, *event); });
+        event->accept();
+    }
+
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        fromToolkit([this] { EntryKeys::mouseDown(box_); });
+        QComboBox::mousePressEvent(event);
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        QComboBox::mouseReleaseEvent(event);
+        fromToolkit([this] { EntryKeys::mouseUp(box_); });
+    }
+
+    void contextMenuEvent(QContextMenuEvent* event) override { event->accept(); }
+
+private:
+    void makeEditable()
+    {
+        setEditable(true);
+        entry_ = new LineEdit(this, box_);
+        entry_->setFrame(false);
+        setLineEdit(entry_);
+        setCompleter(nullptr);
+        entry_->setContextMenuPolicy(Qt::DefaultContextMenu);
+        // The toolkit would take a typed text for the item that it resembles.
+        QObject::disconnect(entry_, &QLineEdit::editingFinished, this, nullptr);
+        QObject::disconnect(entry_, &QLineEdit::returnPressed, this, nullptr);
+    }
+
+    void picked()
+    {
+        if (insideToolkitCall())
+            pickedByKey_ = true;
+        else
+            fromToolkit([this] { EntryKeys::clicked(box_); });
+    }
+
+    static bool walksTheList(const QKeyEvent& event)
+    {
+        switch (event.key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_F4:
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    void handleKey(QKeyEvent& event)
+    {
+        if (entry_ && !walksTheList(event)) {
+            entry_->handleKey(event);
+            return;
+        }
+        if (Keyboard::isEnter(event) && Keyboard::pressDefault(box_.form()))
+            return;
+        if (Keyboard::down(box_, event))
+            return;
+        if (!Keyboard::pressText(box_, event))
+            return;
+        if (locked_ || Keyboard::isEnter(event) || event.key() == Qt::Key_Escape)
+            return;
+        walk(event);
+    }
+
+    void walk(QKeyEvent& event)
+    {
+        const bool opens = event.key() == Qt::Key_F4
+            || ((event.modifiers() & Qt::AltModifier) && (event.key() == Qt::Key_Down || event.key() == Qt::Key_Up));
+        if (opens || event.key() == Qt::Key_Space) {
+            if (!entry_ || opens)
+                showPopup();
+            return;
+        }
+        selectWhatTheTextSays();
+        pickedByKey_ = false;
+        {
+            const ToolkitCall call;
+            QComboBox::keyPressEvent(&event);
+        }
+        if (pickedByKey_)
+            EntryKeys::clicked(box_);
+    }
+
+    // Marks the item whose text stands in the box, so that list and cursor keys begin there.
+    void selectWhatTheTextSays()
+    {
+        if (!entry_)
+            return;
+        const QString text = entry_->text();
+        const auto index = static_cast<int>(items_.items().indexOf(text));
+        if (index == currentIndex())
+            return;
+        const ToolkitCall call;
+        setCurrentIndex(index);
+        entry_->setText(text);
+    }
+
+    ComboBox& box_;
+    ItemList& items_;
+    LineEdit* entry_ = nullptr;
+    bool locked_ = false;
+    bool pickedByKey_ = false;
+};
+
+namespace {
+
+bool sortsBefore(const QString& one, const QString& other)
+{
+    return one.compare(other, Qt::CaseInsensitive) < 0;
+}
+
+} // namespace
+
+ComboBox::ComboBox(Form& form, const QString& name, ComboStyle style, ItemOrder order)
+    : TextEntry(form, name)
+    , style_(style)
+    , order_(order)
+{
+    const ToolkitCall call;
+    items_ = new ItemList;
+    combo_ = new ComboEdit(form.canvas(), *this, style, *items_);
+    items_->setParent(combo_);
+    adopt(combo_);
+}
+
+// ---- the list
+
+void ComboBox::addItem(const QString& item)
+{
+    addItems({item});
+}
+
+void ComboBox::addItems(const QStringList& added)
+{
+    QStringList items = items_->items();
+    const int selected = combo_->currentIndex();
+    const QString selectedItem = list(selected);
+    const auto old = items.size();
+    items += added;
+    if (order_ == ItemOrder::Sorted) {
+        // Equal names keep the order in which they came, as if added one by one.
+        std::stable_sort(items.begin() + old, items.end(), sortsBefore);
+        std::inplace_merge(items.begin(), items.begin() + old, items.end(), sortsBefore);
+    }
+    combo_->setItems(items, selected < 0 ? -1 : static_cast<int>(items.indexOf(selectedItem)));
+}
+
+void ComboBox::clear()
+{
+    combo_->setItems({}, -1);
+    if (combo_->entry())
+        combo_->entry()->put({});
+}
+
+int ComboBox::listCount() const
+{
+    return static_cast<int>(items_->items().size());
+}
+
+QString ComboBox::list(int index) const
+{
+    return items_->items().value(index);
+}
+
+int ComboBox::listIndex() const
+{
+    const int index = combo_->currentIndex();
+    return index >= 0 && list(index) == text() ? index : -1;
+}
+
+void ComboBox::setListIndex(int index)
+{
+    if (index < -1 || index >= listCount())
+        throw values::RuntimeFailure(
+            values::FailureKind::InvalidCall, QStringLiteral("%1 has no item %2").arg(name()).arg(index));
+    if (index == listIndex())
+        return;
+    {
+        const ToolkitCall call;
+        combo_->setCurrentIndex(index);
+        if (combo_->entry())
+            combo_->entry()->setText(list(index));
+    }
+    EntryKeys::clicked(*this);
+}
+
+// ---- the text
+
+QString ComboBox::text() const
+{
+    return combo_->entry() ? combo_->entry()->text() : list(combo_->currentIndex());
+}
+
+void ComboBox::setText(const QString& text)
+{
+    if (style_ == ComboStyle::PickOnly) {
+        const auto index = text.isEmpty() ? -1 : static_cast<int>(items_->items().indexOf(text));
+        if (index < 0 && !text.isEmpty())
+            throw values::RuntimeFailure(
+                values::FailureKind::InvalidCall, QStringLiteral("%1 has no item \"%2\"").arg(name(), text));
+        setListIndex(index);
+        return;
+    }
+    if (combo_->entry()->text() == text)
+        return;
+    combo_->entry()->put(text);
+    EntryKeys::changed(*this);
+}
+
+void ComboBox::setLocked(bool locked)
+{
+    combo_->setLocked(locked);
+}
+
+bool ComboBox::isLocked() const
+{
+    return combo_->locked();
+}
+
+int ComboBox::selectionStart() const
+{
+    const LineEdit* entry = combo_->entry();
+    if (!entry)
+        return 0;
+    return entry->hasSelectedText() ? entry->selectionStart() : entry->cursorPosition();
+}
+
+void ComboBox::setSelectionStart(int position)
+{
+    LineEdit* entry = combo_->entry();
+    if (!entry)
+        return;
+    const ToolkitCall call;
+    entry->deselect();
+    entry->setCursorPosition(position);
+}
+
+int ComboBox::selectionLength() const
+{
+    const LineEdit* entry = combo_->entry();
+    return entry && entry->hasSelectedText() ? entry->selectionLength() : 0;
+}
+
+void ComboBox::setSelectionLength(int length)
+{
+    LineEdit* entry = combo_->entry();
+    if (!entry)
+        return;
+    const int start = selectionStart();
+    const int fits = std::min(length, static_cast<int>(entry->text().size()) - start);
+    const ToolkitCall call;
+    if (fits > 0)
+        entry->setSelection(start, fits);
+    else
+        entry->setCursorPosition(start);
+}
+
+// ---- looks
+
+void ComboBox::setBackColour(const QColor& colour)
+{
+    TextEntry::setBackColour(colour);
+    if (!combo_->entry())
+        return;
+    QPalette palette;
+    if (colour.isValid()) {
+        palette = combo_->entry()->palette();
+        palette.setColor(QPalette::Base, colour);
+    }
+    const ToolkitCall call;
+    combo_->entry()->setPalette(palette);
+}
+
+void ComboBox::setWidthInCharacters(int characters)
+{
+    combo_->setFixedWidth(look::fieldWidth(characters));
+}
+
+void ComboBox::openList()
+{
+    combo_->showPopup();
+}
+
+void ComboBox::closeList()
+{
+    combo_->hidePopup();
+}
+
+} // namespace forms

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/forms/text_box.h"
+
+#include <QStringList>
+
+namespace forms {
+
+class ComboEdit;
+class ItemList;
+
+enum class ComboStyle { Editable, PickOnly };
+enum class ItemOrder { AsAdded, Sorted };
+
+/// A box with a list. The user's pick, by mouse or cursor keys, fires Click and not Change. A text set by code fires
+/// Change on the editable style and, where it selects another item, Click on the pick-only style.
+class ComboBox : public TextEntry {
+public:
+    ComboBox(
+        Form& form, const QString& name, ComboStyle style = ComboStyle::Editable, ItemOrder order = ItemOrder::AsAdded);
+
+    /// Adds an item at the end, or where the order without regard to case puts it. Text and selection stay.
+    void addItem(const QString& item);
+
+    /// Adds many at once, with the result of adding them one by one.
+    void addItems(const QStringList& items);
+
+    /// Empties the list and the text; no event fires.
+    void clear();
+
+    int listCount() const;
+
+    /// An item; one past the end reads as empty.
+    QString list(int index) const;
+
+    /// The selected item's index, -1 for none. Setting it fires Click where it selects another item.
+    int listIndex() const;
+    void setListIndex(int index);
+
+    QString text() const override;
+
+    /// On the pick-only style a text that is not in the list is refused with an InvalidCall failure.
+    void setText(const QString& text) override;
+    void setLocked(bool locked) override;
+    bool isLocked() const override;
+    int selectionStart() const override;
+    void setSelectionStart(int position) override;
+    int selectionLength() const override;
+    void setSelectionLength(int length) override;
+
+    void setBackColour(const QColor& colour) override;
+
+    /// Makes the box wide enough for so many average characters.
+    void setWidthInCharacters(int characters);
+
+    /// Opens and closes the list, as the user's click on the arrow does.
+    void openList();
+    void closeList();
+
+private:
+    ComboStyle style_;
+    ItemOrder order_;
+    ComboEdit* combo_;
+    ItemList* items_;
+};
+
+} // namespace forms

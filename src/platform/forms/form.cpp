@@ -1,0 +1,420 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/form.h"
+
+#include "platform/forms/boundary.h"
+#include "platform/forms/buttons.h"
+#include "platform/forms/keyboard.h"
+#include "platform/forms/stage.h"
+#include "platform/values/failure.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace forms {
+
+/// The window of a screen. The canvas scrolls where the desktop is smaller than the screen.
+class FormWindow : public QWidget {
+public:
+    explicit FormWindow(Form& form)
+        : QWidget(nullptr,
+            Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+                | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint)
+        , form_(form)
+    {
+        auto* around = new QVBoxLayout(this);
+        around->setContentsMargins(0, 0, 0, 0);
+        scroller_ = new QScrollArea(this);
+        scroller_->setFrameShape(QFrame::NoFrame);
+        scroller_->setFocusPolicy(Qt::NoFocus);
+        scroller_->setWidgetResizable(true);
+        around->addWidget(scroller_);
+    }
+
+    QWidget* makeCanvas()
+    {
+        auto* canvas = new QWidget;
+        scroller_->setWidget(canvas);
+        return canvas;
+    }
+
+    void reveal(QWidget* widget) { scroller_->ensureWidgetVisible(widget); }
+
+    /// Takes the canvas's own size, or what of it the desktop has room for, and the middle of the desktop.
+    void fitAndCentre()
+    {
+        const QRect desktop = screen()->availableGeometry();
+        const QSize frame(frameMargins_.left() + frameMargins_.right(), frameMargins_.top() + frameMargins_.bottom());
+        QSize size = scroller_->widget()->sizeHint();
+        const QSize room = desktop.size() - frame;
+        const int bar = scroller_->verticalScrollBar()->sizeHint().width();
+        if (size.height() > room.height())
+            size.rwidth() += bar;
+        if (size.width() > room.width())
+            size.rheight() += bar;
+        size = size.boundedTo(room).expandedTo(minimumSize_.boundedTo(room));
+        minimumSize_ = size; // a screen never shrinks between two visits
+        setFixedSize(size);
+        move(desktop.center() - QPoint(size.width() / 2, size.height() / 2)
+            - QPoint(frameMargins_.left(), frameMargins_.top()) + QPoint(0, frameMargins_.top() / 2));
+    }
+
+protected:
+    bool focusNextPrevChild(bool next) override
+    {
+        if (insideToolkitCall())
+            return false; // the layer decides where the focus goes
+        fromToolkit([this, next] {
+            if (Control* control = form_.nextInTabOrder(next))
+                control->setFocus();
+        });
+        return true;
+    }
+
+    void closeEvent(QCloseEvent* event) override
+    {
+        event->ignore();
+        if (form_.isEnabled())
+            fromToolkit([this] { form_.close(); });
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        fromToolkit([this, event] { Keyboard::pressedOnForm(form_, *event); });
+        event->accept();
+    }
+
+    void changeEvent(QEvent* event) override
+    {
+        QWidget::changeEvent(event);
+        if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+            return;
+        frameMargins_ = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+        Stage::instance().windowActivated(form_);
+    }
+
+private:
+    Form& form_;
+    QScrollArea* scroller_;
+    QSize minimumSize_;
+    inline static QMargins frameMargins_; // known once a first window has been shown
+};
+
+Form::Form(const QString& name)
+    : name_(name)
+    , window_(new FormWindow(*this))
+    , canvas_(window_->makeCanvas())
+{
+    window_->setObjectName(name);
+    window_->setWindowRole(name); // tells screens apart, which share one title
+}
+
+Form::~Form()
+{
+    const ToolkitCall call;
+    Stage::instance().destroyed(*this);
+    delete window_;
+}
+
+QWidget* Form::window() const
+{
+    return window_;
+}
+
+void Form::setTitle(const QString& title)
+{
+    window_->setWindowTitle(title);
+}
+
+QString Form::title() const
+{
+    return window_->windowTitle();
+}
+
+void Form::Form_Unload(bool&) { }
+
+void Form::Form_KeyPress(int&) { }
+
+void Form::load()
+{
+    if (std::exchange(loaded_, true))
+        return;
+    const HandlerScope scope(name_ + QStringLiteral(".Form"), "Load");
+    Form_Load();
+}
+
+void Form::enroll(Control& control)
+{
+    controls_.push_back(&control);
+}
+
+void Form::dismiss(Control& control)
+{
+    std::erase(controls_, &control);
+    for (Control** held : {&focused_, &moving_, &wanted_})
+        if (*held == &control)
+            *held = nullptr;
+    if (defaultButton_ == &control)
+        defaultButton_ = nullptr;
+}
+
+void Form::setDefaultButton(CommandButton* button)
+{
+    defaultButton_ = button;
+}
+
+// ---- showing and hiding
+
+void Form::show()
+{
+    load();
+    Stage& stage = Stage::instance();
+    stage.settleUnless(*this);
+    if (!std::exchange(shown_, true)) {
+        stage.shown(*this);
+        const ToolkitCall call;
+        window_->fitAndCentre();
+        window_->show();
+    }
+    stage.bringForward(*this);
+    stage.activate(this);
+}
+
+void Form::hide()
+{
+    if (!shown_)
+        return;
+    Stage& stage = Stage::instance();
+    stage.settle();
+    shown_ = false;
+    stage.hidden(*this);
+    {
+        const ToolkitCall call;
+        window_->hide();
+    }
+    if (modalLoop_) {
+        modalLoop_->quit(); // show_Modal hands over to the owner
+        return;
+    }
+    if (stage.active() == this)
+        stage.giveUpFront();
+}
+
+void Form::show_Modal(Form& owner)
+{
+    if (modalLoop_)
+        throw values::RuntimeFailure(values::FailureKind::InvalidCall, name_ + QStringLiteral(" is shown already"));
+    load();
+    Stage& stage = Stage::instance();
+    stage.settleUnless(*this);
+    QEventLoop loop;
+    shown_ = true;
+    stage.shown(*this);
+    {
+        const ToolkitCall call;
+        window_->setWindowModality(Qt::ApplicationModal);
+        window_->fitAndCentre();
+        window_->winId(); // makes the native window, which then can name its owner
+        window_->windowHandle()->setTransientParent(owner.window()->windowHandle());
+        window_->show();
+    }
+    stage.bringForward(*this);
+    modalLoop_ = &loop;
+    struct Reset {
+        Form& form;
+        ~Reset() { form.modalLoop_ = nullptr; }
+    } const reset{*this};
+    stage.activate(this);
+    if (shown_)
+        loop.exec();
+    {
+        const ToolkitCall call;
+        window_->setWindowModality(Qt::NonModal);
+    }
+    if (stage.active() != this || !owner.isVisible())
+        return;
+    stage.bringForward(owner);
+    stage.activate(&owner);
+}
+
+void Form::close()
+{
+    bool cancel = false;
+    {
+        const HandlerScope scope(name_ + QStringLiteral(".Form"), "Unload");
+        Form_Unload(cancel);
+    }
+    if (cancel)
+        return;
+    hide();
+    loaded_ = false;
+    detail::discardScreen(*this);
+}
+
+void Form::setEnabled(bool enabled)
+{
+    if (std::exchange(enabled_, enabled) == enabled)
+        return;
+    const ToolkitCall call;
+    canvas_->setEnabled(enabled);
+    if (enabled && activeControl())
+        activeControl()->widget()->setFocus(Qt::OtherFocusReason);
+}
+
+// ---- the focus
+
+void Form::moveFocus(Control* control)
+{
+    if ((focused_ == control && !moving_) || moving_ == control)
+        return;
+    Control* left = std::exchange(focused_, nullptr);
+    moving_ = control;
+    wanted_ = nullptr;
+    if (left) {
+        try {
+            left->fire(left->LostFocus, "LostFocus");
+        } catch (...) {
+            // The focus has moved all the same.
+            if (moving_ == control) {
+                moving_ = nullptr;
+                focused_ = control;
+            }
+            throw;
+        }
+    }
+    if (moving_ != control)
+        return; // LostFocus has sent it elsewhere
+    moving_ = nullptr;
+    if (!control->canTakeFocus())
+        return; // LostFocus has disabled or hidden it
+    focused_ = control;
+    window_->reveal(control->widget());
+    control->fire(control->GotFocus, "GotFocus");
+}
+
+void Form::enter()
+{
+    Control* target = activeControl();
+    if (!target || !target->canTakeFocus())
+        target = target ? nextInTabOrder(true) : firstInTabOrder();
+    if (!target || !target->canTakeFocus())
+        return;
+    {
+        const ToolkitCall call;
+        target->widget()->setFocus(Qt::OtherFocusReason);
+    }
+    moveFocus(target);
+}
+
+namespace {
+
+std::vector<Control*> tabOrder(const Form& form, const std::function<bool(const Control&)>& stops)
+{
+    std::vector<Control*> order;
+    for (Control* control : form.controls())
+        if (control->tabIndex() >= 0 && stops(*control))
+            order.push_back(control);
+    std::stable_sort(order.begin(), order.end(),
+        [](const Control* one, const Control* other) { return one->tabIndex() < other->tabIndex(); });
+    return order;
+}
+
+} // namespace
+
+Control* Form::firstInTabOrder() const
+{
+    const auto order =
+        tabOrder(*this, [](const Control& control) { return control.canTakeFocus() && control.isTabStop(); });
+    return order.empty() ? nullptr : order.front();
+}
+
+Control* Form::nextInTabOrder(bool forward) const
+{
+    const Control* from = activeControl();
+    const auto order = tabOrder(*this,
+        [from](const Control& control) { return &control == from || (control.canTakeFocus() && control.isTabStop()); });
+    if (order.empty())
+        return nullptr;
+    const auto here = std::find(order.begin(), order.end(), from);
+    if (here == order.end())
+        return forward ? order.front() : order.back();
+    const auto count = order.size();
+    const auto at = static_cast<std::size_t>(here - order.begin());
+    return order[(at + (forward ? 1 : count - 1)) % count];
+}
+
+// ---- the screens of the program
+
+namespace {
+
+struct Screen {
+    std::type_index type;
+    std::unique_ptr<Form> form;
+};
+
+std::vector<Screen>& screens()
+{
+    static std::vector<Screen> the;
+    return the;
+}
+
+// A handler of the screen may still run, inside a nested event loop too.
+void destroyAfterHandlers(const std::shared_ptr<Form>& last, int delayMilliseconds)
+{
+    constexpr int again = 50;
+    QTimer::singleShot(delayMilliseconds, [last] {
+        if (handlerRuns())
+            destroyAfterHandlers(last, again);
+    });
+}
+
+} // namespace
+
+namespace detail {
+
+Form* findScreen(std::type_index type)
+{
+    for (const Screen& screen : screens())
+        if (screen.type == type)
+            return screen.form.get();
+    return nullptr;
+}
+
+Form& keepScreen(std::type_index type, std::unique_ptr<Form> form)
+{
+    Form& kept = *form;
+    screens().push_back({type, std::move(form)});
+    kept.load();
+    return kept;
+}
+
+void discardScreen(Form& form)
+{
+    const auto at = std::find_if(
+        screens().begin(), screens().end(), [&form](const Screen& screen) { return screen.form.get() == &form; });
+    if (at == screens().end())
+        return;
+    std::shared_ptr<Form> last(std::move(at->form));
+    screens().erase(at);
+    destroyAfterHandlers(last, 0);
+}
+
+} // namespace detail
+
+void destroyScreens()
+{
+    const ToolkitCall call;
+    while (!screens().empty())
+        screens().pop_back();
+}
+
+} // namespace forms

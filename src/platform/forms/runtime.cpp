@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/runtime.h"
+
+#include "platform/forms/boundary.h"
+#include "platform/forms/event.h"
+#include "platform/forms/look.h"
+#include "platform/forms/stage.h"
+#include "platform/values/failure.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <vector>
+
+namespace forms {
+
+namespace {
+
+struct Runtime {
+    int toolkitCalls = 0;
+    int frames = 0;
+    bool ending = false;
+    QString failedHandler;
+    std::vector<std::function<void()>> cleanUps;
+    std::function<void()> handlerReturn;
+    std::function<void(int)> ender;
+    std::function<void(const FailureReport&)> reporter;
+    std::function<void(int)> helpDoor;
+    QString title;
+    QString reassurance;
+};
+
+Runtime& runtime()
+{
+    static Runtime the;
+    return the;
+}
+
+void cleanUp()
+{
+    for (const auto& step : std::exchange(runtime().cleanUps, {}))
+        step();
+}
+
+[[noreturn]] void leave(int status)
+{
+    std::fflush(nullptr);
+    // Not exit(): static objects would be destroyed while widgets and nested event loops still use them.
+    std::_Exit(status);
+}
+
+void showReport(const FailureReport& report)
+{
+    QMessageBox box(QMessageBox::Critical, runtime().title,
+        QStringLiteral("The program has to close: an operation failed.\n\n%1\n\nWhere: %2\n\n%3")
+            .arg(report.failure, report.handler.isEmpty() ? QStringLiteral("outside of any handler") : report.handler,
+                runtime().reassurance));
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void report(const QString& failure)
+{
+    Runtime& the = runtime();
+    const FailureReport what{std::exchange(the.failedHandler, {}), failure};
+    if (the.reporter) {
+        the.reporter(what);
+        return;
+    }
+    the.ending = true;
+    cleanUp();
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(what.handler), qUtf8Printable(what.failure));
+    showReport(what);
+    leave(1);
+}
+
+} // namespace
+
+ToolkitCall::ToolkitCall()
+{
+    ++runtime().toolkitCalls;
+}
+
+ToolkitCall::~ToolkitCall()
+{
+    --runtime().toolkitCalls;
+}
+
+bool insideToolkitCall()
+{
+    return runtime().toolkitCalls > 0;
+}
+
+bool isEnding()
+{
+    return runtime().ending;
+}
+
+bool handlerRuns()
+{
+    return runtime().frames > 0;
+}
+
+HandlerFrame::HandlerFrame()
+    : toolkitCalls_(std::exchange(runtime().toolkitCalls, 0))
+{
+    ++runtime().frames;
+}
+
+HandlerFrame::~HandlerFrame()
+{
+    --runtime().frames;
+    runtime().toolkitCalls = toolkitCalls_;
+}
+
+void HandlerFrame::finish()
+{
+    if (runtime().frames > 1)
+        return;
+    Stage::instance().handOnFront();
+    if (runtime().handlerReturn)
+        runtime().handlerReturn();
+}
+
+void reportCurrentException() noexcept
+{
+    try {
+        throw;
+    } catch (const ProcessEnd&) {
+        // A test stands in for the end of the process.
+    } catch (const values::RuntimeFailure& failure) {
+        report(failure.text());
+    } catch (const std::exception& failure) {
+        report(QString::fromUtf8(failure.what()));
+    } catch (...) {
+        report(QStringLiteral("Unknown failure"));
+    }
+}
+
+void forgetFailedHandler()
+{
+    runtime().failedHandler.clear();
+}
+
+HandlerScope::HandlerScope(const QString& owner, const char* event)
+    : owner_(owner)
+    , event_(event)
+    , exceptionsAtEntry_(std::uncaught_exceptions())
+{
+    forgetFailedHandler();
+}
+
+HandlerScope::~HandlerScope()
+{
+    if (std::uncaught_exceptions() > exceptionsAtEntry_ && runtime().failedHandler.isEmpty())
+        runtime().failedHandler = owner_ + QLatin1Char('_') + QLatin1String(event_);
+}
+
+void prepare(QApplication& application)
+{
+    // A message box that closes while no screen is visible must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    look::apply(application);
+    Stage::instance().follow(application);
+}
+
+void endProcess(int status)
+{
+    if (runtime().ender) {
+        runtime().ender(status);
+        std::abort();
+    }
+    runtime().ending = true;
+    cleanUp();
+    leave(status);
+}
+
+void onEnd(std::function<void()> step)
+{
+    runtime().cleanUps.push_back(std::move(step));
+}
+
+void onHandlerReturn(std::function<void()> step)
+{
+    runtime().handlerReturn = std::move(step);
+}
+
+void setProcessEnder(std::function<void(int)> ender)
+{
+    runtime().ender = std::move(ender);
+}
+
+void setFailureReporter(std::function<void(const FailureReport&)> reporter)
+{
+    runtime().reporter = std::move(reporter);
+}
+
+void setReportWords(const QString& title, const QString& reassurance)
+{
+    runtime().title = title;
+    runtime().reassurance = reassurance;
+}
+
+void setHelpDoor(std::function<void(int)> door)
+{
+    runtime().helpDoor = std::move(door);
+}
+
+void openHelp(int number)
+{
+    if (runtime().helpDoor)
+        runtime().helpDoor(number);
+}
+
+void runAsHandler(const QString& name, const std::function<void()>& handler)
+{
+    if (insideToolkitCall()) {
+        // The layer waits for the toolkit inside a handler: the function has to come after it, not into it.
+        QTimer::singleShot(10, [name, handler] { runAsHandler(name, handler); });
+        return;
+    }
+    fromToolkit([&] {
+        const HandlerScope scope(name, "Event");
+        handler();
+    });
+}
+
+WaitPointer::WaitPointer()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+WaitPointer::~WaitPointer()
+{
+    QApplication::restoreOverrideCursor();
+}
+
+} // namespace forms

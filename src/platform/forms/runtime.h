@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QApplication;
+
+namespace forms {
+
+/// Prepares the toolkit for forms: style, palette, the focus rules. Call once, before the first screen is made.
+void prepare(QApplication& application);
+
+/// Ends the process at once, without unwinding: runs the clean-up of onEnd() first.
+[[noreturn]] void endProcess(int status);
+
+/// What runs before the process ends, by endProcess() or by an uncaught failure. It must not throw.
+void onEnd(std::function<void()> cleanUp);
+
+/// What runs each time that the outermost handler has returned. A failure in it counts as the handler's.
+void onHandlerReturn(std::function<void()> step);
+
+/// What a test's process ender throws. It passes through the handlers and ends at the toolkit's boundary, silently.
+struct ProcessEnd {
+    int status = 0;
+};
+
+/// Takes the place of the end of the process, for tests. The function must not return: it throws ProcessEnd.
+void setProcessEnder(std::function<void(int status)> ender);
+
+/// What an uncaught failure says.
+struct FailureReport {
+    QString handler; ///< "frmAddUpDel.cmdAdd_Click"
+    QString failure; ///< the failure's own text
+};
+
+/// Takes the place of the run-time report and of the end of the process that follows it, for tests.
+void setFailureReporter(std::function<void(const FailureReport&)> reporter);
+
+/// Title and closing words of the run-time report's box.
+void setReportWords(const QString& title, const QString& reassurance);
+
+/// The door that F1 goes through, with the number of the focused control's topic.
+void setHelpDoor(std::function<void(int number)> door);
+
+/// Runs a function that the toolkit calls (a signal, a notifier) as a handler: an uncaught failure ends the process
+/// with the report and never passes through the toolkit.
+void runAsHandler(const QString& name, const std::function<void()>& handler);
+
+/// Shows the wait pointer over the whole program for as long as the object lives.
+class WaitPointer {
+public:
+    WaitPointer();
+    ~WaitPointer();
+    WaitPointer(const WaitPointer&) = delete;
+    WaitPointer& operator=(const WaitPointer&) = delete;
+};
+
+} // namespace forms

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "support/forms_test.h"
+
+#include <QString>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <functional>
+
+using namespace user; // tests speak as a user all the time
+
+/// What has happened, in order: "box.LostFocus ok.Click".
+class Journal {
+public:
+    void note(const QString& event) { events_ += events_.isEmpty() ? event : QLatin1Char(' ') + event; }
+
+    /// Everything since the last question.
+    QString taken() { return std::exchange(events_, {}); }
+
+private:
+    QString events_;
+};
+
+/// A form whose events are noted and can be answered by the test.
+class TrialForm : public forms::Form {
+public:
+    TrialForm(const QString& name, Journal& journal)
+        : forms::Form(name)
+        , journal_(journal)
+    {
+    }
+
+    std::function<void()> onActivate = [] {};
+
+    /// Puts controls below each other; the order is that of the Tab key, too.
+    void layOut(std::initializer_list<forms::Control*> order)
+    {
+        auto* column = new QVBoxLayout(canvas());
+        int place = 0;
+        for (forms::Control* each : order) {
+            each->setTabIndex(place++);
+            column->addWidget(each->widget());
+        }
+    }
+
+    /// Notes the focus and the clicks of all controls.
+    void watchFocusAndClicks()
+    {
+        for (forms::Control* each : controls()) {
+            each->GotFocus = [this, each] { note(each->name() + ".GotFocus"); };
+            each->LostFocus = [this, each] { note(each->name() + ".LostFocus"); };
+            each->Click = [this, each] { note(each->name() + ".Click"); };
+        }
+    }
+
+    void note(const QString& event) { journal_.note(event); }
+
+protected:
+    void Form_Activate() override
+    {
+        note(name() + ".Activate");
+        onActivate();
+    }
+
+    void Form_Deactivate() override { note(name() + ".Deactivate"); }
+
+private:
+    Journal& journal_;
+};
+
+/// A screen with two boxes and a button, for what focus and activation do.
+class TwoBoxes : public TrialForm {
+public:
+    TwoBoxes(const QString& name, Journal& journal)
+        : TrialForm(name, journal)
+    {
+        ok.setCaption("&OK");
+        layOut({&one, &two, &ok});
+        watchFocusAndClicks();
+    }
+
+    forms::TextBox one{*this, "one"};
+    forms::TextBox two{*this, "two"};
+    forms::CommandButton ok{*this, "ok"};
+};
