@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "assets/areas.h"
+#include "assets/money_field.h"
+#include "platform/forms/forms.h"
+#include "platform/values/integer.h"
+
+/// The asset screen, on which one asset is entered, or one that was found is shown for update and deletion. It has no
+/// load of its own: check_Form_Type prepares it.
+class frmAddUpDel : public forms::Form {
+public:
+    frmAddUpDel();
+
+    forms::Label lblHead{*this, "lblHead"};
+    forms::Label lblArea{*this, "lblArea", "Area"};
+    forms::ComboBox cmbArea{*this, "cmbArea", forms::ComboStyle::PickOnly};
+    forms::Label lblLocation{*this, "lblLocation", "Location"};
+    forms::ComboBox cmbLoc{*this, "cmbLoc", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::Label lblCategory{*this, "lblCategory", "Category"};
+    forms::ComboBox cmbCat{*this, "cmbCat", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::Label lblItem{*this, "lblItem", "Item"};
+    forms::ComboBox cmbType{*this, "cmbType", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::Label lblYear{*this, "lblYear", "Year"};
+    forms::ComboBox cmbYear{*this, "cmbYear"};
+    forms::Label lblMake{*this, "lblMake", "Make"};
+    forms::TextBox txtMake{*this, "txtMake"};
+    forms::Label lblModel{*this, "lblModel", "Model"};
+    forms::TextBox txtMod{*this, "txtMod"};
+    forms::Label lblSerial{*this, "lblSerial", "Serial"};
+    forms::TextBox txtSerial{*this, "txtSerial"};
+    forms::GroupBox frmPurNewUsed{*this, "frmPurNewUsed"};
+    forms::ControlArray<forms::OptionButton, 2> optPurNewUsed{*this, "optPurNewUsed"}; ///< New, Used
+    forms::Label lblPurchaseDate{*this, "lblPurchaseDate", "Purchase Date"};
+    forms::TextBox txtPur{*this, "txtPur"};
+    forms::Picture picDate{*this, "picDate"};
+    forms::Label lblPurchasePrice{*this, "lblPurchasePrice", "Purchase Price"};
+    forms::TextBox txtPPrice{*this, "txtPPrice"};
+    forms::GroupBox frmReceipt{*this, "frmReceipt"};
+    forms::ControlArray<forms::OptionButton, 2> optRecOnFile{*this, "optRecOnFile"}; ///< Yes, No
+    forms::Label lblReceiptLocation{*this, "lblReceiptLocation", "Receipt Location"};
+    forms::TextBox txtLoc{*this, "txtLoc"};
+    forms::Label lblDescription{*this, "lblDescription", "Description"};
+    forms::MemoBox txtDescription{*this, "txtDescription"};
+    forms::CheckBox chkWar{*this, "chkWar"};
+    forms::CheckBox chkClear{*this, "chkClear"};
+    forms::CommandButton cmdWarranty{*this, "cmdWarranty"};
+    forms::CommandButton cmdAdd{*this, "cmdAdd"};
+    forms::CommandButton cmdUpdate{*this, "cmdUpdate"};
+    forms::CommandButton cmdDelete{*this, "cmdDelete"};
+    forms::CommandButton cmdCancel{*this, "cmdCancel"};
+    forms::CommandButton cmdMain{*this, "cmdMain"};
+    forms::CommandButton cmdClear{*this, "cmdClear"};
+    forms::CommandButton cmdPrint{*this, "cmdPrint"};
+    forms::Label lblSelIn{*this, "lblSelIn"};
+    forms::Label lblCopyright{*this, "lblCopyright"};
+
+    QString ListInEdit; ///< "Location" or "Category": the list that the editors work on
+    values::Integer AssetKey; ///< the ID of the asset that the warranty screen works on
+
+    /// Shows the screen, in the mode that FromResults of the main menu says.
+    void check_Form_Type();
+
+    /// Saves the asset on the screen as a new one, after a check of the input.
+    void save_It();
+
+    /// Empties the lists of locations, categories and items.
+    void clear_ComboBoxes();
+
+private:
+    void look();
+    void describeFields();
+    void giveFirstValues();
+    void describeButtons();
+    void answerFields();
+    void answerButtons();
+    void layOut();
+    void Form_Activate() override;
+    void Form_Unload(bool& cancel) override;
+
+    void cmbArea_Click();
+    void cmbLoc_GotFocus();
+    void cmbLoc_Click();
+    void cmbCat_Click();
+    void cmbYear_GotFocus();
+    void cmbYear_LostFocus();
+    static void fill_If_Empty(forms::TextEntry& box, const QString& text);
+    void txtPur_KeyPress(int& KeyAscii);
+    void optRecOnFile_GotFocus(int Index);
+    void txtLoc_GotFocus();
+    void txtLoc_KeyPress();
+    void chkWar_Click();
+    void chkClear_Click();
+    void cmdCancel_Click();
+    void cmdMain_Click();
+    void cmdClear_Click();
+
+    void prepare_For_Adding();
+    void prepare_For_Updating();
+    void load_Add_Mode();
+    void load_Area(const areas::Area& area);
+    void load_Update_Mode();
+    bool find_Selected_Asset();
+    void load_Asset();
+    void load_War_Option();
+    void load_Help_IDs();
+    void reset_Fields();
+    void empty_Details();
+    void fill_Lists(const areas::Area& area);
+    void open_Calendar();
+    bool leaving_Is_Confirmed();
+
+    struct Requirement;
+    void check_Input();
+    bool has_All_Required();
+    void refuse(const Requirement& unmet);
+    void settle_Receipt_Location();
+    void store_Asset();
+    void add_Asset_Row();
+    void add_To_Asset_Value();
+    void add_To_Item_List();
+    bool names_Are_Known(storage::TableView& table);
+    void tell_And_Go_On();
+    void refuse_Date();
+
+    values::Integer HelpBase;
+    bool NoReceipt = false; // the user has last stepped onto the "No" receipt option
+    bool InputBad = false;
+    bool WarrantyDue = false; // chkWar was set when the save started
+    bool LocIsNew = false;
+    bool CatIsNew = false;
+    bool ItemIsNew = false;
+    QString SavedPrice; // as it stood when the asset was opened
+    MoneyField moneyField_{txtPPrice};
+};

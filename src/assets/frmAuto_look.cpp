@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "assets/frmAuto.h"
+#include "core/conventions.h"
+#include "platform/forms/look.h"
+
+#include <QGridLayout>
+
+namespace {
+
+void addChoice(QGridLayout& choices, forms::CommandButton& button, forms::Label& purpose, const char* words)
+{
+    purpose.setCaption(words);
+    purpose.wrapAt(38);
+    const int row = choices.rowCount();
+    choices.addWidget(button.widget(), row, 0);
+    choices.addWidget(purpose.widget(), row, 1, Qt::AlignVCenter);
+}
+
+} // namespace
+
+void frmAuto::look()
+{
+    setTitle(conventions::Title);
+    lblHead1[0].setCaption("Title ");
+    lblSelIn.setCaption(conventions::HelpHint);
+    lblCopyright.setCaption(conventions::Footer);
+
+    const struct {
+        forms::CommandButton& button;
+        const char* caption;
+        const char* toolTip;
+        const char* icon;
+    } buttons[] = {
+        {cmdAdd[0], "&Add", " Click Here To Add A New Asset To Your Inventory ", "plus"},
+        {cmdUpdate[1], "&Update", " Click Here To Update An Existing Asset In Your Inventory ", "pencil"},
+        {cmdDelete[0], "&Delete", " Click Here To Delete An Existing Asset From Your Inventory ", "trash"},
+        {cmdBack[0], "&Main Menu", " Click Here To Return To The Main Menu ", "back"},
+        {cmdLeave[0], "E&xit", " Click Here To Close Kestrill ", "exit"},
+    };
+    int place = 0;
+    for (const auto& [button, caption, toolTip, icon] : buttons) {
+        button.setCaption(caption);
+        button.setToolTip(toolTip);
+        button.setIcon(QStringLiteral(":/pictures/icons/%1.png").arg(icon));
+        button.setTabIndex(place++);
+        forms::behaviours::pressedColour(button);
+    }
+    cmdAdd[0].Click = [this] { cmdAdd_Click(); };
+    cmdUpdate[1].Click = [this] { cmdUpdate_Click(); };
+    cmdDelete[0].Click = [this] { cmdDelete_Click(); };
+    cmdBack[0].Click = [this] { cmdBack_Click(); };
+    cmdLeave[0].Click = [this] { cmdLeave_Click(); };
+    layOut();
+}
+
+void frmAuto::layOut()
+{
+    auto* choices = new QGridLayout;
+    choices->setHorizontalSpacing(forms::look::grid(3));
+    choices->setVerticalSpacing(forms::look::grid(2));
+    addChoice(*choices, cmdAdd[0], lblSelOut[0], "Choose This Option To Add A New Asset To Your Inventory");
+    addChoice(
+        *choices, cmdUpdate[1], lblSelOut[1], "Choose This Option To Update Information On An Asset Already Added");
+    addChoice(
+        *choices, cmdDelete[0], lblSelOut[2], "Choose This Option To Delete An Asset You Do Not Want Or No Longer Own");
+    choices->setColumnStretch(1, 1);
+    forms::look::equalWidths({&cmdAdd[0], &cmdUpdate[1], &cmdDelete[0]});
+
+    forms::look::Page page(*this);
+    page.title(lblHead1[0]);
+    page.space(1);
+    page.add(choices, 1);
+    page.space(2);
+    page.buttons({&cmdBack[0], &cmdLeave[0]});
+    page.space(1);
+    page.foot(&lblSelIn, &lblCopyright);
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/frmExit.h"
+
+frmExit::frmExit()
+    : forms::Form("frmExit")
+{
+    look();
+    tmExit.setEnabled(true);
+}
+
+void frmExit::Form_Unload(bool& cancel)
+{
+    cancel = true;
+}
+
+void frmExit::tmExit_Timer()
+{
+    forms::endProcess(0);
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/forms/forms.h"
+
+/// The goodbye, after which the process ends.
+class frmExit : public forms::Form {
+public:
+    frmExit();
+
+    forms::Picture imgHome{*this, "imgHome"};
+    forms::Label lblHead{*this, "lblHead"};
+    forms::Label lblHead1{*this, "lblHead1"};
+    forms::Label lblCopyright{*this, "lblCopyright"};
+    forms::Ticker tmExit{*this, "tmExit", 1500};
+
+private:
+    void look();
+    void Form_Unload(bool& cancel) override;
+    void tmExit_Timer();
+};

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/frmMain.h"
+
+#include "assets/frmAddUpDel.h"
+#include "assets/frmAuto.h"
+#include "core/conventions.h"
+#include "core/frmStartup.h"
+#include "household/frmGenInfo.h"
+#include "household/frmIntroduction.h"
+#include "household/frmKeyboard.h"
+
+using forms::screen;
+
+namespace {
+
+// A screen that was never made need not be made to be hidden.
+template <class Screen>
+void hideIfMade()
+{
+    if (forms::Form* made = forms::detail::findScreen(typeid(Screen)))
+        made->hide();
+}
+
+struct NumberedScreen {
+    int number;
+    void (*hide)();
+};
+
+constexpr NumberedScreen numberedScreens[] = {
+    {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {10, hideIfMade<frmAddUpDel>}, {13, hideIfMade<frmAuto>},
+    {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
+    {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
+};
+
+} // namespace
+
+frmMain::frmMain()
+    : forms::Form("frmMain")
+{
+    look();
+}
+
+void frmMain::Form_Activate()
+{
+    frmStartup::CurrentScreen = 2;
+    if (!Deactivated)
+        Refresh();
+}
+
+void frmMain::Form_Deactivate()
+{
+    Deactivated = true;
+}
+
+void frmMain::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    cmdLeave_Click();
+}
+
+void frmMain::cmdIn_Click()
+{
+    screen<frmAuto>().lblHead1[0].setCaption("Indoor Asset Management");
+    open_Area_Menu();
+}
+
+void frmMain::cmdOut_Click()
+{
+    screen<frmAuto>().lblHead1[0].setCaption("Outdoor Asset Management");
+    open_Area_Menu();
+}
+
+void frmMain::cmdAuto_Click()
+{
+    screen<frmAuto>().lblHead1[0].setCaption("Mobile Asset Management");
+    open_Area_Menu();
+}
+
+void frmMain::cmdPersonal_Click()
+{
+    auto& personal = screen<frmGenInfo>();
+    personal.lblHead[1].setCaption("First, Select An Item To Change Or Update");
+    personal.cmdBack[0].setEnabled(true);
+    personal.lblHead[2].setCaption("Second, Click Save to Update");
+    personal.show();
+    personal.load_PersonalInfo();
+    hide();
+}
+
+void frmMain::cmdLeave_Click()
+{
+    conventions::confirm_Close(*this);
+}
+
+void frmMain::open_Area_Menu()
+{
+    hide();
+    screen<frmAuto>().load_It();
+}
+
+void frmMain::Hide_Screens()
+{
+    for (const NumberedScreen& numbered : numberedScreens)
+        if (numbered.number == frmStartup::CurrentScreen)
+            numbered.hide();
+}

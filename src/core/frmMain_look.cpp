@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/conventions.h"
+#include "core/frmMain.h"
+#include "platform/forms/look.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QWidget>
+
+namespace {
+
+constexpr int HelpNumber = 1001;
+
+struct ButtonLook {
+    forms::CommandButton frmMain::*button;
+    const char* caption;
+    const char* toolTip;
+    const char* icon;
+};
+
+// In the order of the Tab key.
+constexpr ButtonLook buttonLooks[] = {
+    {&frmMain::cmdIn, "&Indoor", " Click Here To Add An Indoor Asset To Your Inventory ", "house"},
+    {&frmMain::cmdOut, "&Outdoor", " Click Here To Add An Outdoor Asset To Your Inventory ", "tree"},
+    {&frmMain::cmdAuto, "&Mobile", " Click Here To Add A Mobile Asset To Your Inventory ", "car"},
+    {&frmMain::cmdPrint, " &Print", " Click Here To Print Your Assets ", "printer"},
+    {&frmMain::cmdSearch, "&Search", " Click Here To Search For Assets That Have Been Added To Your Inventory ",
+        "magnifier"},
+    {&frmMain::cmdValue, "&Value", " Click Here To See Your Current Total Asset Value ", "dollar"},
+    {&frmMain::cmdPersonal, "Pe&rsonal", " Click Here To Change Or Review Your Personal Information ", "person"},
+    {&frmMain::cmdLeave, "E&xit", " Click Here To Close Kestrill ", "exit"},
+};
+
+// An area's button with what it is for beside it.
+void addArea(QGridLayout& areas, forms::CommandButton& button, forms::Label& purpose, const char* words)
+{
+    button.widget()->setFont(forms::look::fontOf(forms::TextRole::Heading));
+    button.widget()->setMinimumSize(forms::look::grid(16), forms::look::grid(7));
+    purpose.setCaption(words);
+    purpose.setRole(forms::TextRole::Instruction);
+    purpose.wrapAt(34);
+    const int row = areas.rowCount();
+    areas.addWidget(button.widget(), row, 0);
+    areas.addWidget(purpose.widget(), row, 1, Qt::AlignVCenter);
+}
+
+} // namespace
+
+void frmMain::look()
+{
+    setTitle(conventions::Title);
+    setHelpNumber(HelpNumber);
+    imgHome.setPicture(":/pictures/menu.png", "Kestrill");
+    lblHead1.setCaption("Welcome To Kestrill Main Menu");
+    lblSelIn[1].setCaption(conventions::HelpHint);
+    lblCopyright.setCaption(conventions::Footer);
+
+    int place = 0;
+    for (const ButtonLook& looks : buttonLooks) {
+        forms::CommandButton& button = this->*looks.button;
+        button.setCaption(looks.caption);
+        button.setToolTip(looks.toolTip);
+        button.setIcon(QStringLiteral(":/pictures/icons/%1.png").arg(looks.icon));
+        button.setHelpNumber(HelpNumber);
+        button.setTabIndex(place++);
+        forms::behaviours::pressedColour(button);
+    }
+    cmdIn.Click = [this] { cmdIn_Click(); };
+    cmdOut.Click = [this] { cmdOut_Click(); };
+    cmdAuto.Click = [this] { cmdAuto_Click(); };
+    cmdPersonal.Click = [this] { cmdPersonal_Click(); };
+    cmdLeave.Click = [this] { cmdLeave_Click(); };
+    layOut();
+}
+
+void frmMain::layOut()
+{
+    auto* areas = new QGridLayout;
+    areas->setHorizontalSpacing(forms::look::grid(3));
+    areas->setVerticalSpacing(forms::look::grid(2));
+    addArea(*areas, cmdIn, lblSelIn[0], "Choose This Option If You Want To Add Or Update An Asset Inside Your Home");
+    addArea(*areas, cmdOut, lblSelOut, "Choose This Option If You Want To Add Or Update An Asset Outside Your Home");
+    addArea(*areas, cmdAuto, lblSelAuto,
+        "Choose This Option If You Want To Add Or Update An Asset That Is Mobile Or Off-Site");
+    areas->setColumnStretch(1, 1);
+
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(forms::look::grid(4));
+    middle->addWidget(imgHome.widget(), 0, Qt::AlignVCenter);
+    middle->addLayout(areas, 1);
+
+    forms::look::Page page(*this);
+    page.title(lblHead1);
+    page.space(1);
+    page.add(middle, 1);
+    page.space(2);
+    page.buttons({&cmdPrint, &cmdSearch, &cmdValue, &cmdPersonal, &cmdLeave});
+    page.foot(&lblSelIn[1], &lblCopyright);
+}
+
+void frmMain::Refresh()
+{
+    window()->update();
+}

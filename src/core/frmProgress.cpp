@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/frmProgress.h"
+
+#include "core/data_store.h"
+#include "core/frmExit.h"
+#include "core/places.h"
+#include "platform/storage/schema.h"
+#include "platform/system/folder_copy.h"
+#include "platform/values/failure.h"
+
+#include <algorithm>
+
+using storage::TableCount;
+using storage::TableView;
+
+struct frmProgress::NameTable {
+    TableView DataStore::*view;
+    bool emptiesBar;
+    bool standardIsNumber;
+};
+
+namespace {
+
+struct ViewOfTable {
+    TableView DataStore::*view;
+    const char* table;
+};
+
+constexpr ViewOfTable closingOrder[] = {
+    {&DataStore::rsBank, "Bank_Info"},
+    {&DataStore::rsGeneral, "Personal_Info"},
+    {&DataStore::rsPrint, "Print"},
+    {&DataStore::rsMobile, "Mobile_Items"},
+    {&DataStore::rsIndoor, "Indoor_Items"},
+    {&DataStore::rsOutdoor, "Outdoor_Items"},
+    {&DataStore::rsInventory, "Inventory"},
+};
+
+// All four values are read, whatever the first ones are.
+bool isBlankName(TableView& view, bool standardIsNumber)
+{
+    const bool location = view.Fields(Names::Location) == "0";
+    const bool category = view.Fields(Names::Category) == "0";
+    const bool type = view.Fields(Names::Type) == "0";
+    const bool standard = standardIsNumber ? view.Fields(Names::Standard) == 0 : view.Fields(Names::Standard) == "0";
+    return location && category && type && standard;
+}
+
+// Closes all views and tells how many rows each table has.
+std::vector<TableCount> close_Views()
+{
+    std::vector<TableCount> counts;
+    for (const ViewOfTable& closing : closingOrder) {
+        TableView& view = Data1.*closing.view;
+        counts.push_back({closing.table, view.RecordCount()});
+        view.Close();
+    }
+    return counts;
+}
+
+// Refuses a copy of the database that can't be opened and read through, or lacks a row.
+void proveDatabase(const QString& copy, const std::vector<TableCount>& counts)
+{
+    const std::vector<TableCount> copied = storage::checkDatabase(copy, databaseKey());
+    for (const TableCount& count : counts)
+        if (std::find(copied.begin(), copied.end(), count) == copied.end())
+            throw values::RuntimeFailure(values::FailureKind::Database,
+                QStringLiteral("the backup copy of %1 doesn't hold its %2 rows").arg(count.table).arg(count.rows));
+}
+
+void back_Up_Database(const std::vector<TableCount>& counts)
+{
+    const auto proof = [&counts](const QString& source, const QString& copy) {
+        if (source == places::databaseFile())
+            proveDatabase(copy, counts);
+    };
+    sys::copyFolder(places::databaseFolder(), places::backupFolder(), proof);
+}
+
+} // namespace
+
+frmProgress::frmProgress()
+    : forms::Form("frmProgress")
+{
+    look();
+}
+
+void frmProgress::Form_Activate()
+{
+    close_Program();
+}
+
+void frmProgress::Form_Unload(bool& cancel)
+{
+    cancel = true;
+}
+
+void frmProgress::close_Program()
+{
+    // The first table leaves the bar's value, and the second compares its last column with a number: on purpose.
+    purge_Blank_Names({&DataStore::rsIndoor, false, false});
+    purge_Blank_Names({&DataStore::rsOutdoor, true, true});
+    purge_Blank_Names({&DataStore::rsMobile, true, false});
+    back_Up_Database(close_Views());
+    hide();
+    forms::screen<frmExit>().show();
+}
+
+void frmProgress::purge_Blank_Names(const NameTable& table)
+{
+    TableView& view = Data1.*table.view;
+    if (view.RecordCount() == 0)
+        return; // the bar has no full scale of 0
+    if (table.emptiesBar)
+        pbSave.setValue(0);
+    pbSave.setMax(view.RecordCount());
+    if (!view.atBOF())
+        view.MoveFirst();
+    for (; !view.atEOF(); view.MoveNext()) {
+        pbSave.setValue(pbSave.value() + 1);
+        if (!isBlankName(view, table.standardIsNumber))
+            continue;
+        view.Delete();
+        view.Update();
+    }
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/forms/form.h"
+#include "platform/system/processes.h"
+#include "platform/values/integer.h"
+
+#include <functional>
+#include <vector>
+
+/// The hidden object of the start: the first touch of it, from the splash screen's timer, is the start of the program.
+class frmStartup : public forms::Form {
+public:
+    frmStartup();
+
+    /// The number of the screen in front. It belongs to the class, since touching the object starts the program.
+    static inline values::Integer CurrentScreen = 20;
+
+    void check_Already_Running();
+    void open_First_Screen();
+
+    /// The list that check_Already_Running asks for; tests give their own.
+    static std::function<std::vector<sys::Process>()> list_Processes;
+
+private:
+    void Form_Load() override;
+    void start_Up();
+    void open_Tables();
+    void check_Policy_Alert();
+    void set_Report_Titles();
+};

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/places.h"
+
+#include "platform/system/folders.h"
+
+namespace places {
+
+namespace {
+
+struct Folders {
+    QString database;
+    QString backup;
+};
+
+// One spelling of each name, everywhere: most file systems tell "C_db" from "C_DB".
+Folders& folders()
+{
+    static Folders folders{sys::dataFolder(QStringLiteral("KTL/C_db")), sys::backupFolder(QStringLiteral("Backup"))};
+    return folders;
+}
+
+} // namespace
+
+QString databaseFolder()
+{
+    return folders().database;
+}
+
+QString databaseFile()
+{
+    return folders().database + QStringLiteral("/KTL.db");
+}
+
+QString backupFolder()
+{
+    return folders().backup;
+}
+
+void setFolders(const QString& database, const QString& backup)
+{
+    folders() = {database, backup};
+}
+
+} // namespace places

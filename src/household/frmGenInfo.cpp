@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "household/frmGenInfo.h"
+
+#include "core/conventions.h"
+#include "core/data_store.h"
+#include "core/frmMain.h"
+#include "core/frmStartup.h"
+#include "platform/values/text.h"
+
+using forms::screen;
+
+namespace {
+
+/// How an entry is stored, and when it is full.
+struct Rule {
+    const char* marker; ///< what an empty entry is stored as
+    bool upper; ///< stored in upper case
+    int fullAt; ///< the length at which the focus hops on to the next entry; 0: it never does
+};
+
+constexpr Rule asTyped = {"None", false, 0};
+constexpr Rule upperCased = {"None", true, 0};
+constexpr Rule threeDigits = {"---", false, 3};
+constexpr Rule fourDigits = {"----", false, 4};
+
+/// By the ordinals of the columns, Last to EMail.
+constexpr Rule rules[] = {
+    asTyped, asTyped, asTyped, asTyped, asTyped, // last, first and middle name, address, city
+    upperCased, upperCased, // state and ZIP
+    threeDigits, threeDigits, fourDigits, // home phone
+    threeDigits, threeDigits, fourDigits, // work phone
+    threeDigits, threeDigits, fourDigits, // cell phone
+    asTyped, // e-mail
+};
+static_assert(std::size(rules) == General::EMail + 1);
+
+QString toStore(const Rule& rule, const QString& text)
+{
+    if (text.isEmpty())
+        return rule.marker;
+    return rule.upper ? values::upper(text) : text;
+}
+
+bool standsForEmpty(int index, const QString& stored)
+{
+    if (values::equalUpper(stored, "None"))
+        return true;
+    return index != General::State && (stored == "---" || stored == "----");
+}
+
+} // namespace
+
+frmGenInfo::frmGenInfo()
+    : forms::Form("frmGenInfo")
+{
+    look();
+}
+
+void frmGenInfo::Form_Load()
+{
+    frmStartup::CurrentScreen = 1;
+}
+
+void frmGenInfo::Form_Activate()
+{
+    frmStartup::CurrentScreen = 1;
+}
+
+void frmGenInfo::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    cmdExit_Click();
+}
+
+void frmGenInfo::cmdContinue_Click()
+{
+    save_It();
+    txtInfo[General::First].setFocus();
+    hide();
+    screen<frmMain>().show();
+}
+
+void frmGenInfo::cmdBack_Click()
+{
+    if (!conventions::confirmed(
+            "Any Changes You Have Made Will Be Lost...Continue Anyway?", forms::box::Question + forms::box::YesNo))
+        return;
+    txtInfo[General::First].setFocus();
+    return_To_Menu();
+}
+
+void frmGenInfo::cmdExit_Click()
+{
+    conventions::confirm_Close(*this, [this] { save_It(); });
+}
+
+void frmGenInfo::cmbState_Change()
+{
+    if (!ChangedByCode && cmbState.text().length() > 1)
+        txtInfo[General::ZIP].setFocus();
+}
+
+void frmGenInfo::cmbState_LostFocus()
+{
+    ChangedByCode = true;
+    cmbState.setText(values::upper(cmbState.text()));
+    ChangedByCode = false;
+}
+
+void frmGenInfo::txtInfo_Change(int index)
+{
+    const int fullAt = rules[index].fullAt;
+    if (!ChangedByCode && fullAt > 0 && txtInfo[index].text().length() >= fullAt)
+        txtInfo[index + 1].setFocus();
+}
+
+void frmGenInfo::load_PersonalInfo()
+{
+    auto& row = Data1.rsGeneral;
+    if (row.atBOF())
+        row.MoveNext();
+    else
+        row.MoveFirst();
+    ChangedByCode = true;
+    for (int i = General::Last; i <= General::EMail; ++i) {
+        const QString stored = row.Fields(i).text();
+        entry(i).setText(standsForEmpty(i, stored) ? QString() : stored);
+    }
+    ChangedByCode = false;
+    txtInfo[General::First].setFocus();
+    txtInfo[General::First].selectAll(); // it may have had the focus before its text came
+}
+
+void frmGenInfo::save_It()
+{
+    for (int i = General::Last; i <= General::EMail; ++i)
+        Data1.rsGeneral.Fields(i) = toStore(rules[i], entry(i).text());
+    Data1.rsGeneral.Update();
+}
+
+void frmGenInfo::return_To_Menu()
+{
+    screen<frmMain>().show();
+    hide();
+}
+
+forms::TextEntry& frmGenInfo::entry(int index)
+{
+    if (index == General::State)
+        return cmbState;
+    return txtInfo[index];
+}

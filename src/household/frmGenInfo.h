@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/forms/forms.h"
+
+namespace forms::look {
+class FieldRows;
+}
+
+/// The personal information of the household, and the door to its insurance policy and its financial accounts. The
+/// index of an entry is the ordinal of its column.
+class frmGenInfo : public forms::Form {
+public:
+    frmGenInfo();
+
+    forms::ControlArray<forms::Label, 12> lblHead{*this, "lblHead"}; ///< heading, two instructions, the phones' frames
+    forms::ControlArray<forms::Label, 17> lblInfo{*this, "lblInfo", {8, 9, 11, 12, 14, 15}};
+    forms::ControlArray<forms::TextBox, 17> txtInfo{*this, "txtInfo", {5}};
+    forms::ComboBox cmbState{*this, "cmbState"}; ///< the entry of index 5
+    forms::CommandButton cmdInsInfo{*this, "cmdInsInfo"};
+    forms::CommandButton cmdBank{*this, "cmdBank"};
+    forms::ControlArray<forms::CommandButton, 1> cmdContinue{*this, "cmdContinue"};
+    forms::ControlArray<forms::CommandButton, 1> cmdBack{*this, "cmdBack"};
+    forms::CommandButton cmdExit{*this, "cmdExit"};
+    forms::Label lblSelIn{*this, "lblSelIn"};
+    forms::Label lblCopyright{*this, "lblCopyright"};
+
+    /// Fills the entries from the household's row.
+    void load_PersonalInfo();
+
+    /// Writes the entries to the household's row.
+    void save_It();
+
+    void return_To_Menu();
+
+private:
+    void look();
+    void lookOfEntries();
+    void lookOfButtons();
+    void arrange();
+    void addPhone(forms::look::FieldRows& rows, int piece, int frame);
+    void answer();
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload(bool& cancel) override;
+    void cmdContinue_Click();
+    void cmdBack_Click();
+    void cmdExit_Click();
+    void cmbState_Change();
+    void cmbState_LostFocus();
+    void txtInfo_Change(int index);
+    forms::TextEntry& entry(int index);
+
+    bool ChangedByCode = false; // hops answer the user's own changes
+};

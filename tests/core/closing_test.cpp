@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/data_store.h"
+#include "core/frmExit.h"
+#include "core/frmMain.h"
+#include "core/frmProgress.h"
+#include "core/places.h"
+#include "platform/storage/schema.h"
+#include "support/harness.h"
+
+#include <QDir>
+#include <QFile>
+
+using forms::Answer;
+using forms::screen;
+using storage::TableView;
+
+namespace {
+
+const char* const CloseQuestion = "Are You Sure You Want To Close Kestrill?";
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+}
+
+void write(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    file.write(contents);
+}
+
+void addName(TableView& view, const QStringList& names, int standard = 0)
+{
+    view.AddNew();
+    for (int column = Names::Location; column <= Names::Type; ++column)
+        view.Fields(column) = names[column];
+    view.Fields(Names::Standard) = standard;
+    view.Update();
+}
+
+class Closing : public ScreenTest {
+protected:
+    void SetUp() override
+    {
+        ScreenTest::SetUp();
+        screen<frmMain>().show();
+    }
+
+    void closeProgram()
+    {
+        expectBox(CloseQuestion, 36, Answer::Yes);
+        click(screen<frmMain>().cmdLeave);
+    }
+
+    static QString backupFile() { return places::backupFolder() + "/KTL.db"; }
+
+    static qint64 rowsInBackup(const QString& table)
+    {
+        for (const storage::TableCount& count : storage::checkDatabase(backupFile(), databaseKey()))
+            if (count.table == table)
+                return count.rows;
+        return -1;
+    }
+};
+
+TEST_F(Closing, AsksTheSameQuestionAtExitAndCloseBoxAndStaysAtNo)
+{
+    expectBox(CloseQuestion, 36, Answer::No);
+    click(screen<frmMain>().cmdLeave);
+    expectBox(CloseQuestion, 36, Answer::No);
+    closeBox(screen<frmMain>());
+    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
+    EXPECT_TRUE(Data1.Home.isOpen());
+    EXPECT_EQ(forms::detail::findScreen(typeid(frmProgress)), nullptr);
+}
+
+TEST_F(Closing, ShowsTheGoodbyeAndEndsTheProcessWithSuccess)
+{
+    closeProgram();
+    ASSERT_EQ(forms::activeForm(), &screen<frmExit>());
+    EXPECT_FALSE(screen<frmMain>().isVisible());
+    EXPECT_FALSE(screen<frmProgress>().isVisible());
+    EXPECT_FALSE(Data1.Home.isOpen());
+    EXPECT_FALSE(endStatus());
+
+    screen<frmExit>().tmExit.elapse();
+    EXPECT_EQ(endStatus(), 0);
+}
+
+TEST_F(Closing, RemovesTheDeadRowsOfEachNameTableAndNoOthers)
+{
+    const QString tables[] = {"Indoor_Items", "Outdoor_Items", "Mobile_Items"};
+    TableView* const views[] = {&Data1.rsIndoor, &Data1.rsOutdoor, &Data1.rsMobile};
+    qint64 before[3];
+    for (int area = 0; area < 3; ++area) {
+        before[area] = views[area]->RecordCount();
+        addName(*views[area], {"0", "0", "0"});
+        addName(*views[area], {"0", "0", "0"}, 1);
+        addName(*views[area], {"Attic", "0", "0"});
+        addName(*views[area], {"0", "Tools", "0"});
+        addName(*views[area], {"0", "0", "Lamp"});
+        addName(*views[area], {"", "0", "0"});
+        addName(*views[area], {"0", "0", "0"});
+    }
+    closeProgram();
+    for (int area = 0; area < 3; ++area)
+        EXPECT_EQ(rowsInBackup(tables[area]), before[area] + 5) << tables[area].toStdString();
+}
+
+TEST_F(Closing, OverwritesTheLastBackupAndLeavesWhatIsNotItsOwn)
+{
+    QDir().mkpath(places::backupFolder());
+    write(backupFile(), "an older copy");
+    write(places::backupFolder() + "/letter.txt", "not ours");
+    closeProgram();
+    EXPECT_EQ(contentsOf(backupFile()), contentsOf(places::databaseFile()));
+    EXPECT_EQ(QFile::permissions(backupFile()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    EXPECT_EQ(contentsOf(places::backupFolder() + "/letter.txt"), "not ours");
+}
+
+TEST_F(Closing, ReportsADatabaseThatDoesNotReadThroughAndKeepsTheOldBackup)
+{
+    QDir().mkpath(places::backupFolder());
+    write(backupFile(), "the last good copy");
+    // Damage in the last page, which no view has to read again.
+    QFile file(places::databaseFile());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.seek(file.size() - 512);
+    file.write(QByteArray(256, 'x'));
+    file.close();
+    closeProgram();
+    EXPECT_TRUE(reportedFailure());
+    EXPECT_FALSE(Data1.Home.isOpen()) << "the views are closed before the copy is made";
+    EXPECT_EQ(contentsOf(backupFile()), "the last good copy");
+}
+
+} // namespace

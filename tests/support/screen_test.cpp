@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/screen_test.h"
+
+#include "core/conventions.h"
+#include "core/frmStartup.h"
+#include "core/places.h"
+#include "platform/values/date.h"
+
+#include <QDir>
+#include <QFile>
+
+void ScreenTest::SetUp()
+{
+    FormsTest::SetUp();
+    setBoxTitle(conventions::Title);
+    ASSERT_TRUE(QDir().mkpath(folder_.filePath(QStringLiteral("C_db"))));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(KESTRILL_SHIPPED_DATABASE), databaseFile()));
+    places::setFolders(folder_.filePath(QStringLiteral("C_db")), backupFolder());
+    values::setToday(values::Date::fromDayMonthYear(24, 11, 2026));
+    frmStartup::CurrentScreen = 20;
+    forms::onHandlerReturn([] {
+        if (Data1.Home.isOpen())
+            Data1.Home.commitPending();
+    });
+    openData();
+}
+
+void ScreenTest::TearDown()
+{
+    FormsTest::TearDown();
+    closeData();
+    values::setToday({});
+}
+
+void ScreenTest::openData()
+{
+    useDatabase(places::databaseFile());
+    for (storage::TableView* view : {&Data1.rsGeneral, &Data1.rsBank, &Data1.rsIndoor, &Data1.rsMobile,
+             &Data1.rsInventory, &Data1.rsOutdoor, &Data1.rsPrint})
+        view->Open();
+}
+
+void ScreenTest::closeData()
+{
+    Data1.Home.close();
+}

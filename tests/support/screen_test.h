@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/data_store.h"
+#include "support/forms_test.h"
+
+#include <QTemporaryDir>
+
+/// A test with the program's screens: the database as it is shipped, fresh and open, in a temporary folder; the date
+/// 24 November 2026; message boxes under the product's title. No screen exists yet.
+class ScreenTest : public FormsTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Opens all views of Data1, each on its first row; closes them, for tests of the start and of the end.
+    static void openData();
+    static void closeData();
+
+    QString databaseFile() const { return folder_.filePath(QStringLiteral("C_db/KTL.db")); }
+    QString backupFolder() const { return folder_.filePath(QStringLiteral("Backup")); }
+
+private:
+    QTemporaryDir folder_;
+};
