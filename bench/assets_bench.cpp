@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The asset screen: how long the user waits for the message behind "Add Asset", beside the commits that it can't do
+// without; and how long the screen takes to open with its lists filled.
+#include "assets/frmAddUpDel.h"
+#include "assets/frmAuto.h"
+#include "lists/name_list.h"
+#include "platform/storage/connection.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <chrono>
+
+using forms::screen;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int shipped = 0; // rows: the names that come with the program
+constexpr int many = 10'000;
+
+/// A fresh database, as shipped or with so many names in the Indoor area.
+class Household {
+public:
+    explicit Household(int rows)
+    {
+        const QString file = folder_.filePath(QStringLiteral("KTL.db"));
+        if (!QFile::copy(QStringLiteral(KESTRILL_SHIPPED_DATABASE), file))
+            qFatal("There is no database to copy");
+        useDatabase(file);
+        for (storage::TableView* view : {&Data1.rsGeneral, &Data1.rsBank, &Data1.rsIndoor, &Data1.rsMobile,
+                 &Data1.rsInventory, &Data1.rsOutdoor, &Data1.rsPrint})
+            view->Open();
+        if (rows > 0)
+            addNames(rows);
+    }
+
+    ~Household()
+    {
+        forms::destroyScreens();
+        Data1.Home.close();
+    }
+
+    Household(const Household&) = delete;
+    Household& operator=(const Household&) = delete;
+
+    static void open(const QString& title)
+    {
+        screen<frmAuto>().lblHead1[0].setCaption(title);
+        screen<frmAddUpDel>().check_Form_Type();
+    }
+
+private:
+    // As a household's own would be: new items in known places, and places of their own.
+    static void addNames(int rows)
+    {
+        storage::Transaction atOnce(Data1.Home.handle());
+        for (int row = 0; row < rows; ++row) {
+            Data1.rsIndoor.AddNew();
+            Data1.rsIndoor.Fields(Names::Location) = QStringLiteral("Room %1").arg(row % 2000);
+            Data1.rsIndoor.Fields(Names::Category) = QStringLiteral("Category %1").arg(row % 500);
+            Data1.rsIndoor.Fields(Names::Type) = QStringLiteral("Item %1").arg(row);
+            Data1.rsIndoor.Fields(Names::Standard) = "0";
+            Data1.rsIndoor.Update();
+        }
+        atOnce.commit();
+    }
+
+    QTemporaryDir folder_;
+};
+
+void enterAsset(int number)
+{
+    auto& asset = screen<frmAddUpDel>();
+    asset.cmbLoc.setText("Library");
+    asset.cmbCat.setText("Antiques");
+    asset.cmbType.setText(QStringLiteral("New item %1").arg(number));
+    asset.txtPur.setText("11/24/2006");
+    asset.txtPPrice.setText("$1234.50");
+}
+
+// From the click to the message; the name is new each time.
+void BM_AddAssetToMessage(benchmark::State& state)
+{
+    const Household household(static_cast<int>(state.range(0)));
+    Household::open("Indoor Asset Management");
+    screen<frmAddUpDel>().chkClear.setValue(0);
+    Clock::time_point told;
+    forms::setMessageDoor([&told](const forms::Message&) {
+        told = Clock::now();
+        return forms::Answer::OK;
+    });
+    int number = 0;
+    for ([[maybe_unused]] auto round : state) {
+        enterAsset(++number);
+        const auto clicked = Clock::now();
+        screen<frmAddUpDel>().cmdAdd.press();
+        state.SetIterationTime(std::chrono::duration<double>(told - clicked).count());
+    }
+}
+BENCHMARK(BM_AddAssetToMessage)->Arg(shipped)->Arg(many)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// The row, the total and the name, with nothing around them.
+void BM_BareCommits(benchmark::State& state)
+{
+    const Household household(shipped);
+    int number = 0;
+    for ([[maybe_unused]] auto round : state) {
+        Data1.rsInventory.AddNew();
+        for (int column = Inventory::Area; column <= Inventory::WarrantyDescription; ++column)
+            Data1.rsInventory.Fields(column) = column == Inventory::Amount ? "$1234.50" : "None";
+        Data1.rsInventory.Update();
+        Data1.rsGeneral.Fields(General::AssetValue) = values::Currency::fromTenThousandths(++number);
+        Data1.rsGeneral.Update();
+        Data1.rsIndoor.AddNew();
+        Data1.rsIndoor.Fields(Names::Type) = QStringLiteral("New item %1").arg(number);
+        Data1.rsIndoor.Fields(Names::Standard) = "0";
+        Data1.rsIndoor.Update();
+    }
+}
+BENCHMARK(BM_BareCommits)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// Coming from another area, which fills both lists twice.
+void BM_OpenScreen(benchmark::State& state)
+{
+    const Household household(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto round : state) {
+        state.PauseTiming();
+        Household::open("Mobile Asset Management");
+        screen<frmAddUpDel>().hide();
+        state.ResumeTiming();
+        Household::open("Indoor Asset Management");
+    }
+    state.counters["locations"] = screen<frmAddUpDel>().cmbLoc.listCount();
+}
+BENCHMARK(BM_OpenScreen)->Arg(shipped)->Arg(many)->Unit(benchmark::kMillisecond);
+
+void BM_FillLocations(benchmark::State& state)
+{
+    const Household household(static_cast<int>(state.range(0)));
+    auto& list = screen<frmAddUpDel>().cmbLoc;
+    for ([[maybe_unused]] auto round : state) {
+        list.clear();
+        fill_Name_List(list, Data1.rsIndoor, Names::Location);
+    }
+}
+BENCHMARK(BM_FillLocations)->Arg(shipped)->Arg(many)->Unit(benchmark::kMillisecond);
+
+void BM_FillItems(benchmark::State& state)
+{
+    const Household household(static_cast<int>(state.range(0)));
+    auto& list = screen<frmAddUpDel>().cmbType;
+    for ([[maybe_unused]] auto round : state)
+        fill_Item_List(list, Data1.rsIndoor, "Antiques");
+}
+BENCHMARK(BM_FillItems)->Arg(shipped)->Arg(many)->Unit(benchmark::kMillisecond);
+
+// The platform without a screen complains of every window that is raised.
+void quietHandler(QtMsgType, const QMessageLogContext&, const QString&) { }
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(quietHandler);
+    QApplication application(argc, argv);
+    forms::prepare(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,222 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# A user at the built program: a display of its own, real keys and mouse, and a second program that reads the files.
+# Nothing waits for a fixed time: each wait polls for what it needs and fails at its deadline.
+
+readonly Key=R2916mTq47DxWuHzEoN
+readonly Patience=15 # seconds for anything to happen
+
+fail() {
+    echo "FAILED: $*" >&2
+    if [ -n "${DISPLAY:-}" ] && import -window root "$Pictures/failed.png" 2>/dev/null; then
+        echo "The screen at that moment: $Pictures/failed.png" >&2
+    fi
+    if [ -s "$Log" ]; then
+        echo "What the program printed:" >&2
+        tail -n 20 "$Log" >&2
+    fi
+    exit 1
+}
+
+step() { printf '%4d s  %s\n' "$SECONDS" "$*"; }
+
+# until_true WHAT COMMAND...: polls the command until it succeeds.
+until_true() {
+    local what=$1 deadline=$((SECONDS + Patience))
+    shift
+    until "$@"; do
+        [ "$SECONDS" -lt "$deadline" ] || fail "waited $Patience s in vain for: $what"
+        sleep 0.03
+    done
+}
+
+# ---- the place: a home, a display, a window manager
+
+make_place() {
+    Place=$(mktemp -d)
+    Log=$Place/program.log
+    export XDG_RUNTIME_DIR=$Place/runtime TZ=UTC LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+    unset XDG_DATA_HOME WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
+    mkdir -m 700 "$XDG_RUNTIME_DIR"
+    use_home "$Place/home"
+    open_display
+    "$Build/bin/positions" >"$Place/positions" 2>"$Place/positions.log" || fail "positions: $(cat "$Place/positions.log")"
+}
+
+use_home() {
+    export HOME=$1
+    Database=$HOME/.local/share/KTL/C_db/KTL.db
+    Backup=$HOME/Backup/KTL.db
+    mkdir -p "$HOME"
+}
+
+open_display() {
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -wr -nolisten tcp 3>"$Place/display" 2>"$Place/xvfb.log" &
+    until_true "the virtual display" test -s "$Place/display"
+    DISPLAY=:$(cat "$Place/display")
+    export DISPLAY
+    openbox --config-file "$Here/openbox.xml" 2>"$Place/openbox.log" &
+    until_true "the window manager" manager_is_there
+}
+
+manager_is_there() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+
+leave_place() {
+    # shellcheck disable=SC2046 # one number for each
+    kill -9 $(jobs -p) 2>/dev/null || true
+    wait 2>/dev/null || true
+    rm -rf "$Place"
+}
+
+# ---- the program
+
+start_program() {
+    "$Build/bin/Kestrill" >>"$Log" 2>&1 &
+    Program=$!
+}
+
+has_ended() { ! kill -0 "$1" 2>/dev/null; }
+
+# ends_with STATUS [PROCESS]
+ends_with() {
+    local wanted=$1 process=${2:-$Program} status=0
+    until_true "the end of the program" has_ended "$process"
+    wait "$process" || status=$?
+    [ "$status" -eq "$wanted" ] || fail "the program ended with status $status, not $wanted"
+}
+
+# ---- windows
+
+active_window() { xprop -root _NET_ACTIVE_WINDOW 2>/dev/null | sed -n 's/.*# \(0x[0-9a-f]*\).*/\1/p'; }
+
+# The name of the screen in front; "MsgBox" for a message box.
+screen_in_front() { xprop -id "$(active_window)" WM_WINDOW_ROLE 2>/dev/null | sed -n 's/.*"\(.*\)"/\1/p'; }
+
+is_in_front() { [ "$(screen_in_front)" = "$1" ]; }
+
+wait_screen() { until_true "the screen $1 in front" is_in_front "$1"; }
+
+windows() { xdotool search --onlyvisible --class Kestrill 2>/dev/null || true; }
+
+# rectangle_of WINDOW: "left top right bottom" without its frame
+rectangle_of() {
+    xwininfo -id "$1" 2>/dev/null | awk '
+        /Absolute upper-left X/ { x = $4 } /Absolute upper-left Y/ { y = $4 }
+        /Width:/ { w = $2 } /Height:/ { h = $2 } END { if (w) print x, y, x + w, y + h }'
+}
+
+# shot NAME: a picture of all that the program shows, with its title bar and a margin, once it stands still.
+shot() {
+    local crop picture now last=
+    Shots=$((Shots + 1))
+    picture=$Pictures/$(printf '%02d' "$Shots")-$1.png
+    crop=$(for window in $(windows); do rectangle_of "$window"; done | awk '
+        NR == 1 || $1 < x { x = $1 } NR == 1 || $2 < y { y = $2 } $3 > r { r = $3 } $4 > b { b = $4 }
+        END { printf "%dx%d+%d+%d", r - x + 16, b - y + 38, x - 8, y - 30 }')
+    for _ in 1 2 3 4 5 6 7 8; do
+        import -window root -crop "$crop" +repage "$picture"
+        now=$(identify -format '%#' "$picture")
+        [ "$now" != "$last" ] || break
+        last=$now
+    done
+}
+
+# ---- hands
+
+keys() { xdotool key --delay 15 "$@"; }
+
+text() { xdotool type --delay 15 "$1"; }
+
+click_at() { xdotool mousemove "$1" "$2" click 1; }
+
+# find SCREEN CONTROL: puts its place on the display into X, Y, W, H.
+find() {
+    local left top
+    wait_screen "$1"
+    read -r left top _ _ <<<"$(rectangle_of "$(active_window)")"
+    read -r X Y W H <<<"$(awk -v screen="$1" -v control="$2" \
+        '$1 == screen && $2 == control { print $3, $4, $5, $6 }' "$Place/positions")"
+    [ -n "$H" ] || fail "there is no control $2 on $1"
+    X=$((X + left)) Y=$((Y + top))
+}
+
+click() {
+    find "$1" "$2"
+    click_at $((X + W / 2)) $((Y + H / 2))
+}
+
+# answer NAME KEYS...: takes a picture of the message box in front and answers it.
+answer() {
+    local name=$1 window
+    shift
+    wait_screen MsgBox
+    window=$(active_window)
+    shot "$name"
+    keys "$@"
+    until_true "the message box to close" is_gone "$window"
+}
+
+is_gone() { ! xwininfo -id "$1" 2>/dev/null | grep -q IsViewable; }
+
+# pick SCREEN CONTROL ROW ROWS PICTURE: opens the list of a box with the mouse and clicks its row, counted from 1.
+pick() {
+    local list left top bottom shown=$(($4 < 16 ? $4 : 16))
+    [ "$3" -le "$shown" ] || fail "row $3 of $2 is not in sight"
+    find "$1" "$2"
+    click_at $((X + W - H / 2)) $((Y + H / 2))
+    until_true "the list of $2" open_list
+    list=$(open_list_window)
+    shot "$5"
+    read -r left top _ bottom <<<"$(rectangle_of "$list")"
+    click_at $((left + 30)) $((top + 1 + (bottom - top - 2) * (2 * $3 - 1) / (2 * shown)))
+    until_true "the list of $2 to close" is_gone "$list"
+}
+
+# A list has no frame; nor has a tool tip, which says what it is.
+open_list_window() {
+    local window
+    for window in $(windows); do
+        if xwininfo -id "$window" | grep -q 'Override Redirect State: yes' &&
+            ! xprop -id "$window" _NET_WM_WINDOW_TYPE | grep -q TOOLTIP; then
+            echo "$window"
+        fi
+    done
+}
+
+open_list() { [ -n "$(open_list_window)" ]; }
+
+# click_day DAY MONTH YEAR: in the calendar, which shows that month; its first row has the names of the days.
+click_day() {
+    local column row first
+    first=$(date -d "$3-$2-1" +%w)
+    column=$(((first + $1 - 1) % 7))
+    row=$(((first + $1 - 1) / 7 + 1 + (first == 0)))
+    find frmCalendar days
+    click_at $((X + W * (2 * column + 1) / 14)) $((Y + H * (2 * row + 1) / 14))
+}
+
+# ---- the second program
+
+sqlcipher_with_key() { sqlcipher -batch -cmd "PRAGMA key = '$Key'" "$@" 2>&1; }
+
+# sql FILE STATEMENT: of a copy, since the program keeps its database to itself while it runs.
+sql() {
+    cp "$1" "$Place/copy.db"
+    sqlcipher_with_key "$Place/copy.db" "$2"
+}
+
+dump() { sql "$1" .dump; }
+
+# expect STATEMENT ANSWER: what the database answers, at once or soon.
+expect() {
+    Answer=
+    local deadline=$((SECONDS + 5))
+    until Answer=$(sql "$Database" "$1") && [ "$Answer" = "$2" ]; do
+        [ "$SECONDS" -lt "$deadline" ] || fail "$1"$'\n'"    gives     $Answer"$'\n'"    expected  $2"
+        sleep 0.05
+    done
+}
+
+same() { [ "$1" = "$2" ] || fail "$3"; }
+
+expect_mode() { same "$(stat -c %a "$1")" "$2" "$1 has mode $(stat -c %a "$1"), not $2"; }

@@ -1,0 +1,76 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# Ends that the program doesn't choose: what was confirmed stays, and nothing is made that was not there.
+
+started_at_menu() {
+    start_program
+    wait_screen frmMain
+}
+
+a_home() {
+    use_home "$Place/$1"
+    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    sqlcipher_with_key "$Database" "update Personal_Info set [Introduced] = '1'"
+}
+
+killed() {
+    step "killed in the middle of an entry, and started again"
+    a_home killed
+    started_at_menu
+    keys alt+r
+    wait_screen frmGenInfo
+    click frmGenInfo 'txtInfo(4)'
+    text Saved
+    keys alt+s
+    wait_screen frmMain
+    keys alt+r
+    wait_screen frmGenInfo
+    click frmGenInfo 'txtInfo(4)'
+    text Typed
+    kill -9 "$Program"
+    ends_with 137
+    same "$(sql "$Database" "pragma integrity_check")" ok "the database is damaged"
+    started_at_menu
+    expect "select City from Personal_Info" Saved
+    kill -TERM "$Program"
+    ends_with 0
+}
+
+told_to_end() {
+    step "told to end by the system: at the menu, and with a message box open"
+    a_home told
+    local before
+    before=$(dump "$Database")
+    started_at_menu
+    kill -TERM "$Program"
+    ends_with 0
+    started_at_menu
+    keys alt+x
+    wait_screen MsgBox
+    kill -TERM "$Program"
+    ends_with 0
+    same "$(dump "$Database")" "$before" "the database has changed"
+    [ ! -e "$Backup" ] || fail "a backup was made"
+}
+
+without_database() {
+    step "a start without a database"
+    use_home "$Place/empty"
+    start_program
+    answer no-database Return
+    ends_with 1
+    same "$(command find "$HOME" -name '*KTL*')" "" "files were made in the data folder"
+}
+
+laid_only_once() {
+    step "a data folder that is there is left alone"
+    use_home "$Place/kept"
+    mkdir -p "$(dirname "$Database")"
+    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    [ ! -e "$Database" ] || fail "a database was laid into a folder that was there"
+}
+
+killed
+told_to_end
+without_database
+laid_only_once

@@ -1,0 +1,244 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# The road of one asset, from the first start to the backup.
+
+read -r Month Year <<<"$(date '+%-m %Y')"
+
+HouseholdRow="select [Last], [First], [Middle], [Address], [City], [State], [ZIP], [Home Phone1], [Home Phone2],
+ [Home Phone3], [Work Phone1], [Work  Phone2], [Work  Phone3], [Cell Phone1], [Cell Phone2], [Cell  Phone3], [EMail],
+ [Introduced] from Personal_Info"
+Household='Fairbanks|Ann|Q|12 Orchard Lane|Albany|NY|12205-AB|518|555|0101|518|555|0102|518|555|0103|ann@home.example|1'
+NoWarranty='None|None|None|None|None|None|None|None|None|None|None|None|None'
+
+# row_of COLUMN NAME [WHERE]: its row in the sorted list that the program makes of a column, and the number of rows.
+row_of() {
+    sql "$Database" "select distinct [$1] from Indoor_Items where [$1] <> '0' ${3:-} order by upper([$1])" |
+        awk -v name="$2" '$0 == name { row = NR } END { print row, NR }'
+}
+
+pick_name() {
+    local row rows
+    read -r row rows <<<"$(row_of "$2" "$3" "${5:-}")"
+    pick frmAddUpDel "$1" "$row" "$rows" "$4"
+}
+
+first_start() {
+    step "first start: lay the database, splash, introduction"
+    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    expect_mode "$(dirname "$Database")" 700
+    expect_mode "$Database" 600
+    expect "select count(*) from Inventory" 0
+    start_program
+    wait_screen frmBW_Splash
+    shot splash
+    wait_screen frmIntroduction
+    shot introduction
+    keys Return
+    wait_screen frmKeyboard
+    shot keyboard
+    keys Return
+}
+
+personal_information_by_keys() {
+    step "personal information, typed"
+    wait_screen frmGenInfo
+    shot personal-empty
+    text Ann
+    keys Tab
+    text Q
+    keys Tab
+    text Fairbanks
+    keys Tab
+    text '12 Orchard Lane'
+    keys Tab
+    text Albany
+    keys Tab
+    text ny # moves on by itself when it is full, as the phones do
+    text 12205-ab
+    keys Tab
+    text 518555010151855501025185550103
+    text ann@home.example
+    shot personal-typed
+    keys alt+s
+    wait_screen frmMain
+    shot main-menu
+    expect "$HouseholdRow" "$Household"
+}
+
+second_start() {
+    step "a second start is refused"
+    local before first=$Program
+    before=$(dump "$Database")
+    start_program
+    answer already-running Return
+    ends_with 1
+    Program=$first
+    kill -0 "$first" || fail "the first instance has ended"
+    wait_screen frmMain
+    same "$(dump "$Database")" "$before" "the second start has changed the database"
+}
+
+personal_information_again() {
+    step "personal information: loaded, cancelled, saved"
+    click frmMain cmdPersonal
+    wait_screen frmGenInfo
+    shot personal-loaded
+    click frmGenInfo 'txtInfo(4)'
+    text Troy
+    click frmGenInfo 'cmdBack(0)'
+    answer personal-cancel-question alt+n
+    wait_screen frmGenInfo
+    click frmGenInfo 'cmdBack(0)'
+    answer personal-cancel-yes Return
+    wait_screen frmMain
+    expect "$HouseholdRow" "$Household"
+    keys alt+r
+    wait_screen frmGenInfo
+    click frmGenInfo 'txtInfo(4)'
+    text Utica
+    shot personal-changed
+    click frmGenInfo 'cmdContinue(0)'
+    wait_screen frmMain
+    Household=${Household/Albany/Utica}
+    expect "$HouseholdRow" "$Household"
+}
+
+refused_without_location() {
+    step "indoor, add: refused without a location"
+    click frmMain cmdIn
+    wait_screen frmAuto
+    shot indoor-menu
+    click frmAuto 'cmdAdd(0)'
+    wait_screen frmAddUpDel
+    shot asset-empty
+    click frmAddUpDel cmdAdd
+    answer refused-location Return
+    expect "select count(*) from Inventory" 0
+}
+
+asset_by_mouse() {
+    step "an asset, by mouse"
+    pick_name cmbLoc Location 'Family Room' location-list
+    pick_name cmbCat Category Cameras category-list
+    pick_name cmbType Type Camcorder item-list "and Category = 'Cameras'"
+    click frmAddUpDel cmbYear
+    text 2019
+    click frmAddUpDel txtMake
+    text Northlight
+    click frmAddUpDel txtMod
+    text 'V-300 "Pro"'
+    click frmAddUpDel txtSerial
+    text 'SN 0042/7'
+    click frmAddUpDel 'optPurNewUsed(1)'
+    click frmAddUpDel picDate
+    wait_screen frmCalendar
+    shot calendar
+    click_day 1 "$Month" "$Year"
+    wait_screen frmAddUpDel
+    click frmAddUpDel cmdAdd
+    answer refused-price Return
+    expect "select count(*) from Inventory" 0
+    price_grows
+    click frmAddUpDel 'optRecOnFile(0)'
+    text 'Fire safe, folder 3'
+    click frmAddUpDel txtDescription
+    text "With case & 2 batteries; it's Ann's."
+    shot asset-complete
+}
+
+price_grows() {
+    click frmAddUpDel txtPPrice
+    text 1
+    shot price-first-digit
+    text 234.567 # the third decimal is refused
+    shot price-typed
+}
+
+added() {
+    click frmAddUpDel cmdAdd
+    answer asset-added Return
+    expect "select count(*) from Inventory" 1
+    expect "select * from Inventory" "1|Indoor|Family Room|Cameras|Camcorder|2019|Northlight|V-300 \"Pro\"|SN 0042/7\
+|$Month/1/$Year|\$1234.56|Yes|Fire safe, folder 3|With case & 2 batteries; it's Ann's.|Used|$NoWarranty"
+    expect "select AssetValue from Personal_Info" 12345600
+    wait_screen frmAddUpDel
+    shot asset-cleared
+}
+
+asset_by_keys() {
+    step "an asset, by keys, with a new name"
+    local before dated
+    before=$(sql "$Database" "select count(*) from Indoor_Items")
+    keys Down Down Tab
+    pick_name cmbCat Category Art category-list-2
+    keys Tab
+    text 'Brass Kestrel'
+    keys Tab
+    text '1931'
+    keys Tab Tab Tab Tab Tab space
+    wait_screen frmCalendar
+    keys Left Prior
+    dated=$(month_before "$(date -d yesterday +%F)")
+    shot calendar-by-keys
+    keys Return
+    wait_screen frmAddUpDel
+    keys Tab
+    text 80
+    keys alt+a
+    answer asset-added-by-keys Return
+    expect "select Area, Location, Category, Type, Year, Make, Model, [Serial/ VIN / ID], [Date Purchased], Amount, Receipt,
+ [Receipt Location], Description, Purchased from Inventory where ID = 2" \
+        "Indoor|Attic|Art|Brass Kestrel|1931|Unknown|Unknown|Unknown|$dated|\$80.00|No|None|None|New"
+    expect "select AssetValue from Personal_Info" 13145600
+    expect "select Location, Category, Type, Standard from Indoor_Items where rowid > $before" 'Attic|Art|Brass Kestrel|0'
+}
+
+# The same day a month before, or that month's last.
+month_before() {
+    local first day last
+    first=$(date -d "$(date -d "$1" +%Y-%m-01) - 1 month" +%F)
+    day=$(date -d "$1" +%-d)
+    last=$(date -d "$first + 1 month - 1 day" +%-d)
+    date -d "$first + $(((day < last ? day : last) - 1)) days" +%-m/%-d/%Y
+}
+
+back_to_menu() {
+    step "back to the menu, with questions"
+    click frmAddUpDel cmdCancel
+    answer asset-cancel-question Escape
+    wait_screen frmAddUpDel
+    click frmAddUpDel cmdCancel
+    answer asset-cancel-yes Return
+    wait_screen frmAuto
+    keys alt+m
+    wait_screen frmMain
+}
+
+close_with_backup() {
+    step "exit: question, progress, goodbye, backup"
+    local before
+    click frmMain cmdLeave
+    answer exit-question alt+n
+    wait_screen frmMain
+    before=$(dump "$Database")
+    keys alt+x
+    answer exit-yes Return
+    wait_screen frmExit
+    shot goodbye
+    ends_with 0
+    same "$(dump "$Database")" "$before" "the close has changed the database"
+    same "$(dump "$Backup")" "$before" "the backup differs from the database"
+    same "$(sql "$Backup" "pragma quick_check")" ok "the backup is damaged"
+    expect_mode "$Backup" 600
+}
+
+first_start
+personal_information_by_keys
+second_start
+personal_information_again
+refused_without_location
+asset_by_mouse
+added
+asset_by_keys
+back_to_menu
+close_with_backup
