@@ -106,11 +106,7 @@ void frmAddUpDel::look()
 
 void frmAddUpDel::describeFields()
 {
-    const struct {
-        forms::Control& control;
-        int tabIndex;
-        const char* toolTip;
-    } fields[] = {
+    forms::look::dress({
         {cmbArea, 1, " The Area Has Already Been Selected "},
         {cmbLoc, 2, " Select A Location From The List "},
         {cmbCat, 3, " Select A Category From The List "},
@@ -130,11 +126,7 @@ void frmAddUpDel::describeFields()
         {txtDescription, 17, " Any Descriptive Information About The Asset Can Be Entered Here "},
         {chkWar, 18, " Checking This Box Will Open The Warranty Information Window Every Time You Save Your Asset "},
         {chkClear, 19, " Checking This Box Will Clear All Information On The Screen After You Save Your Asset "},
-    };
-    for (const auto& [control, tabIndex, toolTip] : fields) {
-        control.setTabIndex(tabIndex);
-        control.setToolTip(toolTip);
-    }
+    });
     conventions::setHelpNumbers(OwnHelp, {&chkClear, &picDate});
 }
 
@@ -174,13 +166,7 @@ void frmAddUpDel::giveFirstValues()
 
 void frmAddUpDel::describeButtons()
 {
-    const struct {
-        forms::CommandButton& button;
-        int tabIndex;
-        const char* caption;
-        const char* toolTip;
-        const char* icon;
-    } buttons[] = {
+    forms::look::dress({
         {cmdWarranty, 20, "&Warranty Information", " Click Here To View Asset Warranty Information ", "shield"},
         {cmdAdd, 21, "&Add Asset", " Click Here To Add The Above Asset To Your Inventory ", "plus"},
         {cmdUpdate, 22, "&Update Asset", " Click Here To Update Changes To The Above Asset ", "pencil"},
@@ -189,14 +175,7 @@ void frmAddUpDel::describeButtons()
         {cmdMain, 25, "&Main Menu", " Click Here To Go Back To Main Menu ", "back"},
         {cmdClear, 26, "Clear &Form", " Click Here To Clear This Form ", "clear"},
         {cmdPrint, 27, "&Print Asset", " Click Here To Print The Above Asset Only ", "printer"},
-    };
-    for (const auto& [button, tabIndex, caption, toolTip, icon] : buttons) {
-        button.setTabIndex(tabIndex);
-        button.setCaption(caption);
-        button.setToolTip(toolTip);
-        button.setIcon(QStringLiteral(":/pictures/icons/%1.png").arg(icon));
-        forms::behaviours::pressedColour(button);
-    }
+    });
 }
 
 void frmAddUpDel::answerFields()

@@ -25,26 +25,13 @@ void frmAuto::look()
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
 
-    const struct {
-        forms::CommandButton& button;
-        const char* caption;
-        const char* toolTip;
-        const char* icon;
-    } buttons[] = {
-        {cmdAdd[0], "&Add", " Click Here To Add A New Asset To Your Inventory ", "plus"},
-        {cmdUpdate[1], "&Update", " Click Here To Update An Existing Asset In Your Inventory ", "pencil"},
-        {cmdDelete[0], "&Delete", " Click Here To Delete An Existing Asset From Your Inventory ", "trash"},
-        {cmdBack[0], "&Main Menu", " Click Here To Return To The Main Menu ", "back"},
-        {cmdLeave[0], "E&xit", " Click Here To Close Kestrill ", "exit"},
-    };
-    int place = 0;
-    for (const auto& [button, caption, toolTip, icon] : buttons) {
-        button.setCaption(caption);
-        button.setToolTip(toolTip);
-        button.setIcon(QStringLiteral(":/pictures/icons/%1.png").arg(icon));
-        button.setTabIndex(place++);
-        forms::behaviours::pressedColour(button);
-    }
+    forms::look::dress({
+        {cmdAdd[0], 0, "&Add", " Click Here To Add A New Asset To Your Inventory ", "plus"},
+        {cmdUpdate[1], 1, "&Update", " Click Here To Update An Existing Asset In Your Inventory ", "pencil"},
+        {cmdDelete[0], 2, "&Delete", " Click Here To Delete An Existing Asset From Your Inventory ", "trash"},
+        {cmdBack[0], 3, "&Main Menu", " Click Here To Return To The Main Menu ", "back"},
+        {cmdLeave[0], 4, "E&xit", " Click Here To Close Kestrill ", "exit"},
+    });
     cmdAdd[0].Click = [this] { cmdAdd_Click(); };
     cmdUpdate[1].Click = [this] { cmdUpdate_Click(); };
     cmdDelete[0].Click = [this] { cmdDelete_Click(); };

@@ -11,26 +11,6 @@ namespace {
 
 constexpr int HelpNumber = 1001;
 
-struct ButtonLook {
-    forms::CommandButton frmMain::*button;
-    const char* caption;
-    const char* toolTip;
-    const char* icon;
-};
-
-// In the order of the Tab key.
-constexpr ButtonLook buttonLooks[] = {
-    {&frmMain::cmdIn, "&Indoor", " Click Here To Add An Indoor Asset To Your Inventory ", "house"},
-    {&frmMain::cmdOut, "&Outdoor", " Click Here To Add An Outdoor Asset To Your Inventory ", "tree"},
-    {&frmMain::cmdAuto, "&Mobile", " Click Here To Add A Mobile Asset To Your Inventory ", "car"},
-    {&frmMain::cmdPrint, " &Print", " Click Here To Print Your Assets ", "printer"},
-    {&frmMain::cmdSearch, "&Search", " Click Here To Search For Assets That Have Been Added To Your Inventory ",
-        "magnifier"},
-    {&frmMain::cmdValue, "&Value", " Click Here To See Your Current Total Asset Value ", "dollar"},
-    {&frmMain::cmdPersonal, "Pe&rsonal", " Click Here To Change Or Review Your Personal Information ", "person"},
-    {&frmMain::cmdLeave, "E&xit", " Click Here To Close Kestrill ", "exit"},
-};
-
 // An area's button with what it is for beside it.
 void addArea(QGridLayout& areas, forms::CommandButton& button, forms::Label& purpose, const char* words)
 {
@@ -55,16 +35,19 @@ void frmMain::look()
     lblSelIn[1].setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
 
-    int place = 0;
-    for (const ButtonLook& looks : buttonLooks) {
-        forms::CommandButton& button = this->*looks.button;
-        button.setCaption(looks.caption);
-        button.setToolTip(looks.toolTip);
-        button.setIcon(QStringLiteral(":/pictures/icons/%1.png").arg(looks.icon));
-        button.setHelpNumber(HelpNumber);
-        button.setTabIndex(place++);
-        forms::behaviours::pressedColour(button);
-    }
+    forms::look::dress(
+        {
+            {cmdIn, 0, "&Indoor", " Click Here To Add An Indoor Asset To Your Inventory ", "house"},
+            {cmdOut, 1, "&Outdoor", " Click Here To Add An Outdoor Asset To Your Inventory ", "tree"},
+            {cmdAuto, 2, "&Mobile", " Click Here To Add A Mobile Asset To Your Inventory ", "car"},
+            {cmdPrint, 3, " &Print", " Click Here To Print Your Assets ", "printer"},
+            {cmdSearch, 4, "&Search", " Click Here To Search For Assets That Have Been Added To Your Inventory ",
+                "magnifier"},
+            {cmdValue, 5, "&Value", " Click Here To See Your Current Total Asset Value ", "dollar"},
+            {cmdPersonal, 6, "Pe&rsonal", " Click Here To Change Or Review Your Personal Information ", "person"},
+            {cmdLeave, 7, "E&xit", " Click Here To Close Kestrill ", "exit"},
+        },
+        HelpNumber);
     cmdIn.Click = [this] { cmdIn_Click(); };
     cmdOut.Click = [this] { cmdOut_Click(); };
     cmdAuto.Click = [this] { cmdAuto_Click(); };

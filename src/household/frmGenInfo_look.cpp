@@ -127,29 +127,18 @@ void frmGenInfo::lookOfEntries()
 
 void frmGenInfo::lookOfButtons()
 {
-    const struct {
-        forms::CommandButton& button;
-        const char* caption;
-        const char* toolTip;
-        const char* icon;
-    } buttons[] = {
-        {cmdInsInfo, "&Insurance Information",
-            " Click Here To Update Or Review Your Home Insurance Policy Information ", "shield"},
-        {cmdBank, "&Bank Account Information",
-            " Click Here To Add, Update, Delete or Review Your Financial Account(s) ", "bank"},
-        {cmdContinue[0], "&Save && Continue", " Click Here To Save Changes To Your Personal Information ", "ok"},
-        {cmdBack[0], "&Cancel", " Click Here To Return To The Main Menu Without Saving Changes ", "cancel"},
-        {cmdExit, "E&xit ", " Click Here To Close Kestrill ", "exit"},
-    };
-    int tabIndex = 18; // behind the entries
-    for (const auto& [button, caption, toolTip, icon] : buttons) {
-        button.setCaption(caption);
-        button.setToolTip(toolTip);
-        button.setIcon(QString(":/pictures/icons/%1.png").arg(icon));
-        button.setTabIndex(tabIndex++);
-        button.setHelpNumber(helpTopic);
-        behaviours::pressedColour(button);
-    }
+    forms::look::dress(
+        {
+            {cmdInsInfo, 18, "&Insurance Information",
+                " Click Here To Update Or Review Your Home Insurance Policy Information ", "shield"},
+            {cmdBank, 19, "&Bank Account Information",
+                " Click Here To Add, Update, Delete or Review Your Financial Account(s) ", "bank"},
+            {cmdContinue[0], 20, "&Save && Continue", " Click Here To Save Changes To Your Personal Information ",
+                "ok"},
+            {cmdBack[0], 21, "&Cancel", " Click Here To Return To The Main Menu Without Saving Changes ", "cancel"},
+            {cmdExit, 22, "E&xit ", " Click Here To Close Kestrill ", "exit"},
+        },
+        helpTopic);
 }
 
 void frmGenInfo::answer()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/look.h"
 
-#include "platform/forms/buttons.h"
+#include "platform/forms/behaviours.h"
 #include "platform/forms/form.h"
 #include "platform/forms/light_style.h"
 
@@ -184,6 +184,30 @@ QLayout* sideBySide(std::initializer_list<Control*> controls)
         line->addWidget(control->widget());
     line->addStretch();
     return line;
+}
+
+void dress(std::initializer_list<ButtonLook> buttons, int helpNumber)
+{
+    for (const ButtonLook& look : buttons) {
+        look.button.setTabIndex(look.tabIndex);
+        look.button.setCaption(look.caption);
+        look.button.setToolTip(look.toolTip);
+        look.button.setIcon(QStringLiteral(":/pictures/icons/%1.png").arg(look.icon));
+        look.button.setHelpNumber(helpNumber);
+        if (look.pressed == PressedLook::Shown)
+            behaviours::pressedColour(look.button);
+    }
+}
+
+void dress(std::initializer_list<FieldLook> fields, int helpNumber)
+{
+    for (const FieldLook& look : fields) {
+        look.control.setTabIndex(look.tabIndex);
+        look.control.setToolTip(look.toolTip);
+        look.control.setHelpNumber(helpNumber);
+        if (look.maxLength > 0)
+            dynamic_cast<TextEntry&>(look.control).setMaxLength(look.maxLength);
+    }
 }
 
 void equalWidths(std::initializer_list<CommandButton*> buttons)

@@ -91,6 +91,33 @@ private:
     QGridLayout* grid_;
 };
 
+/// Whether the mouse gives a button the pressed colour and takes it away again.
+enum class PressedLook { Shown, None };
+
+/// A line of a screen's table of buttons.
+struct ButtonLook {
+    CommandButton& button;
+    int tabIndex;
+    const char* caption;
+    const char* toolTip;
+    const char* icon; ///< a picture of the resource folder of icons, by its name without ending
+    PressedLook pressed = PressedLook::Shown;
+};
+
+/// Gives each button what its line says, and all of them the help number unless it is 0.
+void dress(std::initializer_list<ButtonLook> buttons, int helpNumber = 0);
+
+/// A line of a screen's table of entries, options and pictures.
+struct FieldLook {
+    Control& control;
+    int tabIndex; ///< negative: the Tab key does not stop here
+    const char* toolTip;
+    int maxLength = 0; ///< of a box: the most characters that the user can get in; 0 sets no limit
+};
+
+/// Gives each control what its line says, and all of them the help number unless it is 0.
+void dress(std::initializer_list<FieldLook> fields, int helpNumber = 0);
+
 /// Makes buttons as wide as the widest of them.
 void equalWidths(std::initializer_list<CommandButton*> buttons);
 
