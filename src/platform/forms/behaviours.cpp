@@ -5,6 +5,8 @@
 
 namespace forms::behaviours {
 
+// ---- plain functions
+
 void showPressed(CommandButton& button)
 {
     button.setBackColour(look::colours().pressed);
@@ -14,6 +16,39 @@ void showReleased(CommandButton& button)
 {
     button.setBackColour({});
 }
+
+bool isMovementKey(int keyCode)
+{
+    return keyCode == key::Enter || keyCode == key::Down || keyCode == key::Up;
+}
+
+bool isDigit(int keyAscii)
+{
+    return keyAscii >= '0' && keyAscii <= '9';
+}
+
+void takeDigits(int& keyAscii)
+{
+    if (!isDigit(keyAscii) && keyAscii != key::Backspace)
+        keyAscii = key::Refused;
+}
+
+void takeUpTo(const TextEntry& box, int length, int& keyAscii)
+{
+    if (box.text().size() >= length && keyAscii != key::Backspace)
+        keyAscii = key::Refused;
+}
+
+void takeTwoLetterCode(ComboBox& box, int& keyAscii)
+{
+    const bool letter = (keyAscii >= 'A' && keyAscii <= 'Z') || (keyAscii >= 'a' && keyAscii <= 'z');
+    if (keyAscii == key::Backspace || (letter && box.text().size() >= 2))
+        box.setText({});
+    if (!letter && keyAscii != key::Backspace)
+        keyAscii = key::Refused;
+}
+
+// ---- behaviours
 
 void pressedColour(CommandButton& button)
 {
@@ -34,17 +69,13 @@ void selectOnClick(TextEntry& box)
 void listOnly(ComboBox& box)
 {
     box.KeyPress = [](int& keyAscii) { keyAscii = key::Refused; };
-    // Delete gives no character and would still change the text.
-    box.KeyDown = [](int& keyCode) {
-        if (keyCode == key::Delete)
-            keyCode = key::Refused;
-    };
+    box.setDeleteRefused(true); // it gives no character and would still change the text
 }
 
 void movementOnly(ComboBox& box)
 {
     box.KeyDown = [](int& keyCode) {
-        if (keyCode != key::Enter && keyCode != key::Down && keyCode != key::Up)
+        if (!isMovementKey(keyCode))
             keyCode = key::Refused;
     };
 }
@@ -59,30 +90,17 @@ void noKeys(Control& control, int exception)
 
 void lengthCap(TextEntry& box, int length)
 {
-    box.KeyPress = [&box, length](int& keyAscii) {
-        if (box.text().size() >= length && keyAscii != key::Backspace)
-            keyAscii = key::Refused;
-    };
+    box.KeyPress = [&box, length](int& keyAscii) { takeUpTo(box, length, keyAscii); };
 }
 
 void digitsOnly(TextEntry& box)
 {
-    box.KeyPress = [](int& keyAscii) {
-        const bool digit = keyAscii >= '0' && keyAscii <= '9';
-        if (!digit && keyAscii != key::Backspace)
-            keyAscii = key::Refused;
-    };
+    box.KeyPress = takeDigits;
 }
 
 void twoLetterCode(ComboBox& box)
 {
-    box.KeyPress = [&box](int& keyAscii) {
-        const bool letter = (keyAscii >= 'A' && keyAscii <= 'Z') || (keyAscii >= 'a' && keyAscii <= 'z');
-        if (keyAscii == key::Backspace || (letter && box.text().size() >= 2))
-            box.setText({});
-        if (!letter && keyAscii != key::Backspace)
-            keyAscii = key::Refused;
-    };
+    box.KeyPress = [&box](int& keyAscii) { takeTwoLetterCode(box, keyAscii); };
 }
 
 } // namespace forms::behaviours

@@ -46,9 +46,6 @@ private:
 /// Reports the exception being handled and ends the process.
 void reportCurrentException() noexcept;
 
-/// Forgets which handler failed last, when its failure has been dealt with.
-void forgetFailedHandler();
-
 /// Runs what a callback of the toolkit has to do. Nothing is thrown out of it.
 template <class Callback>
 void fromToolkit(Callback&& callback) noexcept

@@ -54,7 +54,7 @@ void CommandButton::clicked()
 void CommandButton::press()
 {
     if (isEnabled() && isVisible())
-        fire(Click, "Click");
+        Click.fire();
 }
 
 void CommandButton::setIcon(const QString& resource)
@@ -112,7 +112,7 @@ OptionButton::OptionButton(Form& form, const QString& name)
     QObject::connect(radio, &QAbstractButton::clicked, radio, [this] {
         if (insideToolkitCall() || std::exchange(chosen_, true))
             return;
-        fromToolkit([this] { fire(Click, "Click"); });
+        fromToolkit([this] { Click.fire(); });
     });
 }
 
@@ -133,7 +133,7 @@ void OptionButton::setValue(bool chosen)
         button()->setAutoExclusive(true);
     }
     chosen_ = chosen;
-    fire(Click, "Click");
+    Click.fire();
 }
 
 void OptionButton::userChose()
@@ -180,7 +180,7 @@ CheckBox::CheckBox(Form& form, const QString& name)
     adopt(check);
     QObject::connect(check, &QAbstractButton::clicked, check, [this] {
         if (!insideToolkitCall())
-            fromToolkit([this] { fire(Click, "Click"); });
+            fromToolkit([this] { Click.fire(); });
     });
 }
 
@@ -197,7 +197,7 @@ void CheckBox::setValue(int value)
         const ToolkitCall call;
         button()->setChecked(value != 0);
     }
-    fire(Click, "Click");
+    Click.fire();
 }
 
 void CheckBox::userChose()

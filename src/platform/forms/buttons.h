@@ -34,7 +34,7 @@ private:
     /// Moves to the neighbour of a group; false leaves the arrow key to the toolkit.
     virtual bool moveByArrow(int) { return false; }
 
-    void mouse(bool down) { fire(down ? MouseDown : MouseUp, down ? "MouseDown" : "MouseUp"); }
+    void mouse(bool down) { (down ? MouseDown : MouseUp).fire(); }
 };
 
 /// A button that does something. MouseUp comes before Click.

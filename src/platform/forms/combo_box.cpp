@@ -6,6 +6,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/keyboard.h"
 #include "platform/forms/look.h"
+#include "platform/forms/stage.h"
 #include "platform/values/failure.h"
 
 #include <QAbstractItemView>
@@ -94,8 +95,10 @@ public:
 
     void showPopup() override
     {
-        if (locked_)
-            return;
+        const int interruptions = Stage::instance().interruptions();
+        fromToolkit([this] { box_.DropDown.fire(); });
+        if (locked_ || Stage::instance().interruptions() != interruptions)
+            return; // no list stays open behind a box
         selectWhatTheTextSays();
         QComboBox::showPopup();
     }
@@ -177,7 +180,7 @@ private:
             return;
         if (!Keyboard::pressText(box_, event))
             return;
-        if (locked_ || Keyboard::isEnter(event) || event.key() == Qt::Key_Escape)
+        if (Keyboard::isEnter(event) || event.key() == Qt::Key_Escape)
             return;
         walk(event);
     }
@@ -191,6 +194,8 @@ private:
                 showPopup();
             return;
         }
+        if (locked_)
+            return;
         selectWhatTheTextSays();
         pickedByKey_ = false;
         {
@@ -399,11 +404,6 @@ void ComboBox::setWidthInCharacters(int characters)
 void ComboBox::openList()
 {
     combo_->showPopup();
-}
-
-void ComboBox::closeList()
-{
-    combo_->hidePopup();
 }
 
 } // namespace forms

@@ -54,11 +54,16 @@ public:
     /// Makes the box wide enough for so many average characters.
     void setWidthInCharacters(int characters);
 
-    /// Opens and closes the list, as the user's click on the arrow does.
+    /// Opens the list, as the user's click on the arrow does.
     void openList();
-    void closeList();
+
+    /// The user opens the list; it isn't on the screen yet. A locked box has the event too: unlocked here, its list
+    /// opens.
+    Event<> DropDown{path(), "DropDown"};
 
 private:
+    friend class ComboEdit;
+
     ComboStyle style_;
     ItemOrder order_;
     ComboEdit* combo_;

@@ -77,15 +77,15 @@ public:
     virtual void setBackColour(const QColor& colour);
     QColor backColour() const { return backColour_; }
 
-    Event<> GotFocus;
-    Event<> LostFocus;
-    Event<int&> KeyDown; ///< virtual key code, before KeyPress
-    Event<int&> KeyPress; ///< character code
-    Event<int&> KeyUp; ///< virtual key code
-    Event<> MouseDown;
-    Event<> MouseUp;
-    Event<> Click;
-    Event<> DblClick;
+    Event<> GotFocus{path_, "GotFocus"};
+    Event<> LostFocus{path_, "LostFocus"};
+    Event<int&> KeyDown{path_, "KeyDown"}; ///< virtual key code, before KeyPress
+    Event<int&> KeyPress{path_, "KeyPress"}; ///< character code
+    Event<int&> KeyUp{path_, "KeyUp"}; ///< virtual key code
+    Event<> MouseDown{path_, "MouseDown"};
+    Event<> MouseUp{path_, "MouseUp"};
+    Event<> Click{path_, "Click"};
+    Event<> DblClick{path_, "DblClick"};
 
 protected:
     Control(Form& form, const QString& name);
@@ -93,11 +93,8 @@ protected:
     /// Takes the widget that stands for this control; the toolkit's parent deletes it.
     void adopt(QWidget* widget);
 
-    template <class... Args>
-    void fire(const Event<Args...>& event, const char* eventName, Args... args)
-    {
-        event.fire(path_, eventName, args...);
-    }
+    /// The name with the form's in front, as the run-time report says it.
+    const QString& path() const { return path_; }
 
     /// True when the Tab key stops here, apart from place and state.
     virtual bool isTabStop() const { return true; }
@@ -112,7 +109,7 @@ private:
 
     Form& form_;
     QString name_;
-    QString path_; // with the form's name in front
+    QString path_;
     QWidget* widget_ = nullptr;
     bool focusAwaitsPress_ = false; // the focus came by mouse; GotFocus waits until the press has put the caret
     QColor backColour_;

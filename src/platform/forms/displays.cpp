@@ -49,7 +49,7 @@ Label::Label(Form& form, const QString& name)
     : Control(form, name)
     , label_(new LabelWidget(form.canvas(), [this](bool down, bool inside) {
         if (!down && inside)
-            fire(Click, "Click");
+            Click.fire();
     }))
 {
     adopt(label_);
@@ -108,12 +108,12 @@ Picture::Picture(Form& form, const QString& name)
     : Control(form, name)
     , label_(new LabelWidget(form.canvas(), [this](bool down, bool inside) {
         if (down) {
-            fire(MouseDown, "MouseDown");
+            MouseDown.fire();
             return;
         }
-        fire(MouseUp, "MouseUp");
+        MouseUp.fire();
         if (inside)
-            fire(Click, "Click");
+            Click.fire();
     }))
 {
     adopt(label_);
@@ -235,7 +235,7 @@ void Ticker::elapse()
         return;
     }
     if (enabled_)
-        fromToolkit([this] { Timer.fire(name_, "Timer"); });
+        fromToolkit([this] { Timer.fire(); });
 }
 
 } // namespace forms

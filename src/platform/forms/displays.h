@@ -100,7 +100,7 @@ public:
     /// Fires as if the interval were over; nothing happens while disabled.
     void elapse();
 
-    Event<> Timer;
+    Event<> Timer{name_, "Timer"};
 
 private:
     QString name_;

@@ -87,7 +87,12 @@ bool EntryKeys::takesOutMore(const QKeyEvent& event)
 bool EntryKeys::refusesDelete(TextEntry& box)
 {
     const QKeyEvent stroke(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
-    return Keyboard::down(box, stroke);
+    return box.deleteRefused_ || Keyboard::down(box, stroke);
+}
+
+bool EntryKeys::keepsDelete(const TextEntry& box, const QKeyEvent& event)
+{
+    return box.deleteRefused_ && event.key() == Qt::Key_Delete;
 }
 
 void EntryKeys::catchUp(TextEntry& box)
@@ -215,6 +220,8 @@ void LineEdit::handleKey(QKeyEvent& event)
     if (Keyboard::isEnter(event) && Keyboard::pressDefault(box_.form()))
         return;
     if (Keyboard::down(box_, event))
+        return;
+    if (EntryKeys::keepsDelete(box_, event))
         return;
     if (event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo))
         return; // what the handlers have let in is not taken back behind them

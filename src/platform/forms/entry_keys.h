@@ -15,11 +15,11 @@ namespace forms {
 /// What the entries of all boxes do alike; for the layer itself, not for screens.
 class EntryKeys {
 public:
-    static void changed(TextEntry& box) { box.fire(box.Change, "Change"); }
-    static void clicked(TextEntry& box) { box.fire(box.Click, "Click"); }
-    static void doubleClicked(TextEntry& box) { box.fire(box.DblClick, "DblClick"); }
-    static void mouseDown(TextEntry& box) { box.fire(box.MouseDown, "MouseDown"); }
-    static void mouseUp(TextEntry& box) { box.fire(box.MouseUp, "MouseUp"); }
+    static void changed(TextEntry& box) { box.Change.fire(); }
+    static void clicked(TextEntry& box) { box.Click.fire(); }
+    static void doubleClicked(TextEntry& box) { box.DblClick.fire(); }
+    static void mouseDown(TextEntry& box) { box.MouseDown.fire(); }
+    static void mouseUp(TextEntry& box) { box.MouseUp.fire(); }
 
     /// True when no handler looks at single characters, so that a long text can go in at once.
     static bool takesWhole(const TextEntry& box) { return !box.KeyPress && !box.Change; }
@@ -33,6 +33,9 @@ public:
 
     /// True when KeyDown refuses the Delete key: then no text can be taken out by menu or Ctrl+X either.
     static bool refusesDelete(TextEntry& box);
+
+    /// True for the Delete key in a box that refuses it.
+    static bool keepsDelete(const TextEntry& box, const QKeyEvent& event);
 
     /// What of `wanted` fits: characters count against the box's limit, UTF-16 units against `ceiling`; `replaced` is
     /// selected and makes room.

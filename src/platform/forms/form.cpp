@@ -148,8 +148,7 @@ void Form::load()
 {
     if (std::exchange(loaded_, true))
         return;
-    const HandlerScope scope(name_ + QStringLiteral(".Form"), "Load");
-    Form_Load();
+    runHandler(path(), "Load", [this] { Form_Load(); });
 }
 
 void Form::enroll(Control& control)
@@ -249,10 +248,7 @@ void Form::show_Modal(Form& owner)
 void Form::close()
 {
     bool cancel = false;
-    {
-        const HandlerScope scope(name_ + QStringLiteral(".Form"), "Unload");
-        Form_Unload(cancel);
-    }
+    runHandler(path(), "Unload", [this, &cancel] { Form_Unload(cancel); });
     if (cancel)
         return;
     hide();
@@ -281,7 +277,7 @@ void Form::moveFocus(Control* control)
     wanted_ = nullptr;
     if (left) {
         try {
-            left->fire(left->LostFocus, "LostFocus");
+            left->LostFocus.fire();
         } catch (...) {
             // The focus has moved all the same.
             if (moving_ == control) {
@@ -298,7 +294,7 @@ void Form::moveFocus(Control* control)
         return; // LostFocus has disabled or hidden it
     focused_ = control;
     window_->reveal(control->widget());
-    control->fire(control->GotFocus, "GotFocus");
+    control->GotFocus.fire();
 }
 
 void Form::enter()

@@ -31,6 +31,9 @@ public:
 
     const QString& name() const { return name_; }
 
+    /// The owner of the form's own events in the run-time report: "frmMain.Form".
+    QString path() const { return name_ + QStringLiteral(".Form"); }
+
     /// Shows the screen in front of the others. Form_Activate and the first GotFocus have run on return.
     void show();
 

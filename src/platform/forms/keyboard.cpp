@@ -86,7 +86,7 @@ bool Keyboard::hasText(const QKeyEvent& event)
 bool Keyboard::down(Control& control, const QKeyEvent& event)
 {
     int code = virtualKey(event);
-    control.fire<int&>(control.KeyDown, "KeyDown", code);
+    control.KeyDown.fire(code);
     if (code == key::Refused)
         return true;
     if (code != key::F1)
@@ -100,12 +100,12 @@ void Keyboard::up(Control& control, const QKeyEvent& event)
     if (event.isAutoRepeat())
         return;
     int code = virtualKey(event);
-    control.fire<int&>(control.KeyUp, "KeyUp", code);
+    control.KeyUp.fire(code);
 }
 
 int Keyboard::press(Control& control, int character)
 {
-    control.fire<int&>(control.KeyPress, "KeyPress", character);
+    control.KeyPress.fire(character);
     return character;
 }
 
@@ -139,11 +139,12 @@ void Keyboard::pressedOnForm(Form& form, const QKeyEvent& event)
         return;
     if (isCommand(event) || !hasCharacter(event))
         return;
-    const HandlerScope scope(form.name() + QStringLiteral(".Form"), "KeyPress");
-    for (const uint character : event.text().toUcs4()) {
-        int code = static_cast<int>(character);
-        form.Form_KeyPress(code);
-    }
+    runHandler(form.path(), "KeyPress", [&form, &event] {
+        for (const uint character : event.text().toUcs4()) {
+            int code = static_cast<int>(character);
+            form.Form_KeyPress(code);
+        }
+    });
 }
 
 } // namespace forms

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/message_box.h"
 
-#include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
 #include "platform/forms/look.h"
 #include "platform/forms/stage.h"
@@ -70,8 +69,6 @@ void setMessageDoor(std::function<Answer(const Message&)> door)
 
 Answer MsgBox(const QString& text, int flags, const QString& title)
 {
-    // A box tells the user of a failure, which is dealt with then.
-    forgetFailedHandler();
     Stage::instance().interrupted();
     const Message message{text, flags, title};
     if (messageDoor())

@@ -199,7 +199,7 @@ void MonthCalendar::moved(int year, int month, int day)
 void MonthCalendar::clicked(int year, int month, int day)
 {
     moved(year, month, day);
-    fire(Click, "Click");
+    Click.fire();
 }
 
 } // namespace forms

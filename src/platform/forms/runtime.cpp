@@ -24,6 +24,7 @@ struct Runtime {
     int toolkitCalls = 0;
     int frames = 0;
     bool ending = false;
+    std::exception_ptr failed; // which left a handler last
     QString failedHandler;
     std::vector<std::function<void()>> cleanUps;
     std::function<void()> handlerReturn;
@@ -63,10 +64,16 @@ void showReport(const FailureReport& report)
     box.exec();
 }
 
+// The name belongs to one exception: another that was caught in silence gives its name to nobody.
+QString handlerOf(const std::exception_ptr& failed)
+{
+    return runtime().failed == failed ? runtime().failedHandler : QString();
+}
+
 void report(const QString& failure)
 {
     Runtime& the = runtime();
-    const FailureReport what{std::exchange(the.failedHandler, {}), failure};
+    const FailureReport what{handlerOf(std::current_exception()), failure};
     if (the.reporter) {
         the.reporter(what);
         return;
@@ -141,23 +148,18 @@ void reportCurrentException() noexcept
     }
 }
 
-void forgetFailedHandler()
+void detail::failedIn(const QString& owner, const char* event)
 {
-    runtime().failedHandler.clear();
+    std::exception_ptr failed = std::current_exception();
+    if (failed == runtime().failed)
+        return;
+    runtime().failed = std::move(failed);
+    runtime().failedHandler = owner + QLatin1Char('_') + QLatin1String(event);
 }
 
-HandlerScope::HandlerScope(const QString& owner, const char* event)
-    : owner_(owner)
-    , event_(event)
-    , exceptionsAtEntry_(std::uncaught_exceptions())
+void detail::assignedTwice(const QString& owner, const char* event)
 {
-    forgetFailedHandler();
-}
-
-HandlerScope::~HandlerScope()
-{
-    if (std::uncaught_exceptions() > exceptionsAtEntry_ && runtime().failedHandler.isEmpty())
-        runtime().failedHandler = owner_ + QLatin1Char('_') + QLatin1String(event_);
+    qFatal("%s_%s has a handler already", qPrintable(owner), event);
 }
 
 void prepare(QApplication& application)
@@ -223,10 +225,7 @@ void runAsHandler(const QString& name, const std::function<void()>& handler)
         QTimer::singleShot(10, [name, handler] { runAsHandler(name, handler); });
         return;
     }
-    fromToolkit([&] {
-        const HandlerScope scope(name, "Event");
-        handler();
-    });
+    fromToolkit([&] { runHandler(name, "Event", handler); });
 }
 
 WaitPointer::WaitPointer()

@@ -63,18 +63,13 @@ void Stage::activate(Form* form)
     if (active_ == form)
         return;
     interrupted();
-    if (Form* left = std::exchange(active_, form)) {
-        const HandlerScope scope(left->name() + QStringLiteral(".Form"), "Deactivate");
-        left->Form_Deactivate();
-    }
+    if (Form* left = std::exchange(active_, form))
+        runHandler(left->path(), "Deactivate", [left] { left->Form_Deactivate(); });
     if (active_ != form || !form)
         return;
     std::erase(shown_, form);
     shown_.push_back(form);
-    {
-        const HandlerScope scope(form->name() + QStringLiteral(".Form"), "Activate");
-        form->Form_Activate();
-    }
+    runHandler(form->path(), "Activate", [form] { form->Form_Activate(); });
     if (active_ == form && form->isVisible()) // Form_Activate may have hidden it
         form->enter();
 }

@@ -226,6 +226,17 @@ protected:
         });
     }
 
+    void mouseDoubleClickEvent(QMouseEvent* event) override
+    {
+        fromToolkit([this, event] {
+            {
+                const ToolkitCall call;
+                QPlainTextEdit::mouseDoubleClickEvent(event);
+            }
+            EntryKeys::doubleClicked(box_);
+        });
+    }
+
     void contextMenuEvent(QContextMenuEvent* event) override
     {
         fromToolkit([this, event] {
@@ -243,7 +254,7 @@ private:
     {
         if (EntryKeys::awaitsPress(box_))
             EntryKeys::catchUp(box_);
-        if (Keyboard::down(box_, event))
+        if (Keyboard::down(box_, event) || EntryKeys::keepsDelete(box_, event))
             return;
         if (Keyboard::isEnter(event)) {
             takeCharacter(key::Enter);

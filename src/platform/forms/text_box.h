@@ -39,7 +39,10 @@ public:
 
     void selectAll();
 
-    Event<> Change; ///< once for each change of the text, typed or set
+    /// The Delete key and what does its work (cut, the menu, an assistive tool) take nothing out then.
+    void setDeleteRefused(bool refused) { deleteRefused_ = refused; }
+
+    Event<> Change{path(), "Change"}; ///< once for each change of the text, typed or set
 
 protected:
     using Control::Control;
@@ -48,6 +51,7 @@ protected:
 
 private:
     int maxLength_ = 0;
+    bool deleteRefused_ = false;
 };
 
 /// A text box of one line.

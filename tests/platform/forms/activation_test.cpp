@@ -23,11 +23,11 @@ TEST_F(Activation, OfOneScreenFollowsTheDeactivationOfTheOther)
 
 TEST_F(Activation, OfAModalScreenAndBackOfItsOwner)
 {
-    first.ok.Click = [this] {
+    first.answers["ok.Click"] = [this] {
         second.show_Modal(first);
         journal.note("returned");
     };
-    second.ok.Click = [this] { second.hide(); };
+    second.answers["ok.Click"] = [this] { second.hide(); };
     first.show();
     journal.taken();
     whileModal([this] {

@@ -29,8 +29,8 @@ protected:
 TEST_F(Failures, InsideAHandlerInsideAHandlerNameTheInnerOneOnce)
 {
     form.one.Change = [] { fail(); };
-    form.two.GotFocus = [this] { form.one.setText("bad"); };
-    form.ok.Click = [this] {
+    form.answers["two.GotFocus"] = [this] { form.one.setText("bad"); };
+    form.answers["ok.Click"] = [this] {
         form.two.setFocus();
         form.note("not reached");
     };
@@ -42,9 +42,9 @@ TEST_F(Failures, InsideAHandlerInsideAHandlerNameTheInnerOneOnce)
 TEST_F(Failures, AreCaughtByTheHandlerAroundThem)
 {
     form.one.Change = [] { fail(); };
-    form.two.GotFocus = [] { fail(); };
+    form.answers["two.GotFocus"] = [] { fail(); };
     other.onActivate = [] { fail(); };
-    form.ok.Click = [this] {
+    form.answers["ok.Click"] = [this] {
         const std::function<void()> steps[] = {
             [this] { form.one.setText("bad"); },
             [this] { form.two.setFocus(); },
@@ -78,7 +78,7 @@ protected:
 
 TEST_F(LastWords, AnUncaughtFailureCleansUpShowsTheReportAndEndsWithStatusOne)
 {
-    form.ok.Click = [] { fail(); };
+    form.answers["ok.Click"] = [] { fail(); };
     const auto run = [this] {
         forms::setFailureReporter({});
         forms::onEnd([] { std::fputs("cleaned up, ", stderr); });

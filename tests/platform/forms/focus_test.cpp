@@ -46,7 +46,7 @@ TEST_F(Focus, SetOnAFormThatIsNotInFrontIsTakenWhenItComes)
 TEST_F(Focus, AndActivationDoNotStirForAMessageBox)
 {
     useRealBoxes();
-    form.ok.Click = [this] {
+    form.answers["ok.Click"] = [this] {
         const auto answer = forms::MsgBox("Sure?", forms::box::Question + forms::box::YesNo, "Title");
         form.note(answer == forms::Answer::Yes ? "Yes" : "No");
     };
