@@ -4,7 +4,12 @@
 #include "core/frmStartup.h"
 #include "support/harness.h"
 
-#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QWheelEvent>
 
 using forms::Answer;
 using forms::screen;
@@ -16,97 +21,230 @@ constexpr int Question = 36;
 const char* const CloseQuestion = "Are You Sure You Want To Close The Calendar?";
 const char* const TodayQuestion = "A Calendar Date Has Not Been Selected...Would You Like To Use Today's Date!";
 
+QString heard; // the cell to which the screen reader was sent last
+
+void hear(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Focus)
+        heard = event->accessibleInterface()->text(QAccessible::Name);
+}
+
+frmAddUpDel& asset()
+{
+    return screen<frmAddUpDel>();
+}
+
+forms::MonthCalendar& date()
+{
+    return screen<frmCalendar>().calDate;
+}
+
 // The calendar in front of the asset screen, which is disabled meanwhile.
 class Calendar : public ScreenTest {
 protected:
-    static frmAddUpDel& asset() { return screen<frmAddUpDel>(); }
-    static frmCalendar& calendar() { return screen<frmCalendar>(); }
+    void SetUp() override
+    {
+        ScreenTest::SetUp();
+        QAccessible::setActive(true);
+        QAccessible::installUpdateHandler(hear);
+    }
 
-    // Opens the calendar as the asset screen does, and lets the user act in it. Returns when it is closed.
-    void openCalendar(std::function<void()> act)
+    void TearDown() override
+    {
+        QAccessible::installUpdateHandler(nullptr);
+        QAccessible::setActive(false);
+        ScreenTest::TearDown();
+    }
+
+    // Opens the calendar as the asset screen does, lets the user act in it, and tells what has come of it.
+    QString after(std::function<void()> act)
     {
         asset().show();
         asset().txtPur.setText("5/6/2007");
         asset().setEnabled(false);
-        calendar().DateTarget = 3;
-        calendar().calDate.setValue(values::Date::fromDayMonthYear(1, 1, 2007));
+        screen<frmCalendar>().DateTarget = 3;
+        date().setValue(values::Date::fromDayMonthYear(31, 1, 2007));
         whileModal(std::move(act));
-        forms::runAsHandler("opening", [] { calendar().show_Modal(asset()); });
-        EXPECT_FALSE(calendar().isVisible());
+        forms::runAsHandler("opening", [] { screen<frmCalendar>().show_Modal(asset()); });
+        return outcome();
     }
 
-    // The days stand in a table, those of the neighbouring months around them; the 17th is in its month alone.
+    static QString outcome() { return scene() + ", " + asset().txtPur.text(); }
+
+    void expectToStay(const QString& question, const std::function<void()>& act)
+    {
+        expectBox(question, Question, Answer::No);
+        act();
+        EXPECT_EQ(outcome(), "19 frmCalendar: calDate; frmAddUpDel, 5/6/2007");
+    }
+
+    static QTableView& days() { return *date().widget()->findChild<QTableView*>(); }
+
+    // The days of the neighbouring months stand around those of the month; the first cell of that number counts.
     static void clickDay(int day)
     {
-        auto* days = calendar().calDate.widget()->findChild<QAbstractItemView*>();
-        const QPoint centre = days->visualRect(cellOf(*days, day)).center();
-        clickAt(calendar().calDate, days->viewport()->mapTo(calendar().calDate.widget(), centre));
+        const auto* model = days().model();
+        for (int column = 0; column < 7; ++column)
+            for (const QModelIndex& found :
+                model->match(model->index(0, column), Qt::DisplayRole, day, 1, Qt::MatchExactly))
+                return clickAt(date(), days().viewport()->mapTo(date().widget(), days().visualRect(found).center()));
     }
 
-    static QModelIndex cellOf(const QAbstractItemView& days, int day)
+    static void clickTurner(const QString& name)
     {
-        for (int row = 0; row < days.model()->rowCount(); ++row)
-            for (int column = 0; column < days.model()->columnCount(); ++column)
-                if (days.model()->index(row, column).data().toInt() == day)
-                    return days.model()->index(row, column);
-        throw std::logic_error("no such day");
+        for (const auto* turner : date().widget()->findChildren<QPushButton*>())
+            if (turner->accessibleName() == name)
+                clickAt(date(), turner->geometry().center());
     }
 
-    static void expectOpen()
+    static void wheel(int eighths)
     {
-        EXPECT_TRUE(calendar().isVisible());
-        EXPECT_FALSE(asset().isEnabled());
-        EXPECT_EQ(asset().txtPur.text(), "5/6/2007");
+        QWheelEvent turn({5, 5}, days().viewport()->mapToGlobal(QPointF(5, 5)), {}, {0, eighths}, Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(days().viewport(), &turn);
     }
 
-    static void expectGivenBackWith(const QString& date)
+    static void hold(Qt::Key key, const QString& text)
     {
-        EXPECT_TRUE(asset().isEnabled());
-        EXPECT_EQ(asset().txtPur.text(), date);
-        EXPECT_EQ(frmStartup::CurrentScreen, 10);
+        QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+        QApplication::sendEvent(&days(), &repeat);
+    }
+
+    // The month on show, and what a screen reader says of the place of the focus.
+    static QString state()
+    {
+        const QString page = date().widget()->findChild<QLabel*>()->text();
+        if (QApplication::focusWidget() == &days())
+            return page + ": " + heard;
+        const auto* button = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+        return page + ": " + button->text(QAccessible::Name) + ", " + button->text(QAccessible::Description);
+    }
+
+    static QString numbers()
+    {
+        return QStringLiteral("%1/%2/%3").arg(date().Month()).arg(date().Day()).arg(date().Year());
     }
 };
 
 TEST_F(Calendar, DeliversADateByClickAndByEnterWithoutAQuestion)
 {
-    openCalendar([] {
-        EXPECT_EQ(frmStartup::CurrentScreen, 19);
+    EXPECT_EQ(after([] {
         clickDay(17);
         EXPECT_EQ(frmStartup::CurrentScreen, 10) << "before the asset screen is in front again";
-    });
-    expectGivenBackWith("1/17/2007");
-
-    openCalendar([] {
-        press(Qt::Key_Right);
-        press(Qt::Key_Return);
-    });
-    expectGivenBackWith("1/2/2007");
+    }),
+        "10 frmAddUpDel: cmbLoc, 1/17/2007");
+    EXPECT_EQ(after([] {
+        press(Qt::Key_PageDown);
+        clickDay(31); // the last days of January stand before February
+    }),
+        "10 frmAddUpDel: cmbLoc, 1/31/2007");
+    EXPECT_EQ(after([] { press(Qt::Key_Right), press(Qt::Key_Return); }), "10 frmAddUpDel: cmbLoc, 2/1/2007");
 }
 
-TEST_F(Calendar, AsksAtAnyOtherKeyAndAtTheCloseBoxAndStaysAtNo)
+TEST_F(Calendar, TakesTheDateAlongWithEveryTurnAndSaysIt)
 {
-    openCalendar([this] {
-        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Escape, Qt::Key_A, Qt::Key_Backspace}) {
-            expectBox(CloseQuestion, Question, Answer::No);
-            press(key);
-            expectOpen();
+    const std::pair<std::function<void()>, QString> moves[] = {
+        {[] { press(Qt::Key_PageDown); }, "February 2007: Wednesday, February 28, 2007"},
+        {[] { press(Qt::Key_PageDown); }, "March 2007: Wednesday, March 28, 2007"},
+        {[] { press(Qt::Key_PageUp, Qt::ControlModifier); }, "March 2006: Tuesday, March 28, 2006"},
+        {[] { press(Qt::Key_Down); }, "April 2006: Tuesday, April 4, 2006"},
+        {[] { press(Qt::Key_Home); }, "April 2006: Saturday, April 1, 2006"},
+        {[] { press(Qt::Key_Left); }, "March 2006: Friday, March 31, 2006"},
+        {[] { press(Qt::Key_Up); }, "March 2006: Friday, March 24, 2006"},
+        {[] { press(Qt::Key_End); }, "March 2006: Friday, March 31, 2006"},
+        {[] { hold(Qt::Key_Right, {}); }, "April 2006: Saturday, April 1, 2006"},
+        {[] { press(Qt::Key_PageUp); }, "March 2006: Wednesday, March 1, 2006"},
+        {[] { press(Qt::Key_PageDown, Qt::ControlModifier); }, "March 2007: Thursday, March 1, 2007"},
+        {[] { wheel(-60), wheel(-60); }, "April 2007: Sunday, April 1, 2007"},
+        {[] { wheel(120); }, "March 2007: Thursday, March 1, 2007"},
+        {[] { clickTurner("Next year"); }, "March 2008: Saturday, March 1, 2008"},
+        {[] { clickTurner("Previous month"); }, "February 2008: Friday, February 1, 2008"},
+        {[] { tab(); }, "February 2008: Previous year, Friday, February 1, 2008"},
+        {[] { press(Qt::Key_Space); }, "February 2007: Previous year, Thursday, February 1, 2007"},
+        {[] { tab(), tab(); }, "February 2007: Next month, Thursday, February 1, 2007"},
+        {[] { press(Qt::Key_Return); }, "March 2007: Next month, Thursday, March 1, 2007"},
+        {[] { press(Qt::Key_Right); }, "March 2007: Next month, Friday, March 2, 2007"},
+        {[] { tab(), tab(), press(Qt::Key_Right); }, "March 2007: Saturday, March 3, 2007"},
+        {[] { backTab(); }, "March 2007: Next year, Saturday, March 3, 2007"},
+        {[] { tab(), press(Qt::Key_Left); }, "March 2007: Friday, March 2, 2007"},
+    };
+    const QString taken = after([&moves] {
+        for (const auto& [move, after] : moves) {
+            move();
+            EXPECT_EQ(state(), after);
         }
-        expectBox(CloseQuestion, Question, Answer::No);
-        closeBox(calendar());
-        expectOpen();
+        EXPECT_EQ(days().accessibleName(), "Days of March 2007");
+        press(Qt::Key_Return);
+    });
+    EXPECT_EQ(taken, "10 frmAddUpDel: cmbLoc, 3/2/2007");
+}
+
+TEST_F(Calendar, TakesItsNumbersInAnyOrderAndStaysWithinItsYears)
+{
+    date().setValue(values::Date::fromDayMonthYear(1, 2, 2007));
+    date().setDay(31);
+    EXPECT_EQ(numbers(), "2/28/2007");
+    date().setMonth(3);
+    EXPECT_EQ(numbers(), "3/31/2007");
+    date().setMonth(13);
+    date().setYear(10000);
+    EXPECT_EQ(numbers(), "0/31/0");
+    after([] {
+        date().setValue(values::Date::fromDayMonthYear(31, 12, 9999));
+        press(Qt::Key_Right);
+        press(Qt::Key_PageDown);
+        EXPECT_EQ(numbers(), "12/31/9999");
+        date().setValue(values::Date::fromDayMonthYear(1, 1, 100));
+        press(Qt::Key_Left);
+        press(Qt::Key_PageUp, Qt::ControlModifier);
+        EXPECT_EQ(numbers(), "1/1/100");
         press(Qt::Key_Return);
     });
 }
 
-TEST_F(Calendar, LeavesWithoutADateAtYes)
+TEST_F(Calendar, OffersTodayWhereTheDateIsIncomplete)
 {
-    expectBox(CloseQuestion, Question, Answer::Yes);
-    openCalendar([] { press(Qt::Key_Space); });
-    expectGivenBackWith("5/6/2007");
+    const QString taken = after([this] {
+        for (const auto& takeAway :
+            {&forms::MonthCalendar::setDay, &forms::MonthCalendar::setMonth, &forms::MonthCalendar::setYear}) {
+            date().setValue(values::Date::fromDayMonthYear(31, 1, 2007));
+            (date().*takeAway)(0);
+            EXPECT_FALSE(days().currentIndex().isValid());
+            expectToStay(TodayQuestion, [] { press(Qt::Key_Return); });
+        }
+        date().setDay(0);
+        date().setYear(2007);
+        press(Qt::Key_PageDown);
+        EXPECT_EQ(numbers(), "2/0/2007") << "a turn chooses no day";
+        expectBox(TodayQuestion, Question, Answer::Yes);
+        expectToStay(CloseQuestion, [] { press(Qt::Key_Space); });
+        EXPECT_EQ(state(), "November 2026: Tuesday, November 24, 2026");
+        date().setDay(0);
+        press(Qt::Key_Right);
+        EXPECT_EQ(numbers(), "11/1/2026") << "the first step chooses a day to start from";
+        date().setDay(0);
+        expectBox(TodayQuestion, Question, Answer::Yes);
+        press(Qt::Key_Return);
+    });
+    EXPECT_EQ(taken, "10 frmAddUpDel: cmbLoc, 11/24/2026");
+}
 
-    expectBox(CloseQuestion, Question, Answer::Yes);
-    openCalendar([] { closeBox(calendar()); });
-    expectGivenBackWith("5/6/2007");
+TEST_F(Calendar, AsksAtAnyOtherKeyAndAtTheCloseBox)
+{
+    after([this] {
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Escape, Qt::Key_A, Qt::Key_Backspace, Qt::Key_2})
+            expectToStay(CloseQuestion, [key] { press(key); });
+        for (const Qt::Key silent : {Qt::Key_Delete, Qt::Key_F5, Qt::Key_Shift})
+            press(silent);
+        hold(Qt::Key_Space, " "); // still down from before
+        expectToStay(CloseQuestion, [] { closeBox(screen<frmCalendar>()); });
+        press(Qt::Key_Return);
+    });
+    for (const std::function<void()>& leave : {std::function<void()>([] { press(Qt::Key_Space); }),
+             std::function<void()>([] { closeBox(screen<frmCalendar>()); })}) {
+        expectBox(CloseQuestion, Question, Answer::Yes);
+        EXPECT_EQ(after(leave), "10 frmAddUpDel: cmbLoc, 5/6/2007");
+    }
 }
 
 } // namespace

@@ -185,14 +185,14 @@ open_list_window() {
 
 open_list() { [ -n "$(open_list_window)" ]; }
 
-# click_day DAY MONTH YEAR: in the calendar, which shows that month; its first row has the names of the days.
+# click_day DAY MONTH YEAR: in the calendar, which shows that month in six weeks from Sunday on.
 click_day() {
     local column row first
     first=$(date -d "$3-$2-1" +%w)
     column=$(((first + $1 - 1) % 7))
-    row=$(((first + $1 - 1) / 7 + 1 + (first == 0)))
+    row=$(((first + $1 - 1) / 7))
     find frmCalendar days
-    click_at $((X + W * (2 * column + 1) / 14)) $((Y + H * (2 * row + 1) / 14))
+    click_at $((X + W * (2 * column + 1) / 14)) $((Y + H * (2 * row + 1) / 12))
 }
 
 # ---- the second program

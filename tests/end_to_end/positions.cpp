@@ -8,6 +8,7 @@
 #include "household/frmGenInfo.h"
 
 #include <QApplication>
+#include <QTableView>
 #include <QWidget>
 
 #include <cstdio>
@@ -33,9 +34,8 @@ void printScreen()
     print(form.name(), ".", form.window()->rect());
     for (const forms::Control* control : form.controls())
         print(form.name(), control->name(), placeOf(*control->widget()));
-    // The days of a calendar lie in a table below its navigation bar.
-    for (const auto* days : form.window()->findChildren<QWidget*>("qt_calendar_calendarview"))
-        print(form.name(), "days", placeOf(*days));
+    for (const auto* days : form.window()->findChildren<QTableView*>("days")) // of a calendar
+        print(form.name(), "days", placeOf(*days->viewport()));
     form.hide();
 }
 

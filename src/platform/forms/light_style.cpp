@@ -93,22 +93,6 @@ QPixmap draw(const Sign& sign, int size, qreal ratio)
     return pixmap;
 }
 
-// A page turner of the calendar.
-QPixmap drawArrow(bool left, int size, qreal ratio)
-{
-    QPixmap pixmap(QSize(size, size) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colours().field, size / 8.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const qreal tip = left ? 0.36 : 0.64;
-    const QPointF points[] = {
-        {(1 - tip) * size, 0.22 * size}, {tip * size, 0.5 * size}, {(1 - tip) * size, 0.78 * size}};
-    painter.drawPolyline(points, 3);
-    return pixmap;
-}
-
 } // namespace
 
 LightStyle::LightStyle()
@@ -158,8 +142,6 @@ QSize LightStyle::sizeFromContents(
 QPixmap LightStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* option, const QWidget* widget) const
 {
     const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
-    if (pixmap == SP_ArrowLeft || pixmap == SP_ArrowRight)
-        return drawArrow(pixmap == SP_ArrowLeft, grid(2), ratio);
     if (const Sign* sign = signOf(pixmap))
         return draw(*sign, proxy()->pixelMetric(PM_MessageBoxIconSize, option, widget), ratio);
     return QProxyStyle::standardPixmap(pixmap, option, widget);
@@ -167,7 +149,7 @@ QPixmap LightStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* op
 
 QIcon LightStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
-    if (icon == SP_ArrowLeft || icon == SP_ArrowRight || signOf(icon))
+    if (signOf(icon))
         return QIcon(standardPixmap(icon, option, widget));
     return QProxyStyle::standardIcon(icon, option, widget);
 }

@@ -3,203 +3,121 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
-#include "platform/forms/keyboard.h"
-#include "platform/forms/look.h"
+#include "platform/forms/month_page.h"
 
-#include <QAbstractItemView>
-#include <QCalendarWidget>
-#include <QKeyEvent>
-#include <QLocale>
-#include <QPainter>
-#include <QTextCharFormat>
+#include <QDate>
+
+#include <algorithm>
 
 namespace forms {
 
-/// The toolkit's calendar, which always has a date, with today marked and with the state in which none is chosen.
-class CalendarWidget : public QCalendarWidget {
-public:
-    CalendarWidget(QWidget* parent, MonthCalendar& calendar)
-        : QCalendarWidget(parent)
-        , calendar_(calendar)
-    {
-        setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-        setFirstDayOfWeek(Qt::Sunday);
-        setVerticalHeaderFormat(NoVerticalHeader);
-        setHorizontalHeaderFormat(ShortDayNames);
-        setDateEditEnabled(false); // digits are keys of the handlers
-        dressWeekDays();
-        days_ = findChild<QAbstractItemView*>(QStringLiteral("qt_calendar_calendarview"));
-        days_->installEventFilter(this);
-        QObject::connect(this, &QCalendarWidget::clicked, this, [this](QDate date) {
-            if (!insideToolkitCall())
-                fromToolkit([this, date] { calendar_.clicked(date.year(), date.month(), date.day()); });
-        });
-        QObject::connect(this, &QCalendarWidget::selectionChanged, this, [this] {
-            const QDate date = selectedDate();
-            if (!insideToolkitCall())
-                calendar_.moved(date.year(), date.month(), date.day());
-        });
-    }
+namespace {
 
-    void showDate(const QDate& date)
-    {
-        const ToolkitCall call;
-        setSelectedDate(date);
-        setCurrentPage(date.year(), date.month());
-        updateCells();
-    }
+constexpr int firstYear = 100;
+constexpr int lastYear = 9999;
 
-    void showPage(int year, int month)
-    {
-        const ToolkitCall call;
-        setCurrentPage(year, month);
-        updateCells();
-    }
+bool isInRange(const QDate& date)
+{
+    return date.year() >= firstYear && date.year() <= lastYear;
+}
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (watched != days_ || event->type() != QEvent::KeyPress)
-            return QCalendarWidget::eventFilter(watched, event);
-        bool used = false;
-        auto* stroke = static_cast<QKeyEvent*>(event);
-        fromToolkit([this, stroke, &used] { used = handleKey(*stroke); });
-        return used || QCalendarWidget::eventFilter(watched, event);
-    }
+int ifWithin(int number, int first, int last)
+{
+    return number >= first && number <= last ? number : 0;
+}
 
-    void paintCell(QPainter* painter, const QRect& cell, QDate date) const override
-    {
-        const look::Colours& colours = look::colours();
-        const bool chosen = calendar_.isComplete() && date == selectedDate();
-        const bool otherMonth = date.month() != monthShown();
-        painter->save();
-        painter->fillRect(cell, colours.field); // over the table's own mark of the selected cell
-        painter->setRenderHint(QPainter::Antialiasing);
-        const QRectF mark = QRectF(cell).adjusted(3, 3, -3, -3);
-        if (chosen) {
-            painter->setPen(Qt::NoPen);
-            painter->setBrush(colours.accent);
-            painter->drawRoundedRect(mark, 5, 5);
-        }
-        if (date == today()) {
-            painter->setBrush(Qt::NoBrush);
-            painter->setPen(QPen(chosen ? colours.ground : colours.accent, 1.6));
-            painter->drawRoundedRect(mark, 5, 5);
-        }
-        painter->setPen(chosen ? colours.field : otherMonth ? colours.line : colours.text);
-        painter->drawText(cell, Qt::AlignCenter, QString::number(date.day()));
-        painter->restore();
-    }
-
-private:
-    static QDate today()
-    {
-        const values::Date date = values::Today();
-        return {date.year(), date.month(), date.day()};
-    }
-
-    void dressWeekDays()
-    {
-        QTextCharFormat format;
-        format.setForeground(look::colours().quiet);
-        format.setBackground(look::colours().field);
-        setHeaderTextFormat(format);
-        for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
-            setWeekdayTextFormat(static_cast<Qt::DayOfWeek>(day), {});
-    }
-
-    bool handleKey(QKeyEvent& event)
-    {
-        if (Keyboard::down(calendar_, event))
-            return true;
-        switch (event.key()) {
-        case Qt::Key_Left:
-        case Qt::Key_Right:
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_Home:
-        case Qt::Key_End:
-            return false;
-        case Qt::Key_PageUp:
-        case Qt::Key_PageDown:
-            turnPage(event.key() == Qt::Key_PageDown ? 1 : -1, event.modifiers() & Qt::ControlModifier);
-            return true;
-        default:
-            Keyboard::pressText(calendar_, event);
-            return true;
-        }
-    }
-
-    void turnPage(int step, bool years)
-    {
-        const QDate from = selectedDate();
-        const QDate to = years ? from.addYears(step) : from.addMonths(step);
-        showDate(to);
-        const QDate shown = selectedDate(); // the toolkit has a first and a last date
-        calendar_.moved(shown.year(), shown.month(), shown.day());
-    }
-
-    MonthCalendar& calendar_;
-    QAbstractItemView* days_;
-};
+} // namespace
 
 MonthCalendar::MonthCalendar(Form& form, const QString& name)
     : Control(form, name)
-    , calendar_(nullptr)
+    , page_(nullptr)
 {
     const ToolkitCall call;
-    calendar_ = new CalendarWidget(form.canvas(), *this);
-    adopt(calendar_);
+    page_ = new MonthPage(form.canvas(), *this);
+    adopt(page_);
+    page_->refresh();
+}
+
+int MonthCalendar::Day() const
+{
+    return isComplete() ? chosen().day() : day_;
 }
 
 void MonthCalendar::setDay(int day)
 {
-    day_ = day;
-    showChosen();
+    day_ = ifWithin(day, 1, 31);
+    page_->refresh();
 }
 
 void MonthCalendar::setMonth(int month)
 {
-    month_ = month;
-    showChosen();
+    month_ = ifWithin(month, 1, 12);
+    page_->refresh();
 }
 
 void MonthCalendar::setYear(int year)
 {
-    year_ = year;
-    showChosen();
+    year_ = ifWithin(year, firstYear, lastYear);
+    page_->refresh();
 }
 
 void MonthCalendar::setValue(const values::Date& date)
 {
-    moved(date.year(), date.month(), date.day());
-    showChosen();
+    moveTo({date.year(), date.month(), date.day()});
 }
 
-void MonthCalendar::showChosen()
+QDate MonthCalendar::today()
 {
-    if (!isComplete()) {
-        if (year_ != 0 && month_ != 0)
-            calendar_->showPage(year_, month_);
-        calendar_->update();
+    const values::Date date = values::Today();
+    return {date.year(), date.month(), date.day()};
+}
+
+// The first day of the month on show, which is today's as far as none has been chosen.
+QDate MonthCalendar::page() const
+{
+    return {year_ != 0 ? year_ : today().year(), month_ != 0 ? month_ : today().month(), 1};
+}
+
+// Not valid while the date is incomplete.
+QDate MonthCalendar::chosen() const
+{
+    return isComplete() ? page().addDays(std::min(day_, page().daysInMonth()) - 1) : QDate();
+}
+
+// The day stays, so far as the month has it, or stays out.
+void MonthCalendar::turn(int months)
+{
+    const QDate to = page().addMonths(months);
+    if (months == 0 || !isInRange(to))
         return;
-    }
-    const int last = QDate(year_, month_, 1).daysInMonth();
-    day_ = last > 0 && day_ > last ? last : day_;
-    calendar_->showDate(QDate(year_, month_, day_));
+    day_ = Day();
+    month_ = to.month();
+    year_ = to.year();
+    day_ = Day();
+    page_->refresh();
 }
 
-void MonthCalendar::moved(int year, int month, int day)
+// The first step in an incomplete date chooses a day to start from.
+void MonthCalendar::step(int days)
 {
-    year_ = year;
-    month_ = month;
-    day_ = day;
+    moveTo(isComplete() ? chosen().addDays(days) : page());
 }
 
-void MonthCalendar::clicked(int year, int month, int day)
+bool MonthCalendar::moveTo(const QDate& date)
 {
-    moved(year, month, day);
-    Click.fire();
+    if (!isInRange(date))
+        return false;
+    day_ = date.day();
+    month_ = date.month();
+    year_ = date.year();
+    page_->refresh();
+    return true;
+}
+
+void MonthCalendar::pick(const QDate& date)
+{
+    if (moveTo(date))
+        Click.fire();
 }
 
 } // namespace forms

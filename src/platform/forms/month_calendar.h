@@ -4,22 +4,26 @@
 #include "platform/forms/control.h"
 #include "platform/values/date.h"
 
+class QDate;
+
 namespace forms {
 
-class CalendarWidget;
+class MonthPage;
 
-/// A month in which a day is picked. Click fires when the user picks a day by mouse; arrow and page keys move, and
-/// every other key goes to KeyDown and KeyPress. The date may be incomplete: then day, month or year reads 0 and no day
-/// is marked.
+/// A month in which a day is picked. Click fires when the user picks a day by mouse. Arrow keys, Home and End move the
+/// day; page keys, the wheel and buttons turn months, with Ctrl and buttons of their own years, and take the date
+/// along. Every other key but Tab goes to KeyDown and KeyPress. The date may be incomplete: then day, month or year
+/// reads 0 and no day is marked.
 class MonthCalendar : public Control {
 public:
     MonthCalendar(Form& form, const QString& name);
 
-    int Day() const { return day_; }
+    int Day() const;
     int Month() const { return month_; }
     int Year() const { return year_; }
 
-    /// Each takes 0 for "not chosen". A day past the end of the month becomes its last day once the date is complete.
+    /// Each takes 0 for "not chosen", in any order; a number that no calendar has counts as 0. A day past the end of
+    /// the month reads as its last day once the date is complete.
     void setDay(int day);
     void setMonth(int month);
     void setYear(int year);
@@ -30,13 +34,18 @@ public:
     bool isComplete() const { return day_ != 0 && month_ != 0 && year_ != 0; }
 
 private:
-    friend class CalendarWidget;
+    friend class DayPainter;
+    friend class MonthPage;
 
-    void showChosen();
-    void moved(int year, int month, int day);
-    void clicked(int year, int month, int day);
+    static QDate today();
+    QDate page() const;
+    QDate chosen() const;
+    void turn(int months);
+    void step(int days);
+    bool moveTo(const QDate& date);
+    void pick(const QDate& date);
 
-    CalendarWidget* calendar_;
+    MonthPage* page_;
     int day_ = 0;
     int month_ = 0;
     int year_ = 0;
