@@ -8,30 +8,14 @@ namespace {
 
 class AssetModes : public AssetScreenTest {
 protected:
-    static void expectMode(bool adding)
+    // While adding, with nothing entered.
+    static QString empty(const QString& area, const QString& receipt)
     {
-        const std::pair<const forms::Control&, bool> controls[] = {{asset().cmdAdd, true}, {asset().cmdClear, true},
-            {asset().chkWar, true}, {asset().chkClear, true}, {asset().cmbArea, false}, {asset().cmdUpdate, false},
-            {asset().cmdDelete, false}, {asset().cmdWarranty, false}, {asset().cmdPrint, false}};
-        for (const auto& [control, whileAdding] : controls)
-            EXPECT_EQ(control.isEnabled(), whileAdding == adding) << qPrintable(control.name());
-        EXPECT_EQ(asset().defaultButton(), adding ? &asset().cmdAdd : &asset().cmdUpdate);
-    }
-
-    static void expectNothingEntered()
-    {
-        EXPECT_EQ(asset().cmbLoc.text(), "");
-        EXPECT_EQ(asset().cmbCat.text(), "");
-        EXPECT_EQ(asset().cmbType.text(), "");
-        EXPECT_EQ(asset().cmbType.listCount(), 0);
-        EXPECT_EQ(asset().cmbYear.text(), "2026");
-        for (const forms::TextBox* box : {&asset().txtMake, &asset().txtMod, &asset().txtSerial})
-            EXPECT_EQ(box->text(), "Unknown");
-        EXPECT_EQ(asset().txtPur.text(), "mm/dd/yyyy");
-        EXPECT_EQ(asset().txtPPrice.text(), "");
-        EXPECT_TRUE(asset().optPurNewUsed[0].value());
-        EXPECT_EQ(asset().txtLoc.text(), "None");
-        EXPECT_EQ(asset().txtDescription.text(), "None");
+        return "cmbArea=" + area
+            + " off, cmbLoc=, cmbCat=, cmbType=, cmbYear=2026, txtMake=Unknown, txtMod=Unknown, txtSerial=Unknown, "
+              "optPurNewUsed(0) on, txtPur=mm/dd/yyyy, txtPPrice=, "
+            + receipt + ", txtDescription=None, chkClear on, cmdWarranty off, cmdUpdate off, "
+            + "cmdDelete off, cmdPrint off";
     }
 
     static QString setting(General::Column column) { return Data1.rsGeneral.Fields(column).text(); }
@@ -43,21 +27,22 @@ TEST_F(AssetModes, AddsInTheAreaThatTheMenuNames)
         const char* area;
         const char* heading;
         const char* location;
+        int help;
     } areas[] = {
-        {"Indoor", "Add Indoor Asset To Inventory", "Library"},
-        {"Outdoor", "Add Outdoor Asset To Inventory", "Barn"},
-        {"Mobile", "Add Mobile Asset To Inventory", "Car"},
+        {"Indoor", "Add Indoor Asset To Inventory", "Library", 12001},
+        {"Outdoor", "Add Outdoor Asset To Inventory", "Barn", 13001},
+        {"Mobile", "Add Mobile Asset To Inventory", "Car", 14001},
     };
-    for (const auto& [area, heading, location] : areas) {
+    for (const auto& [area, heading, location, help] : areas) {
         openToAdd(area);
+        EXPECT_EQ(scene(), "10 frmAddUpDel: cmbLoc");
+        EXPECT_EQ(contents(asset()), empty(area, "optRecOnFile(1) on, txtLoc=None locked"));
         EXPECT_EQ(asset().lblHead.caption(), heading);
-        EXPECT_EQ(asset().cmbArea.text(), area);
-        EXPECT_EQ(asset().activeControl(), &asset().cmbLoc);
         EXPECT_TRUE(items(asset().cmbLoc).contains(location)) << area;
-        expectMode(true);
-        expectNothingEntered();
-        EXPECT_TRUE(asset().optRecOnFile[1].value());
-        EXPECT_TRUE(asset().txtLoc.isLocked());
+        EXPECT_EQ(asset().cmbType.listCount(), 0);
+        EXPECT_EQ(asset().defaultButton(), &asset().cmdAdd);
+        press(Qt::Key_F1);
+        EXPECT_EQ(openedHelp(), help);
         leaveToMainMenu();
     }
 }
@@ -75,19 +60,27 @@ TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
     openToAdd("Indoor");
     leaveToMainMenu();
     openFound(stored(Inventory::ID));
-    expectMode(false);
+    EXPECT_EQ(scene(), "10 frmAddUpDel: cmbArea");
+    EXPECT_EQ(contents(asset()),
+        "cmbArea=Outdoor, cmbLoc=Barn, cmbCat=Animal Care, cmbType=Dog House, cmbYear=2026, "
+        "txtMake=Acme, txtMod=Unknown, txtSerial=Unknown, optPurNewUsed(1) on, "
+        "txtPur=11/24/2026, txtPPrice=$1,234.50, optRecOnFile(0) on, txtLoc=Desk locked, "
+        "txtDescription=None, chkWar off, chkClear on off, cmdAdd off, cmdClear off");
     EXPECT_EQ(asset().lblHead.caption(), "Update/Delete Asset From Inventory");
     EXPECT_EQ(screen<frmAuto>().lblHead1[0].caption(), "Outdoor Asset Management");
-    EXPECT_EQ(asset().activeControl(), &asset().cmbArea);
-    const std::pair<const forms::TextEntry&, const char*> fields[] = {{asset().cmbArea, "Outdoor"},
-        {asset().cmbLoc, "Barn"}, {asset().cmbCat, "Animal Care"}, {asset().cmbType, "Dog House"},
-        {asset().txtMake, "Acme"}, {asset().txtPur, "11/24/2026"}, {asset().txtPPrice, "$1,234.50"},
-        {asset().txtLoc, "Desk"}, {asset().txtDescription, "None"}};
-    for (const auto& [field, text] : fields)
-        EXPECT_EQ(field.text(), text) << qPrintable(field.name());
-    EXPECT_TRUE(asset().optRecOnFile[0].value());
-    EXPECT_TRUE(asset().optPurNewUsed[1].value());
-    EXPECT_TRUE(asset().txtLoc.isLocked()); // the option was set by code
+    EXPECT_EQ(asset().defaultButton(), &asset().cmdUpdate);
+    press(Qt::Key_F1);
+    EXPECT_EQ(openedHelp(), 15001);
+
+    // Another area has other names; the asset's category keeps its items.
+    asset().cmbArea.setFocus();
+    pick(asset().cmbArea, "Mobile");
+    EXPECT_TRUE(items(asset().cmbLoc).contains("Car") && !items(asset().cmbLoc).contains("Barn"));
+    pick(asset().cmbCat, "Aircraft");
+    EXPECT_EQ(asset().cmbType.text(), "Dog House");
+    asset().hide();
+    openToAdd("Mobile"); // from the menu an asset is added again
+    EXPECT_EQ(asset().lblHead.caption(), "Add Mobile Asset To Inventory");
 }
 
 TEST_F(AssetModes, RemembersBothBoxesAtOnceAndAcrossRuns)
@@ -121,11 +114,11 @@ TEST_F(AssetModes, AsksBeforeItLeaves)
     EXPECT_EQ(asset().cmbLoc.text(), "Library");
 
     ask([] { click(asset().cmdMain); }, Answer::Yes);
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
+    EXPECT_EQ(scene(), "2 frmMain: cmdIn");
     EXPECT_EQ(asset().cmbLoc.text(), "Library"); // the lists stay
     openToAdd();
-    ask([] { click(asset().cmdCancel); }, Answer::Yes);
-    EXPECT_EQ(forms::activeForm(), &screen<frmAuto>());
+    ask([] { closeBox(asset()); }, Answer::Yes);
+    EXPECT_EQ(scene(), "13 frmAuto: cmdAdd(0)");
     EXPECT_EQ(asset().cmbLoc.listCount(), 0);
 }
 
@@ -139,11 +132,10 @@ TEST_F(AssetModes, ClearEmptiesTheFormAndLeavesNoReceiptOptionChosen)
     type("Desk");
     expectBox(LeaveQuestion, Question, Answer::Yes);
     click(asset().cmdClear);
-    expectNothingEntered();
-    EXPECT_FALSE(asset().optRecOnFile[0].value());
-    EXPECT_FALSE(asset().optRecOnFile[1].value());
-    EXPECT_FALSE(asset().txtLoc.isLocked());
-    EXPECT_EQ(asset().activeControl(), &asset().cmbLoc);
+    EXPECT_EQ(contents(asset()), empty("Indoor", "txtLoc=None"));
+    EXPECT_EQ(editor().SavedCategory, "");
+    EXPECT_EQ(asset().cmbType.listCount(), 0);
+    EXPECT_EQ(scene(), "10 frmAddUpDel: cmbLoc");
 
     fillIn();
     save();

@@ -5,6 +5,9 @@
 #include <QHBoxLayout>
 #include <QWidget>
 
+#include <algorithm>
+#include <functional>
+
 using namespace user;
 
 namespace {
@@ -61,6 +64,15 @@ protected:
         return amount().text();
     }
 
+    // Brings the focus to a text with the caret at a place.
+    static void come(const QString& text, int caret)
+    {
+        till().before.setFocus();
+        amount().setText(text);
+        select(std::min(caret, static_cast<int>(text.size())), 0);
+        amount().setFocus();
+    }
+
     static void select(int start, int length)
     {
         amount().setSelectionStart(start);
@@ -68,90 +80,65 @@ protected:
     }
 };
 
-TEST_F(MoneyFieldTest, GrowsTheDollarSignAndKeepsTheCaretBehindWhatIsTyped)
+TEST_F(MoneyFieldTest, GrowsTheDollarSignAndTakesDigitsAndOnePoint)
 {
-    EXPECT_EQ(typed("5"), "$5");
-    EXPECT_EQ(amount().selectionStart(), 2);
-    type(".25");
-    EXPECT_EQ(amount().text(), "$5.25");
-    type("9");
-    EXPECT_EQ(amount().text(), "$5.25");
-
-    EXPECT_EQ(typed("$1a b,2-3\n"), "$123");
-    EXPECT_EQ(typed("1/2"), "$1/2");
-    EXPECT_EQ(typed("1..5."), "$1.5");
+    const std::pair<const char*, const char*> entries[] = {{"5", "$5"}, {"5.25", "$5.25"}, {"5.259", "$5.25"},
+        {"$1a b,2-3\n", "$123"}, {"1/2", "$1/2"}, {"1..5.", "$1.5"}};
+    for (const auto& [keys, text] : entries) {
+        EXPECT_EQ(typed(keys), text);
+        EXPECT_EQ(amount().selectionStart(), amount().text().size()) << "the caret stays behind what is typed";
+    }
     commit(QString::fromUtf8("٣é😀")); // no digit of its own
     EXPECT_EQ(amount().text(), "$1.5");
-}
 
-TEST_F(MoneyFieldTest, IsCompletedWhenItIsLeft)
-{
-    const std::pair<const char*, const char*> cases[] = {{"", "$.00"}, {"$.", "$.00"}, {"12", "$12.00"},
+    const std::pair<const char*, const char*> completed[] = {{"", "$.00"}, {"$.", "$.00"}, {"12", "$12.00"},
         {"$12.", "$12.00"}, {"$12.5", "$12.50"}, {".5", "$.50"}, {"$1/2", "$1/2.00"}, {"$1,234.50", "$1,234.50"},
-        {"$1.234", "$1.2340"}, {"($1.00)", "$($1.00).00"}};
-    for (const auto& [text, completed] : cases)
-        EXPECT_EQ(left(text), completed) << text;
+        {"$1.234", "$1.2340"}, {"$.45", "$.45"}, {"$12.x0", "$12.x00"}, {"$12.0x", "$12.0x.00"}, {"9", "$9.00"}};
+    for (const auto& [text, whole] : completed)
+        EXPECT_EQ(left(text), whole) << text;
 }
 
-TEST_F(MoneyFieldTest, SelectsAllBehindTheDollarSignSoThatTypingReplacesTheAmount)
+TEST_F(MoneyFieldTest, ReplacesWhatIsSelectedAndHoldsTwoDecimals)
 {
-    amount().setText("$1,234.50");
-    till().before.setFocus();
-    tab();
+    const auto home = [] { press(Qt::Key_Home); };
+    const auto selectAll = [] { press(Qt::Key_A, Qt::ControlModifier); };
+    constexpr int end = 99;
+    const struct {
+        const char* text;
+        int caret; // when the focus comes, which then selects all behind the sign
+        std::function<void()> first;
+        const char* keys;
+        const char* result;
+    } cases[] = {
+        {"$1,234.50", 0, [] {}, "7", "$7"},
+        {"$1,234.50", end, [] {}, "7", "$7"},
+        {"$12.34", end, [] { select(3, 0); }, "5", "$125.34"},
+        {"$125.34", end, [] { select(4, 0); }, "6", "$1256.34"},
+        {"$125.34", end, [] { select(5, 0); }, "6", "$125.34"},
+        {"$125.34", end, [] { select(5, 2); }, "6", "$125.6"},
+        {"$12.50", end, selectAll, "x", ""},
+        {"$12.50", end, selectAll, ".", "$12.50"}, // there is a point already
+        {"$12.50", end, selectAll, ".8", "$8"},
+        {"$12.00", 0, home, "7", "$12.00"}, // nothing before the sign
+        {"$12.00", end, home, "7", "7$12.00"}, // but the first key, where the caret stood elsewhere
+        {"$12.00", end, home, "x7", "$12.00"},
+        {"7$12.00", 0, home, "8", "87$12.00"}, // the sign is in front no longer
+        {"$", 0, home, "7", "7$"},
+        {"$5", 0, [&] { home(), press(Qt::Key_Delete); }, "", "$5"}, // a lone digit gets its sign back
+        {"$5.00", 0, [] { select(0, 2), press(Qt::Key_Delete); }, "", "$.00"},
+    };
+    for (const auto& [text, caret, first, keys, result] : cases) {
+        come(text, caret);
+        first();
+        type(keys);
+        EXPECT_EQ(amount().text(), result) << text << " and " << keys;
+    }
     EXPECT_EQ(amount().selectionStart(), 1);
-    EXPECT_EQ(amount().selectionLength(), 8);
-    type("7");
-    EXPECT_EQ(amount().text(), "$7");
-}
-
-TEST_F(MoneyFieldTest, HoldsTwoDecimalsAndStillTakesDigitsBeforeThePoint)
-{
-    typed("12.34");
-    select(3, 0);
-    type("5");
-    EXPECT_EQ(amount().text(), "$125.34");
-    select(5, 0);
-    type("6");
-    EXPECT_EQ(amount().text(), "$125.34");
-    select(5, 2);
-    type("6");
-    EXPECT_EQ(amount().text(), "$125.6");
-}
-
-TEST_F(MoneyFieldTest, IsEmptiedByAnyKeyButThePointWhenTheWholeTextIsSelected)
-{
-    typed("12.50");
-    press(Qt::Key_A, Qt::ControlModifier);
-    type("x");
-    EXPECT_EQ(amount().text(), "");
-
-    typed("12.50");
-    press(Qt::Key_A, Qt::ControlModifier);
-    type(".");
-    EXPECT_EQ(amount().text(), "$12.50"); // there is a point already
-    type("8");
-    EXPECT_EQ(amount().text(), "$8");
-}
-
-TEST_F(MoneyFieldTest, BackspaceAndDeleteAlwaysPass)
-{
-    typed("12.50");
+    come("$12.50", 0);
+    press(Qt::Key_End);
     for (int strokes = 0; strokes < 5; ++strokes)
-        press(Qt::Key_Backspace);
+        press(Qt::Key_Backspace); // always passes
     EXPECT_EQ(amount().text(), "$");
-    till().before.setFocus();
-    EXPECT_EQ(amount().text(), "$.00");
-
-    typed("5");
-    press(Qt::Key_Home);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(amount().text(), "$5"); // a lone digit gets its sign back
-
-    typed("5.00");
-    select(0, 2);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(amount().text(), "$.00");
-    EXPECT_EQ(amount().selectionStart(), 1);
 }
 
 TEST_F(MoneyFieldTest, TakesAPasteAsIfItWereTyped)

@@ -65,23 +65,11 @@ protected:
     }
 };
 
-TEST_F(Closing, AsksTheSameQuestionAtExitAndCloseBoxAndStaysAtNo)
-{
-    expectBox(CloseQuestion, 36, Answer::No);
-    click(screen<frmMain>().cmdLeave);
-    expectBox(CloseQuestion, 36, Answer::No);
-    closeBox(screen<frmMain>());
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
-    EXPECT_TRUE(Data1.Home.isOpen());
-    EXPECT_EQ(forms::detail::findScreen(typeid(frmProgress)), nullptr);
-}
-
 TEST_F(Closing, ShowsTheGoodbyeAndEndsTheProcessWithSuccess)
 {
     closeProgram();
-    ASSERT_EQ(forms::activeForm(), &screen<frmExit>());
-    EXPECT_FALSE(screen<frmMain>().isVisible());
-    EXPECT_FALSE(screen<frmProgress>().isVisible());
+    closeBox(screen<frmExit>()); // refuses
+    EXPECT_EQ(scene(), "2 frmExit");
     EXPECT_FALSE(Data1.Home.isOpen());
     EXPECT_FALSE(endStatus());
 
@@ -105,6 +93,9 @@ TEST_F(Closing, RemovesTheDeadRowsOfEachNameTableAndNoOthers)
         addName(*views[area], {"0", "0", "0"});
     }
     closeProgram();
+    const auto& bar = screen<frmProgress>().pbSave;
+    EXPECT_EQ(bar.value(), before[2] + 7) << "each table fills the bar anew";
+    EXPECT_EQ(bar.max(), bar.value());
     for (int area = 0; area < 3; ++area)
         EXPECT_EQ(rowsInBackup(tables[area]), before[area] + 5) << tables[area].toStdString();
 }

@@ -5,6 +5,7 @@
 #include "core/frmStartup.h"
 #include "core/places.h"
 #include "household/frmIntroduction.h"
+#include "reports/report_titles.h"
 #include "support/harness.h"
 
 #include <QFile>
@@ -18,14 +19,6 @@ constexpr int Exclamation = 48;
 constexpr int Information = 64;
 
 const char* const LoadFailure = "Unable To Load Database...Closing Program!";
-
-sys::Process process(const QString& name)
-{
-    sys::Process process;
-    process.pid = 1;
-    process.name = name;
-    return process;
-}
 
 // The program before its start: no view is open, no screen made.
 class StartUp : public ScreenTest {
@@ -55,9 +48,9 @@ protected:
 
     static void running(const QStringList& names)
     {
-        std::vector<sys::Process> processes;
-        for (const QString& name : names)
-            processes.push_back(process(name));
+        std::vector<sys::Process> processes(static_cast<std::size_t>(names.size()));
+        for (std::size_t at = 0; at < processes.size(); ++at)
+            processes[at].name = names[static_cast<int>(at)];
         frmStartup::list_Processes = [processes] { return processes; };
     }
 
@@ -88,14 +81,18 @@ protected:
         EXPECT_EQ(endStatus(), 1);
         EXPECT_EQ(databaseContents(), before) << "the file has been made or changed";
         EXPECT_EQ(forms::activeForm(), nullptr) << "a screen has been shown";
+        endRun();
     }
 };
 
 TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
 {
-    start();
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
-    EXPECT_EQ(frmStartup::CurrentScreen, 2);
+    screen<frmBW_Splash>().show();
+    closeBox(screen<frmBW_Splash>()); // refuses
+    EXPECT_EQ(scene(), "20 frmBW_Splash");
+    screen<frmBW_Splash>().tmrLoad.elapse();
+    EXPECT_EQ(scene(), "2 frmMain: cmdIn");
+    EXPECT_EQ(reportTitles().AssetReport, "Asset Report - Kestrill by Brindlewick Software");
     for (storage::TableView* view : {&Data1.rsGeneral, &Data1.rsIndoor, &Data1.rsOutdoor, &Data1.rsMobile})
         EXPECT_FALSE(view->atBOF() || view->atEOF());
     for (storage::TableView* view : {&Data1.rsBank, &Data1.rsInventory, &Data1.rsPrint})
@@ -109,8 +106,7 @@ TEST_F(StartUp, OfAFirstRunLeadsToTheIntroductionWithoutAnAlert)
         SCOPED_TRACE(introduced);
         store({{General::Introduced, introduced}});
         start();
-        EXPECT_EQ(forms::activeForm(), &screen<frmIntroduction>());
-        EXPECT_EQ(frmStartup::CurrentScreen, 17);
+        EXPECT_EQ(scene(), "17 frmIntroduction: cmdOK");
         endRun();
     }
 }
@@ -145,7 +141,7 @@ TEST_F(StartUp, SaysWhenThePolicyExpiresAndGoesOnToTheMenu)
         if (alert.text)
             expectBox(alert.text, Information, forms::Answer::OK);
         start();
-        EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
+        EXPECT_EQ(scene(), "2 frmMain: cmdIn");
         endRun();
     }
 }
@@ -154,7 +150,7 @@ TEST_F(StartUp, RefusesToRunBesideAnotherInstanceWhoseNameHoldsThePhraseInThisCa
 {
     running({"Kestrill", "kestrill", "KESTRILL", "kestrel"});
     start();
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
+    EXPECT_EQ(scene(), "2 frmMain: cmdIn");
 
     endRun();
     QFile::remove(places::databaseFile());
@@ -162,27 +158,20 @@ TEST_F(StartUp, RefusesToRunBesideAnotherInstanceWhoseNameHoldsThePhraseInThisCa
     expectRefusal("Kestrill Is Already Running!", Exclamation);
 }
 
-TEST_F(StartUp, BlamesTheDatabaseForAFileThatIsNoneAndForAMissingOne)
-{
-    QFile file(places::databaseFile());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    file.write(QByteArray(4096, 'x'));
-    file.close();
-    expectRefusal(LoadFailure, Stop);
-
-    endRun();
-    file.remove();
-    expectRefusal(LoadFailure, Stop);
-}
-
-TEST_F(StartUp, BlamesTheDatabaseForAnExpirationThatIsNoDateOrTooFarAway)
+TEST_F(StartUp, BlamesTheDatabaseForADateThatIsNoneOrTooFarAwayAFileThatIsNoneAndAMissingOne)
 {
     for (const char* expiration : {"None", "", "2/30/2027", "1/1/2200"}) {
         SCOPED_TRACE(expiration);
         storePolicy("Yes", expiration);
         expectRefusal(LoadFailure, Stop);
-        endRun();
     }
+    QFile file(places::databaseFile());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.write(QByteArray(4096, 'x'));
+    file.close();
+    expectRefusal(LoadFailure, Stop);
+    file.remove();
+    expectRefusal(LoadFailure, Stop);
 }
 
 } // namespace

@@ -49,11 +49,6 @@ inline QString focused()
     return control ? control->name() : QString();
 }
 
-inline bool isWhollySelected(const forms::TextEntry& box)
-{
-    return box.selectionStart() == 0 && box.selectionLength() == box.text().length();
-}
-
 inline void pasteInto(forms::TextEntry& box, const QString& text)
 {
     click(box);

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/frmExit.h"
 #include "household/household.h"
 #include "platform/storage/statement.h"
 
@@ -21,7 +20,7 @@ protected:
     static void save(frmGenInfo& personal)
     {
         click(personal.cmdContinue[0]);
-        EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
+        EXPECT_EQ(scene(), "2 frmMain: cmdPersonal");
     }
 };
 
@@ -85,40 +84,35 @@ TEST_F(PersonalRecord, StaysUntouchedByCancelWhichAsksFirst)
     type(personal.txtInfo[4], "Bangor");
     expectBox(cancelQuestion, yesNoQuestion, Answer::No);
     click(personal.cmdBack[0]);
-    EXPECT_EQ(forms::activeForm(), &personal);
+    EXPECT_EQ(scene(), "1 frmGenInfo: cmdBack(0)");
     EXPECT_EQ(personal.txtInfo[4].text(), "Bangor");
 
     expectBox(cancelQuestion, yesNoQuestion, Answer::Yes);
     click(personal.cmdBack[0]);
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
+    EXPECT_EQ(scene(), "2 frmMain: cmdPersonal");
     EXPECT_EQ(stored(), before);
     openFromMenu();
     EXPECT_EQ(personal.txtInfo[4].text(), "");
 }
 
-class ClosingPersonal : public PersonalRecord, public testing::WithParamInterface<bool> {
-protected:
-    static void leave(frmGenInfo& personal) { GetParam() ? click(personal.cmdExit) : closeBox(personal); }
-};
-
-TEST_P(ClosingPersonal, SavesOnYesOnly)
+TEST_F(PersonalRecord, IsSavedByAnEndOfTheProgramOnYesOnly)
 {
     const auto before = stored();
     auto& personal = openFromMenu();
     type(personal.txtInfo[4], "Bangor");
     expectBox(closeQuestion, yesNoQuestion, Answer::No);
-    leave(personal);
-    EXPECT_EQ(forms::activeForm(), &personal);
+    closeBox(personal);
+    expectBox(closeQuestion, yesNoQuestion, Answer::No);
+    click(personal.cmdExit);
+    EXPECT_EQ(scene(), "1 frmGenInfo: cmdExit");
     EXPECT_EQ(stored(), before);
 
     expectBox(closeQuestion, yesNoQuestion, Answer::Yes);
-    leave(personal);
-    EXPECT_EQ(forms::activeForm(), &screen<frmExit>());
+    closeBox(personal);
+    EXPECT_EQ(scene(), "1 frmExit");
     Data1.rsGeneral.Open();
     EXPECT_EQ(stored().at(General::City), "Bangor");
 }
-
-INSTANTIATE_TEST_SUITE_P(ByTheButtonOrNot, ClosingPersonal, testing::Bool());
 
 TEST_F(PersonalRecord, StaysWholeWhenItCannotBeWritten)
 {

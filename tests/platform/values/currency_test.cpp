@@ -42,7 +42,7 @@ TEST(Currency, ShowsDollarsCommasAndCentsWithHalvesAwayFromZero)
 {
     const std::pair<qint64, const char*> cases[] = {{9990000, "$999.00"}, {-12345000, "($1,234.50)"},
         {10000000500, "$1,000,000.05"}, {most, "$922,337,203,685,477.58"}, {least, "($922,337,203,685,477.58)"},
-        {50, "$0.01"}, {49, "$0.00"}, {-49, "$0.00"}, {-150, "($0.02)"}, {9999950, "$1,000.00"}};
+        {50, "$0.01"}, {49, "$0.00"}, {-49, "$0.00"}, {-100, "($0.01)"}, {-150, "($0.02)"}, {9999950, "$1,000.00"}};
     for (const auto& [count, text] : cases) {
         EXPECT_EQ(Currency::fromTenThousandths(count).toText(), text) << count;
     }

@@ -3,6 +3,11 @@
 
 #include "platform/values/failure.h"
 
+#include <QLocale>
+
+/// Another decimal point and another capital i: the tests of values hold wherever the machine stands.
+inline const bool standsElsewhere = (QLocale::setDefault(QLocale("tr_TR")), true);
+
 /// The first words of the failure that `operation` ends in, as "Overflow"; empty where it succeeds.
 template <typename Operation>
 QString failureOf(Operation operation)

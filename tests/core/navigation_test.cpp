@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "assets/frmAddUpDel.h"
+#include "assets/frmAuto.h"
+#include "core/frmMain.h"
+#include "core/frmStartup.h"
+#include "household/frmGenInfo.h"
+#include "household/frmIntroduction.h"
+#include "household/frmKeyboard.h"
+#include "support/harness.h"
+
+using forms::Answer;
+using forms::screen;
+
+namespace {
+
+const char* const CloseQuestion = "Are You Sure You Want To Close Kestrill?";
+
+class Navigation : public ScreenTest {
+protected:
+    // A way out that asks first, and is not taken.
+    void stays(const std::function<void()>& leave, const QString& question = CloseQuestion)
+    {
+        const QString before = scene();
+        expectBox(question, 36, Answer::No);
+        leave();
+        EXPECT_EQ(scene(), before);
+    }
+};
+
+TEST_F(Navigation, ShowsOneScreenAtATimeWithItsFocusAndItsNumber)
+{
+    auto& menu = screen<frmMain>();
+    auto& area = screen<frmAuto>();
+    auto& personal = screen<frmGenInfo>();
+    const struct {
+        std::function<void()> step;
+        QString leadsTo;
+        QString title;
+    } steps[] = {
+        {[&] { menu.show(); }, "2 frmMain: cmdIn", ""},
+        {[] { press(Qt::Key_Return); }, "13 frmAuto: cmdAdd(0)", "Indoor Asset Management"},
+        {[&] { click(area.cmdBack[0]); }, "2 frmMain: cmdIn", "Indoor Asset Management"},
+        {[&] { click(menu.cmdOut); }, "13 frmAuto: cmdAdd(0)", "Outdoor Asset Management"},
+        {[] { accessKey('m'); }, "2 frmMain: cmdOut", "Outdoor Asset Management"},
+        {[] { accessKey('m'); }, "13 frmAuto: cmdAdd(0)", "Mobile Asset Management"},
+        {[&] { click(area.cmdAdd[0]); }, "10 frmAddUpDel: cmbLoc", "Mobile Asset Management"},
+    };
+    for (const auto& [step, leadsTo, title] : steps) {
+        step();
+        EXPECT_EQ(scene(), leadsTo);
+        EXPECT_EQ(area.lblHead1[0].caption(), title);
+    }
+    screen<frmAddUpDel>().hide();
+    menu.show();
+    click(menu.cmdPersonal);
+    EXPECT_EQ(scene(), "1 frmGenInfo: txtInfo(1)");
+    EXPECT_EQ(personal.lblHead[1].caption(), "First, Select An Item To Change Or Update");
+    EXPECT_EQ(personal.lblHead[2].caption(), "Second, Click Save to Update");
+}
+
+TEST_F(Navigation, AsksBeforeTheProgramClosesByEveryWayOut)
+{
+    auto& menu = screen<frmMain>();
+    menu.show();
+    stays([&] { closeBox(menu); });
+    menu.cmdLeave.setFocus();
+    stays([&] { click(menu.cmdLeave); });
+    click(menu.cmdIn);
+    auto& area = screen<frmAuto>();
+    stays([&] { closeBox(area); });
+    area.cmdLeave[0].setFocus();
+    stays([] { accessKey('x'); });
+    area.hide();
+    screen<frmIntroduction>().show();
+    stays([] { closeBox(screen<frmIntroduction>()); });
+}
+
+TEST_F(Navigation, HidesTheScreenWhoseNumberIsKept)
+{
+    const std::pair<int, forms::Form&> screens[] = {{1, screen<frmGenInfo>()}, {2, screen<frmMain>()},
+        {10, screen<frmAddUpDel>()}, {13, screen<frmAuto>()}, {17, screen<frmIntroduction>()},
+        {18, screen<frmKeyboard>()}};
+    for (const auto& [number, form] : screens) {
+        form.show();
+        for (const int other : {0, 19, 20, number == 1 ? 2 : 1}) {
+            frmStartup::CurrentScreen = other;
+            screen<frmMain>().Hide_Screens();
+            EXPECT_TRUE(form.isVisible()) << other;
+        }
+        frmStartup::CurrentScreen = number;
+        screen<frmMain>().Hide_Screens();
+        EXPECT_EQ(scene(), QString::number(number) + " nothing");
+    }
+}
+
+} // namespace

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/data_store.h"
+#include "platform/values/failure.h"
+#include "support/harness.h"
+
+namespace {
+
+// Rows of the inventory, told apart by their models.
+class Sorting : public ScreenTest {
+protected:
+    void SetUp() override
+    {
+        ScreenTest::SetUp();
+        add("a", "attic", "$9.00");
+        add("b", "Barn", "$10.00");
+        add("c", "ATTIC", "$10.00");
+        add("d", "", "$1,000.00");
+        add("e", "barn", "$9.00");
+    }
+
+    static void add(const char* model, const char* location, const char* amount)
+    {
+        Data1.rsInventory.AddNew();
+        Data1.rsInventory.Fields(Inventory::Model) = model;
+        Data1.rsInventory.Fields(Inventory::Location) = location;
+        Data1.rsInventory.Fields(Inventory::Amount) = amount;
+        Data1.rsInventory.Update();
+    }
+
+    // From the current row, which has to be the first.
+    static QString walked()
+    {
+        QString models;
+        for (; !Data1.rsInventory.atEOF(); Data1.rsInventory.MoveNext())
+            models += Data1.rsInventory.Fields(Inventory::Model).text();
+        return models;
+    }
+};
+
+TEST_F(Sorting, OrdersByColumnsWithoutRegardToCaseAndEqualRowsAsTheyWereStored)
+{
+    const std::pair<const char*, const char*> orders[] = {{"Location", "dacbe"}, {"location DESC", "beacd"},
+        {"[Amount]", "aebcd"}, {"Amount desc, Location", "dcbae"}, {" Amount ASC , Model DESC ", "eacbd"},
+        {"ID DESC", "edcba"}, {"", "abcde"}, {"Serial/ VIN / ID", "abcde"}};
+    auto& view = Data1.rsInventory;
+    for (const auto& [order, rows] : orders) {
+        view.Sort(order);
+        EXPECT_EQ(walked(), rows) << order;
+    }
+    view.Sort("Location");
+    view.Fields(Inventory::Location) = "Cellar"; // of the first row: pending until the next sort
+    add("f", "Attic", "$1.00");
+    view.MoveFirst();
+    EXPECT_EQ(walked(), "dacbef") << "a row added later comes last";
+    view.Sort("Location DESC");
+    EXPECT_EQ(walked(), "dbeacf");
+    EXPECT_THROW(view.Sort("Colour"), values::RuntimeFailure);
+    view.Sort("");
+    EXPECT_EQ(walked(), "abcdef");
+}
+
+} // namespace
