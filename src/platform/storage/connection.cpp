@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/storage/connection.h"
 
+#include "platform/storage/journal.h"
 #include "platform/storage/sqlcipher.h"
 #include "platform/storage/statement.h"
 #include "platform/storage/table_view.h"
@@ -42,9 +43,7 @@ void apply(sqlite3* handle, const Setting& setting)
 
 void refuseWithoutTables(sqlite3* handle)
 {
-    Statement tables(handle, "SELECT count(*) FROM sqlite_master WHERE type = 'table'");
-    tables.step();
-    if (tables.number(0) == 0)
+    if (numberOf(handle, "SELECT count(*) FROM sqlite_master WHERE type = 'table'") == 0)
         throw RuntimeFailure(FailureKind::Database, QStringLiteral("the file holds no tables"));
 }
 
@@ -82,6 +81,7 @@ void Connection::open()
 {
     if (isOpen())
         return;
+    setForeignJournalAside(path_, key_);
     Handle opened = openFile(path_, key_, Access::ReadWrite);
     configure(opened.get());
     handle_ = std::move(opened);
@@ -127,14 +127,52 @@ void Connection::leave(TableView& view)
         shut();
 }
 
+// One change, one commit.
+void Connection::store(Statement& change)
+{
+    Transaction transaction(handle());
+    change.run();
+    confirm(transaction);
+}
+
+void Connection::confirm(Transaction& transaction)
+{
+    refuseIfMoved();
+    transaction.commit();
+}
+
+// What is written into a file that has left its place nobody finds again.
+void Connection::refuseIfMoved() const
+{
+    if (!liesAt(handle(), path_))
+        throw RuntimeFailure(
+            FailureKind::Database, path_ + QStringLiteral(" was moved, replaced or removed while it was open"));
+}
+
 void Connection::shut()
 {
     if (!isOpen())
         return;
-    // Takes the journal's empty file away. Should the engine refuse, the file stays, which is harmless.
-    sqlite3_exec(handle(), "PRAGMA locking_mode=NORMAL; PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
-    handle_.reset();
+    std::exception_ptr failure;
+    try {
+        giveUpJournal();
+    } catch (const RuntimeFailure&) {
+        failure = std::current_exception();
+    }
+    handle_.reset(); // a journal with contents stays, for the next opening
     texts_.clear();
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+// Where a write and its roll-back have both failed, the journal alone can make the file whole. The engine takes its
+// file away unread, so it is read first, which plays it back.
+void Connection::giveUpJournal()
+{
+    readOnce(handle());
+    // Should the engine refuse, the empty file stays, which is harmless.
+    sqlite3_exec(handle(), "PRAGMA locking_mode=NORMAL; PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
+    refuseIfMoved();
 }
 
 } // namespace storage

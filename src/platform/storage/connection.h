@@ -8,7 +8,9 @@
 
 namespace storage {
 
+class Statement;
 class TableView;
+class Transaction;
 
 /// The one connection to an encrypted database file, which no other process can open meanwhile. It opens with its first
 /// view and closes with its last, so that the file is at rest as soon as all views are closed.
@@ -24,14 +26,16 @@ public:
 
     /// Opens the file named, unless it is open. Failures: Database, where the file is missing, empty, damaged,
     /// read-only, no database, under another key or in use by another process. The file is then as it was, and no file
-    /// is made.
+    /// is made. A journal beside it that was kept for another file is put aside.
     void open();
 
     /// `setFile` and `open` in one.
     void open(const QString& path, const QByteArray& key);
 
     /// Closes all views that are still open, and the file. Pending edits are dropped; staging tables are written first.
-    /// Failures: Database, where a staging table can't be written; the connection is closed all the same.
+    /// Failures: Database, where a staging table can't be written, the file has left its place, or a write that failed
+    /// could neither be finished nor taken back, which the next opening then does. The connection is closed all the
+    /// same.
     void close();
 
     bool isOpen() const { return handle_ != nullptr; }
@@ -48,6 +52,10 @@ private:
 
     void enter(TableView& view);
     void leave(TableView& view);
+    void store(Statement& change);
+    void confirm(Transaction& transaction);
+    void refuseIfMoved() const;
+    void giveUpJournal();
     void shut();
 
     QString path_;

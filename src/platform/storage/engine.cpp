@@ -5,9 +5,15 @@
 #include "platform/storage/statement.h"
 #include "platform/values/failure.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace storage {
 
@@ -16,7 +22,25 @@ namespace {
 int flagsOf(Access access)
 {
     // Without SQLITE_OPEN_CREATE. One thread uses a handle, so the engine needs no locks around it.
-    return SQLITE_OPEN_NOMUTEX | (access == Access::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
+    return SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI
+        | (access == Access::ReadWrite ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
+}
+
+int openFolder(const QString& path)
+{
+    const int folder = ::open(QFile::encodeName(path).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        throw values::RuntimeFailure(values::FailureKind::Database,
+            QStringLiteral("the folder %1 can't be opened (%2)")
+                .arg(path, QString::fromStdString(std::generic_category().message(errno))));
+    return folder;
+}
+
+// The engine refuses paths beyond 512 bytes, so it is given a short one through the open folder.
+QByteArray addressOf(int folder, const QString& name, Access access)
+{
+    QByteArray address = "file:/proc/self/fd/" + QByteArray::number(folder) + '/' + QUrl::toPercentEncoding(name);
+    return access == Access::AsItLies ? address + "?immutable=1" : address;
 }
 
 bool hasSystemReason(int code)
@@ -25,11 +49,19 @@ bool hasSystemReason(int code)
     return primary == SQLITE_IOERR || primary == SQLITE_FULL || primary == SQLITE_CANTOPEN;
 }
 
-qint64 numberOf(sqlite3* handle, const QByteArray& sql)
+QString nameOf(sqlite3* handle)
 {
-    Statement statement(handle, sql);
-    statement.step();
-    return statement.number(0);
+    return QFile::decodeName(sqlite3_db_filename(handle, "main"));
+}
+
+// A file that the engine can't make it tries once more as one to read, and then knows only that there is none.
+int reasonOf(sqlite3* handle, int code)
+{
+    const QString name = nameOf(handle);
+    const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN && !name.isEmpty();
+    if (madeNone && ::euidaccess(QFile::encodeName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
+        return errno;
+    return sqlite3_system_errno(handle);
 }
 
 // The engine takes what a last page lacks for zeros.
@@ -42,15 +74,37 @@ void refuseCutShort(sqlite3* handle, const QString& path)
 
 } // namespace
 
+qint64 generationOf(sqlite3* handle)
+{
+    return numberOf(handle, "PRAGMA user_version");
+}
+
+void readOnce(sqlite3* handle)
+{
+    numberOf(handle, "SELECT count(*) FROM sqlite_master");
+}
+
+bool liesAt(sqlite3* handle, const QString& path)
+{
+    struct ::stat there { };
+    struct ::stat ours { };
+    int hasMoved = 0;
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
+    return hasMoved == 0 && ::stat(QFile::encodeName(path).constData(), &there) == 0
+        && ::stat(sqlite3_db_filename(handle, "main"), &ours) == 0 && there.st_dev == ours.st_dev
+        && there.st_ino == ours.st_ino;
+}
+
 void CloseHandle::operator()(sqlite3* handle) const
 {
     sqlite3_close(handle);
+    ::close(folder);
 }
 
 void throwEngineFailure(sqlite3* handle, int code)
 {
     QString words = QString::fromUtf8(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code));
-    const int reason = handle ? sqlite3_system_errno(handle) : 0;
+    const int reason = handle ? reasonOf(handle, code) : 0;
     if (hasSystemReason(code) && reason != 0)
         words += QStringLiteral(" (%1)").arg(QString::fromStdString(std::generic_category().message(reason)));
     throw values::RuntimeFailure(values::FailureKind::Database, words);
@@ -58,15 +112,18 @@ void throwEngineFailure(sqlite3* handle, int code)
 
 Handle openFile(const QString& path, const QByteArray& key, Access access)
 {
+    const QFileInfo file(path);
+    const int folder = openFolder(file.path());
     sqlite3* opened = nullptr;
-    int code = sqlite3_open_v2(path.toUtf8().constData(), &opened, flagsOf(access), nullptr);
-    Handle handle(opened);
+    const QByteArray address = addressOf(folder, file.fileName(), access);
+    int code = sqlite3_open_v2(address.constData(), &opened, flagsOf(access), nullptr);
+    Handle handle(opened, CloseHandle{folder});
     if (code == SQLITE_OK)
         code = sqlite3_key(opened, key.constData(), static_cast<int>(key.size()));
     if (code != SQLITE_OK)
         throwEngineFailure(opened, code);
     sqlite3_extended_result_codes(opened, 1);
-    numberOf(opened, "SELECT count(*) FROM sqlite_master");
+    readOnce(opened);
     refuseCutShort(opened, path);
     return handle;
 }

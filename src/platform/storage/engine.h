@@ -10,18 +10,34 @@ struct sqlite3;
 
 namespace storage {
 
+/// Closes an open file, and the folder that it was reached through.
 struct CloseHandle {
+    int folder = -1;
     void operator()(sqlite3* handle) const;
 };
 
 /// An open database file of the engine.
 using Handle = std::unique_ptr<sqlite3, CloseHandle>;
 
-enum class Access { ReadOnly, ReadWrite };
+enum class Access {
+    ReadOnly,
+    ReadWrite,
+    AsItLies, ///< for reading; a journal beside the file and the locks of others don't count
+};
 
-/// Opens an existing file under its key and reads from it, which proves the key. Never makes a file. Failures:
-/// Database.
+/// Opens an existing file under its key and reads from it, which proves the key. Never makes a file. Its path may be as
+/// long as the system takes it. Failures: Database.
 Handle openFile(const QString& path, const QByteArray& key, Access access);
+
+/// The number of the last transaction stored in the file. Failures: Database.
+qint64 generationOf(sqlite3* handle);
+
+/// Reads from the file. Where a write and its roll-back have both failed, this takes the write back. Failures:
+/// Database.
+void readOnce(sqlite3* handle);
+
+/// Whether the file that is open lies under that path.
+bool liesAt(sqlite3* handle, const QString& path);
 
 /// Throws the failure (Database) for a result code: the engine's words and, for an input or output error, the system's.
 [[noreturn]] void throwEngineFailure(sqlite3* handle, int code);

@@ -31,9 +31,7 @@ void proveIntact(sqlite3* handle)
 
 qint64 countRows(sqlite3* handle, const QByteArray& table)
 {
-    Statement count(handle, "SELECT count(*) FROM " + sql::quoted(table.constData()));
-    count.step();
-    return count.number(0);
+    return numberOf(handle, "SELECT count(*) FROM " + sql::quoted(table.constData()));
 }
 
 } // namespace

@@ -73,6 +73,12 @@ void execute(sqlite3* handle, const QByteArray& sql)
     Statement(handle, sql).run();
 }
 
+qint64 numberOf(sqlite3* handle, const QByteArray& sql)
+{
+    Statement query(handle, sql);
+    return query.step() ? query.number(0) : 0;
+}
+
 qint64 lastInsertedRow(sqlite3* handle)
 {
     return sqlite3_last_insert_rowid(handle);
@@ -80,11 +86,27 @@ qint64 lastInsertedRow(sqlite3* handle)
 
 Transaction::Transaction(sqlite3* handle)
     : handle_(handle)
+    , isOutermost_(sqlite3_get_autocommit(handle) != 0)
 {
+    if (!isOutermost_)
+        return;
     execute(handle_, "BEGIN IMMEDIATE");
+    try {
+        // By the generation a journal knows its file: see setForeignJournalAside.
+        execute(handle_, "PRAGMA user_version = " + QByteArray::number(generationOf(handle_) + 1));
+    } catch (...) {
+        rollBack();
+        throw;
+    }
 }
 
 Transaction::~Transaction()
+{
+    if (isOutermost_)
+        rollBack();
+}
+
+void Transaction::rollBack()
 {
     // Some failures have rolled back by themselves; then nothing is left to do, and its refusal means nothing.
     if (sqlite3_get_autocommit(handle_) == 0)
@@ -93,7 +115,8 @@ Transaction::~Transaction()
 
 void Transaction::commit()
 {
-    execute(handle_, "COMMIT");
+    if (isOutermost_)
+        execute(handle_, "COMMIT");
 }
 
 } // namespace storage

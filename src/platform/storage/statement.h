@@ -45,11 +45,15 @@ private:
 /// Runs one statement whose rows don't matter.
 void execute(sqlite3* handle, const QByteArray& sql);
 
+/// Runs a query and gives the first number of its first row; 0 where there is no row.
+qint64 numberOf(sqlite3* handle, const QByteArray& sql);
+
 /// The rowid of the row inserted last.
 qint64 lastInsertedRow(sqlite3* handle);
 
-/// Makes the writes of its scope one commit. Without `commit` the scope ends in a roll-back. For programs that fill a
-/// database; what a view holds in memory doesn't take part in the roll-back.
+/// Makes the writes of its scope one commit, which counts up the file's generation. Without `commit` the scope ends in
+/// a roll-back. Inside another transaction it is a part of that one. Around the use of views it is for programs that
+/// fill a database: what a view holds in memory doesn't take part in the roll-back.
 class Transaction {
 public:
     explicit Transaction(sqlite3* handle);
@@ -61,7 +65,10 @@ public:
     void commit();
 
 private:
+    void rollBack();
+
     sqlite3* handle_;
+    bool isOutermost_;
 };
 
 } // namespace storage

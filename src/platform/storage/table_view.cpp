@@ -219,7 +219,7 @@ void TableView::storeEdit()
     } else {
         Statement& update = prepared(update_, sql::updateRow);
         update.bind(bind(update, pending_), rows_.rowId(row_));
-        update.run();
+        connection_.store(update);
     }
     rows_.assign(row_, pending_);
 }
@@ -232,7 +232,7 @@ void TableView::storeNew()
     } else {
         Statement& insert = prepared(insert_, sql::insertRow);
         bind(insert, pending_);
-        insert.run();
+        connection_.store(insert);
         lastRowId_ = lastInsertedRow(connection_.handle());
     }
     for (std::size_t i = 0; i < pending_.size(); ++i) {
@@ -253,7 +253,7 @@ void TableView::Delete()
     } else {
         Statement& deletion = prepared(delete_, sql::deleteRow);
         deletion.bind(1, rows_.rowId(row_));
-        deletion.run();
+        connection_.store(deletion);
     }
     rows_.remove(row_);
     place_ = Place::Hole;
@@ -300,7 +300,7 @@ void TableView::writeAnew()
         bind(insert, rows_.cells(row));
         insert.run();
     }
-    transaction.commit();
+    connection_.confirm(transaction);
 }
 
 } // namespace storage

@@ -49,10 +49,7 @@ TEST_F(ConnectionTest, RefusesADamagedCutOrForeignFileAndLeavesItAsItWas)
         {"an unencrypted database", "SQLite format 3" + QByteArray(8177, '\0')},
     };
     for (const auto& [what, bytes] : cases) {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(bytes);
-        file.close();
+        putFile(bytes);
         expectRefusal(what);
         EXPECT_EQ(failureOf([this] { storage::checkDatabase(path(), key); }), FailureKind::Database) << what;
     }
@@ -80,4 +77,51 @@ TEST_F(ConnectionTest, KeepsOthersOutOfItsOneFileAndShowsNothing)
     EXPECT_FALSE(contents.contains("wwww") || contents.contains("Words") || contents.startsWith("SQLite"));
     EXPECT_EQ(files().keys(), QStringList({"data.db"}));
     EXPECT_EQ(QFile::permissions(path()) & (QFile::ReadGroup | QFile::ReadOther), 0);
+}
+
+TEST_F(ConnectionTest, TellsAtTheNextWriteAndAtTheCloseThatTheFileHasLeftItsPlace)
+{
+    const QByteArray whole = files().value("data.db");
+    const QString elsewhere = folder.filePath("elsewhere");
+    const std::pair<const char*, std::function<bool()>> moves[] = {
+        {"moved", [&] { return QFile::rename(path(), elsewhere); }},
+        {"removed", [&] { return QFile::remove(path()); }},
+        {"replaced",
+            [&] {
+                return QFile::remove(elsewhere) && QFile::copy(path(), elsewhere) && QFile::remove(path())
+                    && QFile::rename(elsewhere, path());
+            }},
+    };
+    for (const auto& [how, move] : moves) {
+        SCOPED_TRACE(how);
+        putFile(whole);
+        wordsView.Open();
+        stageView.Open();
+        addWord(wordsView, "confirmed while it lies there");
+        ASSERT_TRUE(move());
+        EXPECT_EQ(failureOf([this] { addWord(wordsView, "lost"); }), FailureKind::Database);
+        EXPECT_EQ(wordsView.RecordCount(), 41);
+        stageView.AddNew();
+        stageView.Update();
+        EXPECT_EQ(failureOf([this] { home.commitPending(); }), FailureKind::Database);
+        EXPECT_EQ(failureOf([this] { home.close(); }), FailureKind::Database);
+        EXPECT_FALSE(home.isOpen());
+    }
+}
+
+TEST_F(ConnectionTest, WorksInAFolderWhosePathIsLongerThanTheEngineTakesUntilTheFolderIsMoved)
+{
+    const QString first = folder.filePath("long");
+    const QString deep = first + ('/' + QString(200, 'x')).repeated(4);
+    ASSERT_TRUE(QDir().mkpath(deep) && QFile::copy(path(), deep + "/data?.db"));
+    home.setFile(deep + "/data?.db", key);
+    wordsView.Open();
+    addWord(wordsView, "deep");
+    wordsView.Close();
+    EXPECT_EQ(QDir(deep).entryList(QDir::Files), QStringList({"data?.db"})) << "the journal lay beside it";
+    wordsView.Open();
+    EXPECT_EQ(walk(wordsView).last(), "deep");
+    ASSERT_TRUE(QDir().rename(first, folder.filePath("moved")));
+    EXPECT_EQ(failureOf([this] { addWord(wordsView, "lost"); }), FailureKind::Database);
+    EXPECT_EQ(failureOf([this] { wordsView.Close(); }), FailureKind::Database);
 }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "failing_disk.h"
 #include "storage_test.h"
 
 #include <csignal>
 #include <functional>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using values::FailureKind;
 
@@ -56,4 +59,119 @@ TEST_F(FailedWriteTest, AFullDiskLeavesViewAndFileAsTheyWereAndTheNextWriteWorks
     addWord(wordsView, "b");
     wordsView.Close();
     EXPECT_EQ(wordsInFile(), QStringList({"a", "b"}));
+}
+
+TEST_F(FailedWriteTest, AFolderThatTakesNoNewFileIsToldAsOne)
+{
+    QFile::setPermissions(path(), QFile::Permissions(0x6666));
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x5555));
+    const uid_t user = geteuid();
+    ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0); // nothing is forbidden to root
+    wordsView.Open();
+    std::string words;
+    try {
+        addWord(wordsView, "a");
+    } catch (const values::RuntimeFailure& failure) {
+        words = failure.what();
+    }
+    wordsView.Close();
+    ASSERT_EQ(seteuid(user), 0);
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x7700));
+    EXPECT_THAT(words, testing::HasSubstr("(Permission denied)"));
+}
+
+namespace {
+
+// How a session can end whose last save has failed. An end that settles the file does it or tells that it couldn't.
+struct End {
+    const char* name;
+    void (*run)(storage::Connection& home, storage::TableView& view, int outcome);
+    bool settles = false;
+    bool onWorkingDisk = false;
+};
+
+const End ends[] = {
+    {"closed", [](storage::Connection& home, storage::TableView&, int) { home.close(); }, true},
+    {"closed by its last view", [](storage::Connection&, storage::TableView& view, int) { view.Close(); }, true},
+    {"closed on a disk that works again",
+        [](storage::Connection& home, storage::TableView&, int) {
+            FailingDisk::failFrom(FailingDisk::never);
+            home.close();
+        },
+        true, true},
+    {"destroyed", [](storage::Connection&, storage::TableView&, int) {}},
+    {"killed", [](storage::Connection&, storage::TableView&, int outcome) { _exit(outcome); }},
+};
+
+enum Outcome { Saved = 1, FaultMet = 2, CloseTold = 4 };
+
+class FailingSave : public StorageTest {
+protected:
+    // A session of its own, so that an end that forgets something can't be mended by this process.
+    Outcome saveAndEnd(int changes, const End& end) const
+    {
+        const pid_t child = fork();
+        if (child == 0)
+            _exit(session(changes, end));
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status));
+        return static_cast<Outcome>(WEXITSTATUS(status));
+    }
+
+    int session(int changes, const End& end) const
+    {
+        int outcome = 0;
+        const FailingDisk disk;
+        storage::Connection session;
+        session.setFile(path(), key);
+        storage::TableView view(session, words::table);
+        view.Open();
+        FailingDisk::failFrom(changes);
+        if (!failureOf([&] { addWord(view, QString(3000, 'c')); }))
+            outcome |= Saved;
+        if (FailingDisk::hasFailed())
+            outcome |= FaultMet;
+        if (failureOf([&] { end.run(session, view, outcome); }))
+            outcome |= CloseTold;
+        return outcome;
+    }
+
+    bool journalIsLeft() const { return !files().value("data.db-journal").isEmpty(); }
+};
+
+} // namespace
+
+// From the first change on that a save makes to the disk all changes fail, those of its roll-back too; from the second
+// on; and so forth.
+TEST_F(FailingSave, LosesNoStoredRowWhereverItBreaksOffAndHoweverTheSessionEnds)
+{
+    wordsView.Open();
+    addWord(wordsView, "a");
+    addWord(wordsView, QString(5000, 'b'));
+    wordsView.Close();
+    const QByteArray before = files().value("data.db");
+    int journalsLeft = 0;
+    int changes = 0;
+    for (bool faultMet = true; faultMet; ++changes) {
+        faultMet = false;
+        for (const End& end : ends) {
+            SCOPED_TRACE(testing::Message() << "from change " << changes + 1 << " on, " << end.name);
+            const Outcome outcome = saveAndEnd(changes, end);
+            faultMet |= (outcome & FaultMet) != 0;
+            journalsLeft += journalIsLeft();
+            if (end.settles && !(outcome & CloseTold))
+                QFile::remove(path() + "-journal"); // the file is said to be whole without it
+            EXPECT_FALSE(end.onWorkingDisk && (outcome & CloseTold));
+            QStringList found = wordsInFile();
+            if (!(outcome & Saved) && found.size() == 3)
+                found.removeLast(); // stored without being confirmed
+            EXPECT_EQ(found.size(), outcome & Saved ? 3 : 2);
+            EXPECT_EQ(found.first(2), QStringList({"a", QString(5000, 'b')}));
+            EXPECT_FALSE(failureOf([this] { storage::checkDatabase(path(), key); }));
+            putFile(before);
+        }
+    }
+    EXPECT_GT(changes, 5);
+    EXPECT_GT(journalsLeft, 5);
 }

@@ -53,7 +53,8 @@ inline constexpr storage::TableDefinition table{"Stage", columns, true};
 /// A database of three tables in a folder of its own, not opened.
 class StorageTest : public testing::Test {
 protected:
-    static constexpr auto key = "a key";
+    static constexpr auto key =
+        "x'000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f'"; // quick: no phrase
     static constexpr const storage::TableDefinition* tables[] = {&things::table, &words::table, &stage::table};
 
     void SetUp() override
@@ -80,6 +81,13 @@ protected:
                 contents[name] = file.readAll();
         }
         return contents;
+    }
+
+    void putFile(const QByteArray& contents) const
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(contents);
     }
 
     static void addWord(storage::TableView& view, const QString& word, const QString& kind = {})
