@@ -99,14 +99,16 @@ void flushFolder(const fs::path& path)
 struct Contents {
     std::vector<fs::path> folders;
     std::vector<fs::path> files;
+    std::vector<fs::path> links;
 };
 
-// A link to a folder that holds the link ends in the system's own limit of links in a path.
 void collect(const fs::path& top, const fs::path& below, Contents& contents)
 {
     for (const fs::directory_entry& entry : fs::directory_iterator(top / below)) {
         const fs::path path = below / entry.path().filename();
-        if (entry.is_directory()) {
+        if (entry.is_symlink()) {
+            contents.links.push_back(path);
+        } else if (entry.is_directory()) {
             contents.folders.push_back(path);
             collect(top, path, contents);
         } else if (entry.is_regular_file()) {
@@ -132,7 +134,9 @@ public:
     ~PendingCopy();
 
     void addFolder(const fs::path& folder);
+    void addSubFolder(const fs::path& folder);
     void addFile(const fs::path& source, const fs::path& target, const CopyProof& proof);
+    void addLink(const fs::path& source, const fs::path& target);
     void putInPlace();
 
 private:
@@ -168,12 +172,18 @@ void PendingCopy::addFolder(const fs::path& folder)
     madeFolders_.push_back(folder);
 }
 
+// A link in its place would lead the copy out of the target.
+void PendingCopy::addSubFolder(const fs::path& folder)
+{
+    if (fs::is_symlink(folder))
+        fs::remove(folder);
+    addFolder(folder);
+}
+
 // The disk begins to write before the proof and ends after it: the two overlap, and the copy is on the disk before it
 // takes its name.
 void PendingCopy::addFile(const fs::path& source, const fs::path& target, const CopyProof& proof)
 {
-    if (fs::is_directory(target))
-        throw refused("replacing", target, EISDIR);
     const Handle copy = openTemporaryFor(target);
     copyBytes(source, copy, target);
     ::sync_file_range(copy.number(), 0, 0, SYNC_FILE_RANGE_WRITE);
@@ -183,9 +193,18 @@ void PendingCopy::addFile(const fs::path& source, const fs::path& target, const 
         throw refused("writing", target);
 }
 
+void PendingCopy::addLink(const fs::path& source, const fs::path& target)
+{
+    openTemporaryFor(target);
+    fs::remove(files_.back().temporary);
+    fs::create_symlink(fs::read_symlink(source), files_.back().temporary);
+}
+
 // The temporary's name doesn't hold the target's, which may be as long as a name can be.
 Handle PendingCopy::openTemporaryFor(const fs::path& target)
 {
+    if (fs::is_directory(fs::symlink_status(target)))
+        throw refused("replacing", target, EISDIR);
     std::string name = target.parent_path() / std::string(TemporaryPrefix).append("XXXXXX");
     const int number = ::mkostemp(name.data(), O_CLOEXEC);
     if (number < 0)
@@ -219,7 +238,7 @@ bool isInside(const fs::path& inner, const fs::path& outer)
     return std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first == outer.end();
 }
 
-void copyContents(const fs::path& source, const fs::path& target, const CopyProof& proof)
+void copyContents(const fs::path& source, const fs::path& target, const CopyProof& proof, const CopyFilter& leavesOut)
 {
     if (isInside(fs::weakly_canonical(target), fs::canonical(source)))
         throw refused("copying a folder into itself,", target, EINVAL);
@@ -228,18 +247,21 @@ void copyContents(const fs::path& source, const fs::path& target, const CopyProo
     PendingCopy copy;
     copy.addFolder(target);
     for (const fs::path& folder : contents.folders)
-        copy.addFolder(target / folder);
+        copy.addSubFolder(target / folder);
     for (const fs::path& file : contents.files)
-        copy.addFile(source / file, target / file, proof);
+        if (!leavesOut || !leavesOut(textOf(source / file)))
+            copy.addFile(source / file, target / file, proof);
+    for (const fs::path& link : contents.links)
+        copy.addLink(source / link, target / link);
     copy.putInPlace();
 }
 
 } // namespace
 
-void copyFolder(const QString& source, const QString& target, const CopyProof& proof)
+void copyFolder(const QString& source, const QString& target, const CopyProof& proof, const CopyFilter& leavesOut)
 {
     try {
-        copyContents(pathOf(source), pathOf(target), proof);
+        copyContents(pathOf(source), pathOf(target), proof, leavesOut);
     } catch (const fs::filesystem_error& failure) {
         throw refused("copying", failure.path1(), failure.code().value());
     }

@@ -11,6 +11,9 @@ namespace sys {
 /// is told as the folder's path as it was given, and the file's below it.
 using CopyProof = std::function<void(const QString& source, const QString& copy)>;
 
+/// Tells the files of the source, by their paths, that are left out of the copy.
+using CopyFilter = std::function<bool(const QString& source)>;
+
 /// Copies the contents of the folder `source`, sub-folders with theirs, onto the folder `target`, over what is there.
 ///
 /// An older copy in `target` is not endangered: each file is first written beside its target under a hidden temporary
@@ -19,15 +22,15 @@ using CopyProof = std::function<void(const QString& source, const QString& copy)
 /// by the next one. Files in `target` that `source` doesn't have stay.
 ///
 /// `target` and missing sub-folders are made, for the user alone (0700); the folder above `target` must exist. Copies
-/// are readable and writable by the user alone (0600). Symbolic links in `source` are followed, so that the copy holds
-/// the data itself; links that lead nowhere, pipes, sockets and devices hold none and are left out. A link in `target`
-/// with the name of a file of `source` is replaced by the file.
+/// are readable and writable by the user alone (0600). Symbolic links in `source` are copied as links and never
+/// followed; pipes, sockets and devices are left out. A link below `target` with a name of `source` is replaced.
 ///
 /// No file of `source` may be open elsewhere in this process under a record lock, as a database is: closing the file
 /// after reading gives the lock up.
 ///
 /// `RuntimeFailure` of kind `File`, with path and reason, for whatever the system refuses, and where `target` lies in
 /// `source` or is the same folder; what `proof` throws passes through.
-void copyFolder(const QString& source, const QString& target, const CopyProof& proof = {});
+void copyFolder(
+    const QString& source, const QString& target, const CopyProof& proof = {}, const CopyFilter& leavesOut = {});
 
 } // namespace sys

@@ -20,10 +20,14 @@ QString backupFolder(const QString& below)
 
 #else
 
-// ~/.local/share on Linux, ~/Library/Application Support on macOS.
+// ~/.local/share on Linux, ~/Library/Application Support on macOS. A relative XDG_DATA_HOME counts as none: it would
+// lead to another place from each folder that the program is started in.
 QString dataFolder(const QString& below)
 {
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).absoluteFilePath(below);
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QDir home = QDir::home();
+    return QDir(QDir::isAbsolutePath(folder) ? folder : home.absoluteFilePath(QStringLiteral(".local/share")))
+        .absoluteFilePath(below);
 }
 
 QString backupFolder(const QString& below)

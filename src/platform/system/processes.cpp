@@ -7,7 +7,9 @@
 #include <QFile>
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
+#include <system_error>
 #include <tuple>
 
 #include <sys/stat.h>
@@ -47,11 +49,16 @@ std::optional<Status> statusOf(const QString& folder)
     return Status{line.mid(open + 1, close - open - 1), fields[0].front(), fields[19].toULongLong()};
 }
 
-// A file that was replaced or removed while it runs is told with a mark behind its path.
-QString executableOf(const QString& folder)
+// Empty where it is kept from us; nothing where there is none: the process is ending, and has given up its memory, or
+// is a part of the kernel. A file that was replaced or removed while it runs is told with a mark behind its path.
+std::optional<QString> executableOf(const QString& folder)
 {
     const QString mark = QStringLiteral(" (deleted)");
-    QString path = QFile::symLinkTarget(folder + QStringLiteral("/exe"));
+    std::error_code failure;
+    const auto link = QFile::encodeName(folder + QStringLiteral("/exe")).toStdString();
+    QString path = QFile::decodeName(std::filesystem::read_symlink(link, failure).c_str());
+    if (failure == std::errc::no_such_file_or_directory || failure == std::errc::no_such_process)
+        return std::nullopt;
     if (path.endsWith(mark))
         path.chop(mark.size());
     return path;
@@ -77,8 +84,10 @@ std::optional<Process> processIn(const QString& folder, qint64 pid)
     const std::optional<Status> status = statusOf(folder);
     if (!status || status->state == 'Z' || status->state == 'X' || ::stat(QFile::encodeName(folder), &owner) != 0)
         return std::nullopt;
-    const QString executable = executableOf(folder);
-    return Process{pid, nameOf(folder, executable, status->shortName), executable, owner.st_uid, status->started};
+    const std::optional<QString> executable = executableOf(folder);
+    if (!executable)
+        return std::nullopt;
+    return Process{pid, nameOf(folder, *executable, status->shortName), *executable, owner.st_uid, status->started};
 }
 
 bool isThisProcess(const Process& process)

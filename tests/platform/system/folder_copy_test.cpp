@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <filesystem>
 #include <map>
 #include <random>
 
@@ -35,7 +36,7 @@ void put(const QString& path, const QByteArray& bytes)
     ASSERT_EQ(file.write(bytes), bytes.size());
 }
 
-// Every file and folder below a folder, hidden ones too, with the bytes of the files.
+// Every file, folder and link below a folder, hidden ones too, with the bytes of the files and the aims of the links.
 std::map<std::string, std::string> treeOf(const QString& folder)
 {
     std::map<std::string, std::string> tree;
@@ -44,6 +45,10 @@ std::map<std::string, std::string> treeOf(const QString& folder)
     while (walk.hasNext()) {
         QFile file(walk.next());
         const std::string name = QDir(folder).relativeFilePath(file.fileName()).toStdString();
+        if (walk.fileInfo().isSymLink()) {
+            tree[name] = "-> " + std::filesystem::read_symlink(file.fileName().toStdString()).string();
+            continue;
+        }
         tree[name] = file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(folder)";
     }
     return tree;
@@ -74,18 +79,25 @@ TEST_F(FolderCopy, LiesOverWhatIsThereAndKeepsTheRest)
 {
     put(source + "/data", QByteArray(3 * Megabyte + 7, 'n'));
     put(source + "/below/further/.hidden", "");
-    put(place.filePath("elsewhere"), "linked");
-    QFile::link(place.filePath("elsewhere"), source + "/link");
-    QFile::link(place.filePath("nowhere"), source + "/dead link");
+    put(source + "/data-journal", "left out");
+    put(place.filePath("outside/file"), "not ours");
+    std::filesystem::create_symlink("below/..", (source + "/round").toStdString());
+    QFile::link(place.filePath("outside"), source + "/link");
+    QFile::link(place.filePath("nowhere"), source + "/dead");
     put(target + "/data", "old");
     put(target + "/mine", "mine");
+    put(target + "/dead", "a file where a link comes");
+    QFile::link(place.filePath("outside"), target + "/below");
     put(target + "/.folder-copy-Xy12Zz", "left behind by a copy that was killed");
 
-    sys::copyFolder(source + "/", target + "/");
+    sys::copyFolder(source + "/", target + "/", {}, [](const QString& file) { return file.endsWith("/data-journal"); });
     EXPECT_THAT(treeOf(target),
         ElementsAre(Pair("below", "(folder)"), Pair("below/further", "(folder)"), Pair("below/further/.hidden", ""),
-            Pair("data", std::string(3 * Megabyte + 7, 'n')), Pair("link", "linked"), Pair("mine", "mine")));
-    EXPECT_FALSE(QFileInfo(target + "/link").isSymLink());
+            Pair("data", std::string(3 * Megabyte + 7, 'n')),
+            Pair("dead", "-> " + place.filePath("nowhere").toStdString()),
+            Pair("link", "-> " + place.filePath("outside").toStdString()), Pair("mine", "mine"),
+            Pair("round", "-> below/..")));
+    EXPECT_EQ(treeOf(place.filePath("outside")).size(), 1U) << "written through a link";
     EXPECT_EQ(QFile::permissions(target + "/data") & (QFile::ReadGroup | QFile::ReadOther), 0);
 }
 

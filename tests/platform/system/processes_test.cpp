@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/processes.h"
 
+#include "platform/values/failure.h"
 #include "support/print.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -42,6 +44,29 @@ TEST(Processes, AreListedUnderTheirWholeNamesAlsoWhenTheFileIsGone)
     EXPECT_GE(found->started, sys::thisProcess().started);
     child.kill();
     child.waitForFinished();
+}
+
+// Its memory is gone, and the link to its file with it, while the short name still stands in the list.
+TEST(Processes, ThatAreEndingAreLeftOut)
+{
+    QTemporaryDir place;
+    const auto addProcess = [&place](qint64 pid, bool isEnding) {
+        const QString folder = place.filePath(QString::number(pid));
+        QDir().mkpath(folder);
+        QFile stat(folder + "/stat");
+        ASSERT_TRUE(stat.open(QIODevice::WriteOnly));
+        stat.write("1 (Name (of it)) R" + QByteArray(" 7").repeated(30));
+        if (!isEnding)
+            QFile::link("/bin/name (deleted)", folder + "/exe");
+    };
+    addProcess(getpid(), false);
+    addProcess(1, true);
+    const auto processes = sys::runningProcesses(place.path());
+    ASSERT_EQ(processes.size(), 1U);
+    EXPECT_EQ(processes[0].executable, "/bin/name");
+    EXPECT_EQ(processes[0].started, 7U);
+    QDir(place.filePath(QString::number(getpid()))).removeRecursively();
+    EXPECT_THROW(sys::runningProcesses(place.path()), values::RuntimeFailure) << "a list without this process";
 }
 
 TEST(Processes, OfTwoStartsAtOnceExactlyOneIsTheYounger)
