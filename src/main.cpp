@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/conventions.h"
 #include "core/data_store.h"
+#include "core/ending.h"
 #include "core/frmBW_Splash.h"
 #include "platform/system/signals.h"
-#include "platform/values/failure.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -25,25 +25,16 @@ void nameProgram()
     QApplication::setWindowIcon(programIcon());
 }
 
-// Nothing can be told any more, and what was confirmed is in the file.
-void closeStore()
-{
-    try {
-        Data1.Home.close();
-    } catch (const values::RuntimeFailure&) {
-    }
-}
-
 // The system or the session asks the program to end: in order, and without a question.
 void endFromOutside()
 {
-    forms::endProcess(0);
+    forms::endProcess(ending::close_Store() ? 0 : 1);
 }
 
 void start()
 {
-    forms::setReportWords(conventions::Title, "Everything that you saved is safe.");
-    forms::onEnd(closeStore);
+    forms::setReportWords(conventions::Title, ending::what_Is_Known);
+    forms::onEnd([] { ending::close_Store(); });
     forms::onHandlerReturn([] { Data1.Home.commitPending(); });
     sys::onTermination(endFromOutside);
     forms::screen<frmBW_Splash>().show();

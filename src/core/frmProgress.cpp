@@ -2,6 +2,7 @@
 #include "core/frmProgress.h"
 
 #include "core/data_store.h"
+#include "core/ending.h"
 #include "core/frmExit.h"
 #include "core/places.h"
 #include "platform/storage/schema.h"
@@ -21,21 +22,6 @@ struct frmProgress::NameTable {
 
 namespace {
 
-struct ViewOfTable {
-    TableView DataStore::*view;
-    const char* table;
-};
-
-constexpr ViewOfTable closingOrder[] = {
-    {&DataStore::rsBank, "Bank_Info"},
-    {&DataStore::rsGeneral, "Personal_Info"},
-    {&DataStore::rsPrint, "Print"},
-    {&DataStore::rsMobile, "Mobile_Items"},
-    {&DataStore::rsIndoor, "Indoor_Items"},
-    {&DataStore::rsOutdoor, "Outdoor_Items"},
-    {&DataStore::rsInventory, "Inventory"},
-};
-
 // All four values are read, whatever the first ones are.
 bool isBlankName(TableView& view, bool standardIsNumber)
 {
@@ -44,18 +30,6 @@ bool isBlankName(TableView& view, bool standardIsNumber)
     const bool type = view.Fields(Names::Type) == "0";
     const bool standard = standardIsNumber ? view.Fields(Names::Standard) == 0 : view.Fields(Names::Standard) == "0";
     return location && category && type && standard;
-}
-
-// Closes all views and tells how many rows each table has.
-std::vector<TableCount> close_Views()
-{
-    std::vector<TableCount> counts;
-    for (const ViewOfTable& closing : closingOrder) {
-        TableView& view = Data1.*closing.view;
-        counts.push_back({closing.table, view.RecordCount()});
-        view.Close();
-    }
-    return counts;
 }
 
 // Refuses a copy of the database that can't be opened and read through, or lacks a row.
@@ -68,13 +42,25 @@ void proveDatabase(const QString& copy, const std::vector<TableCount>& counts)
                 QStringLiteral("the backup copy of %1 doesn't hold its %2 rows").arg(count.table).arg(count.rows));
 }
 
+// An empty journal that couldn't be removed stays where it is.
+bool isJournal(const QString& file)
+{
+    return file.endsWith(QLatin1String("-journal"));
+}
+
 void back_Up_Database(const std::vector<TableCount>& counts)
 {
-    const auto proof = [&counts](const QString& source, const QString& copy) {
-        if (source == places::databaseFile())
-            proveDatabase(copy, counts);
+    bool isProved = false;
+    const auto proof = [&](const QString& source, const QString& copy) {
+        if (source != places::databaseFile())
+            return;
+        proveDatabase(copy, counts);
+        isProved = true;
     };
-    sys::copyFolder(places::databaseFolder(), places::backupFolder(), proof);
+    sys::copyFolder(places::databaseFolder(), places::backupFolder(), proof, isJournal);
+    if (!isProved) // a link, say, leads to the data and is none
+        throw values::RuntimeFailure(values::FailureKind::File,
+            QStringLiteral("the backup holds no database, since %1 is no file").arg(places::databaseFile()));
 }
 
 } // namespace
@@ -101,7 +87,7 @@ void frmProgress::close_Program()
     purge_Blank_Names({&DataStore::rsIndoor, false, false});
     purge_Blank_Names({&DataStore::rsOutdoor, true, true});
     purge_Blank_Names({&DataStore::rsMobile, true, false});
-    back_Up_Database(close_Views());
+    back_Up_Database(ending::close_Views());
     hide();
     forms::screen<frmExit>().show();
 }

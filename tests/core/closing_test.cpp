@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/data_store.h"
+#include "core/ending.h"
 #include "core/frmExit.h"
 #include "core/frmMain.h"
 #include "core/frmProgress.h"
@@ -10,9 +11,15 @@
 #include <QDir>
 #include <QFile>
 
+#include <gmock/gmock.h>
+
 using forms::Answer;
 using forms::screen;
 using storage::TableView;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
 
 namespace {
 
@@ -105,10 +112,13 @@ TEST_F(Closing, OverwritesTheLastBackupAndLeavesWhatIsNotItsOwn)
     QDir().mkpath(places::backupFolder());
     write(backupFile(), "an older copy");
     write(places::backupFolder() + "/letter.txt", "not ours");
+    write(places::databaseFile() + "-foreign-journal", "put aside");
     closeProgram();
     EXPECT_EQ(contentsOf(backupFile()), contentsOf(places::databaseFile()));
     EXPECT_EQ(QFile::permissions(backupFile()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    EXPECT_EQ(QDir(places::backupFolder()).entryList(QDir::Files), QStringList({"KTL.db", "letter.txt"}));
     EXPECT_EQ(contentsOf(places::backupFolder() + "/letter.txt"), "not ours");
+    EXPECT_EQ(ending::what_Is_Known(), "Everything that you saved is safe.");
 }
 
 TEST_F(Closing, ReportsADatabaseThatDoesNotReadThroughAndKeepsTheOldBackup)
@@ -125,6 +135,43 @@ TEST_F(Closing, ReportsADatabaseThatDoesNotReadThroughAndKeepsTheOldBackup)
     EXPECT_TRUE(reportedFailure());
     EXPECT_FALSE(Data1.Home.isOpen()) << "the views are closed before the copy is made";
     EXPECT_EQ(contentsOf(backupFile()), "the last good copy");
+    EXPECT_THAT(ending::what_Is_Known().toStdString(),
+        AllOf(StartsWith("Your data may not be whole. Database"), HasSubstr(places::databaseFile().toStdString()),
+            EndsWith("The backup of the last normal close: " + backupFile().toStdString())));
+}
+
+TEST_F(Closing, ReportsADatabaseThatWasMovedAwayAndMakesNoBackup)
+{
+    ASSERT_TRUE(QFile::rename(places::databaseFile(), places::databaseFile() + ".moved"));
+    closeProgram();
+    EXPECT_TRUE(reportedFailure());
+    EXPECT_FALSE(QFile::exists(places::backupFolder()));
+    EXPECT_THAT(ending::what_Is_Known().toStdString(),
+        AllOf(HasSubstr("KTL.db was moved"), EndsWith("There is no backup yet.")));
+}
+
+TEST_F(Closing, ReportsABackupThatIsOnlyALinkToTheDatabase)
+{
+    closeData();
+    const QString elsewhere = places::databaseFolder() + "/../elsewhere.db";
+    ASSERT_TRUE(QFile::rename(places::databaseFile(), elsewhere) && QFile::link(elsewhere, places::databaseFile()));
+    openData();
+    closeProgram();
+    EXPECT_TRUE(reportedFailure());
+    EXPECT_EQ(ending::what_Is_Known(), "Everything that you saved is safe.");
+}
+
+// The rows are counted when the store is closed, and again in the file.
+TEST_F(Closing, OfAFailedRunTellsOfRowsThatTheFileDoesNotHold)
+{
+    addName(Data1.rsIndoor, {"Attic", "0", "0"});
+    const QByteArray before = contentsOf(places::databaseFile());
+    addName(Data1.rsIndoor, {"Cellar", "0", "0"});
+    EXPECT_TRUE(ending::close_Store());
+    write(places::databaseFile(), before);
+    EXPECT_THAT(ending::what_Is_Known().toStdString(), HasSubstr("Indoor_Items doesn't hold its"));
+    write(places::databaseFile() + "-journal", QByteArray(2000, 'j'));
+    EXPECT_THAT(ending::what_Is_Known().toStdString(), HasSubstr("Leave KTL.db-journal beside it"));
 }
 
 } // namespace

@@ -32,7 +32,7 @@ struct Runtime {
     std::function<void(const FailureReport&)> reporter;
     std::function<void(int)> helpDoor;
     QString title;
-    QString reassurance;
+    std::function<QString()> closingWords;
 };
 
 Runtime& runtime()
@@ -59,7 +59,7 @@ void showReport(const FailureReport& report)
     QMessageBox box(QMessageBox::Critical, runtime().title,
         QStringLiteral("The program has to close: an operation failed.\n\n%1\n\nWhere: %2\n\n%3")
             .arg(report.failure, report.handler.isEmpty() ? QStringLiteral("outside of any handler") : report.handler,
-                runtime().reassurance));
+                runtime().closingWords ? runtime().closingWords() : QString()));
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -201,10 +201,10 @@ void setFailureReporter(std::function<void(const FailureReport&)> reporter)
     runtime().reporter = std::move(reporter);
 }
 
-void setReportWords(const QString& title, const QString& reassurance)
+void setReportWords(const QString& title, std::function<QString()> closingWords)
 {
     runtime().title = title;
-    runtime().reassurance = reassurance;
+    runtime().closingWords = std::move(closingWords);
 }
 
 void setHelpDoor(std::function<void(int)> door)

@@ -38,8 +38,8 @@ struct FailureReport {
 /// Takes the place of the run-time report and of the end of the process that follows it, for tests.
 void setFailureReporter(std::function<void(const FailureReport&)> reporter);
 
-/// Title and closing words of the run-time report's box.
-void setReportWords(const QString& title, const QString& reassurance);
+/// Title of the run-time report's box, and its closing words, which are asked for once the clean-up of onEnd() has run.
+void setReportWords(const QString& title, std::function<QString()> closingWords);
 
 /// The door that F1 goes through, with the number of the focused control's topic.
 void setHelpDoor(std::function<void(int number)> door);

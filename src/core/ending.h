@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/storage/schema.h"
+
+/// The end of the data store, whatever ends the program.
+namespace ending {
+
+/// Closes all views, which closes the file, and tells how many rows each table has.
+std::vector<storage::TableCount> close_Views();
+
+/// Closes what is open where no failure can be handled any more: says on the error output what failed. Whether all is
+/// well.
+bool close_Store();
+
+/// What the run-time report says of the data once the store is closed. That all is safe only where the file was read
+/// through and holds each row; else what is wrong, and where file and backup lie.
+QString what_Is_Known();
+
+} // namespace ending
