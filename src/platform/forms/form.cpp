@@ -211,7 +211,7 @@ void Form::hide()
 void Form::show_Modal(Form& owner)
 {
     if (modalLoop_)
-        throw values::RuntimeFailure(values::FailureKind::InvalidCall, name_ + QStringLiteral(" is shown already"));
+        return; // asked for once more before its first call has returned
     load();
     Stage& stage = Stage::instance();
     stage.settleUnless(*this);

@@ -38,6 +38,7 @@ public:
     void show();
 
     /// Shows the screen in front of `owner` and returns when it is hidden; meanwhile no other screen takes input.
+    /// Nothing happens where an earlier call hasn't returned yet.
     void show_Modal(Form& owner);
 
     /// Hides the screen. The screen shown before it comes forward, if one is there.

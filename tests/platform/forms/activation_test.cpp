@@ -27,7 +27,10 @@ TEST_F(Activation, OfAModalScreenAndBackOfItsOwner)
         second.show_Modal(first);
         journal.note("returned");
     };
-    second.answers["ok.Click"] = [this] { second.hide(); };
+    second.answers["ok.Click"] = [this] {
+        second.hide();
+        second.show_Modal(first); // an event in between: the first call hasn't returned yet
+    };
     first.show();
     journal.taken();
     whileModal([this] {
