@@ -13,7 +13,7 @@ struct Seed {
     const char* text;
 };
 
-// What the household's row holds where nothing has been told. Columns that nothing uses stay empty.
+// What the household's row holds where nothing has been told. A column that nothing uses has the mark too.
 constexpr Seed household[] = {
     {General::Last, "None"},
     {General::First, "None"},

@@ -53,6 +53,25 @@ told_to_end() {
     [ ! -e "$Backup" ] || fail "a backup was made"
 }
 
+moved_away() {
+    step "the database is moved away under the program: the next write says so"
+    a_home moved
+    started_at_menu
+    keys alt+r
+    wait_screen frmGenInfo
+    click frmGenInfo 'txtInfo(4)'
+    text Lost
+    mv "$Database" "$Place/elsewhere.db"
+    keys alt+s
+    until_true "the reason on the error output" grep -q 'KTL.db was moved' "$Log"
+    until_true "the report in front" is_in_front ""
+    shot moved-away
+    keys Return
+    ends_with 1
+    same "$(sql "$Place/elsewhere.db" "select City from Personal_Info")" None "a row went into the file moved away"
+    [ ! -e "$Database" ] || fail "a database was made"
+}
+
 without_database() {
     step "a start without a database"
     use_home "$Place/empty"
@@ -70,7 +89,25 @@ laid_only_once() {
     [ ! -e "$Database" ] || fail "a database was laid into a folder that was there"
 }
 
+far_below() {
+    step "a home with a path of 600 characters, and a data home that is no absolute path"
+    local part
+    part=$(printf '%0200d' 0)
+    use_home "$Place/$part/$part/$part"
+    export XDG_DATA_HOME=data
+    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    start_program
+    wait_screen frmIntroduction
+    keys alt+F4
+    answer far-below y
+    ends_with 0
+    same "$(dump "$Backup")" "$(dump "$Database")" "the backup is not the database"
+    unset XDG_DATA_HOME
+}
+
 killed
 told_to_end
+moved_away
 without_database
 laid_only_once
+far_below
