@@ -354,9 +354,6 @@ void frmAddUpDel::fill_Lists(const areas::Area& area)
 
 void frmAddUpDel::open_Calendar()
 {
-    auto& calendar = screen<frmCalendar>();
     setEnabled(false);
-    calendar.DateTarget = DateForAsset;
-    calendar.calDate.setValue(values::Date::tryParse(txtPur.text()).value_or(values::Today()));
-    calendar.show_Modal(*this);
+    screen<frmCalendar>().show_For(*this, DateForAsset, txtPur.text());
 }

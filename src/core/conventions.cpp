@@ -2,6 +2,7 @@
 #include "core/conventions.h"
 
 #include "core/frmProgress.h"
+#include "platform/forms/look.h"
 
 namespace conventions {
 
@@ -36,6 +37,16 @@ void setTabOrder(std::initializer_list<forms::Control*> controls)
     int place = 0;
     for (forms::Control* control : controls)
         control->setTabIndex(place++);
+}
+
+void showError(forms::Control& field)
+{
+    field.setBackColour(forms::look::colours().error);
+}
+
+void showNormal(forms::Control& field)
+{
+    field.setBackColour({});
 }
 
 } // namespace conventions

@@ -31,4 +31,8 @@ void setHelpNumbers(int number, std::initializer_list<forms::Control*> controls)
 /// The order in which the Tab key goes through the controls, from the first one on.
 void setTabOrder(std::initializer_list<forms::Control*> controls);
 
+/// The colour of a field in error, and the normal one again.
+void showError(forms::Control& field);
+void showNormal(forms::Control& field);
+
 } // namespace conventions

@@ -4,6 +4,7 @@
 #include "assets/frmAddUpDel.h"
 #include "core/conventions.h"
 #include "core/frmStartup.h"
+#include "household/frmInsInfo.h"
 
 #include <algorithm>
 
@@ -30,6 +31,8 @@ struct Target {
 const Target targets[] = {
     {3, 10, [] { screen<frmAddUpDel>().setEnabled(true); },
         [](const forms::MonthCalendar& date) { screen<frmAddUpDel>().txtPur.setText(dateText(date)); }},
+    {4, 8, [] { screen<frmInsInfo>().setEnabled(true); },
+        [](const forms::MonthCalendar& date) { screen<frmInsInfo>().txtPolicyExpire.setText(dateText(date)); }},
 };
 
 // Null for a number that no caller has.
@@ -62,6 +65,13 @@ void frmCalendar::Form_Unload(bool& cancel)
 {
     cancel = true;
     close_Calendar(forms::key::Escape);
+}
+
+void frmCalendar::show_For(forms::Form& caller, int target, const QString& shown)
+{
+    DateTarget = target;
+    calDate.setValue(values::Date::tryParse(shown).value_or(values::Today()));
+    show_Modal(caller);
 }
 
 void frmCalendar::copy_Date_Out()

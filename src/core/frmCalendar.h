@@ -18,6 +18,10 @@ public:
     /// Which caller the next picked date belongs to.
     values::Integer DateTarget;
 
+    /// Shows the calendar in front of `caller`, for the date of `target`, on the date that a field shows: today, where
+    /// its text is no date.
+    void show_For(forms::Form& caller, int target, const QString& shown);
+
 private:
     void look();
     void Form_Activate() override;

@@ -6,8 +6,10 @@
 #include "core/conventions.h"
 #include "core/frmStartup.h"
 #include "household/frmGenInfo.h"
+#include "household/frmInsInfo.h"
 #include "household/frmIntroduction.h"
 #include "household/frmKeyboard.h"
+#include "household/frmTotals.h"
 
 using forms::screen;
 
@@ -27,9 +29,9 @@ struct NumberedScreen {
 };
 
 constexpr NumberedScreen numberedScreens[] = {
-    {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {10, hideIfMade<frmAddUpDel>}, {13, hideIfMade<frmAuto>},
-    {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
-    {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
+    {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {6, hideIfMade<frmTotals>}, {8, hideIfMade<frmInsInfo>},
+    {10, hideIfMade<frmAddUpDel>}, {13, hideIfMade<frmAuto>}, {17, hideIfMade<frmIntroduction>},
+    {18, hideIfMade<frmKeyboard>}, {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
 };
 
 } // namespace

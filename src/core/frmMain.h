@@ -42,6 +42,7 @@ private:
     void cmdOut_Click();
     void cmdAuto_Click();
     void cmdPersonal_Click();
+    void cmdValue_Click();
     void cmdLeave_Click();
     void open_Area_Menu();
     void Refresh();

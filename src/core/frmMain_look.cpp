@@ -51,6 +51,7 @@ void frmMain::look()
     cmdIn.Click = [this] { cmdIn_Click(); };
     cmdOut.Click = [this] { cmdOut_Click(); };
     cmdAuto.Click = [this] { cmdAuto_Click(); };
+    cmdValue.Click = [this] { cmdValue_Click(); };
     cmdPersonal.Click = [this] { cmdPersonal_Click(); };
     cmdLeave.Click = [this] { cmdLeave_Click(); };
     layOut();

@@ -5,6 +5,7 @@
 #include "core/data_store.h"
 #include "core/frmMain.h"
 #include "core/frmStartup.h"
+#include "household/frmInsInfo.h"
 #include "platform/values/text.h"
 
 using forms::screen;
@@ -70,6 +71,21 @@ void frmGenInfo::Form_Unload(bool& cancel)
 {
     cancel = true;
     cmdExit_Click();
+}
+
+void frmGenInfo::cmdInsInfo_Click()
+{
+    save_It();
+    const auto stored = [](General::Column column) { return Data1.rsGeneral.Fields(column).text(); };
+    auto& policy = screen<frmInsInfo>();
+    policy.txtCompany.setText(stored(General::PolicyCompany));
+    policy.txtPolicyNum.setText(stored(General::PolicyNumber));
+    policy.txtPolicyExpire.setText(stored(General::PolicyExpiration));
+    policy.txtCoverageAmt.setText(values::currencyFormat(stored(General::PolicyCoverage)));
+    policy.chkNotify.setValue(stored(General::PolicyNotify) == "Yes" ? 1 : 0); // the exact case, unlike the start
+    policy.NotifyFromCode = false;
+    policy.show();
+    hide();
 }
 
 void frmGenInfo::cmdContinue_Click()

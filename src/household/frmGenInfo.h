@@ -43,6 +43,7 @@ private:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload(bool& cancel) override;
+    void cmdInsInfo_Click();
     void cmdContinue_Click();
     void cmdBack_Click();
     void cmdExit_Click();

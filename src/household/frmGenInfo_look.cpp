@@ -154,6 +154,7 @@ void frmGenInfo::answer()
     behaviours::twoLetterCode(cmbState);
     cmbState.Change = [this] { cmbState_Change(); };
     cmbState.LostFocus = [this] { cmbState_LostFocus(); };
+    cmdInsInfo.Click = [this] { cmdInsInfo_Click(); };
     cmdContinue[0].Click = [this] { cmdContinue_Click(); };
     cmdBack[0].Click = [this] { cmdBack_Click(); };
     cmdExit.Click = [this] { cmdExit_Click(); };

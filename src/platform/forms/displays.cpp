@@ -73,6 +73,10 @@ void Label::setCaption(const QString& caption)
     }
     const ToolkitCall call;
     label_->setText(shown);
+    if (alignsAmounts_) {
+        const int hanging = caption.endsWith(u')') ? 0 : label_->fontMetrics().horizontalAdvance(u')');
+        label_->setContentsMargins(0, 0, hanging, 0);
+    }
 }
 
 void Label::setRole(TextRole role)
@@ -93,6 +97,13 @@ void Label::wrapAt(int characters)
 {
     label_->setWordWrap(true);
     label_->setFixedWidth(label_->fontMetrics().averageCharWidth() * characters);
+}
+
+void Label::alignAmounts()
+{
+    alignsAmounts_ = true;
+    label_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setCaption(caption_);
 }
 
 void Label::nameFor(Control& control)

@@ -30,6 +30,10 @@ public:
     /// Breaks the text into lines at the given width in average characters.
     void wrapAt(int characters);
 
+    /// Stands on the right, amounts of several labels one below the other on their decimal points: the closing
+    /// parenthesis of an amount below zero hangs over.
+    void alignAmounts();
+
     /// Names a control: for assistive tools, and for the caption's access key, which moves the focus there.
     void nameFor(Control& control);
 
@@ -37,6 +41,7 @@ private:
     LabelWidget* label_;
     QString caption_;
     bool namesControl_ = false;
+    bool alignsAmounts_ = false;
 };
 
 /// A picture of the program's resources, at its own size.

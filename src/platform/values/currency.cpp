@@ -75,6 +75,13 @@ std::optional<qint64> countOf(const Amount& amount)
     return static_cast<qint64>(amount.negative ? 0 - *size : *size);
 }
 
+/// Of an amount without its sign, halves away from zero.
+quint64 centsOf(qint64 tenThousandths)
+{
+    const auto bits = static_cast<quint64>(tenThousandths);
+    return ((tenThousandths < 0 ? 0 - bits : bits) + 50) / 100;
+}
+
 RuntimeFailure overflow(const QString& detail)
 {
     return RuntimeFailure(FailureKind::Overflow, detail);
@@ -104,14 +111,21 @@ std::optional<Currency> Currency::tryParse(const QString& text)
 
 QString Currency::toText() const
 {
-    const auto bits = static_cast<quint64>(count_);
-    const quint64 cents = ((count_ < 0 ? 0 - bits : bits) + 50) / 100;
+    const quint64 cents = centsOf(count_);
     QString text = QString::number(cents / 100);
     for (qsizetype comma = text.size() - 3; comma > 0; comma -= 3) {
         text.insert(comma, u',');
     }
     text = u'$' + text + u'.' + QString::number(cents % 100).rightJustified(2, u'0');
     return count_ < 0 && cents > 0 ? u'(' + text + u')' : text;
+}
+
+Currency Currency::rounded() const
+{
+    const quint64 size = centsOf(count_) * 100;
+    if (size > quint64{std::numeric_limits<qint64>::max()})
+        throw overflow(QStringLiteral("an amount rounded to cents"));
+    return Currency(count_ < 0 ? -static_cast<qint64>(size) : static_cast<qint64>(size));
 }
 
 Currency Currency::operator-() const
@@ -137,6 +151,12 @@ Currency& Currency::operator-=(Currency other)
     }
     count_ = difference;
     return *this;
+}
+
+QString currencyFormat(const QString& text)
+{
+    const std::optional<Currency> amount = Currency::tryParse(text);
+    return amount ? amount->toText() : text;
 }
 
 } // namespace values

@@ -30,6 +30,9 @@ public:
     /// from zero; what rounds to zero is "$0.00".
     QString toText() const;
 
+    /// The amount as `toText` prints it, to two decimals.
+    Currency rounded() const;
+
     Currency operator-() const;
     Currency& operator+=(Currency other);
     Currency& operator-=(Currency other);
@@ -45,5 +48,8 @@ private:
 
     qint64 count_ = 0;
 };
+
+/// A text as screens show an amount: as `toText` prints it where it reads as one, as it stands where it doesn't.
+QString currencyFormat(const QString& text);
 
 } // namespace values
