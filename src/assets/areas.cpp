@@ -47,6 +47,11 @@ const Area& ofName(const QString& name)
     return orMobile(find(name));
 }
 
+const Area& ofNameUpper(const QString& name)
+{
+    return orMobile(findUpper(name));
+}
+
 const Area* find(const QString& name)
 {
     return first([&name](const Area& area) { return area.name == name; });

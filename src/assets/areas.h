@@ -26,6 +26,9 @@ const Area& ofMenuTitle(const QString& title);
 /// The area of a name; Mobile for any name but the other two.
 const Area& ofName(const QString& name);
 
+/// The same without regard to case.
+const Area& ofNameUpper(const QString& name);
+
 /// The area of exactly this name, or none.
 const Area* find(const QString& name);
 

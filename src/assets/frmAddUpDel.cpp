@@ -7,7 +7,9 @@
 #include "core/frmCalendar.h"
 #include "core/frmMain.h"
 #include "core/frmStartup.h"
+#include "lists/editing.h"
 #include "lists/frmAddField.h"
+#include "lists/frmEditCmbBoxes.h"
 #include "lists/name_list.h"
 #include "platform/values/date.h"
 #include "platform/values/text.h"
@@ -74,14 +76,14 @@ void frmAddUpDel::cmbLoc_Click()
     keepName(screen<frmAddField>().SavedLocation, cmbLoc.text(), names::LocationMarker);
     cmbLoc.setLocked(false);
     if (cmbLoc.text() == names::LocationMarker)
-        ListInEdit = "Location";
+        open_List_Menu(editing::locations());
 }
 
 void frmAddUpDel::cmbCat_Click()
 {
     keepName(screen<frmAddField>().SavedCategory, cmbCat.text(), names::CategoryMarker);
     if (cmbCat.text() == names::CategoryMarker)
-        ListInEdit = "Category";
+        open_List_Menu(editing::categories());
     // The items of an asset that is already there stay as they are.
     if (!values::equalUpper(lblHead.caption(), UpdateHeading))
         fill_Item_List(cmbType, areas::ofName(cmbArea.text()).nameTable(), cmbCat.text());
@@ -350,6 +352,27 @@ void frmAddUpDel::fill_Lists(const areas::Area& area)
 {
     fill_Name_List(cmbLoc, area.nameTable(), Names::Location);
     fill_Name_List(cmbCat, area.nameTable(), Names::Category);
+}
+
+void frmAddUpDel::open_List_Menu(const editing::Kind& kind)
+{
+    ListInEdit = kind.name;
+    hide();
+    const editing::List& list = editing::listOf(areas::ofNameUpper(cmbArea.text()), kind);
+    auto& menu = screen<frmEditCmbBoxes>();
+    menu.lblHead.setCaption(list.text(editing::MenuHeading));
+    menu.MenuHelpNumber = list.menuHelp;
+    menu.load_Help();
+    clear_Menu_Options();
+    menu.show();
+    menu.cmdUpdate.setFocus();
+}
+
+void frmAddUpDel::clear_Menu_Options()
+{
+    auto& options = screen<frmEditCmbBoxes>().optEdit;
+    for (int Index = 0; Index < options.count(); ++Index)
+        options[Index].setValue(false);
 }
 
 void frmAddUpDel::open_Calendar()

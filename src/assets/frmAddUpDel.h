@@ -6,6 +6,10 @@
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
 
+namespace editing {
+struct Kind;
+}
+
 /// The asset screen, on which one asset is entered, or one that was found is shown for update and deletion. It has no
 /// load of its own: check_Form_Type prepares it.
 class frmAddUpDel : public forms::Form {
@@ -107,6 +111,8 @@ private:
     void reset_Fields();
     void empty_Details();
     void fill_Lists(const areas::Area& area);
+    void open_List_Menu(const editing::Kind& kind);
+    static void clear_Menu_Options();
     void open_Calendar();
     bool leaving_Is_Confirmed();
 

@@ -10,6 +10,10 @@
 #include "household/frmIntroduction.h"
 #include "household/frmKeyboard.h"
 #include "household/frmTotals.h"
+#include "lists/frmAddField.h"
+#include "lists/frmDelField.h"
+#include "lists/frmEditCmbBoxes.h"
+#include "lists/frmUpdate.h"
 
 using forms::screen;
 
@@ -30,8 +34,10 @@ struct NumberedScreen {
 
 constexpr NumberedScreen numberedScreens[] = {
     {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {6, hideIfMade<frmTotals>}, {8, hideIfMade<frmInsInfo>},
-    {10, hideIfMade<frmAddUpDel>}, {13, hideIfMade<frmAuto>}, {17, hideIfMade<frmIntroduction>},
-    {18, hideIfMade<frmKeyboard>}, {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
+    {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>}, {12, hideIfMade<frmEditCmbBoxes>},
+    {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>}, {16, hideIfMade<frmDelField>},
+    {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
+    {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
 };
 
 } // namespace

@@ -35,28 +35,38 @@ private:
     QStringList names_;
 };
 
-void rewind(storage::TableView& table)
+// The names of a column in those rows that `takes` wants.
+template <class Test>
+void addNames(forms::ComboBox& list, storage::TableView& table, Names::Column column, Test takes)
+{
+    NewNames found(list);
+    for (names::rewind(table); !table.atEOF(); table.MoveNext())
+        if (takes())
+            found.take(table.Fields(column).text());
+    list.addItems(found.names());
+}
+
+} // namespace
+
+void names::rewind(storage::TableView& table)
 {
     if (table.RecordCount() != 0)
         table.MoveFirst();
 }
 
-} // namespace
-
 void fill_Name_List(forms::ComboBox& list, storage::TableView& table, Names::Column column)
 {
-    NewNames found(list);
-    for (rewind(table); !table.atEOF(); table.MoveNext())
-        found.take(table.Fields(column).text());
-    list.addItems(found.names());
+    addNames(list, table, column, [] { return true; });
 }
 
 void fill_Item_List(forms::ComboBox& list, storage::TableView& table, const QString& category)
 {
     list.clear();
-    NewNames found(list);
-    for (rewind(table); !table.atEOF(); table.MoveNext())
-        if (values::equalUpper(table.Fields(Names::Category).text(), category))
-            found.take(table.Fields(Names::Type).text());
-    list.addItems(found.names());
+    addNames(
+        list, table, Names::Type, [&] { return values::equalUpper(table.Fields(Names::Category).text(), category); });
+}
+
+void add_Items_Of(forms::ComboBox& list, storage::TableView& table, const QString& category)
+{
+    addNames(list, table, Names::Type, [&] { return table.Fields(Names::Category) == category; });
 }

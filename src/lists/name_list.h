@@ -10,9 +10,13 @@ namespace names {
 /// The cell of a row that holds no name in a column.
 inline const QString Blank = QStringLiteral("0");
 
-/// The names that lead to the list editors. They stand in the tables among the others.
+/// The names that lead to the list editors, except that no editor has items. They stand in the tables among the others.
 inline const QString LocationMarker = QStringLiteral("< Add/Edit Location >");
 inline const QString CategoryMarker = QStringLiteral("< Add/Edit Category >");
+inline const QString ItemMarker = QStringLiteral("< Add/Edit Item >");
+
+/// Stands on the first row of a table, if it has rows.
+void rewind(storage::TableView& table);
 
 } // namespace names
 
@@ -23,3 +27,6 @@ void fill_Name_List(forms::ComboBox& list, storage::TableView& table, Names::Col
 /// Empties the list and fills it with the items of a category, by the same rule. A table without rows is left alone,
 /// and so is its place.
 void fill_Item_List(forms::ComboBox& list, storage::TableView& table, const QString& category);
+
+/// Adds the items of a category, told apart exactly, to what the list holds.
+void add_Items_Of(forms::ComboBox& list, storage::TableView& table, const QString& category);

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "assets/areas.h"
+#include "assets/asset_screen.h"
+#include "core/frmStartup.h"
+#include "lists/frmDelField.h"
+#include "lists/frmEditCmbBoxes.h"
+#include "lists/frmUpdate.h"
+#include "platform/forms/look.h"
+
+/// A test with the list editors, reached through the markers of the asset screen.
+class ListEditorsTest : public AssetScreenTest {
+protected:
+    static constexpr int Stop = 16;
+    static constexpr const char* LeaveEditor = "   All Changes Will Be Lost...Continue?";
+    static constexpr const char* LeaveChange = "    All Changes Will Be Lost...Continue?"; // one blank more
+
+    enum Option { Add, Change, Delete };
+
+    static frmEditCmbBoxes& menu() { return forms::screen<frmEditCmbBoxes>(); }
+    static frmAddField& adding() { return forms::screen<frmAddField>(); }
+    static frmUpdate& changing() { return forms::screen<frmUpdate>(); }
+    static frmDelField& deleting() { return forms::screen<frmDelField>(); }
+
+    static forms::ComboBox& boxOf(const QString& kind) { return kind == "Location" ? asset().cmbLoc : asset().cmbCat; }
+    static void pickMarker(const QString& kind) { pick(boxOf(kind), "< Add/Edit " + kind + " >"); }
+
+    static void choose(Option option)
+    {
+        click(menu().optEdit[option]);
+        click(menu().cmdUpdate);
+    }
+
+    static void open(Option option, const QString& area = "Indoor", const QString& kind = "Location")
+    {
+        openToAdd(area);
+        pickMarker(kind);
+        choose(option);
+    }
+
+    void change(const QString& current, const QString& name, const QString& message, int flags = Information)
+    {
+        changing().cmbCat.setText(current);
+        type(changing().txtNew, name);
+        expectBox(message, flags);
+        click(changing().cmdUpdate);
+    }
+
+    /// Deletes a location, with Yes to the question.
+    void remove(const QString& name, const std::pair<QString, int>& message = {})
+    {
+        deleting().cmbCat.setText(name);
+        expectBox("Are You Sure You Want To Delete This Indoor Location?", Question, forms::Answer::Yes);
+        if (!message.first.isEmpty())
+            expectBox(message.first, message.second);
+        click(deleting().cmdUpdate);
+    }
+
+    static void addName(storage::TableView& table, const QStringList& names, int standard = 0)
+    {
+        table.AddNew();
+        for (int column = Names::Location; column <= Names::Type; ++column)
+            table.Fields(column) = names[column];
+        table.Fields(Names::Standard) = standard;
+        table.Update();
+    }
+
+    static void addAsset(const QString& area, const QString& location, const QString& category)
+    {
+        Data1.rsInventory.AddNew();
+        Data1.rsInventory.Fields(Inventory::Area) = area;
+        Data1.rsInventory.Fields(Inventory::Location) = location;
+        Data1.rsInventory.Fields(Inventory::Category) = category;
+        Data1.rsInventory.Update();
+    }
+
+    static void removeRows(storage::TableView& table)
+    {
+        for (table.MoveFirst(); !table.atEOF(); table.MoveNext())
+            table.Delete();
+    }
+
+    /// The rows that didn't come with the program, as "location|category|item".
+    static QStringList usersRows(storage::TableView& table = Data1.rsIndoor)
+    {
+        QStringList rows;
+        if (table.RecordCount() != 0)
+            table.MoveFirst();
+        for (; !table.atEOF(); table.MoveNext())
+            if (table.Fields(Names::Standard) == 0)
+                rows.append(table.Fields(Names::Location).text() + "|" + table.Fields(Names::Category).text() + "|"
+                    + table.Fields(Names::Type).text());
+        return rows;
+    }
+
+    static QStringList assetsIn(Inventory::Column column)
+    {
+        QStringList texts;
+        auto& assets = Data1.rsInventory;
+        for (assets.MoveFirst(); !assets.atEOF(); assets.MoveNext())
+            texts.append(assets.Fields(column).text());
+        return texts;
+    }
+
+    static bool isRefused(const forms::Control& box)
+    {
+        return box.hasFocus() && box.backColour() == forms::look::colours().error;
+    }
+};
