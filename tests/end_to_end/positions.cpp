@@ -6,6 +6,10 @@
 #include "core/frmCalendar.h"
 #include "core/frmMain.h"
 #include "household/frmGenInfo.h"
+#include "lists/frmAddField.h"
+#include "lists/frmDelField.h"
+#include "lists/frmEditCmbBoxes.h"
+#include "lists/frmUpdate.h"
 
 #include <QApplication>
 #include <QTableView>
@@ -51,5 +55,9 @@ int main(int argc, char* argv[])
         printScreen<frmAuto>();
         printScreen<frmAddUpDel>();
         printScreen<frmCalendar>();
+        printScreen<frmEditCmbBoxes>();
+        printScreen<frmAddField>();
+        printScreen<frmUpdate>();
+        printScreen<frmDelField>();
     });
 }

@@ -169,7 +169,7 @@ asset_by_keys() {
     step "an asset, by keys, with a new name"
     local before dated
     before=$(sql "$Database" "select count(*) from Indoor_Items")
-    keys Down Down Tab
+    keys alt+Down Down Down Return Tab # the first row leads to the list editors
     pick_name cmbCat Category Art category-list-2
     keys Tab
     text 'Brass Kestrel'
