@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/frmAddUpDel.h"
 
+#include "assets/find_asset.h"
 #include "assets/frmAuto.h"
 #include "assets/settings.h"
 #include "core/conventions.h"
@@ -282,13 +283,7 @@ void frmAddUpDel::load_Update_Mode()
 
 bool frmAddUpDel::find_Selected_Asset()
 {
-    auto& assets = Data1.rsInventory;
-    const QString& selected = screen<frmSearchResults>().SelectedAsset;
-    if (assets.RecordCount() != 0)
-        assets.MoveFirst();
-    while (!assets.atEOF() && assets.Fields(Inventory::ID) != selected)
-        assets.MoveNext();
-    return !assets.atEOF();
+    return find_Asset(screen<frmSearchResults>().SelectedAsset.toLongLong());
 }
 
 void frmAddUpDel::load_Asset()

@@ -95,6 +95,7 @@ private:
     void txtLoc_KeyPress();
     void chkWar_Click();
     void chkClear_Click();
+    void cmdWarranty_Click();
     void cmdCancel_Click();
     void cmdMain_Click();
     void cmdClear_Click();
@@ -127,6 +128,7 @@ private:
     void add_To_Item_List();
     bool names_Are_Known(storage::TableView& table);
     void tell_And_Go_On();
+    void open_Warranty_Of_New_Asset();
     void refuse_Date();
 
     values::Integer HelpBase;

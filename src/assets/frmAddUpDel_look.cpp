@@ -211,6 +211,7 @@ void frmAddUpDel::answerFields()
 
 void frmAddUpDel::answerButtons()
 {
+    cmdWarranty.Click = [this] { cmdWarranty_Click(); };
     cmdAdd.Click = [this] { save_It(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };
     cmdMain.Click = [this] { cmdMain_Click(); };

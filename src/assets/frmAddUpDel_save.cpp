@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Checking and saving the asset on the screen.
 #include "assets/frmAddUpDel.h"
+#include "assets/frmWar.h"
 #include "core/conventions.h"
 #include "core/frmMain.h"
 #include "lists/name_list.h"
@@ -225,6 +226,17 @@ void frmAddUpDel::tell_And_Go_On()
         load_Add_Mode();
     }
     if (chkWar.value() == 1 && WarrantyDue)
-        AssetKey = Data1.rsInventory.Fields(Inventory::ID).integer();
-    cmbLoc.setFocus();
+        open_Warranty_Of_New_Asset();
+    else
+        cmbLoc.setFocus();
+}
+
+// The new asset is still the current row.
+void frmAddUpDel::open_Warranty_Of_New_Asset()
+{
+    AssetKey = Data1.rsInventory.Fields(Inventory::ID).integer();
+    auto& warranty = screen<frmWar>();
+    warranty.load_It();
+    hide();
+    warranty.show();
 }

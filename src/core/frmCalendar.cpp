@@ -2,6 +2,7 @@
 #include "core/frmCalendar.h"
 
 #include "assets/frmAddUpDel.h"
+#include "assets/frmWar.h"
 #include "core/conventions.h"
 #include "core/frmStartup.h"
 #include "household/frmInsInfo.h"
@@ -28,7 +29,33 @@ struct Target {
     void (*deliver)(const forms::MonthCalendar& date);
 };
 
+// The month goes first, for it refills the list of days. A number that no month has writes nothing.
+void deliverPieces(
+    const forms::MonthCalendar& date, forms::ComboBox& month, forms::ComboBox& day, forms::ComboBox& year)
+{
+    if (date.Month() >= 1 && date.Month() <= frmCalendar::MonthNames.size())
+        month.setText(frmCalendar::MonthNames[date.Month() - 1]);
+    day.setText(QString::number(date.Day()));
+    year.setText(QString::number(date.Year()));
+}
+
+void giveWarrantyBack()
+{
+    screen<frmWar>().cmdCancel.setEnabled(true);
+    screen<frmWar>().cmdSave.setEnabled(true);
+}
+
 const Target targets[] = {
+    {frmWar::PartsDate, 9, giveWarrantyBack,
+        [](const forms::MonthCalendar& date) {
+            auto& warranty = screen<frmWar>();
+            deliverPieces(date, warranty.cmbPMonth, warranty.cmbPDay, warranty.cmbPYear);
+        }},
+    {frmWar::LaborDate, 9, giveWarrantyBack,
+        [](const forms::MonthCalendar& date) {
+            auto& warranty = screen<frmWar>();
+            deliverPieces(date, warranty.cmbLMonth, warranty.cmbLDay, warranty.cmbLYear);
+        }},
     {3, 10, [] { screen<frmAddUpDel>().setEnabled(true); },
         [](const forms::MonthCalendar& date) { screen<frmAddUpDel>().txtPur.setText(dateText(date)); }},
     {4, 8, [] { screen<frmInsInfo>().setEnabled(true); },

@@ -4,6 +4,8 @@
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
 
+#include <QStringList>
+
 /// The one way in which a date gets into a date field. A caller disables what must not be used meanwhile, sets
 /// DateTarget and the date of calDate, and shows this screen with show_Modal; the calendar delivers the date and
 /// enables again what was disabled.
@@ -14,6 +16,9 @@ public:
     forms::Label lblHead2{*this, "lblHead2"};
     forms::MonthCalendar calDate{*this, "calDate"};
     forms::Label lblHead{*this, "lblHead"};
+
+    static inline const QStringList MonthNames =
+        QStringLiteral("Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec").split(u' ');
 
     /// Which caller the next picked date belongs to.
     values::Integer DateTarget;

@@ -3,6 +3,7 @@
 
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
+#include "assets/frmWar.h"
 #include "core/conventions.h"
 #include "core/frmStartup.h"
 #include "household/frmGenInfo.h"
@@ -34,9 +35,9 @@ struct NumberedScreen {
 
 constexpr NumberedScreen numberedScreens[] = {
     {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {6, hideIfMade<frmTotals>}, {8, hideIfMade<frmInsInfo>},
-    {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>}, {12, hideIfMade<frmEditCmbBoxes>},
-    {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>}, {16, hideIfMade<frmDelField>},
-    {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
+    {9, hideIfMade<frmWar>}, {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>},
+    {12, hideIfMade<frmEditCmbBoxes>}, {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>},
+    {16, hideIfMade<frmDelField>}, {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
     {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
 };
 

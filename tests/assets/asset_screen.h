@@ -6,6 +6,7 @@
 #include "core/frmMain.h"
 #include "lists/frmAddField.h"
 #include "platform/storage/connection.h"
+#include "platform/storage/statement.h"
 #include "search/frmSearchResults.h"
 #include "support/harness.h"
 
@@ -37,6 +38,7 @@ protected:
     {
         forms::screen<frmMain>().FromResults = true;
         forms::screen<frmSearchResults>().SelectedAsset = id;
+        asset().AssetKey = values::Integer::fromText(id);
         asset().check_Form_Type();
     }
 
@@ -80,6 +82,23 @@ protected:
         lastRow(table);
         return {table.Fields(Names::Location).text(), table.Fields(Names::Category).text(),
             table.Fields(Names::Type).text(), table.Fields(Names::Standard).text()};
+    }
+
+    /// A column of the asset of an ID, as it would be read when it is opened again.
+    static QString stored(int id, Inventory::Column column)
+    {
+        auto& assets = Data1.rsInventory;
+        for (assets.MoveFirst(); !(assets.Fields(Inventory::ID) == id);)
+            assets.MoveNext();
+        return assets.Fields(column).text();
+    }
+
+    /// From now on the file refuses a kind of statement on a table, as a full disk does.
+    static void refuseWrites(const QByteArray& statement, const QByteArray& table)
+    {
+        storage::execute(Data1.Home.handle(),
+            "CREATE TEMP TRIGGER Refuse" + table + " BEFORE " + statement + " ON " + table
+                + " BEGIN SELECT RAISE(ABORT, 'no room'); END");
     }
 
     static values::Currency assetValue() { return Data1.rsGeneral.Fields(General::AssetValue).currency(); }

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "assets/find_asset.h"
+
+#include "core/data_store.h"
+
+bool find_Asset(qint64 id)
+{
+    auto& assets = Data1.rsInventory;
+    if (assets.RecordCount() != 0)
+        assets.MoveFirst();
+    while (!assets.atEOF() && !(assets.Fields(Inventory::ID) == id))
+        assets.MoveNext();
+    return !assets.atEOF();
+}

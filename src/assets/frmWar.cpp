@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "assets/frmWar.h"
+
+#include "assets/find_asset.h"
+#include "assets/frmAddUpDel.h"
+#include "core/conventions.h"
+#include "core/frmCalendar.h"
+#include "core/frmStartup.h"
+#include "platform/values/date.h"
+#include "platform/values/text.h"
+
+using forms::screen;
+
+namespace {
+
+const QString None = QStringLiteral("None");
+
+// A stored amount in the form of money; what doesn't read as one stands as it is.
+QString amountText(const QString& stored)
+{
+    const auto amount = values::Currency::tryParse(stored);
+    return amount ? amount->toText() : stored;
+}
+
+// February has 29 days in every year, and what is no month has 31.
+int daysOf(const QString& month)
+{
+    const QString name = values::upper(month);
+    if (name == "SEP" || name == "APR" || name == "JUN" || name == "NOV")
+        return 30;
+    return name == "FEB" ? 29 : 31;
+}
+
+} // namespace
+
+/// A box and the column that it shows.
+struct frmWar::Entry {
+    enum Kind { CoverageType, Amount, Plain };
+
+    forms::TextEntry& box;
+    Inventory::Column column;
+    Kind kind = Plain;
+
+    QString shown(const QString& stored) const
+    {
+        if (kind == CoverageType)
+            return stored; // "None" is one of the types
+        if (stored == None)
+            return {};
+        return kind == Amount ? amountText(stored) : stored;
+    }
+
+    QString textOr(const QString& whenEmpty) const { return box.text().isEmpty() ? whenEmpty : box.text(); }
+};
+
+frmWar::frmWar()
+    : forms::Form("frmWar")
+{
+    look();
+}
+
+void frmWar::load_It()
+{
+    if (!find_Its_Asset())
+        return;
+    txtName.setText(Data1.rsInventory.Fields(Inventory::Type).text());
+    for (const Entry& entry : entries())
+        entry.box.setText(entry.shown(Data1.rsInventory.Fields(entry.column).text()));
+}
+
+void frmWar::Form_Activate()
+{
+    frmStartup::CurrentScreen = 9;
+}
+
+void frmWar::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    cmdCancel_Click();
+}
+
+// ---- fields
+
+void frmWar::month_Change(const Expiry& end)
+{
+    end.day.clear();
+    QStringList days;
+    for (int day = 1; day <= daysOf(end.month.text()); ++day)
+        days.append(QString::number(day));
+    end.day.addItems(days);
+}
+
+void frmWar::month_Click(const Expiry& end)
+{
+    month_Change(end);
+    end.month.selectAll();
+}
+
+void frmWar::day_GotFocus(const Expiry& end)
+{
+    if (end.day.listCount() != 0) {
+        end.day.selectAll();
+        return;
+    }
+    conventions::MsgBox("          Please Select A Month First!", forms::box::Information);
+    end.month.setFocus();
+}
+
+void frmWar::year_KeyDown(const Expiry& end, int& KeyCode)
+{
+    if (!forms::behaviours::isMovementKey(KeyCode))
+        KeyCode = forms::key::Refused;
+    end.year.selectAll();
+}
+
+// Unlike in an amount, "/" is refused.
+void frmWar::coverage_KeyPress(int& KeyAscii)
+{
+    if (KeyAscii != '.')
+        forms::behaviours::takeDigits(KeyAscii);
+}
+
+void frmWar::picDate_Click(const Expiry& end)
+{
+    auto& calendar = screen<frmCalendar>();
+    cmdCancel.setEnabled(false);
+    cmdSave.setEnabled(false);
+    calendar.DateTarget = end.DateTarget;
+    if (end.year.text().isEmpty() || end.month.text().isEmpty() || end.day.text().isEmpty()) {
+        calendar.calDate.setValue(values::Today());
+    } else {
+        calendar.calDate.setDay(0); // while month and year change, lest the day be cut to the length of a wrong month
+        calendar.calDate.setMonth(static_cast<int>(frmCalendar::MonthNames.indexOf(end.month.text())) + 1);
+        calendar.calDate.setYear(end.year.text().toInt());
+        calendar.calDate.setDay(end.day.text().toInt());
+    }
+    calendar.show_Modal(*this);
+}
+
+// ---- buttons
+
+void frmWar::cmdSave_Click()
+{
+    if (!find_Its_Asset())
+        return;
+    auto& asset = Data1.rsInventory;
+    for (const Entry& entry : entries())
+        asset.Fields(entry.column) = entry.textOr(entry.kind == Entry::CoverageType ? "Unknown" : None);
+    asset.Update();
+    conventions::MsgBox("Your Warranty Information Has Been Saved!", forms::box::Information);
+    return_To_Asset();
+}
+
+void frmWar::cmdCancel_Click()
+{
+    WarChanged = false;
+    if (find_Its_Asset())
+        for (const Entry& entry : entries()) // an emptied type is compared as "None" here, not "Unknown": on purpose
+            WarChanged = WarChanged || entry.textOr(None) != Data1.rsInventory.Fields(entry.column).text();
+    if (WarChanged
+        && !conventions::confirmed(
+            "Changes To Warranty Information Will Be Lost...Continue?", forms::box::Question + forms::box::YesNo))
+        return;
+    return_To_Asset();
+}
+
+void frmWar::return_To_Asset()
+{
+    hide();
+    screen<frmAddUpDel>().show();
+}
+
+// ---- the row
+
+bool frmWar::find_Its_Asset()
+{
+    return find_Asset(screen<frmAddUpDel>().AssetKey);
+}
+
+// In the order in which they are read, written and compared. A month stands before its day, which it would empty.
+std::array<frmWar::Entry, 13> frmWar::entries()
+{
+    return {{{cmbParts, Inventory::PartsType, Entry::CoverageType}, {txtPAmt, Inventory::PartsAmount, Entry::Amount},
+        {txtPCover, Inventory::PartsCoverage}, {cmbPMonth, Inventory::PartsMonth}, {cmbPDay, Inventory::PartsDay},
+        {cmbPYear, Inventory::PartsYear}, {cmbLabor, Inventory::LaborType, Entry::CoverageType},
+        {txtLAmt, Inventory::LaborAmount, Entry::Amount}, {txtLCover, Inventory::LaborCoverage},
+        {cmbLMonth, Inventory::LaborMonth}, {cmbLDay, Inventory::LaborDay}, {cmbLYear, Inventory::LaborYear},
+        {txtDescription, Inventory::WarrantyDescription}}};
+}
