@@ -16,8 +16,6 @@
 #include "platform/values/text.h"
 #include "search/frmSearchResults.h"
 
-#include <utility>
-
 using forms::screen;
 
 namespace {
@@ -153,9 +151,28 @@ void frmAddUpDel::cmdCancel_Click()
     if (!leaving_Is_Confirmed())
         return;
     clear_ComboBoxes();
-    screen<frmAuto>().show();
+    if (screen<frmMain>().FromResults)
+        return_To_Results();
+    else
+        screen<frmAuto>().show();
     hide();
 }
+
+// The search runs again: the asset may have changed.
+void frmAddUpDel::return_To_Results()
+{
+    auto& results = screen<frmSearchResults>();
+    {
+        const forms::WaitPointer pointer;
+        setEnabled(false);
+        results.FromSearchScreen = false;
+        results.load_From_Search_Screen();
+    }
+    setEnabled(true);
+    results.show();
+}
+
+// The lists stay as they are, unlike at a cancel: on purpose.
 
 void frmAddUpDel::cmdMain_Click()
 {
@@ -289,11 +306,7 @@ bool frmAddUpDel::find_Selected_Asset()
 void frmAddUpDel::load_Asset()
 {
     const auto stored = [](int column) { return Data1.rsInventory.Fields(column); };
-    const std::pair<forms::TextEntry&, Inventory::Column> fields[] = {{cmbLoc, Inventory::Location},
-        {cmbCat, Inventory::Category}, {cmbType, Inventory::Type}, {cmbYear, Inventory::Year},
-        {txtMake, Inventory::Make}, {txtMod, Inventory::Model}, {txtSerial, Inventory::SerialVinId},
-        {txtPur, Inventory::DatePurchased}};
-    for (const auto& [field, column] : fields)
+    for (const auto& [field, column] : plain_Fields())
         field.setText(stored(column).text());
     txtPPrice.setText(stored(Inventory::Amount).currency().toText());
     SavedPrice = txtPPrice.text();
@@ -301,6 +314,13 @@ void frmAddUpDel::load_Asset()
     txtLoc.setText(stored(Inventory::ReceiptLocation).text());
     txtDescription.setText(stored(Inventory::Description).text());
     optPurNewUsed[stored(Inventory::Purchased) == "New" ? 0 : 1].setValue(true);
+}
+
+std::array<frmAddUpDel::PlainField, 8> frmAddUpDel::plain_Fields()
+{
+    return {{{cmbLoc, Inventory::Location}, {cmbCat, Inventory::Category}, {cmbType, Inventory::Type},
+        {cmbYear, Inventory::Year}, {txtMake, Inventory::Make}, {txtMod, Inventory::Model},
+        {txtSerial, Inventory::SerialVinId}, {txtPur, Inventory::DatePurchased}}};
 }
 
 void frmAddUpDel::load_War_Option()

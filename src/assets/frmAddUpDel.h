@@ -6,6 +6,8 @@
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
 
+#include <array>
+
 namespace editing {
 struct Kind;
 }
@@ -96,9 +98,12 @@ private:
     void chkWar_Click();
     void chkClear_Click();
     void cmdWarranty_Click();
+    void cmdUpdate_Click();
+    void cmdDelete_Click();
     void cmdCancel_Click();
     void cmdMain_Click();
     void cmdClear_Click();
+    void cmdPrint_Click();
 
     void prepare_For_Adding();
     void prepare_For_Updating();
@@ -116,6 +121,7 @@ private:
     static void clear_Menu_Options();
     void open_Calendar();
     bool leaving_Is_Confirmed();
+    void return_To_Results();
 
     struct Requirement;
     void check_Input();
@@ -124,12 +130,24 @@ private:
     void settle_Receipt_Location();
     void store_Asset();
     void add_Asset_Row();
-    void add_To_Asset_Value();
+    void put_Fields(storage::TableView& row);
+    static void move_Asset_Value(values::Currency less, values::Currency more);
     void add_To_Item_List();
     bool names_Are_Known(storage::TableView& table);
     void tell_And_Go_On();
     void open_Warranty_Of_New_Asset();
     void refuse_Date();
+
+    void update_Asset();
+    void follow_Price();
+    void print_Asset();
+
+    /// A field that shows a column as it stands.
+    struct PlainField {
+        forms::TextEntry& field;
+        Inventory::Column column;
+    };
+    std::array<PlainField, 8> plain_Fields();
 
     values::Integer HelpBase;
     bool NoReceipt = false; // the user has last stepped onto the "No" receipt option
@@ -138,6 +156,6 @@ private:
     bool LocIsNew = false;
     bool CatIsNew = false;
     bool ItemIsNew = false;
-    QString SavedPrice; // as it stood when the asset was opened
+    QString SavedPrice; // as it stood when the asset was opened or last updated
     MoneyField moneyField_{txtPPrice};
 };

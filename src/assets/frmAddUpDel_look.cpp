@@ -213,9 +213,12 @@ void frmAddUpDel::answerButtons()
 {
     cmdWarranty.Click = [this] { cmdWarranty_Click(); };
     cmdAdd.Click = [this] { save_It(); };
+    cmdUpdate.Click = [this] { cmdUpdate_Click(); };
+    cmdDelete.Click = [this] { cmdDelete_Click(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };
     cmdMain.Click = [this] { cmdMain_Click(); };
     cmdClear.Click = [this] { cmdClear_Click(); };
+    cmdPrint.Click = [this] { cmdPrint_Click(); };
 }
 
 void frmAddUpDel::layOut()

@@ -149,7 +149,7 @@ void frmAddUpDel::save_It()
 void frmAddUpDel::store_Asset()
 {
     add_Asset_Row();
-    add_To_Asset_Value();
+    move_Asset_Value({}, values::Currency::parse(txtPPrice.text()));
     add_To_Item_List();
     if (!screen<frmMain>().FromResults)
         tell_And_Go_On();
@@ -159,30 +159,30 @@ void frmAddUpDel::add_Asset_Row()
 {
     auto& assets = Data1.rsInventory;
     assets.AddNew();
-    assets.Fields(Inventory::DatePurchased) = txtPur.text();
-    assets.Fields(Inventory::Area) = cmbArea.text();
-    assets.Fields(Inventory::Location) = cmbLoc.text();
-    assets.Fields(Inventory::Category) = cmbCat.text();
-    assets.Fields(Inventory::Type) = cmbType.text();
-    assets.Fields(Inventory::Year) = cmbYear.text();
-    assets.Fields(Inventory::Make) = txtMake.text();
-    assets.Fields(Inventory::Model) = txtMod.text();
-    assets.Fields(Inventory::SerialVinId) = txtSerial.text();
-    assets.Fields(Inventory::Amount) = txtPPrice.text();
-    assets.Fields(Inventory::Receipt) = optRecOnFile[0].value() ? "Yes" : "No";
-    assets.Fields(Inventory::ReceiptLocation) = txtLoc.text();
-    assets.Fields(Inventory::Description) = txtDescription.text();
+    put_Fields(assets);
     assets.Fields(Inventory::Purchased) = optPurNewUsed[0].value() ? "New" : "Used";
     for (const Inventory::Column column : warrantyColumns)
         assets.Fields(column) = "None";
     assets.Update();
 }
 
-void frmAddUpDel::add_To_Asset_Value()
+// What an asset and its printed copy have in common.
+void frmAddUpDel::put_Fields(storage::TableView& row)
 {
-    const auto price = values::Currency::parse(txtPPrice.text());
-    Data1.rsGeneral.Fields(General::AssetValue) = Data1.rsGeneral.Fields(General::AssetValue).currency() + price;
-    Data1.rsGeneral.Update();
+    row.Fields(Inventory::Area) = cmbArea.text();
+    for (const auto& [field, column] : plain_Fields())
+        row.Fields(column) = field.text();
+    row.Fields(Inventory::Amount) = txtPPrice.text();
+    row.Fields(Inventory::Receipt) = optRecOnFile[0].value() ? "Yes" : "No";
+    row.Fields(Inventory::ReceiptLocation) = txtLoc.text();
+    row.Fields(Inventory::Description) = txtDescription.text();
+}
+
+void frmAddUpDel::move_Asset_Value(values::Currency less, values::Currency more)
+{
+    auto& general = Data1.rsGeneral;
+    general.Fields(General::AssetValue) = general.Fields(General::AssetValue).currency() - less + more;
+    general.Update();
 }
 
 void frmAddUpDel::add_To_Item_List()
