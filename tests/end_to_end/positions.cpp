@@ -3,6 +3,7 @@
 // One line each, "screen control x y width height" relative to the screen's window, whose own line has the control ".".
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
+#include "assets/frmWar.h"
 #include "core/frmCalendar.h"
 #include "core/frmMain.h"
 #include "household/frmGenInfo.h"
@@ -54,6 +55,7 @@ int main(int argc, char* argv[])
         printScreen<frmGenInfo>();
         printScreen<frmAuto>();
         printScreen<frmAddUpDel>();
+        printScreen<frmWar>();
         printScreen<frmCalendar>();
         printScreen<frmEditCmbBoxes>();
         printScreen<frmAddField>();
