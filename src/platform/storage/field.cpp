@@ -75,13 +75,28 @@ TextId TableView::cellFor(const Column& column, const QString& value) const
     return texts().intern(value);
 }
 
+TextId Field::textId() const
+{
+    if (view_.column(ordinal_).type == ColumnType::Currency)
+        return view_.texts().intern(currency().toText());
+    return view_.cell(ordinal_);
+}
+
 const QString& Field::text() const
 {
-    TextPool& texts = view_.texts();
-    const TextId cell = view_.cell(ordinal_);
-    if (view_.column(ordinal_).type != ColumnType::Currency)
-        return texts.text(cell);
-    return texts.text(texts.intern(currency().toText()));
+    return view_.texts().text(textId());
+}
+
+std::string_view Field::upper() const
+{
+    return view_.texts().utf8(view_.texts().upper(textId()));
+}
+
+bool Field::contains(const FoldedText& text) const
+{
+    if (text.isEmpty())
+        return textId() != TextPool::empty;
+    return upper().find(text.upper()) != std::string_view::npos;
 }
 
 qint64 Field::integer() const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/storage/connection.h"
+#include "platform/storage/folded_text.h"
 #include "platform/storage/row_set.h"
 #include "platform/storage/statement.h"
 #include "platform/storage/table_definition.h"
@@ -48,7 +49,16 @@ public:
     bool operator==(int other) const { return integer() == other; }
     bool operator==(qint64 other) const { return integer() == other; }
 
+    /// True where both are the same in upper case.
+    bool equals(const FoldedText& text) const { return upper() == text.upper(); }
+
+    /// True where the text occurs in this one, both in upper case. An empty text occurs in any but an empty one.
+    bool contains(const FoldedText& text) const;
+
 private:
+    TextId textId() const;
+    std::string_view upper() const;
+
     TableView& view_;
     int ordinal_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/storage/text_pool.h"
 
+#include "platform/values/text.h"
+
 #include <algorithm>
 #include <bit>
 #include <charconv>
@@ -14,6 +16,16 @@ namespace {
 quint32 hashOf(std::string_view utf8)
 {
     return static_cast<quint32>(std::hash<std::string_view>()(utf8));
+}
+
+constexpr bool isAscii(char byte)
+{
+    return (byte & 0x80) == 0;
+}
+
+constexpr char upperAscii(char letter)
+{
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
 quint64 wordAt(const char* bytes, std::size_t count)
@@ -50,6 +62,7 @@ void TextPool::clear()
     recent_.fill({});
     index_ = std::vector<Slot>();
     indexed_ = empty;
+    upper_ = std::vector<TextId>();
 }
 
 const QString& TextPool::text(TextId id) const
@@ -92,10 +105,15 @@ TextId TextPool::add(std::string_view utf8)
 
 TextId TextPool::intern(const QString& text)
 {
+    return intern(encode(text));
+}
+
+std::string_view TextPool::encode(const QString& text)
+{
     encoded_.resize(static_cast<std::size_t>(encoder_.requiredSpace(text.size())));
     encoder_.resetState();
     const char* end = encoder_.appendToBuffer(encoded_.data(), text);
-    return intern(std::string_view(encoded_.data(), static_cast<std::size_t>(end - encoded_.data())));
+    return {encoded_.data(), static_cast<std::size_t>(end - encoded_.data())};
 }
 
 TextId TextPool::intern(qint64 number)
@@ -112,6 +130,28 @@ TextId TextPool::intern(std::string_view utf8)
     indexNewTexts();
     const TextId known = index_[slotFor(utf8, hashOf(utf8))].id;
     return known != empty ? known : add(utf8);
+}
+
+// Upper case
+
+TextId TextPool::upper(TextId id)
+{
+    if (id >= upper_.size())
+        upper_.resize(count_, unknown);
+    if (upper_[id] == unknown)
+        upper_[id] = fold(id);
+    return upper_[id];
+}
+
+TextId TextPool::fold(TextId id)
+{
+    const std::string_view text = utf8(id);
+    if (!std::ranges::all_of(text, isAscii))
+        return load(encode(values::upper(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())))));
+    encoded_.resize(text.size());
+    std::ranges::transform(text, encoded_.begin(), upperAscii);
+    const std::string_view upper(encoded_.data(), text.size());
+    return upper == text ? id : load(upper);
 }
 
 // The slot of a text, or the free one where it belongs.

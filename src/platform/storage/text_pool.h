@@ -39,11 +39,15 @@ public:
     /// The same as UTF-8; it stays where it is until `clear`.
     std::string_view utf8(TextId id) const { return spans_[id / blockSize][id % blockSize]; }
 
+    /// The number of the same text in upper case, by the rule of `values::upper`. It is made at the first question.
+    TextId upper(TextId id);
+
     void clear();
 
 private:
     static constexpr std::size_t blockSize = 512;
     static constexpr int recentBits = 11;
+    static constexpr TextId unknown = ~TextId{0};
     using Block = std::array<QString, blockSize>;
     struct Slot {
         TextId id = empty; // the empty text marks a free slot
@@ -52,6 +56,8 @@ private:
 
     TextId intern(std::string_view utf8);
     TextId add(std::string_view utf8);
+    TextId fold(TextId id);
+    std::string_view encode(const QString& text);
     std::size_t slotFor(std::string_view utf8, quint32 hash) const;
     void indexNewTexts();
     void growIndex();
@@ -63,6 +69,7 @@ private:
     std::array<Slot, 1 << recentBits> recent_; // by the upper bits of `quickHash`
     std::vector<Slot> index_; // by `hashOf`: open addressing, a power of two, at most half full
     TextId indexed_ = empty; // the last text in the index
+    std::vector<TextId> upper_; // by the text's number, up to the last that was asked for
     QStringEncoder encoder_;
     std::vector<char> encoded_;
 };
