@@ -12,8 +12,11 @@
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QPointer>
+#include <QStyle>
 #include <QStyleHints>
+#include <QStyleOptionFrame>
 
 #include <limits>
 
@@ -150,6 +153,39 @@ void LineEdit::byToolkit(const std::function<void()>& act)
     }
     if (text() != before)
         EntryKeys::changed(box_);
+}
+
+// ---- a text too long
+
+QRect LineEdit::room() const
+{
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const int caret = 2; // the toolkit keeps so much free on both sides of the text
+    return style()
+        ->subElementRect(QStyle::SE_LineEditContents, &option, this)
+        .marginsRemoved(textMargins())
+        .adjusted(caret, 0, -caret, 0);
+}
+
+bool LineEdit::fits() const
+{
+    return fontMetrics().horizontalAdvance(text()) <= room().width();
+}
+
+void LineEdit::paintEvent(QPaintEvent* event)
+{
+    if (!elided_ || hasFocus() || fits()) {
+        QLineEdit::paintEvent(event);
+        return;
+    }
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(room(), static_cast<int>(alignment() | Qt::AlignVCenter),
+        fontMetrics().elidedText(text(), Qt::ElideRight, room().width()));
 }
 
 // ---- what gets in

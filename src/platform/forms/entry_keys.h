@@ -73,7 +73,15 @@ public:
     /// Replaces the text without firing anything.
     void put(const QString& text);
 
+    /// Whether a text too long for the box ends in an ellipsis while the focus is elsewhere.
+    void setElided(bool elided) { elided_ = elided; }
+    bool isElided() const { return elided_; }
+
+    /// Whether the box has room for the whole text.
+    bool fits() const;
+
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -86,6 +94,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    QRect room() const;
     void takeCharacter(int character);
     void takeText(const QString& text);
     void insertFitting(const QString& text);
@@ -96,6 +105,7 @@ private:
     TextEntry& box_;
     QPointF focusingPress_; // where the press was that brought the focus
     bool steady_ = false; // true until the mouse has really moved after it
+    bool elided_ = false;
 };
 
 } // namespace forms

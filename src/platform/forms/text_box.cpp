@@ -49,7 +49,14 @@ void TextBox::setText(const QString& text)
     if (edit_->text() == text)
         return;
     edit_->put(text);
+    if (edit_->isElided())
+        setToolTip(edit_->fits() ? QString() : text);
     EntryKeys::changed(*this);
+}
+
+void TextBox::setElided(bool elided)
+{
+    edit_->setElided(elided);
 }
 
 void TextBox::setLocked(bool locked)

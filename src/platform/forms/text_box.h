@@ -73,6 +73,10 @@ public:
     /// Makes the box wide enough for so many average characters.
     void setWidthInCharacters(int characters);
 
+    /// For a box of fixed width: a text too long for it ends in an ellipsis, but while the box has the focus, and
+    /// stands whole in the tool tip.
+    void setElided(bool elided);
+
 private:
     LineEdit* edit_;
 };
