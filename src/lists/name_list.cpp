@@ -1,39 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/name_list.h"
 
+#include "lists/new_names.h"
 #include "platform/values/text.h"
 
-#include <QSet>
-#include <QStringList>
-
 namespace {
-
-// Collects names that a list lacks.
-class NewNames {
-public:
-    explicit NewNames(const forms::ComboBox& list)
-    {
-        known_.reserve(list.listCount());
-        for (int index = 0; index < list.listCount(); ++index)
-            known_.insert(values::upper(list.list(index)));
-    }
-
-    void take(const QString& name)
-    {
-        if (name.isEmpty() || name == names::Blank)
-            return;
-        const qsizetype before = known_.size();
-        known_.insert(values::upper(name));
-        if (known_.size() > before)
-            names_.append(name);
-    }
-
-    const QStringList& names() const { return names_; }
-
-private:
-    QSet<QString> known_; // in upper case
-    QStringList names_;
-};
 
 // The names of a column in those rows that `takes` wants.
 template <class Test>

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "lists/new_names.h"
+
+#include "lists/name_list.h"
+#include "platform/values/text.h"
+
+NewNames::NewNames(const forms::ComboBox& list)
+{
+    known_.reserve(list.listCount());
+    for (int index = 0; index < list.listCount(); ++index)
+        known_.insert(values::upper(list.list(index)));
+}
+
+void NewNames::take(const QString& name)
+{
+    if (name.isEmpty() || name == names::Blank)
+        return;
+    const qsizetype before = known_.size();
+    known_.insert(values::upper(name));
+    if (known_.size() > before)
+        names_.append(name);
+}
