@@ -7,16 +7,20 @@
 #include "core/conventions.h"
 #include "core/frmMain.h"
 #include "core/frmStartup.h"
+#include "reports/frmPrint.h"
+#include "search/frmSearch.h"
 
 using forms::screen;
 
 namespace {
 
 // The count is of all areas, whichever the menu works on.
-void refuse_Empty_Inventory(const QString& message)
+bool inventory_Is_Empty(const QString& refusal)
 {
-    if (Data1.rsInventory.RecordCount() == 0)
-        conventions::MsgBox(message, forms::box::Information);
+    if (Data1.rsInventory.RecordCount() != 0)
+        return false;
+    conventions::MsgBox(refusal, forms::box::Information);
+    return true;
 }
 
 } // namespace
@@ -49,12 +53,29 @@ void frmAuto::cmdAdd_Click()
 
 void frmAuto::cmdUpdate_Click()
 {
-    refuse_Empty_Inventory("There Are No Available Assets To Update...Please Add An Asset Before Continuing!!");
+    if (inventory_Is_Empty("There Are No Available Assets To Update...Please Add An Asset Before Continuing!!"))
+        return;
+    auto& search = screen<frmSearch>();
+    search.lblHead[0].setCaption("Search For Asset To Update");
+    screen<frmMain>().FromMenu = false; // FromResults and CustomPrint stay, on purpose
+    search.hide_Progress();
+    open_Search();
+    search.txtKey.setText({});
 }
 
 void frmAuto::cmdDelete_Click()
 {
-    refuse_Empty_Inventory("There Are No Available Assets To Delete...Please Add An Asset Before Continuing!!");
+    if (inventory_Is_Empty("There Are No Available Assets To Delete...Please Add An Asset Before Continuing!!"))
+        return;
+    screen<frmMain>().FromResults = false; // FromMenu stays, and the word that was typed, on purpose
+    screen<frmPrint>().CustomPrint = false;
+    auto& search = screen<frmSearch>();
+    search.lblHead[0].setCaption("Search For Asset To Delete");
+    search.hide_Progress();
+    search.show();
+    search.ClearLevel = 0;
+    search.clear_listboxes();
+    open_Search();
 }
 
 void frmAuto::cmdBack_Click()
@@ -74,4 +95,15 @@ void frmAuto::load_It()
     cmdAdd[0].setFocus();
     HelpBase = areas::ofMenuTitle(lblHead1[0].caption()).menuHelp;
     conventions::setHelpNumbers(HelpBase, {&cmdAdd[0], &cmdUpdate[1], &cmdDelete[0], &cmdBack[0], &cmdLeave[0]});
+}
+
+void frmAuto::open_Search()
+{
+    auto& search = screen<frmSearch>();
+    search.show();
+    search.ClearLevel = 0;
+    search.clear_listboxes();
+    search.cmbArea.setText(areas::ofMenuTitle(lblHead1[0].caption()).name);
+    search.cmbArea.setEnabled(false);
+    hide();
 }

@@ -22,6 +22,9 @@ public:
     /// Shows the menu for the area whose title has been written.
     void load_It();
 
+    /// Shows the search screen, which then stays inside the area.
+    void open_Search();
+
 private:
     void look();
     void layOut();

@@ -15,18 +15,14 @@
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
+#include "reports/frmPrint.h"
+#include "search/frmSearch.h"
+#include "search/frmSearchResults.h"
 
+using conventions::hideIfMade;
 using forms::screen;
 
 namespace {
-
-// A screen that was never made need not be made to be hidden.
-template <class Screen>
-void hideIfMade()
-{
-    if (forms::Form* made = forms::detail::findScreen(typeid(Screen)))
-        made->hide();
-}
 
 struct NumberedScreen {
     int number;
@@ -34,10 +30,11 @@ struct NumberedScreen {
 };
 
 constexpr NumberedScreen numberedScreens[] = {
-    {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {6, hideIfMade<frmTotals>}, {8, hideIfMade<frmInsInfo>},
-    {9, hideIfMade<frmWar>}, {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>},
-    {12, hideIfMade<frmEditCmbBoxes>}, {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>},
-    {16, hideIfMade<frmDelField>}, {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
+    {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {3, hideIfMade<frmPrint>}, {4, hideIfMade<frmSearch>},
+    {5, hideIfMade<frmSearchResults>}, {6, hideIfMade<frmTotals>}, {8, hideIfMade<frmInsInfo>}, {9, hideIfMade<frmWar>},
+    {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>}, {12, hideIfMade<frmEditCmbBoxes>},
+    {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>}, {16, hideIfMade<frmDelField>},
+    {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
     {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
 };
 
@@ -93,6 +90,26 @@ void frmMain::cmdPersonal_Click()
     personal.lblHead[2].setCaption("Second, Click Save to Update");
     personal.show();
     personal.load_PersonalInfo();
+    hide();
+}
+
+void frmMain::cmdSearch_Click()
+{
+    if (Data1.rsInventory.RecordCount() == 0) {
+        conventions::MsgBox("There Are No Available Assets To Search...Please Add An Asset Before Continuing!",
+            forms::box::Information);
+        return;
+    }
+    auto& search = screen<frmSearch>();
+    search.lblHead[0].setCaption("Search For Assets");
+    search.cmbArea.setEnabled(true);
+    search.txtKey.setText({});
+    search.pbSearch.setValue(0);
+    search.hide_Progress();
+    search.show();
+    search.ClearLevel = 1;
+    search.clear_listboxes();
+    FromMenu = true;
     hide();
 }
 

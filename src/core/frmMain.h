@@ -41,6 +41,7 @@ private:
     void cmdIn_Click();
     void cmdOut_Click();
     void cmdAuto_Click();
+    void cmdSearch_Click();
     void cmdPersonal_Click();
     void cmdValue_Click();
     void cmdLeave_Click();

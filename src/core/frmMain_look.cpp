@@ -52,6 +52,7 @@ void frmMain::look()
     cmdOut.Click = [this] { cmdOut_Click(); };
     cmdAuto.Click = [this] { cmdAuto_Click(); };
     cmdValue.Click = [this] { cmdValue_Click(); };
+    cmdSearch.Click = [this] { cmdSearch_Click(); };
     cmdPersonal.Click = [this] { cmdPersonal_Click(); };
     cmdLeave.Click = [this] { cmdLeave_Click(); };
     layOut();

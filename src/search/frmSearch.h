@@ -4,22 +4,61 @@
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
 
-/// The screen from which assets are searched: by a word, and by four lists that narrow each other.
+/// The screen from which assets are searched: by a word, and by four lists that narrow each other. Who shows it
+/// prepares it; hidden, it keeps what was typed and picked.
 class frmSearch : public forms::Form {
 public:
     frmSearch();
 
-    forms::ControlArray<forms::Label, 5> lblHead{*this, "lblHead"};
+    forms::ControlArray<forms::Label, 5> lblHead{*this, "lblHead"}; ///< heading, lists, word, what to do, "And / Or"
     forms::TextBox txtKey{*this, "txtKey"};
+    forms::Label lblArea{*this, "lblArea", "Area"};
     forms::ComboBox cmbArea{*this, "cmbArea", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::Label lblLocation{*this, "lblLocation", "Location"};
     forms::ComboBox cmbLocation{*this, "cmbLocation", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::Label lblCat{*this, "lblCat", "Category"};
     forms::ComboBox cmbCat{*this, "cmbCat", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::Label lblType{*this, "lblType", "Item"};
     forms::ComboBox cmbType{*this, "cmbType", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
     forms::ProgressBar pbSearch{*this, "pbSearch"};
     forms::CommandButton cmdBack{*this, "cmdBack"};
     forms::CommandButton cmdClearForm{*this, "cmdClearForm"};
     forms::CommandButton cmdContinue{*this, "cmdContinue"};
+    forms::Label lblSelIn{*this, "lblSelIn"};
+    forms::Label lblCopyright{*this, "lblCopyright"};
 
     values::Integer ClearLevel; ///< the level from which clear_listboxes starts
+
+    /// Sets the lists back to "Any": all four, or from ClearLevel on.
     void clear_listboxes();
+
+    /// Puts the progress bar in the place of the line that tells what to do, and takes it away again.
+    void raise_Progress();
+    void hide_Progress();
+
+private:
+    struct AreaWalk;
+
+    void look();
+    void answer();
+    void layOut();
+    void Form_Activate() override;
+    void Form_Unload(bool& cancel) override;
+
+    void cmbArea_Click();
+    void cmbLocation_GotFocus();
+    void cmbCat_GotFocus();
+    void cmbType_GotFocus();
+    void cmbType_LostFocus();
+    void cmdContinue_Click();
+    void cmdClearForm_Click();
+    void cmdBack_Click();
+
+    void fill_Location_List();
+    void fill_Category_List();
+    void fill_Item_List();
+    const AreaWalk* choose_Area();
+    static bool is_Chosen(forms::ComboBox& box, const QString& demand);
+
+    QString AreaKey; // the area chosen, in upper case
 };

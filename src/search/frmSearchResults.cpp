@@ -1,9 +1,416 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/frmSearchResults.h"
 
-frmSearchResults::frmSearchResults()
-    : forms::Form("frmSearchResults")
+#include "assets/frmAddUpDel.h"
+#include "core/conventions.h"
+#include "core/frmMain.h"
+#include "core/frmProgress.h"
+#include "core/frmStartup.h"
+#include "platform/values/failure.h"
+#include "reports/frmPrint.h"
+#include "reports/reports.h"
+#include "search/frmSearch.h"
+
+#include <algorithm>
+#include <optional>
+
+using forms::screen;
+
+namespace {
+
+constexpr int PageUp = 33;
+constexpr int PageDown = 34;
+
+// By SortColumn; 0 and 3 sort by nothing.
+constexpr const char* sortColumns[] = {"", "Area", "Location", "", "Type", "Year", "Make", "Model"};
+
+// By the index of the header. The first, which numbers the results, keeps the order.
+constexpr int sortOfHeader[] = {0, 1, 2, 4, 5, 6, 7};
+
+struct ShownColumn {
+    frmSearchResults::ResultColumn frmSearchResults::*boxes;
+    Print::Column column;
+    bool isDetail; // left as it is, shown or hidden, when a page is turned
+};
+
+constexpr ShownColumn shownColumns[] = {
+    {&frmSearchResults::txtArea, Print::Area, false},
+    {&frmSearchResults::txtLocation, Print::Location, false},
+    {&frmSearchResults::txtType, Print::Type, false},
+    {&frmSearchResults::txtYear, Print::Year, true},
+    {&frmSearchResults::txtMake, Print::Make, true},
+    {&frmSearchResults::txtModel, Print::Model, true},
+};
+
+constexpr frmSearchResults::ResultColumn frmSearchResults::*unnamedColumns[] = {
+    &frmSearchResults::txtIDNum, &frmSearchResults::txtMore, &frmSearchResults::txtItem};
+
+// A button that can't be pressed again hands the focus to its counterpart, so that a second press of a key turns the
+// page back and doesn't leave the screen.
+void handOver(bool hadFocus, const forms::CommandButton& pressed, forms::CommandButton& counterpart)
 {
+    if (hadFocus && !pressed.isEnabled())
+        counterpart.setFocus();
 }
 
-void frmSearchResults::load_From_Search_Screen() { }
+} // namespace
+
+frmSearchResults::frmSearchResults()
+    : forms::Form("frmSearchResults")
+    , rule_(screen<frmSearch>())
+{
+    look();
+}
+
+void frmSearchResults::Form_Activate()
+{
+    frmStartup::CurrentScreen = 5;
+}
+
+void frmSearchResults::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    conventions::confirm_Close(*this);
+}
+
+// ---- buttons
+
+void frmSearchResults::cmdNext_Click()
+{
+    const bool hadFocus = cmdNext.hasFocus();
+    PageOffset += Rows;
+    if (CurrentPage > 0)
+        cmdPrevious.setEnabled(true);
+    if (CurrentPage + 1 == PageCount)
+        cmdNext.setEnabled(false);
+    ++CurrentPage;
+    show_Page_Number();
+    load_Items();
+    handOver(hadFocus, cmdNext, cmdPrevious);
+}
+
+void frmSearchResults::cmdPrevious_Click()
+{
+    const bool hadFocus = cmdPrevious.hasFocus();
+    PageOffset -= Rows;
+    --CurrentPage;
+    show_Page_Number();
+    if (CurrentPage < 2)
+        cmdPrevious.setEnabled(false);
+    if (CurrentPage <= PageCount)
+        cmdNext.setEnabled(true);
+    load_Items();
+    handOver(hadFocus, cmdPrevious, cmdNext);
+}
+
+void frmSearchResults::cmdBack_Click()
+{
+    clear_Result_Rows();
+    auto& search = screen<frmSearch>();
+    search.show();
+    search.txtKey.setText({});
+    search.pbSearch.setValue(0);
+    hide();
+}
+
+void frmSearchResults::cmdPrint_Click()
+{
+    if (reports::report_Guard())
+        return;
+    try {
+        reports::show_AssetReport();
+    } catch (const values::RuntimeFailure&) {
+        conventions::MsgBox(
+            "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", forms::box::Stop);
+    }
+}
+
+void frmSearchResults::cmdMain_Click()
+{
+    clear_Result_Rows();
+    screen<frmMain>().show();
+    hide();
+}
+
+void frmSearchResults::lblSubHead_Click(int Index)
+{
+    const forms::WaitPointer hourglass;
+    if (Index > 0)
+        SortColumn = sortOfHeader[Index];
+    FromSearchScreen = false;
+    cmdPrevious.setEnabled(false);
+    PageOffset = 0;
+    Get_Records_For_Print();
+}
+
+// ---- rows
+
+void frmSearchResults::txtMore_Click(int Index)
+{
+    SelectedAsset = txtIDNum[Index].text();
+    screen<frmMain>().FromResults = true;
+    auto& asset = screen<frmAddUpDel>();
+    asset.AssetKey = values::Integer::fromText(SelectedAsset);
+    asset.cmdUpdate.setDefault(true);
+    asset.cmdAdd.setDefault(false);
+    asset.check_Form_Type();
+    hide();
+}
+
+void frmSearchResults::txtMore_KeyPress(int Index, int KeyAscii)
+{
+    if (KeyAscii == forms::key::Enter)
+        txtMore_Click(Index);
+}
+
+// The rows are no stops of the Tab key: the cursor keys reach them, from wherever the focus is.
+void frmSearchResults::any_KeyDown(int& KeyCode)
+{
+    switch (KeyCode) {
+    case forms::key::Up:
+        step_Through_Rows(-1);
+        break;
+    case forms::key::Down:
+        step_Through_Rows(1);
+        break;
+    case PageUp:
+        turn_Page(cmdPrevious);
+        break;
+    case PageDown:
+        turn_Page(cmdNext);
+        break;
+    default:
+        return;
+    }
+    KeyCode = forms::key::Refused;
+}
+
+int frmSearchResults::rowInFocus() const
+{
+    for (int row = 0; row < Rows; ++row)
+        if (txtMore[row].hasFocus())
+            return row;
+    return -1;
+}
+
+void frmSearchResults::step_Through_Rows(int direction)
+{
+    int filled = 0;
+    while (filled < Rows && txtMore[filled].isEnabled())
+        ++filled;
+    const int row = rowInFocus();
+    const int next = row < 0 && direction < 0 ? filled - 1 : row + direction;
+    if (next >= 0 && next < filled)
+        txtMore[next].setFocus();
+}
+
+// By key, the user stays in the row.
+void frmSearchResults::turn_Page(forms::CommandButton& button)
+{
+    const int row = rowInFocus();
+    button.press();
+    if (row >= 0)
+        txtMore[row].setFocus();
+}
+
+void frmSearchResults::clear_Result_Rows()
+{
+    for (int row = 0; row < Rows; ++row) {
+        if (txtMore[row].isEnabled()) {
+            txtMore[row].setEnabled(false);
+            txtMore[row].setVisible(false);
+        }
+        // The other boxes stay where they have been shown.
+        for (const auto boxes : unnamedColumns)
+            (this->*boxes)[row].setText({});
+        for (const ShownColumn& shown : shownColumns)
+            (this->*shown.boxes)[row].setText({});
+    }
+}
+
+void frmSearchResults::fill_Row(int number, Showing showing)
+{
+    txtMore[RowIndex].setEnabled(true);
+    txtMore[RowIndex].setVisible(true);
+    txtItem[RowIndex].setVisible(true);
+    txtIDNum[RowIndex].setText(Data1.rsPrint.Fields(Print::ID).text());
+    txtMore[RowIndex].setText("Update");
+    txtItem[RowIndex].setText(QString::number(number));
+    for (const ShownColumn& shown : shownColumns) {
+        forms::TextBox& box = (this->*shown.boxes)[RowIndex];
+        if (showing == Showing::WholeRow || !shown.isDetail)
+            box.setVisible(true);
+        box.setText(Data1.rsPrint.Fields(shown.column).text());
+    }
+}
+
+// ---- the search
+
+void frmSearchResults::load_From_Search_Screen()
+{
+    auto& search = screen<frmSearch>();
+    std::optional<forms::WaitPointer> hourglass;
+    if (FromSearchScreen && rule_.finds_All()) {
+        if (!conventions::confirmed(
+                "This Search Will Display All Assets...Continue?", forms::box::Information + forms::box::YesNo)) {
+            hide();
+            search.show();
+            AnyShown = false;
+            search.txtKey.setFocus();
+            return;
+        }
+        hourglass.emplace(); // for this search alone
+    }
+    cmdPrevious.setEnabled(false);
+    PageOffset = 0;
+    clear_Result_Rows();
+    Get_Records_For_Print();
+}
+
+void frmSearchResults::Get_Records_For_Print()
+{
+    RowIndex = 0;
+    ColumnIndex = 0;
+    KeyHit = false;
+    AnyShown = false;
+    auto& search = screen<frmSearch>();
+    screen<frmPrint>().clear_Print_Database();
+    search.pbSearch.setValue(0);
+    if (Data1.rsInventory.RecordCount() != 0) {
+        search.pbSearch.setMax(Data1.rsInventory.RecordCount());
+        sort_Inventory();
+        stage_Matches();
+    }
+    search.hide_Progress();
+    show_First_Page();
+}
+
+// The order stays on the view, which all screens share.
+void frmSearchResults::sort_Inventory()
+{
+    if (!Data1.rsInventory.atBOF())
+        Data1.rsInventory.MoveFirst();
+    Data1.rsInventory.Sort(sortColumns[SortColumn]);
+    for (int header = 1; header < lblSorted.count(); ++header)
+        lblSorted[header].setVisible(sortOfHeader[header] == SortColumn);
+}
+
+void frmSearchResults::stage_Matches()
+{
+    storage::TableView& assets = Data1.rsInventory;
+    forms::ProgressBar& progress = screen<frmSearch>().pbSearch;
+    for (; !assets.atEOF(); assets.MoveNext()) {
+        progress.setValue(progress.value() + 1);
+        KeyHit = false;
+        if (!rule_.names_Match(assets))
+            continue;
+        KeyHit = rule_.word_Occurs(assets);
+        if (KeyHit || rule_.word_Is_Empty())
+            copy_To_Print();
+    }
+}
+
+void frmSearchResults::copy_To_Print()
+{
+    Data1.rsPrint.AddNew();
+    for (ColumnIndex = 0; ColumnIndex <= Print::Description; ++ColumnIndex)
+        Data1.rsPrint.Fields(ColumnIndex) = Data1.rsInventory.Fields(ColumnIndex);
+    Data1.rsPrint.Update();
+}
+
+// ---- pages
+
+void frmSearchResults::show_First_Page()
+{
+    RowIndex = ColumnIndex = CurrentPage = PageCount = MatchCount = 0;
+    KeyHit = AnyShown = false;
+    PageSize = Rows;
+    count_Matches();
+    cmdNext.setEnabled(MatchCount >= 11);
+    fill_First_Page();
+    if (AnyShown) {
+        PageCount = MatchCount / Rows + (MatchCount % Rows > 0 ? 1 : 0);
+        CurrentPage = 1;
+        show_Page_Number();
+        show();
+    } else if (FromSearchScreen) {
+        tell_Nothing_Found();
+    }
+    if (FromSearchScreen)
+        screen<frmSearch>().hide_Progress();
+}
+
+void frmSearchResults::count_Matches()
+{
+    storage::TableView& staged = Data1.rsPrint;
+    forms::ProgressBar& progress = screen<frmSearch>().pbSearch;
+    if (FromSearchScreen)
+        progress.setValue(0);
+    if (staged.RecordCount() == 0)
+        return;
+    if (FromSearchScreen)
+        progress.setMax(staged.RecordCount());
+    for (staged.MoveFirst(); !staged.atEOF(); staged.MoveNext()) {
+        if (FromSearchScreen)
+            progress.setValue(progress.value() + 1);
+        KeyHit = false;
+        if (!rule_.names_Match(staged))
+            continue;
+        KeyHit = rule_.word_Occurs(staged);
+        // Not as in the search: the word "empty" stands for an empty one here.
+        if (KeyHit || rule_.word_Is("EMPTY"))
+            ++MatchCount;
+    }
+}
+
+void frmSearchResults::fill_First_Page()
+{
+    storage::TableView& staged = Data1.rsPrint;
+    if (staged.RecordCount() == 0)
+        return;
+    for (staged.MoveFirst(); !staged.atEOF() && RowIndex < PageSize; staged.MoveNext()) {
+        if (!rule_.matches(staged))
+            continue;
+        fill_Row(RowIndex + 1, Showing::WholeRow);
+        lblRecsFound.setCaption(QString::number(MatchCount) + (MatchCount < 2 ? " Asset Found!" : " Assets Found!"));
+        AnyShown = true;
+        ++RowIndex;
+    }
+}
+
+void frmSearchResults::tell_Nothing_Found()
+{
+    auto& search = screen<frmSearch>();
+    conventions::hideIfMade<frmProgress>(); // whose showing would close the program
+    forms::MsgBox("No Assets Were Found Based On The Information You Entered!", forms::box::Exclamation,
+        " Inventory Search Results");
+    search.show();
+    hide();
+    search.txtKey.setFocus();
+    search.hide_Progress();
+}
+
+void frmSearchResults::show_Page_Number()
+{
+    lblPage.setCaption(QStringLiteral("Page %1 of %2").arg(CurrentPage).arg(PageCount));
+}
+
+void frmSearchResults::load_Items()
+{
+    clear_Result_Rows();
+    RowIndex = 0;
+    storage::TableView& staged = Data1.rsPrint;
+    if (staged.RecordCount() == 0)
+        return;
+    staged.MoveFirst();
+    for (int skipped = 0; skipped < PageOffset && !staged.atEOF(); ++skipped)
+        staged.MoveNext();
+    values::Integer running = PageOffset;
+    for (; !staged.atEOF() && RowIndex < Rows; staged.MoveNext()) {
+        if (!rule_.names_Match(staged))
+            continue;
+        fill_Row(running + 1, Showing::WithoutDetails);
+        ++RowIndex;
+        ++running;
+    }
+}
