@@ -32,6 +32,17 @@ void fill(const QString& path, int assets)
     transaction.commit();
 }
 
+// Of 40 to 254 characters.
+QString description(int asset)
+{
+    static const QString told = QStringLiteral("Bought together with its companion from the dealer at the corner, "
+                                               "mended twice since; the left leg was glued in "
+                                               "the summer of the flood, the varnish is the first one, and the drawer "
+                                               "sticks when the weather turns. A photograph "
+                                               "lies with the policy.");
+    return QStringLiteral("What the owner tells of asset %1: ").arg(asset, 5) + told.left(1 + asset * 37 % 215);
+}
+
 } // namespace
 
 QString sampleText(int asset, int column)
@@ -56,7 +67,7 @@ QString sampleText(int asset, int column)
     case Inventory::DatePurchased:
         return QStringLiteral("%1/%2/%3").arg(asset % 12 + 1).arg(asset % 28 + 1).arg(1990 + asset % 35);
     case Inventory::Description:
-        return QStringLiteral("What the owner tells of asset %1, in a sentence or two.").arg(asset);
+        return description(asset);
     default:
         return QStringLiteral("None");
     }

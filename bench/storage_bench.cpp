@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The data store beside the bare engine doing the same work under the same settings: each pair of lines is to be
 // compared.
+#include "bare_database.h"
 #include "core/data_store.h"
 #include "platform/storage/sql.h"
 #include "sample_database.h"
 
 #include <benchmark/benchmark.h>
-#include <sqlcipher/sqlite3.h>
 
 #include <malloc.h>
 
@@ -34,51 +34,6 @@ void openViews(DataStore& store, int assets)
     for (TableView* view : {&store.rsGeneral, &store.rsBank, &store.rsIndoor, &store.rsMobile, &store.rsInventory,
              &store.rsOutdoor, &store.rsPrint})
         view->Open();
-}
-
-/// The engine without anything in between.
-class BareDatabase {
-public:
-    explicit BareDatabase(const QString& path)
-    {
-        check(sqlite3_open_v2(path.toUtf8(), &handle_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr));
-        check(sqlite3_key(handle_, databaseKey().constData(), static_cast<int>(databaseKey().size())));
-        run("SELECT count(*) FROM sqlite_master");
-        run("PRAGMA journal_mode=TRUNCATE; PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=FULL;"
-            "PRAGMA cache_size=-4096; PRAGMA temp_store=MEMORY; BEGIN EXCLUSIVE; COMMIT");
-    }
-    BareDatabase(const BareDatabase&) = delete;
-    BareDatabase& operator=(const BareDatabase&) = delete;
-    ~BareDatabase() { sqlite3_close(handle_); }
-
-    void run(const char* sql) { check(sqlite3_exec(handle_, sql, nullptr, nullptr, nullptr)); }
-
-    sqlite3_stmt* prepare(const QByteArray& sql)
-    {
-        sqlite3_stmt* statement = nullptr;
-        check(sqlite3_prepare_v2(handle_, sql, -1, &statement, nullptr));
-        return statement;
-    }
-
-    static void check(int code)
-    {
-        if (code != SQLITE_OK)
-            std::abort();
-    }
-
-private:
-    sqlite3* handle_ = nullptr;
-};
-
-void readTable(BareDatabase& database, const storage::TableDefinition& definition)
-{
-    sqlite3_stmt* select = database.prepare(storage::sql::selectRows(definition));
-    const int columns = sqlite3_column_count(select);
-    while (sqlite3_step(select) == SQLITE_ROW) {
-        for (int column = 0; column < columns; ++column)
-            benchmark::DoNotOptimize(sqlite3_column_text(select, column));
-    }
-    BareDatabase::check(sqlite3_finalize(select));
 }
 
 void openBare(benchmark::State& state)
