@@ -11,6 +11,8 @@
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
+#include "search/frmSearch.h"
+#include "search/frmSearchResults.h"
 
 #include <QApplication>
 #include <QTableView>
@@ -56,6 +58,8 @@ int main(int argc, char* argv[])
         printScreen<frmAuto>();
         printScreen<frmAddUpDel>();
         printScreen<frmWar>();
+        printScreen<frmSearch>();
+        printScreen<frmSearchResults>();
         printScreen<frmCalendar>();
         printScreen<frmEditCmbBoxes>();
         printScreen<frmAddField>();

@@ -1,0 +1,118 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# Assets are searched by a word, by the lists and all of them, sorted, paged and opened.
+
+# 23 assets: every third one indoor, outdoor and mobile, the makers numbered backwards.
+household_with_assets() {
+    use_home "$Place/searching"
+    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    sqlcipher_with_key "$Database" "update Personal_Info set [Introduced] = '1';
+        with recursive n(i) as (select 1 union all select i + 1 from n where i < 23)
+        insert into Inventory ([Area], [Location], [Category], [Type], [Year], [Make], [Model], [Serial/ VIN / ID],
+            [Date Purchased], [Amount], [Receipt], [Receipt Location], [Description], [Purchased], [Parts Type],
+            [Parts Coverage], [Parts Amount], [Parts Month], [Parts Day], [Parts Year], [Labor Type], [Labor Coverage],
+            [Labor Amount], [Labor Month], [Labor Day], [Labor Year], [Warranty Description])
+        select case i % 3 when 1 then 'Indoor' when 2 then 'Outdoor' else 'Mobile' end,
+            case i % 3 when 1 then 'Family Room' when 2 then 'Barn' else 'Car' end, 'Tools',
+            case i when 7 then 'Lamp with a shade of pleated silk and brass' else 'Item ' || i end, 1950 + i * 3,
+            printf('Maker %02d', 24 - i), 'Model ' || i, 'SN-' || i, '1/2/2020', '\$' || i || '.00', 'No', 'None',
+            case i when 7 then 'From the Kestrel auction' else 'None' end, 'New', 'None', 'None', 'None', 'None', 'None',
+            'None', 'None', 'None', 'None', 'None', 'None', 'None', 'None' from n"
+    start_program
+    wait_screen frmMain
+}
+
+search_by_word() {
+    step "a search by a word"
+    keys alt+s
+    wait_screen frmSearch
+    shot search-empty
+    text 'kestrel A'
+    shot search-word
+    keys Return
+    wait_screen frmSearchResults
+    shot results-one
+    expect "select ID, Type from Print" '7|Lamp with a shade of pleated silk and brass'
+    keys alt+s
+    wait_screen frmSearch
+    text nowhere
+    keys Return
+    answer nothing-found Return
+    wait_screen frmSearch
+    expect "select count(*) from Print" 0
+}
+
+search_all() {
+    step "all assets, sorted and paged"
+    keys ctrl+a BackSpace Return
+    answer all-question alt+n
+    wait_screen frmSearch
+    keys Return
+    answer all-question-again Return
+    wait_screen frmSearchResults
+    shot results-all
+    expect "select count(*) from Print" 23
+    click frmSearchResults 'lblSubHead(5)'
+    expect "select ID from Print limit 1" 23
+    shot results-by-make
+    keys Next
+    shot results-page-2
+    click frmSearchResults cmdNext
+    shot results-page-3
+    keys Prior Prior
+    shot results-page-1
+}
+
+search_by_lists() {
+    step "a search by the lists"
+    local row rows
+    click frmSearchResults cmdBack
+    wait_screen frmSearch
+    pick frmSearch cmbArea 4 4 search-area-list
+    read -r row rows <<<"$(sql "$Database" "select 'Any' union select Location from Outdoor_Items
+        where Location <> '0' and Location not like '<%' order by 1 collate nocase" |
+        awk '$0 == "Barn" { row = NR } END { print row, NR }')"
+    pick frmSearch cmbLocation "$row" "$rows" search-location-list
+    shot search-lists
+    click frmSearch cmdContinue
+    wait_screen frmSearchResults
+    expect "select count(*), min(Area), max(Location) from Print" '8|Outdoor|Barn'
+    shot results-outdoor
+}
+
+open_by_keys() {
+    step "a result opened by keys"
+    keys Down Down
+    shot results-row-chosen
+    keys Return
+    wait_screen frmAddUpDel
+    shot asset-found
+    keys alt+m
+    answer found-leave Return
+    wait_screen frmMain
+}
+
+inside_an_area() {
+    step "the search of an area's menu stays inside the area"
+    click frmMain cmdIn
+    wait_screen frmAuto
+    keys alt+u
+    wait_screen frmSearch
+    shot search-update
+    click frmSearch cmbLocation
+    keys Escape
+    click frmSearch txtKey
+    text 'maker 2'
+    keys Return
+    wait_screen frmSearchResults
+    expect "select count(*), min(Area), max(Area) from Print" '2|Indoor|Indoor'
+    kill -TERM "$Program"
+    ends_with 0
+}
+
+household_with_assets
+search_by_word
+search_all
+search_by_lists
+open_by_keys
+inside_an_area
