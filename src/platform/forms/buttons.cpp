@@ -4,9 +4,9 @@
 #include "platform/forms/boundary.h"
 #include "platform/forms/button_widget.h"
 #include "platform/forms/form.h"
+#include "platform/forms/look.h"
 
 #include <QCheckBox>
-#include <QIcon>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -59,7 +59,7 @@ void CommandButton::press()
 
 void CommandButton::setIcon(const QString& resource)
 {
-    button()->setIcon(QIcon(resource));
+    button()->setIcon(look::icon(resource));
 }
 
 void CommandButton::setBackColour(const QColor& colour)

@@ -8,8 +8,10 @@
 #include "platform/values/failure.h"
 
 #include <QGroupBox>
+#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPixmap>
 #include <QProgressBar>
 #include <QTimer>
@@ -81,6 +83,7 @@ void Label::setCaption(const QString& caption)
 
 void Label::setRole(TextRole role)
 {
+    role_ = role;
     label_->setFont(look::fontOf(role));
     QPalette palette = label_->palette();
     const bool heading = role == TextRole::Title || role == TextRole::Heading;
@@ -115,9 +118,49 @@ void Label::nameFor(Control& control)
 
 // ---- pictures
 
+/// Paints a picture for the pixels of the screen that it is on.
+class PictureWidget : public LabelWidget {
+public:
+    using LabelWidget::LabelWidget;
+
+    void setPicture(const QString& resource)
+    {
+        natural_ = QPixmap(resource).deviceIndependentSize();
+        picture_ = look::icon(resource);
+        resize(1);
+    }
+
+    void setShare(double share)
+    {
+        if (share == share_)
+            return;
+        setVisible(share > 0);
+        resize(share);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(rect(), picture_.pixmap(size(), devicePixelRatioF()));
+    }
+
+private:
+    void resize(double share)
+    {
+        share_ = share;
+        setFixedSize((natural_ * share * look::pictureScale()).toSize());
+    }
+
+    QSizeF natural_;
+    QIcon picture_;
+    double share_ = 1;
+};
+
 Picture::Picture(Form& form, const QString& name)
     : Control(form, name)
-    , label_(new LabelWidget(form.canvas(), [this](bool down, bool inside) {
+    , picture_(new PictureWidget(form.canvas(), [this](bool down, bool inside) {
         if (down) {
             MouseDown.fire();
             return;
@@ -127,15 +170,18 @@ Picture::Picture(Form& form, const QString& name)
             Click.fire();
     }))
 {
-    adopt(label_);
-    label_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    adopt(picture_);
 }
 
 void Picture::setPicture(const QString& resource, const QString& description)
 {
-    // The toolkit takes the version of twice the size where the screen has twice the points.
-    label_->setPixmap(QPixmap(resource));
-    label_->setAccessibleName(description);
+    picture_->setPicture(resource);
+    picture_->setAccessibleName(description);
+}
+
+void Picture::setShare(double share)
+{
+    picture_->setShare(share);
 }
 
 // ---- group boxes

@@ -13,6 +13,7 @@ class QTimer;
 namespace forms {
 
 class LabelWidget;
+class PictureWidget;
 
 /// Where a label stands in the type scale.
 enum class TextRole { Title, Heading, Instruction, Body, Hint };
@@ -26,6 +27,7 @@ public:
     QString caption() const { return caption_; }
     void setCaption(const QString& caption);
     void setRole(TextRole role);
+    TextRole role() const { return role_; }
 
     /// Breaks the text into lines at the given width in average characters.
     void wrapAt(int characters);
@@ -40,11 +42,12 @@ public:
 private:
     LabelWidget* label_;
     QString caption_;
+    TextRole role_ = TextRole::Body;
     bool namesControl_ = false;
     bool alignsAmounts_ = false;
 };
 
-/// A picture of the program's resources, at its own size.
+/// A picture of the program's resources. It grows with the font; at the least one it has its own size.
 class Picture : public Control {
 public:
     Picture(Form& form, const QString& name);
@@ -52,8 +55,14 @@ public:
     /// Shows a picture. `description` is what assistive tools say in its place.
     void setPicture(const QString& resource, const QString& description);
 
+    /// True for a picture that answers nothing: it may give up its room on a small desktop.
+    bool isOrnament() const { return !Click && !MouseDown && !MouseUp; }
+
+    /// Shows it at a share of its size; at 0 it leaves its room to the others.
+    void setShare(double share);
+
 private:
-    LabelWidget* label_;
+    PictureWidget* picture_;
 };
 
 /// A framed group with a caption; option buttons inside exclude each other.

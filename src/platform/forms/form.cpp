@@ -3,7 +3,10 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/buttons.h"
+#include "platform/forms/displays.h"
 #include "platform/forms/keyboard.h"
+#include "platform/forms/look.h"
+#include "platform/forms/screen_interface.h"
 #include "platform/forms/stage.h"
 #include "platform/values/failure.h"
 
@@ -47,15 +50,20 @@ public:
         return canvas;
     }
 
+    const Form& form() const { return form_; }
+
     void reveal(QWidget* widget) { scroller_->ensureWidgetVisible(widget); }
+
+    void setLeastSize(const QSize& size) { minimumSize_ = minimumSize_.expandedTo(size); }
 
     /// Takes the canvas's own size, or what of it the desktop has room for, and the middle of the desktop.
     void fitAndCentre()
     {
         const QRect desktop = screen()->availableGeometry();
         const QSize frame(frameMargins_.left() + frameMargins_.right(), frameMargins_.top() + frameMargins_.bottom());
-        QSize size = scroller_->widget()->sizeHint();
         const QSize room = desktop.size() - frame;
+        makeFit(room);
+        QSize size = scroller_->widget()->sizeHint();
         const int bar = scroller_->verticalScrollBar()->sizeHint().width();
         if (size.height() > room.height())
             size.rwidth() += bar;
@@ -103,17 +111,53 @@ protected:
     }
 
 private:
+    // On a small desktop the pictures give up their room first, then the gaps; what is left scrolls.
+    void makeFit(const QSize& room)
+    {
+        const auto fits = [this, &room] {
+            scroller_->widget()->layout()->activate(); // inner layouts measure again
+            const QSize size = scroller_->widget()->sizeHint();
+            return size.width() <= room.width() && size.height() <= room.height();
+        };
+        for (const double share : {1.0, 0.75, 0.5, 0.0}) {
+            showPictures(share);
+            if (fits())
+                return;
+        }
+        if (!std::exchange(tight_, true))
+            look::tighten(*scroller_->widget()->layout());
+    }
+
+    void showPictures(double share)
+    {
+        for (Control* control : form_.controls())
+            if (auto* picture = dynamic_cast<Picture*>(control); picture && picture->isOrnament())
+                picture->setShare(share);
+    }
+
     Form& form_;
     QScrollArea* scroller_;
     QSize minimumSize_;
+    bool tight_ = false;
     inline static QMargins frameMargins_; // known once a first window has been shown
 };
+
+namespace {
+
+QAccessibleInterface* describeScreen(const QString&, QObject* object)
+{
+    auto* window = dynamic_cast<FormWindow*>(object);
+    return window ? new ScreenInterface(*window, window->form()) : nullptr;
+}
+
+} // namespace
 
 Form::Form(const QString& name)
     : name_(name)
     , window_(new FormWindow(*this))
     , canvas_(window_->makeCanvas())
 {
+    [[maybe_unused]] static const bool described = (QAccessible::installFactory(describeScreen), true);
     window_->setObjectName(name);
     window_->setWindowRole(name); // tells screens apart, which share one title
 }
@@ -128,6 +172,11 @@ Form::~Form()
 QWidget* Form::window() const
 {
     return window_;
+}
+
+void Form::setLeastSize(const QSize& size)
+{
+    window_->setLeastSize(size);
 }
 
 void Form::setTitle(const QString& title)

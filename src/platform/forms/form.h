@@ -10,6 +10,7 @@
 #include <vector>
 
 class QEventLoop;
+class QSize;
 class QVBoxLayout;
 
 namespace forms {
@@ -68,6 +69,9 @@ public:
     /// The widget on which look files lay the controls out, and the window around it.
     QWidget* canvas() const { return canvas_; }
     QWidget* window() const;
+
+    /// The window is never smaller, unless the desktop is.
+    void setLeastSize(const QSize& size);
 
     CommandButton* defaultButton() const { return defaultButton_; }
     void setDefaultButton(CommandButton* button);

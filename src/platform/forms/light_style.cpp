@@ -2,95 +2,48 @@
 #include "platform/forms/light_style.h"
 
 #include "platform/forms/look.h"
+#include "platform/forms/style_painting.h"
 
-#include <QApplication>
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 
 #include <algorithm>
-#include <iterator>
 
 namespace forms::look {
 
 namespace {
 
-constexpr qreal cornerRadius = 4;
+using paint::captionGap;
 
-void drawPanel(QPainter* painter, const QRect& rect, const QColor& face, const QColor& line, qreal width)
+// Marks grow with the font; an even number keeps them in the middle of their row.
+int markSize()
 {
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(line, width));
-    painter->setBrush(face);
-    const qreal inset = width / 2;
-    painter->drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
-    painter->restore();
+    return grid(2) * 9 / 20 * 2;
 }
 
-void drawButton(QPainter* painter, const QStyleOption& option)
+int arrowWidth()
 {
-    const Colours& the = colours();
-    QColor face = option.palette.color(QPalette::Button);
-    const bool enabled = option.state & QStyle::State_Enabled;
-    if (!enabled)
-        face = the.ground.lighter(103);
-    else if (option.state & QStyle::State_Sunken)
-        face = the.pressed;
-    else if (option.state & QStyle::State_MouseOver)
-        face = face.lighter(103);
-    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
-    const bool isDefault = button && (button->features & QStyleOptionButton::DefaultButton);
-    const bool focused = option.state & QStyle::State_HasFocus;
-    const bool marked = enabled && (focused || isDefault);
-    drawPanel(painter, option.rect, face, marked ? the.accent : the.line, focused ? 2 : 1);
+    return grid(2) + grid(1) / 2;
 }
 
-void drawBox(QPainter* painter, const QStyleOption& option)
+// A main action is filled unless it is pressed.
+bool isFilled(const QStyleOption& option, const QWidget* widget)
 {
-    const bool focused = (option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_Enabled);
-    drawPanel(painter, option.rect, option.palette.color(QPalette::Base), focused ? colours().accent : colours().line,
-        focused ? 2 : 1);
+    return widget && widget->property(mainActionProperty).toBool() && (option.state & QStyle::State_Enabled)
+        && !(option.state & QStyle::State_Sunken) && option.palette.color(QPalette::Button) == colours().buttonFace;
 }
 
-struct Sign {
-    QStyle::StandardPixmap pixmap;
-    QChar mark;
-    QColor colour;
-};
-
-const Sign* signOf(QStyle::StandardPixmap pixmap)
+// The caption of a group box has a row of its own above the frame.
+QRect groupBoxPart(const QStyleOptionGroupBox& option, QStyle::SubControl part)
 {
-    static const Sign signs[] = {
-        {QStyle::SP_MessageBoxQuestion, u'?', colours().accent},
-        {QStyle::SP_MessageBoxInformation, u'i', colours().accent},
-        {QStyle::SP_MessageBoxWarning, u'!', QColor(196, 120, 20)},
-        {QStyle::SP_MessageBoxCritical, u'\u00D7', QColor(178, 48, 40)},
-    };
-    const auto* found =
-        std::find_if(std::begin(signs), std::end(signs), [pixmap](const Sign& sign) { return sign.pixmap == pixmap; });
-    return found == std::end(signs) ? nullptr : found;
-}
-
-// The sign of a message box: a mark on a disc.
-QPixmap draw(const Sign& sign, int size, qreal ratio)
-{
-    QPixmap pixmap(QSize(size, size) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(sign.colour);
-    const QRectF disc(1, 1, size - 2, size - 2);
-    painter.drawEllipse(disc);
-    QFont font = QApplication::font();
-    font.setPixelSize(size * 5 / 8);
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(colours().field);
-    painter.drawText(disc, Qt::AlignCenter, sign.mark);
-    return pixmap;
+    const int captionRow = rowsHeight(1);
+    if (part == QStyle::SC_GroupBoxLabel) {
+        const QSize words = option.fontMetrics.size(Qt::TextShowMnemonic, option.text);
+        return {QPoint(option.rect.left(), option.rect.top() + (captionRow - words.height()) / 2), words};
+    }
+    return option.rect.adjusted(0, rowsHeight(2) - captionRow, 0, 0);
 }
 
 } // namespace
@@ -100,56 +53,193 @@ LightStyle::LightStyle()
 {
 }
 
+// ---- painting
+
 void LightStyle::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
     switch (element) {
     case PE_PanelButtonCommand:
-        drawButton(painter, *option);
+        paint::button(*painter, *option, isFilled(*option, widget));
+        return;
+    case PE_IndicatorCheckBox:
+        paint::square(*painter, *option);
+        return;
+    case PE_IndicatorRadioButton:
+        paint::ring(*painter, *option);
         return;
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
-            drawBox(painter, *option);
+            paint::box(*painter, *option);
             return;
         }
         break;
+    case PE_Frame:
+        if (qobject_cast<const QAbstractScrollArea*>(widget))
+            paint::box(*painter, *option);
+        else
+            paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
+        return;
+    case PE_FrameGroupBox:
+        paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
+        return;
+    case PE_IndicatorArrowUp:
+    case PE_IndicatorArrowDown:
+        paint::arrow(*painter, option->rect, element == PE_IndicatorArrowUp ? paint::Heading::Up : paint::Heading::Down,
+            colours().line);
+        return;
     default:
         break;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+void LightStyle::drawControl(
+    ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    switch (element) {
+    case CE_PushButtonLabel:
+        paint::buttonLabel(*painter, *qstyleoption_cast<const QStyleOptionButton*>(option), isFilled(*option, widget));
+        return;
+    case CE_ComboBoxLabel:
+        drawComboLabel(*qstyleoption_cast<const QStyleOptionComboBox*>(option), *painter, widget);
+        return;
+    case CE_CheckBox:
+    case CE_RadioButton: {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        // The toolkit shows the focus only to those who have pressed Tab.
+        const auto focusRect = element == CE_CheckBox ? SE_CheckBoxFocusRect : SE_RadioButtonFocusRect;
+        if (option->state & State_HasFocus)
+            paint::focusFrame(*painter, proxy()->subElementRect(focusRect, option, widget));
+        return;
+    }
+    case CE_ProgressBarGroove:
+        paint::panel(*painter, option->rect, colours().field, colours().line, 1);
+        return;
+    default:
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+void LightStyle::drawComplexControl(
+    ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
+{
+    const auto place = [&](SubControl part) { return proxy()->subControlRect(control, option, part, widget); };
+    if (control == CC_ComboBox) {
+        drawComboBox(*qstyleoption_cast<const QStyleOptionComboBox*>(option), *painter, widget);
+    } else if (control == CC_ScrollBar) {
+        paint::scrollBar(*painter, *qstyleoption_cast<const QStyleOptionSlider*>(option), place(SC_ScrollBarSubLine),
+            place(SC_ScrollBarAddLine), place(SC_ScrollBarGroove), place(SC_ScrollBarSlider));
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+void LightStyle::drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const
+{
+    paint::box(painter, option);
+    const bool enabled = option.state & State_Enabled;
+    paint::arrow(painter, proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget), paint::Heading::Down,
+        enabled ? colours().accent : colours().faded);
+}
+
+void LightStyle::drawComboLabel(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const
+{
+    const QRect entry = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxEditField, widget);
+    const QRect place = entry.adjusted(textInset() - entryInset(), 0, 0, 0);
+    drawItemText(&painter, place, Qt::AlignLeft | Qt::AlignVCenter, option.palette, option.state & State_Enabled,
+        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, place.width()), QPalette::Text);
+}
+
+// ---- measures
+
 int LightStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
-    if (metric == PM_ButtonShiftHorizontal || metric == PM_ButtonShiftVertical)
+    switch (metric) {
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
         return 0;
-    if (metric == PM_ButtonIconSize)
+    case PM_ButtonIconSize:
+    case PM_ScrollBarExtent:
         return grid(2);
+    case PM_MessageBoxIconSize:
+    case PM_ScrollBarSliderMin:
+        return grid(4);
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return markSize();
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+        return captionGap;
+    case PM_DefaultFrameWidth:
+        // A box of several lines keeps its rounded corners free of the text's ground.
+        if (qobject_cast<const QAbstractScrollArea*>(widget))
+            return 3;
+        break;
+    default:
+        break;
+    }
     return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QRect LightStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    if (element == SE_LineEditContents) {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        if (frame && frame->lineWidth > 0)
+            return option->rect.adjusted(entryInset(), 2, -entryInset(), -2);
+    }
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QRect LightStyle::subControlRect(
+    ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const
+{
+    if (control == CC_ComboBox && part == SC_ComboBoxArrow)
+        return {option->rect.right() + 1 - arrowWidth(), option->rect.top(), arrowWidth(), option->rect.height()};
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+        return option->rect.adjusted(entryInset(), 2, -arrowWidth(), -2);
+    if (control == CC_GroupBox)
+        return groupBoxPart(*qstyleoption_cast<const QStyleOptionGroupBox*>(option), part);
+    return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 QSize LightStyle::sizeFromContents(
     ContentsType type, const QStyleOption* option, const QSize& contents, const QWidget* widget) const
 {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_PushButton)
-        size += QSize(grid(1), grid(1) / 2);
-    if (type == CT_LineEdit || type == CT_ComboBox)
+    switch (type) {
+    case CT_PushButton:
+        return size + QSize(grid(1) + captionGap / 2, grid(1) / 2);
+    case CT_CheckBox:
+    case CT_RadioButton:
+        return size + QSize(captionGap, captionGap / 2); // room for the frame of the focus
+    case CT_LineEdit:
+    case CT_ComboBox:
         size.setHeight(grid(3)); // boxes of both kinds stand in rows of one height
-    return size;
+        return size;
+    case CT_ItemViewItem:
+        size.setHeight(std::max(size.height(), grid(3) * 9 / 10));
+        return size;
+    default:
+        return size;
+    }
 }
+
+// ---- signs and habits
 
 QPixmap LightStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* option, const QWidget* widget) const
 {
     const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
-    if (const Sign* sign = signOf(pixmap))
-        return draw(*sign, proxy()->pixelMetric(PM_MessageBoxIconSize, option, widget), ratio);
-    return QProxyStyle::standardPixmap(pixmap, option, widget);
+    const QPixmap sign = paint::sign(pixmap, proxy()->pixelMetric(PM_MessageBoxIconSize, option, widget), ratio);
+    return sign.isNull() ? QProxyStyle::standardPixmap(pixmap, option, widget) : sign;
 }
 
 QIcon LightStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
-    if (signOf(icon))
+    if (icon >= SP_MessageBoxInformation && icon <= SP_MessageBoxQuestion)
         return QIcon(standardPixmap(icon, option, widget));
     return QProxyStyle::standardIcon(icon, option, widget);
 }
@@ -157,15 +247,18 @@ QIcon LightStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
 int LightStyle::styleHint(
     StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const
 {
-    // Access keys are always underlined: nobody has to know that Alt shows them.
-    if (hint == SH_UnderlineShortcut)
-        return 1;
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+    switch (hint) {
+    case SH_UnderlineShortcut:
+        return 1; // access keys are always underlined: nobody has to know that Alt shows them
+    case SH_DialogButtonLayout:
+        return 0; // the same order on every desktop: Yes before No
+    case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
-    // Lists open below their box, as lists do, and not over it.
-    if (hint == SH_ComboBox_Popup)
-        return 0;
-    return QProxyStyle::styleHint(hint, option, widget, returned);
+    case SH_ComboBox_Popup:
+        return 0; // lists open below their box, as lists do, and not over it
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
 }
 
 } // namespace forms::look

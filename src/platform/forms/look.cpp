@@ -6,10 +6,12 @@
 #include "platform/forms/light_style.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPalette>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -30,8 +32,16 @@ constexpr TypeStep typeScale[] = {
     {TextRole::Heading, 1.3, QFont::DemiBold},
     {TextRole::Instruction, 1.1, QFont::Medium},
     {TextRole::Body, 1.0, QFont::Normal},
-    {TextRole::Hint, 0.9, QFont::Normal},
+    {TextRole::Hint, 10.0 / 11, QFont::Normal},
 };
+
+constexpr double leastPoints = 11; // of the body: hints have 10 then
+constexpr int labelGap = 8; // pixels between a label and its box
+
+int rowGap()
+{
+    return grid(1) * 3 / 4;
+}
 
 QPalette palette()
 {
@@ -49,9 +59,28 @@ QPalette palette()
         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
         palette.setColor(role, the.text);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, the.line.darker(150));
+        palette.setColor(QPalette::Disabled, role, the.quiet);
     palette.setColor(QPalette::Disabled, QPalette::Base, the.ground.lighter(106));
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, the.pressed);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, the.text);
     return palette;
+}
+
+// A box of several lines keeps its selection and doesn't show it while the focus is elsewhere.
+QPalette memoPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::transparent);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, colours().text);
+    return palette;
+}
+
+QFont bodyFont()
+{
+    QFont font = QApplication::font();
+    const double points = font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+    font.setPointSizeF(std::max(points, leastPoints));
+    return font;
 }
 
 } // namespace
@@ -67,10 +96,7 @@ QFont fontOf(TextRole role)
     const auto& step = *std::find_if(
         std::begin(typeScale), std::end(typeScale), [role](const TypeStep& each) { return each.role == role; });
     QFont font = QApplication::font();
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * step.scale);
-    else
-        font.setPixelSize(static_cast<int>(font.pixelSize() * step.scale));
+    font.setPointSizeF(font.pointSizeF() * step.scale);
     font.setWeight(step.weight);
     return font;
 }
@@ -87,26 +113,117 @@ int fieldWidth(int characters)
     return std::max(metrics.averageCharWidth(), metrics.horizontalAdvance(u'0')) * characters + metrics.height();
 }
 
+QIcon icon(const QString& resource)
+{
+    QIcon icon;
+    for (const char* size : {".png", "@2x.png", "@3x.png", "@4x.png"}) {
+        QString file = resource;
+        QPixmap picture(file.replace(QLatin1String(".png"), QLatin1String(size)));
+        if (picture.isNull())
+            continue;
+        picture.setDevicePixelRatio(1); // sizes are told apart by their pixels
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
+double pictureScale()
+{
+    return QApplication::font().pointSizeF() / leastPoints;
+}
+
+int entryInset()
+{
+    return grid(1) / 2;
+}
+
+int textInset()
+{
+    constexpr int entryMargin =
+        2; // what the toolkit's entry keeps free on its own, besides room for glyphs that overhang
+    return entryInset() + entryMargin + std::max(0, -QFontMetrics(QApplication::font()).minLeftBearing());
+}
+
+int rowsHeight(int rows)
+{
+    return grid(3) * rows + rowGap() * (rows - 1);
+}
+
+QSize leastWindow()
+{
+    return {grid(92), grid(62)};
+}
+
+void tighten(QLayout& layout)
+{
+    const QMargins margins = layout.contentsMargins();
+    layout.setContentsMargins(margins / 2);
+    if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
+        grid->setHorizontalSpacing(grid->horizontalSpacing() / 2);
+        grid->setVerticalSpacing(grid->verticalSpacing() / 2);
+    } else {
+        layout.setSpacing(layout.spacing() / 2);
+    }
+    for (int index = 0; index < layout.count(); ++index) {
+        QLayoutItem& item = *layout.itemAt(index);
+        if (QSpacerItem* space = item.spacerItem())
+            space->changeSize(space->sizeHint().width() / 2, space->sizeHint().height() / 2,
+                space->sizePolicy().horizontalPolicy(), space->sizePolicy().verticalPolicy());
+        else if (QLayout* inner = item.layout() ? item.layout() : item.widget()->layout())
+            tighten(*inner);
+    }
+    layout.invalidate();
+}
+
 void apply(QApplication& application)
 {
+    QApplication::setLayoutDirection(Qt::LeftToRight); // the texts are English, whatever the desktop's language
+    QApplication::setFont(bodyFont());
     QApplication::setStyle(new LightStyle);
     QApplication::setPalette(palette());
+    QApplication::setPalette(memoPalette(), "QPlainTextEdit");
     application.setStyleSheet({});
 }
 
 // ---- pages
 
-Page::Page(Form& form)
-    : column_(new QVBoxLayout(form.canvas()))
+namespace {
+
+QLayout* acrossWidth(std::initializer_list<CommandButton*> row)
 {
-    column_->setContentsMargins(grid(3), grid(2), grid(3), grid(2));
+    equalWidths(row);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(grid(1));
+    for (CommandButton* button : row)
+        line->addWidget(button->widget(), 1);
+    return line;
+}
+
+} // namespace
+
+Page::Page(Form& form, PageSize size)
+    : page_(new QVBoxLayout(form.canvas()))
+    , column_(new QVBoxLayout)
+{
+    if (size == PageSize::Screen)
+        form.setLeastSize(leastWindow());
+    page_->setContentsMargins(grid(3), grid(2), grid(3), grid(2));
+    page_->setSpacing(grid(1));
     column_->setSpacing(grid(1));
+    auto* middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addLayout(column_);
+    middle->addStretch(1);
+    // The middle of the room is a little above the middle of the page.
+    page_->addStretch(2);
+    page_->addLayout(middle);
+    page_->addStretch(3);
 }
 
 void Page::title(Label& label)
 {
     label.setRole(TextRole::Title);
-    column_->addWidget(label.widget());
+    page_->insertWidget(0, label.widget());
 }
 
 void Page::instruction(Label& label)
@@ -142,9 +259,13 @@ void Page::buttons(std::initializer_list<CommandButton*> row)
     column_->addLayout(line);
 }
 
+void Page::wideButtons(std::initializer_list<CommandButton*> row)
+{
+    column_->addLayout(acrossWidth(row));
+}
+
 void Page::foot(Label* helpHint, Label* footer)
 {
-    column_->addStretch();
     auto* line = new QHBoxLayout;
     for (Label* label : {helpHint, footer}) {
         if (label) {
@@ -154,7 +275,7 @@ void Page::foot(Label* helpHint, Label* footer)
         if (label == helpHint)
             line->addStretch();
     }
-    column_->addLayout(line);
+    page_->addLayout(line);
 }
 
 // ---- rows
@@ -162,18 +283,74 @@ void Page::foot(Label* helpHint, Label* footer)
 FieldRows::FieldRows()
     : grid_(new QGridLayout)
 {
-    grid_->setHorizontalSpacing(look::grid(1));
-    grid_->setVerticalSpacing(look::grid(1) * 3 / 4);
+    grid_->setHorizontalSpacing(labelGap);
+    grid_->setVerticalSpacing(rowGap());
     grid_->setColumnStretch(1, 1);
 }
 
 void FieldRows::row(Label& label, std::initializer_list<Control*> controls)
 {
+    add(label, controls, sideBySide(controls));
+}
+
+void FieldRows::wideRow(Label& label, std::initializer_list<Control*> controls)
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(labelGap);
+    for (Control* control : controls)
+        line->addWidget(control->widget());
+    add(label, controls, line);
+}
+
+void FieldRows::add(Label& label, std::initializer_list<Control*> controls, QLayout* line)
+{
     const int at = grid_->rowCount();
     grid_->addWidget(label.widget(), at, 0, Qt::AlignRight | Qt::AlignVCenter);
-    grid_->addLayout(static_cast<QHBoxLayout*>(sideBySide(controls)), at, 1);
+    grid_->addLayout(line, at, 1);
     if (controls.size() > 0)
         label.nameFor(**controls.begin());
+}
+
+void FieldRows::buttons(std::initializer_list<CommandButton*> row)
+{
+    grid_->addLayout(acrossWidth(row), grid_->rowCount(), 1);
+}
+
+void FieldRows::words(Label& label)
+{
+    label.setRole(TextRole::Instruction);
+    grid_->addWidget(label.widget(), grid_->rowCount(), 0, 1, 2);
+}
+
+void FieldRows::gap()
+{
+    grid_->setRowMinimumHeight(grid_->rowCount(), look::grid(1));
+}
+
+Choices::Choices()
+    : grid_(new QGridLayout)
+{
+    grid_->setHorizontalSpacing(grid(3));
+    grid_->setVerticalSpacing(grid(3));
+}
+
+void Choices::add(CommandButton& button, Label& purpose, const QString& words)
+{
+    auto& push = *static_cast<QPushButton*>(button.widget());
+    push.setFont(fontOf(TextRole::Heading));
+    push.setIconSize(QSize(grid(1), grid(1)) * 7 / 2);
+    push.setMinimumSize(grid(18), grid(7));
+    purpose.setCaption(words);
+    purpose.setRole(TextRole::Instruction);
+    purpose.wrapAt(36);
+    const int row = grid_->rowCount();
+    grid_->addWidget(&push, row, 0);
+    grid_->addWidget(purpose.widget(), row, 1, Qt::AlignVCenter);
+}
+
+void mainAction(CommandButton& button)
+{
+    button.widget()->setProperty(mainActionProperty, true);
 }
 
 QLayout* sideBySide(std::initializer_list<Control*> controls)

@@ -5,20 +5,22 @@
 
 #include <QColor>
 #include <QFont>
+#include <QGridLayout>
+#include <QIcon>
+#include <QSize>
 
 #include <initializer_list>
 
 class QApplication;
-class QGridLayout;
 class QLayout;
 class QVBoxLayout;
 
-/// The program's own light look, the same whatever the desktop's theme: colours, type scale, one grid. All sizes come
-/// from the font.
 namespace forms {
 class CommandButton;
 }
 
+/// The program's own light look, the same whatever the desktop's theme: colours, type scale, one grid. All sizes come
+/// from the font.
 namespace forms::look {
 
 /// The colours of the program.
@@ -28,10 +30,13 @@ struct Colours {
     QColor quiet{108, 92, 82}; ///< hints and footers
     QColor accent{38, 84, 94}; ///< headings, focus, selection
     QColor field{255, 255, 255};
-    QColor line{190, 164, 146}; ///< frames
+    QColor line{142, 114, 96}; ///< frames, handles of scroll bars
+    QColor faded{190, 164, 146}; ///< frames of what is disabled
     QColor buttonFace{251, 247, 244};
     QColor pressed{204, 210, 255};
     QColor error{255, 192, 192};
+    QColor warning{176, 98, 6}; ///< signs of message boxes
+    QColor danger{178, 48, 40};
 };
 
 const Colours& colours();
@@ -45,13 +50,37 @@ int grid(int steps);
 /// The width of a field of so many average characters, the same for boxes of all kinds, so that fields align.
 int fieldWidth(int characters);
 
-/// Puts style, palette and font in place.
+/// A picture of the resources in all sizes in which it is there: "x.png", "x@2x.png" and so on. It stays sharp whatever
+/// size it is shown in.
+QIcon icon(const QString& resource);
+
+/// How much larger than in their files pictures are shown: they grow with the font.
+double pictureScale();
+
+/// How far the entry of a box stands from the box's edge, and the text in a box of any kind.
+int entryInset();
+int textInset();
+
+/// The height of so many rows of fields, with the gaps between them.
+int rowsHeight(int rows);
+
+/// The least size of a screen's window, one for all, so that the window doesn't jump from screen to screen.
+QSize leastWindow();
+
+/// Halves the gaps of a layout, where the desktop has no room for them.
+void tighten(QLayout& layout);
+
+/// Puts style, palette and font in place. The font is the desktop's, or a larger one where that is too small to read.
 void apply(QApplication& application);
 
-/// The frame of a screen: margins, a column from top to bottom, and a footer at the foot.
+/// Whether a window has the least size of all screens or its own.
+enum class PageSize { Screen, Own };
+
+/// The frame of a screen: margins, a column from top to bottom in the middle, as wide as its widest part, and a footer
+/// at the foot. Room that is left stands above and below the column's parts.
 class Page {
 public:
-    explicit Page(Form& form);
+    explicit Page(Form& form, PageSize size = PageSize::Screen);
 
     /// A title line, centred.
     void title(Label& label);
@@ -67,12 +96,16 @@ public:
     /// A row of buttons of equal width, centred.
     void buttons(std::initializer_list<CommandButton*> row);
 
+    /// The same across the whole column.
+    void wideButtons(std::initializer_list<CommandButton*> row);
+
     /// The foot: the help hint on the left, the footer line on the right. Either may be null.
     void foot(Label* helpHint, Label* footer);
 
     QVBoxLayout* column() const { return column_; }
 
 private:
+    QVBoxLayout* page_;
     QVBoxLayout* column_;
 };
 
@@ -85,11 +118,39 @@ public:
     /// A row; the controls stand side by side from the left.
     void row(Label& label, std::initializer_list<Control*> controls);
 
+    /// A row whose controls go to the right edge: a box without a width of its own takes what the others leave.
+    void wideRow(Label& label, std::initializer_list<Control*> controls);
+
+    /// Buttons of equal width across the boxes, and words across the whole row.
+    void buttons(std::initializer_list<CommandButton*> row);
+    void words(Label& label);
+
+    /// Half a row of room before the next one.
+    void gap();
+
+    QGridLayout* layout() const { return grid_; }
+
+private:
+    void add(Label& label, std::initializer_list<Control*> controls, QLayout* line);
+
+    QGridLayout* grid_;
+};
+
+/// Large buttons below each other, each with what it is for beside it: the choices of a menu.
+class Choices {
+public:
+    Choices();
+
+    void add(CommandButton& button, Label& purpose, const QString& words);
+
     QGridLayout* layout() const { return grid_; }
 
 private:
     QGridLayout* grid_;
 };
+
+/// Marks the button that does what the screen is for: it is filled with the accent.
+void mainAction(CommandButton& button);
 
 /// Whether the mouse gives a button the pressed colour and takes it away again.
 enum class PressedLook { Shown, None };

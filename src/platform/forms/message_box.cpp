@@ -5,14 +5,58 @@
 #include "platform/forms/look.h"
 #include "platform/forms/stage.h"
 
+#include <QEvent>
+#include <QFontMetrics>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace forms {
 
 namespace {
 
 constexpr int leastCharacters = 34; // of a line, so that a short text doesn't cut off the title
+constexpr int mostCharacters = 60; // of a line, on which the eye still finds its way
+
+/// A box that grows with its text and then breaks it into lines; the toolkit measures it before it knows the font.
+class Box : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        // The toolkit would measure again, by its own rule.
+        return event->type() == QEvent::LayoutRequest ? QDialog::event(event) : QMessageBox::event(event);
+    }
+
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        fitWords(*findChild<QLabel*>(QStringLiteral("qt_msgbox_label")));
+        layout()->activate();
+        setFixedSize(layout()->totalMinimumSize());
+        adjustPosition(parentWidget());
+    }
+
+private:
+    void fitWords(QLabel& words) const
+    {
+        const QFontMetrics metrics = words.fontMetrics();
+        const int room = screen()->availableGeometry().width() - look::grid(16); // icon and margins stand beside it
+        const QRect line(0, 0, std::min(metrics.averageCharWidth() * mostCharacters, room), 0);
+        const int needed = metrics.boundingRect(line, Qt::TextWordWrap, words.text()).width() + 1;
+        const QMargins margins = words.contentsMargins();
+        const int around = margins.left() + margins.right() + std::max(0, words.indent());
+        const int width = std::max(needed + around, look::fieldWidth(leastCharacters));
+        words.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        words.setWordWrap(true);
+        words.setFixedSize(width, words.heightForWidth(width));
+    }
+};
 
 std::function<Answer(const Message&)>& messageDoor()
 {
@@ -39,7 +83,7 @@ QMessageBox::Icon iconOf(int flags)
 Answer ask(const Message& message, QWidget* parent)
 {
     const bool question = message.flags & box::YesNo;
-    QMessageBox window(parent);
+    Box window(parent);
     window.setObjectName(QStringLiteral("MsgBox"));
     window.setWindowRole(QStringLiteral("MsgBox"));
     window.setIcon(iconOf(message.flags));
@@ -48,12 +92,6 @@ Answer ask(const Message& message, QWidget* parent)
     window.setText(message.text);
     window.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     window.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
-    // The same order of buttons on every desktop: Yes before No.
-    window.setStyleSheet(
-        QStringLiteral("QDialogButtonBox { button-layout: 0 } QLabel#qt_msgbox_label { min-width: %1px }")
-            .arg(look::fieldWidth(leastCharacters)));
-    if (auto* words = window.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
-        words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const int answer = window.exec();
     if (!question)
         return Answer::OK;

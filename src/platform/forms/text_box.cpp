@@ -121,6 +121,7 @@ public:
         setUndoRedoEnabled(false);
         setTabChangesFocus(true);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        document()->setDocumentMargin(look::textInset() - frameWidth()); // as far in as the text of other boxes
     }
 
     void byToolkit(const std::function<void()>& act)

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
-#include "platform/forms/look.h"
-
-#include <QApplication>
-#include <QPalette>
-#include <QScreen>
 #include <QWidget>
 
 namespace {
@@ -51,43 +46,6 @@ TEST_F(Progress, IsSeenWhileAHandlerRunsOnAndCostsFewPaints)
         EXPECT_EQ(form.bar.value(), steps);
     };
     click(form.go);
-}
-
-class Looks : public FormsTest {
-protected:
-    Journal journal;
-};
-
-TEST_F(Looks, ADarkDesktopChangesNothing)
-{
-    const QPalette light = QApplication::palette();
-    QApplication::setPalette(QPalette(Qt::black));
-    forms::look::apply(*qApp);
-    for (int role = 0; role < QPalette::NColorRoles; ++role)
-        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-            EXPECT_EQ(QApplication::palette().color(group, QPalette::ColorRole(role)),
-                light.color(group, QPalette::ColorRole(role)))
-                << "role " << role << " in group " << group;
-}
-
-TEST_F(Looks, AScreenLargerThanTheDesktopScrollsToTheControlThatHasTheFocus)
-{
-    struct Tall : TrialForm {
-        using TrialForm::TrialForm;
-        forms::ControlArray<forms::TextBox, 60> boxes{*this, "boxes"};
-    } form("Tall", journal);
-    auto* column = new QVBoxLayout(form.canvas());
-    for (int index = 0; index < 60; ++index) {
-        column->addWidget(form.boxes[index].widget());
-        form.boxes[index].setTabIndex(index);
-    }
-    form.show();
-    settle();
-    EXPECT_LE(form.window()->height(), form.window()->screen()->availableGeometry().height());
-    EXPECT_TRUE(form.boxes[59].widget()->visibleRegion().isEmpty());
-    backTab();
-    EXPECT_TRUE(form.boxes[59].hasFocus());
-    EXPECT_EQ(form.boxes[59].widget()->visibleRegion().boundingRect(), form.boxes[59].widget()->rect());
 }
 
 } // namespace

@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "trial_form.h"
+
+#include "platform/forms/look.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cmath>
+
+namespace look = forms::look;
+
+namespace {
+
+class Looks : public FormsTest {
+protected:
+    void TearDown() override
+    {
+        FormsTest::TearDown();
+        setDesktopFont(usual_);
+    }
+
+    static void setDesktopFont(double points)
+    {
+        QFont font = QApplication::font();
+        font.setPointSizeF(points);
+        QApplication::setFont(font);
+    }
+
+    Journal journal;
+
+private:
+    const double usual_ = QApplication::font().pointSizeF();
+};
+
+// ---- message boxes
+
+// What of its text a box has no room for, measured apart from the toolkit's label.
+void expectWholeText(const QLabel& words, const QString& text)
+{
+    EXPECT_EQ(words.text(), text);
+    const QRect place = words.contentsRect().adjusted(std::max(0, words.indent()), 0, 0, 0);
+    const QFontMetrics metrics = words.fontMetrics();
+    const QRect needed = metrics.boundingRect(QRect(0, 0, place.width(), 0), Qt::TextWordWrap, text);
+    EXPECT_LE(needed.width(), place.width()) << text.toStdString();
+    EXPECT_LE(needed.height(), place.height()) << text.toStdString();
+    EXPECT_LE(place.width(), metrics.averageCharWidth() * 62) << "lines too long to read";
+    EXPECT_TRUE(words.window()->rect().contains(words.geometry())) << text.toStdString();
+}
+
+TEST_F(Looks, AMessageBoxShowsItsWholeTextAtEveryTypeSize)
+{
+    const QString texts[] = {
+        QStringLiteral("Any Unsaved Changes Will Be Lost...Continue"),
+        QStringLiteral("          Account Has Been Updated!"),
+        QStringLiteral("You Must Select A Future Policy Expiration Date Before Selecting This Option!"),
+        QStringLiteral("This Name Is Used By Other Assets In Your Inventory.\n\n"
+                       "Changing It Here Changes The List That You Choose From, And None Of The Assets That You Have "
+                       "Entered Before. Are You Sure You Want To Change It?"),
+        QStringLiteral("A folder without a blank: /home/someone/%1").arg(QString(40, u'x')),
+    };
+    useRealBoxes();
+    TwoBoxes form("Form", journal);
+    for (const double points : {9.0, 12.0, 16.0}) {
+        setDesktopFont(points);
+        form.show();
+        for (const QString& text : texts) {
+            whileModal([&text] {
+                const QWidget& box = *QApplication::activeModalWidget();
+                expectWholeText(*box.findChild<QLabel*>("qt_msgbox_label"), text);
+                EXPECT_LE(box.width(), box.screen()->availableGeometry().width());
+                press(Qt::Key_Enter);
+            });
+            EXPECT_EQ(forms::MsgBox(text, forms::box::Question + forms::box::YesNo, "Title"), forms::Answer::Yes);
+        }
+    }
+}
+
+// ---- the focus
+
+int differingPixels(const QImage& one, const QImage& other)
+{
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            count += one.pixel(x, y) != other.pixel(x, y) ? 1 : 0;
+    return count;
+}
+
+QImage pictureOf(const forms::Control& control)
+{
+    settle();
+    return control.widget()->grab().toImage();
+}
+
+struct AllKinds : TrialForm {
+    explicit AllKinds(Journal& journal)
+        : TrialForm("AllKinds", journal)
+    {
+        for (forms::Button* button : std::initializer_list<forms::Button*>{&push, &mainPush, &option, &tick, &other})
+            button->setCaption("Words");
+        look::mainAction(mainPush);
+        memo.setText("Some words");
+        pick.addItems({"one", "two"});
+        layOut({&line, &memo, &edit, &pick, &push, &mainPush, &option, &tick, &other});
+    }
+
+    forms::TextBox line{*this, "line"};
+    forms::MemoBox memo{*this, "memo"};
+    forms::ComboBox edit{*this, "edit"};
+    forms::ComboBox pick{*this, "pick", forms::ComboStyle::PickOnly};
+    forms::CommandButton push{*this, "push"};
+    forms::CommandButton mainPush{*this, "mainPush"};
+    forms::OptionButton option{*this, "option"};
+    forms::CheckBox tick{*this, "tick"};
+    forms::CommandButton other{*this, "other"};
+};
+
+TEST_F(Looks, EveryKindOfControlShowsThatItHasTheFocus)
+{
+    AllKinds form(journal);
+    form.show();
+    for (forms::Control* control : form.controls()) {
+        if (control == &form.other)
+            continue;
+        form.other.setFocus();
+        const QImage without = pictureOf(*control);
+        control->setFocus();
+        // More than a caret, which comes and goes: a frame.
+        EXPECT_GT(differingPixels(pictureOf(*control), without), 150) << control->name().toStdString();
+        form.other.setFocus();
+        EXPECT_EQ(differingPixels(pictureOf(*control), without), 0) << control->name().toStdString();
+    }
+    const QImage plain = pictureOf(form.memo);
+    form.memo.setFocus();
+    form.memo.selectAll();
+    EXPECT_GT(differingPixels(pictureOf(form.memo), plain), 1000) << "the selection shows";
+    form.other.setFocus();
+    EXPECT_EQ(form.memo.selectionLength(), 10);
+    EXPECT_EQ(differingPixels(pictureOf(form.memo), plain), 0) << "a box without the focus shows no selection";
+}
+
+TEST_F(Looks, TheMainActionIsFilledWhileItCanBeChosenAndNotPressed)
+{
+    AllKinds form(journal);
+    form.show();
+    const auto face = [&form] {
+        return QColor(pictureOf(form.mainPush).pixel(form.mainPush.widget()->width() / 2, 5));
+    };
+    EXPECT_EQ(face(), look::colours().accent);
+    forms::behaviours::showPressed(form.mainPush);
+    EXPECT_EQ(face(), look::colours().pressed);
+    forms::behaviours::showReleased(form.mainPush);
+    EXPECT_EQ(face(), look::colours().accent);
+    form.mainPush.setEnabled(false);
+    EXPECT_NE(face(), look::colours().accent);
+}
+
+// ---- colours and sizes
+
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double share) {
+        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    return (light + 0.05) / (dark + 0.05);
+}
+
+TEST_F(Looks, TextAndFramesStandOutFromWhatIsBehindThem)
+{
+    const QPalette palette = QApplication::palette();
+    const look::Colours& the = look::colours();
+    for (const QColor& behind : {the.ground, the.field, the.buttonFace})
+        for (const QColor& words : {the.text, the.quiet, the.accent})
+            EXPECT_GE(contrast(words, behind), 4.5) << words.name().toStdString() << behind.name().toStdString();
+    for (const QColor& behind : {the.pressed, the.error})
+        EXPECT_GE(contrast(the.text, behind), 4.5);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        EXPECT_GE(contrast(palette.color(group, QPalette::Text), palette.color(group, QPalette::Base)), 4.5) << group;
+        EXPECT_GE(
+            contrast(palette.color(group, QPalette::HighlightedText), palette.color(group, QPalette::Highlight)), 4.5)
+            << group;
+    }
+    EXPECT_GE(contrast(palette.color(QPalette::ToolTipText), palette.color(QPalette::ToolTipBase)), 4.5);
+    for (const QColor& behind : {the.ground, the.field, the.buttonFace})
+        for (const QColor& frame : {the.line, the.accent, the.warning, the.danger})
+            EXPECT_GE(contrast(frame, behind), 3) << frame.name().toStdString() << behind.name().toStdString();
+}
+
+TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithIt)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    setDesktopFont(9);
+    look::apply(*qApp);
+    EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), 11);
+    EXPECT_NEAR(look::fontOf(forms::TextRole::Hint).pointSizeF(), 10, 0.01);
+    const auto measures = [] {
+        const QStyle& style = *QApplication::style();
+        std::vector<int> sizes;
+        for (const auto metric : {QStyle::PM_IndicatorWidth, QStyle::PM_ExclusiveIndicatorHeight,
+                 QStyle::PM_ScrollBarExtent, QStyle::PM_ButtonIconSize, QStyle::PM_MessageBoxIconSize})
+            sizes.push_back(style.pixelMetric(metric));
+        sizes.push_back(look::rowsHeight(1));
+        sizes.push_back(look::leastWindow().width());
+        sizes.push_back(static_cast<int>(look::pictureScale() * 100));
+        return sizes;
+    };
+    const std::vector<int> small = measures();
+    setDesktopFont(16);
+    look::apply(*qApp);
+    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), 16);
+    const std::vector<int> large = measures();
+    for (std::size_t index = 0; index < small.size(); ++index)
+        EXPECT_NEAR(double(large[index]) / small[index], 16.0 / 11, 0.15) << "measure " << index;
+}
+
+TEST_F(Looks, AnIconIsSharpAtTwiceItsSize)
+{
+    QTemporaryDir folder;
+    for (const auto& [file, size] : {std::pair("x.png", 20), std::pair("x@2x.png", 40), std::pair("x@4x.png", 80)}) {
+        QImage picture(size, size, QImage::Format_ARGB32);
+        picture.fill(size == 80 ? Qt::red : Qt::blue);
+        picture.save(folder.filePath(file));
+    }
+    const QIcon icon = look::icon(folder.filePath("x.png"));
+    const QPixmap doubled = icon.pixmap(QSize(36, 36), 2.0);
+    EXPECT_EQ(doubled.size(), QSize(72, 72));
+    EXPECT_EQ(QColor(doubled.toImage().pixel(36, 36)), QColor(Qt::red));
+}
+
+TEST_F(Looks, ADarkDesktopChangesNothing)
+{
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(Qt::black));
+    look::apply(*qApp);
+    for (int role = 0; role < QPalette::NColorRoles; ++role)
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            EXPECT_EQ(QApplication::palette().color(group, QPalette::ColorRole(role)),
+                light.color(group, QPalette::ColorRole(role)))
+                << "role " << role << " in group " << group;
+}
+
+// ---- windows
+
+struct Pictured : TrialForm {
+    explicit Pictured(Journal& journal, const QString& file)
+        : TrialForm("Pictured", journal)
+    {
+        picture.setPicture(file, "A picture");
+        answering.setPicture(file, "A picture to press");
+        answering.Click = [] {};
+        heading.setCaption("First");
+        look::Page page(*this);
+        page.title(heading);
+        page.add(picture);
+        page.add(answering);
+        page.space(40);
+        page.foot(nullptr, &footer);
+    }
+
+    forms::Label heading{*this, "heading"};
+    forms::Picture picture{*this, "picture"};
+    forms::Picture answering{*this, "answering"};
+    forms::Label footer{*this, "footer", "Foot"};
+};
+
+TEST_F(Looks, OnASmallDesktopPicturesGiveUpTheirRoomFirstAndGapsThen)
+{
+    QTemporaryDir folder;
+    const int room = QApplication::primaryScreen()->availableGeometry().height();
+    const auto show = [&](int height) {
+        const QString file = folder.filePath(QStringLiteral("%1.png").arg(height));
+        QImage(40, height, QImage::Format_ARGB32).save(file);
+        auto form = std::make_unique<Pictured>(journal, file);
+        form->show();
+        settle();
+        return form;
+    };
+    const auto small = show(50);
+    EXPECT_EQ(small->picture.widget()->height(), std::lround(50 * look::pictureScale()));
+    EXPECT_GE(small->window()->height(), std::min(room, look::leastWindow().height()));
+    const int gaps = small->canvas()->sizeHint().height() - 2 * small->picture.widget()->height();
+
+    const int large = room - gaps;
+    const auto tall = show(static_cast<int>(large * 0.6 / look::pictureScale()));
+    EXPECT_TRUE(tall->picture.isVisible());
+    EXPECT_LT(tall->picture.widget()->height(), large * 0.5);
+    EXPECT_NEAR(tall->answering.widget()->height(), large * 0.6, 1) << "what can be pressed stays whole";
+
+    const auto huge = show(static_cast<int>((large + 40) / look::pictureScale()));
+    EXPECT_FALSE(huge->picture.isVisible());
+    EXPECT_LE(huge->canvas()->sizeHint().height(), room) << "the gaps are halved";
+}
+
+TEST_F(Looks, AScreenLargerThanTheDesktopScrollsToTheControlThatHasTheFocus)
+{
+    struct Tall : TrialForm {
+        using TrialForm::TrialForm;
+        forms::ControlArray<forms::TextBox, 60> boxes{*this, "boxes"};
+    } form("Tall", journal);
+    auto* column = new QVBoxLayout(form.canvas());
+    for (int index = 0; index < 60; ++index) {
+        column->addWidget(form.boxes[index].widget());
+        form.boxes[index].setTabIndex(index);
+    }
+    form.show();
+    settle();
+    EXPECT_LE(form.window()->height(), form.window()->screen()->availableGeometry().height());
+    EXPECT_TRUE(form.boxes[59].widget()->visibleRegion().isEmpty());
+    backTab();
+    EXPECT_TRUE(form.boxes[59].hasFocus());
+    EXPECT_EQ(form.boxes[59].widget()->visibleRegion().boundingRect(), form.boxes[59].widget()->rect());
+}
+
+TEST_F(Looks, AScreenIsAWindowNamedByItsHeading)
+{
+    Pictured form(journal, "none.png");
+    form.show();
+    QAccessibleInterface* screen = QAccessible::queryAccessibleInterface(form.window());
+    EXPECT_EQ(screen->role(), QAccessible::Window);
+    EXPECT_EQ(screen->text(QAccessible::Name), "First");
+    form.heading.setCaption("Second");
+    EXPECT_EQ(screen->text(QAccessible::Name), "Second");
+}
+
+} // namespace
