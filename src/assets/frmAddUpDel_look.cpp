@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <QWidget>
 
 namespace {
 
@@ -27,7 +28,10 @@ QStringList years()
 void frameOptions(forms::GroupBox& frame, const QString& caption, forms::ControlArray<forms::OptionButton, 2>& options)
 {
     frame.setCaption(caption);
+    frame.widget()->setFixedHeight(forms::look::rowsHeight(2));
     auto* line = new QHBoxLayout(frame.widget());
+    line->setContentsMargins(forms::look::grid(1), 0, forms::look::grid(1), 0);
+    line->setSpacing(forms::look::grid(2));
     for (int index = 0; index < options.count(); ++index) {
         frame.hold(options[index]);
         line->addWidget(options[index].widget());
@@ -63,11 +67,12 @@ QLayout* purchaseColumn(frmAddUpDel& screen)
     rows.row(screen.lblReceiptLocation, {&screen.txtLoc});
     rows.row(screen.lblDescription, {&screen.txtDescription});
     rows.layout()->setAlignment(screen.lblDescription.widget(), Qt::AlignRight | Qt::AlignTop);
+    // The frames take two rows of the other column, the description three.
+    screen.txtDescription.widget()->setFixedHeight(forms::look::rowsHeight(3));
     auto* column = new QVBoxLayout;
-    column->setSpacing(forms::look::grid(1));
+    column->setSpacing(forms::look::rowsHeight(2) - 2 * forms::look::rowsHeight(1));
     column->addLayout(frames);
     column->addLayout(rows.layout());
-    column->addStretch();
     return column;
 }
 
@@ -228,7 +233,7 @@ void frmAddUpDel::layOut()
     for (forms::TextBox* box : {&txtMake, &txtMod, &txtSerial, &txtPPrice, &txtLoc})
         box->setWidthInCharacters(FieldWidth);
     txtPur.setWidthInCharacters(FieldWidth / 2);
-    txtDescription.setSizeInCharacters(FieldWidth, 4);
+    txtDescription.setSizeInCharacters(FieldWidth, 3);
 
     auto* fields = new QHBoxLayout;
     fields->setSpacing(forms::look::grid(4));
@@ -240,14 +245,14 @@ void frmAddUpDel::layOut()
     boxes->addWidget(chkClear.widget());
     boxes->addStretch();
 
+    forms::look::mainAction(cmdAdd);
+    forms::look::mainAction(cmdUpdate);
     forms::look::Page page(*this);
     page.title(lblHead);
-    page.space(1);
-    page.add(fields, 1);
+    page.add(fields);
     page.space(1);
     page.add(boxes);
     page.space(1);
     page.add(buttonGrid(*this));
-    page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }

@@ -3,21 +3,6 @@
 #include "core/conventions.h"
 #include "platform/forms/look.h"
 
-#include <QGridLayout>
-
-namespace {
-
-void addChoice(QGridLayout& choices, forms::CommandButton& button, forms::Label& purpose, const char* words)
-{
-    purpose.setCaption(words);
-    purpose.wrapAt(38);
-    const int row = choices.rowCount();
-    choices.addWidget(button.widget(), row, 0);
-    choices.addWidget(purpose.widget(), row, 1, Qt::AlignVCenter);
-}
-
-} // namespace
-
 void frmAuto::look()
 {
     setTitle(conventions::Title);
@@ -42,22 +27,15 @@ void frmAuto::look()
 
 void frmAuto::layOut()
 {
-    auto* choices = new QGridLayout;
-    choices->setHorizontalSpacing(forms::look::grid(3));
-    choices->setVerticalSpacing(forms::look::grid(2));
-    addChoice(*choices, cmdAdd[0], lblSelOut[0], "Choose This Option To Add A New Asset To Your Inventory");
-    addChoice(
-        *choices, cmdUpdate[1], lblSelOut[1], "Choose This Option To Update Information On An Asset Already Added");
-    addChoice(
-        *choices, cmdDelete[0], lblSelOut[2], "Choose This Option To Delete An Asset You Do Not Want Or No Longer Own");
-    choices->setColumnStretch(1, 1);
-    forms::look::equalWidths({&cmdAdd[0], &cmdUpdate[1], &cmdDelete[0]});
+    forms::look::Choices choices;
+    choices.add(cmdAdd[0], lblSelOut[0], "Choose This Option To Add A New Asset To Your Inventory");
+    choices.add(cmdUpdate[1], lblSelOut[1], "Choose This Option To Update Information On An Asset Already Added");
+    choices.add(cmdDelete[0], lblSelOut[2], "Choose This Option To Delete An Asset You Do Not Want Or No Longer Own");
 
     forms::look::Page page(*this);
     page.title(lblHead1[0]);
-    page.space(1);
-    page.add(choices, 1);
-    page.space(2);
+    page.add(choices.layout());
+    page.space(4);
     page.buttons({&cmdBack[0], &cmdLeave[0]});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);

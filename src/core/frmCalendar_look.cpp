@@ -18,7 +18,7 @@ void frmCalendar::look()
 
     calDate.widget()->setMinimumSize(forms::look::grid(44), forms::look::grid(32));
 
-    forms::look::Page page(*this);
+    forms::look::Page page(*this, forms::look::PageSize::Own);
     lblHead2.setRole(forms::TextRole::Instruction);
     page.add(lblHead2);
     page.add(calDate);

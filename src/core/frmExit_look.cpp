@@ -12,7 +12,7 @@ void frmExit::look()
     lblCopyright.setCaption(conventions::Footer);
     tmExit.Timer = [this] { tmExit_Timer(); };
 
-    forms::look::Page page(*this);
+    forms::look::Page page(*this, forms::look::PageSize::Own);
     page.title(lblHead);
     page.space(1);
     page.add(imgHome);

@@ -3,26 +3,12 @@
 #include "core/frmMain.h"
 #include "platform/forms/look.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QWidget>
 
 namespace {
 
 constexpr int HelpNumber = 1001;
-
-// An area's button with what it is for beside it.
-void addArea(QGridLayout& areas, forms::CommandButton& button, forms::Label& purpose, const char* words)
-{
-    button.widget()->setFont(forms::look::fontOf(forms::TextRole::Heading));
-    button.widget()->setMinimumSize(forms::look::grid(16), forms::look::grid(7));
-    purpose.setCaption(words);
-    purpose.setRole(forms::TextRole::Instruction);
-    purpose.wrapAt(34);
-    const int row = areas.rowCount();
-    areas.addWidget(button.widget(), row, 0);
-    areas.addWidget(purpose.widget(), row, 1, Qt::AlignVCenter);
-}
 
 } // namespace
 
@@ -60,26 +46,22 @@ void frmMain::look()
 
 void frmMain::layOut()
 {
-    auto* areas = new QGridLayout;
-    areas->setHorizontalSpacing(forms::look::grid(3));
-    areas->setVerticalSpacing(forms::look::grid(2));
-    addArea(*areas, cmdIn, lblSelIn[0], "Choose This Option If You Want To Add Or Update An Asset Inside Your Home");
-    addArea(*areas, cmdOut, lblSelOut, "Choose This Option If You Want To Add Or Update An Asset Outside Your Home");
-    addArea(*areas, cmdAuto, lblSelAuto,
-        "Choose This Option If You Want To Add Or Update An Asset That Is Mobile Or Off-Site");
-    areas->setColumnStretch(1, 1);
+    forms::look::Choices areas;
+    areas.add(cmdIn, lblSelIn[0], "Choose This Option If You Want To Add Or Update An Asset Inside Your Home");
+    areas.add(cmdOut, lblSelOut, "Choose This Option If You Want To Add Or Update An Asset Outside Your Home");
+    areas.add(
+        cmdAuto, lblSelAuto, "Choose This Option If You Want To Add Or Update An Asset That Is Mobile Or Off-Site");
 
     auto* middle = new QHBoxLayout;
     middle->setSpacing(forms::look::grid(4));
     middle->addWidget(imgHome.widget(), 0, Qt::AlignVCenter);
-    middle->addLayout(areas, 1);
+    middle->addLayout(areas.layout());
 
     forms::look::Page page(*this);
     page.title(lblHead1);
-    page.space(1);
-    page.add(middle, 1);
+    page.add(middle);
     page.space(2);
-    page.buttons({&cmdPrint, &cmdSearch, &cmdValue, &cmdPersonal, &cmdLeave});
+    page.wideButtons({&cmdPrint, &cmdSearch, &cmdValue, &cmdPersonal, &cmdLeave});
     page.foot(&lblSelIn[1], &lblCopyright);
 }
 

@@ -13,7 +13,7 @@ void frmProgress::look()
     lblHead[2].setCaption(conventions::Footer);
     lblHead[1].nameFor(pbSave);
 
-    forms::look::Page page(*this);
+    forms::look::Page page(*this, forms::look::PageSize::Own);
     page.title(lblHead[0]);
     lblHead[1].setRole(forms::TextRole::Instruction);
     page.add(lblHead[1]);

@@ -5,8 +5,6 @@
 #include "core/data_store.h"
 #include "platform/forms/look.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QStringList>
 #include <QWidget>
 
@@ -34,7 +32,7 @@ constexpr EntryLook entries[] = {
     {General::Last, "Last Name", 50, left, " Enter Your Last Name ", 3, 0},
     {General::First, "First Name", 50, left, " Enter Your First Name  ", 1, 0},
     {General::Middle, "M.I.", 1, centre, " Enter Your Middle Initial ", 2, 3},
-    {General::Address, "Address", 50, left, " Enter Your Current Address ", 4, 50},
+    {General::Address, "Address", 50, left, " Enter Your Current Address ", 4, 0},
     {General::City, "City", 50, left, " Enter The City Where You Live ", 5, 0},
     {General::ZIP, "ZIP", 20, left, " Enter The Postal ZIP Code ", 7, 0},
     {General::HomePhone1, "Home Phone", 3, centre, " Enter The Area Code Of Your Home Phone Number ", 8, 5},
@@ -67,20 +65,6 @@ constexpr Phone phones[] = {
     {General::WorkPhone1, 6},
     {General::CellPhone1, 9},
 };
-
-/// A row that goes to the right edge: the box without a width of its own takes what the others leave.
-void addFullRow(forms::look::FieldRows& rows, forms::Label& label, std::initializer_list<forms::Control*> controls)
-{
-    auto* line = new QHBoxLayout;
-    line->setSpacing(forms::look::grid(1) / 2);
-    for (forms::Control* control : controls)
-        line->addWidget(control->widget());
-    QGridLayout* grid = rows.layout();
-    const int at = grid->rowCount();
-    grid->addWidget(label.widget(), at, 0, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addLayout(line, at, 1);
-    label.nameFor(**controls.begin());
-}
 
 } // namespace
 
@@ -163,28 +147,30 @@ void frmGenInfo::answer()
 void frmGenInfo::arrange()
 {
     forms::look::FieldRows rows;
-    addFullRow(rows, lblInfo[General::First],
-        {&txtInfo[General::First], &lblInfo[General::Middle], &txtInfo[General::Middle]});
-    addFullRow(rows, lblInfo[General::Last], {&txtInfo[General::Last]});
-    addFullRow(rows, lblInfo[General::Address], {&txtInfo[General::Address]});
-    addFullRow(rows, lblInfo[General::City], {&txtInfo[General::City]});
-    addFullRow(rows, lblInfo[General::State], {&cmbState, &lblInfo[General::ZIP], &txtInfo[General::ZIP]});
+    rows.words(lblHead[1]);
+    rows.wideRow(
+        lblInfo[General::First], {&txtInfo[General::First], &lblInfo[General::Middle], &txtInfo[General::Middle]});
+    rows.wideRow(lblInfo[General::Last], {&txtInfo[General::Last]});
+    rows.wideRow(lblInfo[General::Address], {&txtInfo[General::Address]});
+    rows.wideRow(lblInfo[General::City], {&txtInfo[General::City]});
+    rows.wideRow(lblInfo[General::State], {&cmbState, &lblInfo[General::ZIP], &txtInfo[General::ZIP]});
     for (const Phone& phone : phones)
         addPhone(rows, phone.firstPiece, phone.firstFrame);
-    addFullRow(rows, lblInfo[General::EMail], {&txtInfo[General::EMail]});
+    rows.wideRow(lblInfo[General::EMail], {&txtInfo[General::EMail]});
     lblInfo[General::Middle].nameFor(txtInfo[General::Middle]);
     lblInfo[General::ZIP].nameFor(txtInfo[General::ZIP]);
 
+    rows.layout()->setColumnMinimumWidth(1, forms::look::fieldWidth(50));
+    rows.gap();
+    rows.buttons({&cmdInsInfo, &cmdBank});
+    rows.gap();
+    rows.words(lblHead[2]);
+    rows.buttons({&cmdContinue[0], &cmdBack[0], &cmdExit});
+    forms::look::mainAction(cmdContinue[0]);
+
     forms::look::Page page(*this);
     page.title(lblHead[0]);
-    page.instruction(lblHead[1]);
     page.add(rows.layout());
-    page.space(1);
-    page.buttons({&cmdInsInfo, &cmdBank});
-    page.space(1);
-    page.instruction(lblHead[2]);
-    page.buttons({&cmdContinue[0], &cmdBack[0], &cmdExit});
-    page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }
 

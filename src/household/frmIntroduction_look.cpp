@@ -42,6 +42,7 @@ void frmIntroduction::look()
 
     cmdOK.Click = [this] { cmdOK_Click(); };
     forms::behaviours::pressedColour(cmdOK);
+    forms::look::mainAction(cmdOK);
     arrange();
 }
 
@@ -61,6 +62,6 @@ void frmIntroduction::arrange()
     middle->addLayout(words, 1);
 
     forms::look::Page page(*this);
-    page.add(middle, 1);
+    page.add(middle);
     page.foot(&lblSelIn, &lblCopyright);
 }
