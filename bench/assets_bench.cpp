@@ -12,7 +12,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -215,19 +214,4 @@ void BM_FillItems(benchmark::State& state)
 }
 BENCHMARK(BM_FillItems)->Arg(shipped)->Arg(many)->Unit(benchmark::kMillisecond);
 
-// The platform without a screen complains of every window that is raised.
-void quietHandler(QtMsgType, const QMessageLogContext&, const QString&) { }
-
 } // namespace
-
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(quietHandler);
-    QApplication application(argc, argv);
-    forms::prepare(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

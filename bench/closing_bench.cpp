@@ -9,7 +9,6 @@
 #include <benchmark/benchmark.h>
 #include <sqlcipher/sqlite3.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -105,22 +104,7 @@ void copyAndProveBare(benchmark::State& state)
     }
 }
 
-// The platform without a screen complains of every window that is raised.
-void quietHandler(QtMsgType, const QMessageLogContext&, const QString&) { }
-
 } // namespace
 
 BENCHMARK(closeProgram)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(copyAndProveBare)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
-
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(quietHandler);
-    QApplication application(argc, argv);
-    forms::prepare(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -74,24 +74,9 @@ void pasteMemo(benchmark::State& state)
     paste(state, &Boxes::memo, 'x');
 }
 
-// The platform without a screen complains of every window that is raised.
-void quietHandler(QtMsgType, const QMessageLogContext&, const QString&) { }
-
 } // namespace
 
 BENCHMARK(pasteDigits)->Unit(benchmark::kMillisecond);
 BENCHMARK(pasteLettersIntoDigits)->Unit(benchmark::kMillisecond);
 BENCHMARK(pasteMoney)->Unit(benchmark::kMillisecond);
 BENCHMARK(pasteMemo)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(quietHandler);
-    QApplication application(argc, argv);
-    forms::prepare(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -10,7 +10,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -127,19 +126,4 @@ void BM_BareCommits(benchmark::State& state)
 }
 BENCHMARK(BM_BareCommits)->UseRealTime()->Iterations(2)->Unit(benchmark::kMillisecond);
 
-// The platform without a screen complains of every window that is raised.
-void quietHandler(QtMsgType, const QMessageLogContext&, const QString&) { }
-
 } // namespace
-
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(quietHandler);
-    QApplication application(argc, argv);
-    forms::prepare(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/user.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
@@ -26,13 +28,23 @@ QString textOf(Qt::Key key, Qt::KeyboardModifiers modifiers)
     return character ? QString(QLatin1Char(character)) : QString();
 }
 
-// The release goes to whatever window is in front by then.
-void stroke(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
+void goDown(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
 {
     settle();
     QTest::sendKeyEvent(QTest::Press, &frontWindow(), key, text, modifiers);
+}
+
+// The release goes to whatever window is in front by then.
+void goUp(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
+{
     if (QGuiApplication::focusWindow() || forms::activeForm())
         QTest::sendKeyEvent(QTest::Release, &frontWindow(), key, text, modifiers);
+}
+
+void stroke(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
+{
+    goDown(key, text, modifiers);
+    goUp(key, text, modifiers);
 }
 
 void typeCharacter(char32_t character)
@@ -86,6 +98,23 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     stroke(key, textOf(key, modifiers), modifiers);
 }
 
+void hold(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    goDown(key, textOf(key, modifiers), modifiers);
+}
+
+void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers, int times)
+{
+    for (; times > 0; --times)
+        for (const bool down : {false, true})
+            QTest::simulateEvent(&frontWindow(), down, key, modifiers, textOf(key, modifiers), true, 1);
+}
+
+void letGo(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    goUp(key, textOf(key, modifiers), modifiers);
+}
+
 void tab()
 {
     press(Qt::Key_Tab);
@@ -123,6 +152,13 @@ void commit(const QString& text)
     event.setCommitString(text);
     QCoreApplication::sendEvent(target, &event);
     settle();
+}
+
+void setByAssistant(forms::Control& control, const QString& text)
+{
+    QWidget* widget = control.widget();
+    auto* line = widget->findChild<QLineEdit*>(); // of a combo box
+    QAccessible::queryAccessibleInterface(line ? line : widget)->setText(QAccessible::Value, text);
 }
 
 } // namespace user

@@ -5,8 +5,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -20,8 +21,7 @@ namespace {
 
 QAbstractItemView& openedList(forms::ComboBox& box)
 {
-    const int arrow = box.widget()->width() - box.widget()->height() / 2;
-    clickAt(box, {arrow, box.widget()->height() / 2});
+    clickArrow(box);
     QWidget* popup = QApplication::activePopupWidget();
     auto* view = popup ? popup->findChild<QAbstractItemView*>() : nullptr;
     if (!view)
@@ -58,6 +58,29 @@ void choose(QMenu& menu, const QString& caption)
 
 } // namespace
 
+void clickArrow(forms::ComboBox& box)
+{
+    const int height = box.widget()->height();
+    clickAt(box, {box.widget()->width() - height / 2, height / 2});
+}
+
+bool isListOpen()
+{
+    return QApplication::activePopupWidget();
+}
+
+void clickInBox(const QString& caption)
+{
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>()) {
+        if (button->text().remove(QLatin1Char('&')) != caption)
+            continue;
+        QTest::mouseClick(box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
+        return;
+    }
+    throw std::logic_error("No message box is up that has a button " + caption.toStdString());
+}
+
 void pick(forms::ComboBox& box, const QString& item)
 {
     QAbstractItemView& view = openedList(box);
@@ -74,18 +97,11 @@ void pick(forms::ComboBox& box, const QString& item)
 void pasteByMenu(forms::Control& control, const QString& text)
 {
     QGuiApplication::clipboard()->setText(text);
-    // The menu has an event loop of its own, inside the click.
     bool chosen = false;
-    QTimer inMenu;
-    QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&inMenu, &chosen] {
-        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-            inMenu.stop();
-            chosen = true;
-            choose(*menu, QStringLiteral("Paste"));
-        }
+    inMenuOf(control, [&chosen](QMenu& menu) {
+        chosen = true;
+        choose(menu, QStringLiteral("Paste"));
     });
-    inMenu.start(0);
-    rightClick(control);
     if (!chosen)
         throw std::logic_error("No menu opens on " + control.name().toStdString());
 }

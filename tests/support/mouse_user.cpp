@@ -2,11 +2,12 @@
 #include "support/user.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDropEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QScrollArea>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 
 #include <stdexcept>
@@ -37,12 +38,20 @@ Spot spotOf(forms::Control& control, QPoint position)
         throw std::logic_error("The user can't see " + control.name().toStdString());
     bringIntoView(widget);
     QWidget& window = *widget.window();
-    const Spot spot{window.windowHandle(), widget.mapTo(&window, position)};
+    Spot spot{window.windowHandle(), widget.mapTo(&window, position)};
     QWidget* hit = window.childAt(spot.position);
     if (widget.rect().contains(position) && hit != &widget && !widget.isAncestorOf(hit))
         throw std::logic_error("Something covers " + control.name().toStdString());
+    if (QWidget* popup = QApplication::activePopupWidget()) // has the mouse to itself
+        spot = {popup->windowHandle(), popup->mapFromGlobal(widget.mapToGlobal(position))};
+    QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval; // a click on its own
     return spot;
 }
+
+struct Click {
+    QPoint where; // on the display
+    int when = 0;
+} lastClick;
 
 Spot middleOf(forms::Control& control)
 {
@@ -66,7 +75,21 @@ forms::Control& control(forms::Form& form, const QString& name)
 void clickAt(forms::Control& control, QPoint position)
 {
     const Spot spot = spotOf(control, position);
+    lastClick = {spot.window->mapToGlobal(spot.position), QTest::lastMouseTimestamp};
     QTest::mouseClick(spot.window, Qt::LeftButton, {}, spot.position);
+}
+
+void clickAgain()
+{
+    constexpr int betweenMilliseconds = 100;
+    QTest::lastMouseTimestamp = lastClick.when + betweenMilliseconds;
+    QWindow& window = frontWindow();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(lastClick.where));
+}
+
+void clickScrollBar(forms::MemoBox& box)
+{
+    clickAt(box, {box.widget()->width() - 5, box.widget()->height() / 2});
 }
 
 void click(forms::Control& control)
@@ -74,32 +97,46 @@ void click(forms::Control& control)
     clickAt(control, control.widget()->rect().center());
 }
 
-void rightClick(forms::Control& control)
+bool rightClick(forms::Control& control)
 {
+    bool opened = false;
+    inMenuOf(control, [&opened](QMenu& menu) {
+        opened = true;
+        menu.close();
+    });
+    return opened;
+}
+
+void inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script)
+{
+    // The menu has an event loop of its own, inside the click.
+    QTimer inMenu;
+    QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&inMenu, &script] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            inMenu.stop();
+            script(*menu);
+        }
+    });
+    inMenu.start(0);
     const Spot spot = middleOf(control);
     QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
 }
 
-void pasteByMiddleClick(forms::Control& control, const QString& text)
-{
-    QClipboard& clipboard = *QGuiApplication::clipboard();
-    clipboard.setText(text, clipboard.supportsSelection() ? QClipboard::Selection : QClipboard::Clipboard);
-    const Spot spot = middleOf(control);
-    QTest::mouseClick(spot.window, Qt::MiddleButton, {}, spot.position);
-}
-
-void drop(forms::Control& control, const QString& text)
+bool drop(forms::Control& control, const QString& text)
 {
     const Spot spot = middleOf(control);
     QMimeData data;
     data.setText(text);
-    QDragEnterEvent enter(spot.position, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(spot.window, &enter);
-    QDragMoveEvent move(spot.position, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(spot.window, &move);
-    QDropEvent event(spot.position, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(spot.window, &event);
+    QDragEnterEvent enter(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QDragMoveEvent move(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QDropEvent end(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    bool copies = true;
+    for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&move), &end}) {
+        QCoreApplication::sendEvent(spot.window, event);
+        copies = copies && event->isAccepted() && event->dropAction() == Qt::CopyAction;
+    }
     settle();
+    return copies;
 }
 
 void clickWindow(forms::Form& form)

@@ -6,6 +6,9 @@
 #include <QPoint>
 #include <QString>
 
+#include <functional>
+
+class QMenu;
 class QWindow;
 
 /// What a user does. Everything goes through the windows as real events, the way of the hardware: a screen behind a
@@ -26,7 +29,16 @@ Kind& control(forms::Form& form, const QString& name)
 
 void click(forms::Control& control);
 void clickAt(forms::Control& control, QPoint position);
-void rightClick(forms::Control& control);
+
+/// The second click of a double click: at once and where the last one was, on whatever is there by now.
+void clickAgain();
+
+/// True when a menu opens; it is left without a choice.
+bool rightClick(forms::Control& control);
+
+/// Other parts of a control than its middle.
+void clickArrow(forms::ComboBox& box);
+void clickScrollBar(forms::MemoBox& box);
 
 // ---- the keyboard; whatever has the focus gets it
 
@@ -37,6 +49,12 @@ void type(const QString& text);
 void type(forms::Control& control, const QString& text);
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+
+/// Presses a key and keeps it down; what it repeats goes to whatever is in front by then.
+void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, int times = 3);
+void letGo(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+
 void tab();
 void backTab();
 
@@ -50,17 +68,23 @@ void paste(const QString& text);
 void pasteByShiftInsert(const QString& text);
 void pasteByMenu(forms::Control& control, const QString& text);
 
-/// With the primary selection; where the platform has none, the middle button is clicked all the same.
-void pasteByMiddleClick(forms::Control& control, const QString& text);
-void drop(forms::Control& control, const QString& text);
+/// Drags a text in from a program that would rather move it; true when the answer is a copy all along.
+bool drop(forms::Control& control, const QString& text);
 
 /// Commits a text composed with an input method.
 void commit(const QString& text);
+
+/// Has an assistive tool set the text.
+void setByAssistant(forms::Control& control, const QString& text);
 
 // ---- lists and windows
 
 /// Opens the list with the mouse and clicks an item.
 void pick(forms::ComboBox& box, const QString& item);
+bool isListOpen();
+
+/// Clicks a button of the real message box that is up.
+void clickInBox(const QString& caption);
 
 /// Presses the close box in the title bar.
 void closeBox(forms::Form& form);
@@ -75,6 +99,9 @@ void visitAnotherProgram();
 
 /// The window that gets the keys.
 QWindow& frontWindow();
+
+/// Right-clicks and does something in the menu that opens.
+void inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script);
 
 /// Lets the program do what it has put off.
 void settle();

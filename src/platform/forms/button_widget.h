@@ -3,12 +3,14 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/buttons.h"
+#include "platform/forms/input_gate.h"
 #include "platform/forms/keyboard.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QShortcutEvent>
+
+#include <utility>
 
 namespace forms {
 
@@ -48,31 +50,46 @@ protected:
 
     void keyReleaseEvent(QKeyEvent* event) override
     {
-        fromToolkit([this, event] { Keyboard::up(button_, *event); });
-        Base::keyReleaseEvent(event);
+        letGo([this, event] { Base::keyReleaseEvent(event); }, [this, event] { Keyboard::up(button_, *event); });
         event->accept();
     }
 
     void mousePressEvent(QMouseEvent* event) override
     {
-        // A box that opened while the button was down has taken the release.
-        if (!(QGuiApplication::mouseButtons() & event->button())) {
+        bool reaches = false;
+        fromToolkit([this, event, &reaches] { reaches = InputGate::instance().reaches(button_, *event); });
+        if (!reaches) {
             event->accept();
             return;
         }
         Base::mousePressEvent(event);
-        if (event->button() == Qt::LeftButton)
-            fromToolkit([this] { button_.mouse(true); });
+        pressed_ = event->button() == Qt::LeftButton;
+        if (pressed_)
+            fromToolkit([this] { button_.MouseDown.fire(); });
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        if (event->button() == Qt::LeftButton)
-            fromToolkit([this] { button_.mouse(false); });
-        Base::mouseReleaseEvent(event);
+        const bool isOurs = event->button() == Qt::LeftButton && std::exchange(pressed_, false);
+        letGo([this, event] { Base::mouseReleaseEvent(event); },
+            [this, isOurs] {
+                if (isOurs)
+                    button_.MouseUp.fire();
+            });
     }
 
 private:
+    // The toolkit's button clicks or turns when key or mouse let it go.
+    template <class Step, class Fire>
+    void letGo(Step&& clicks, Fire&& fires)
+    {
+        if (button_.turns())
+            clicks();
+        fromToolkit(fires);
+        if (!button_.turns())
+            clicks();
+    }
+
     void accessKey(bool shared)
     {
         if (!button_.canTakeFocus())
@@ -86,7 +103,9 @@ private:
     bool handleKey(QKeyEvent& event)
     {
         const bool enter = Keyboard::isEnter(event);
-        if (enter && !button_.answersEnter() && Keyboard::pressDefault(button_.form()))
+        if (!button_.answersEnter() && Keyboard::pressDefault(button_.form(), event))
+            return true;
+        if (enter && event.isAutoRepeat())
             return true;
         if (Keyboard::down(button_, event) || !Keyboard::pressText(button_, event))
             return true;
@@ -110,6 +129,7 @@ private:
     }
 
     Button& button_;
+    bool pressed_ = false; // by a press that has reached the button
 };
 
 } // namespace forms

@@ -133,7 +133,8 @@ void OptionButton::setValue(bool chosen)
         button()->setAutoExclusive(true);
     }
     chosen_ = chosen;
-    Click.fire();
+    if (chosen)
+        Click.fire();
 }
 
 void OptionButton::userChose()

@@ -31,10 +31,11 @@ private:
     /// True for a button that answers Enter itself.
     virtual bool answersEnter() const { return false; }
 
+    /// True for a button that turns on and off: MouseUp and KeyUp come when it has turned.
+    virtual bool turns() const { return false; }
+
     /// Moves to the neighbour of a group; false leaves the arrow key to the toolkit.
     virtual bool moveByArrow(int) { return false; }
-
-    void mouse(bool down) { (down ? MouseDown : MouseUp).fire(); }
 };
 
 /// A button that does something. MouseUp comes before Click.
@@ -62,7 +63,7 @@ private:
 };
 
 /// One choice of several; those in the same container exclude each other. Click fires when the user or the code chooses
-/// it.
+/// it, never when it turns off. MouseUp and KeyUp come behind.
 class OptionButton : public Button {
 public:
     OptionButton(Form& form, const QString& name);
@@ -73,12 +74,14 @@ public:
 private:
     bool isTabStop() const override;
     void userChose() override;
+    bool turns() const override { return true; }
     bool moveByArrow(int direction) override;
 
     bool chosen_ = false; // as of the last Click
 };
 
-/// A box that is ticked or not. Click fires when the user or the code changes it.
+/// A box that is ticked or not. Click fires when the user or the code changes it. MouseUp and KeyUp come
+/// behind.
 class CheckBox : public Button {
 public:
     CheckBox(Form& form, const QString& name);
@@ -89,6 +92,7 @@ public:
 
 private:
     void userChose() override;
+    bool turns() const override { return true; }
 };
 
 } // namespace forms

@@ -2,9 +2,10 @@
 #include "platform/forms/combo_box.h"
 
 #include "platform/forms/boundary.h"
-#include "platform/forms/entry_keys.h"
 #include "platform/forms/form.h"
+#include "platform/forms/input_gate.h"
 #include "platform/forms/keyboard.h"
+#include "platform/forms/line_edit.h"
 #include "platform/forms/look.h"
 #include "platform/forms/stage.h"
 #include "platform/values/failure.h"
@@ -47,6 +48,26 @@ public:
 
 private:
     QStringList items_;
+};
+
+/// The entry of a list; an item that is picked comes in by the toolkit.
+class ComboLine : public LineEdit {
+public:
+    ComboLine(QComboBox* combo, TextEntry& box)
+        : LineEdit(combo, box)
+        , combo_(combo)
+    {
+    }
+
+protected:
+    bool isOwnDoing() const override
+    {
+        const int picked = combo_->currentIndex();
+        return LineEdit::isOwnDoing() || (picked >= 0 && text() == combo_->itemText(picked));
+    }
+
+private:
+    QComboBox* combo_;
 };
 
 /// The toolkit's box, with what it does on its own taken out: it completes nothing, adds nothing and doesn't turn with
@@ -118,16 +139,24 @@ protected:
 
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
+    // Before the list opens, so that none stands open behind what a handler shows.
     void mousePressEvent(QMouseEvent* event) override
     {
-        fromToolkit([this] { EntryKeys::mouseDown(box_); });
-        QComboBox::mousePressEvent(event);
+        fromToolkit([this, event] {
+            pressed_ = InputGate::instance().reaches(box_, *event);
+            if (pressed_)
+                box_.MouseDown.fire();
+        });
+        if (pressed_)
+            QComboBox::mousePressEvent(event);
+        event->accept();
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
         QComboBox::mouseReleaseEvent(event);
-        fromToolkit([this] { EntryKeys::mouseUp(box_); });
+        if (std::exchange(pressed_, false))
+            fromToolkit([this] { box_.MouseUp.fire(); });
     }
 
     void contextMenuEvent(QContextMenuEvent* event) override { event->accept(); }
@@ -136,7 +165,7 @@ private:
     void makeEditable()
     {
         setEditable(true);
-        entry_ = new LineEdit(this, box_);
+        entry_ = new ComboLine(this, box_);
         entry_->setFrame(false);
         setLineEdit(entry_);
         setCompleter(nullptr);
@@ -151,7 +180,7 @@ private:
         if (insideToolkitCall())
             pickedByKey_ = true;
         else
-            fromToolkit([this] { EntryKeys::clicked(box_); });
+            fromToolkit([this] { box_.Click.fire(); });
     }
 
     static bool walksTheList(const QKeyEvent& event)
@@ -174,7 +203,7 @@ private:
             entry_->handleKey(event);
             return;
         }
-        if (Keyboard::isEnter(event) && Keyboard::pressDefault(box_.form()))
+        if (Keyboard::pressDefault(box_.form(), event))
             return;
         if (Keyboard::down(box_, event))
             return;
@@ -190,7 +219,7 @@ private:
         const bool opens = event.key() == Qt::Key_F4
             || ((event.modifiers() & Qt::AltModifier) && (event.key() == Qt::Key_Down || event.key() == Qt::Key_Up));
         if (opens || event.key() == Qt::Key_Space) {
-            if (!entry_ || opens)
+            if ((!entry_ || opens) && !event.isAutoRepeat())
                 showPopup();
             return;
         }
@@ -203,7 +232,7 @@ private:
             QComboBox::keyPressEvent(&event);
         }
         if (pickedByKey_)
-            EntryKeys::clicked(box_);
+            box_.Click.fire();
     }
 
     // Marks the item whose text stands in the box, so that list and cursor keys begin there.
@@ -224,6 +253,7 @@ private:
     ItemList& items_;
     LineEdit* entry_ = nullptr;
     bool locked_ = false;
+    bool pressed_ = false; // by a press that has reached the box
     bool pickedByKey_ = false;
 };
 
@@ -306,10 +336,15 @@ void ComboBox::setListIndex(int index)
         if (combo_->entry())
             combo_->entry()->setText(list(index));
     }
-    EntryKeys::clicked(*this);
+    Click.fire();
 }
 
 // ---- the text
+
+Entry* ComboBox::entry() const
+{
+    return combo_->entry();
+}
 
 QString ComboBox::text() const
 {
@@ -326,10 +361,7 @@ void ComboBox::setText(const QString& text)
         setListIndex(index);
         return;
     }
-    if (combo_->entry()->text() == text)
-        return;
-    combo_->entry()->put(text);
-    EntryKeys::changed(*this);
+    TextEntry::setText(text);
 }
 
 void ComboBox::setLocked(bool locked)
@@ -340,44 +372,6 @@ void ComboBox::setLocked(bool locked)
 bool ComboBox::isLocked() const
 {
     return combo_->locked();
-}
-
-int ComboBox::selectionStart() const
-{
-    const LineEdit* entry = combo_->entry();
-    if (!entry)
-        return 0;
-    return entry->hasSelectedText() ? entry->selectionStart() : entry->cursorPosition();
-}
-
-void ComboBox::setSelectionStart(int position)
-{
-    LineEdit* entry = combo_->entry();
-    if (!entry)
-        return;
-    const ToolkitCall call;
-    entry->deselect();
-    entry->setCursorPosition(position);
-}
-
-int ComboBox::selectionLength() const
-{
-    const LineEdit* entry = combo_->entry();
-    return entry && entry->hasSelectedText() ? entry->selectionLength() : 0;
-}
-
-void ComboBox::setSelectionLength(int length)
-{
-    LineEdit* entry = combo_->entry();
-    if (!entry)
-        return;
-    const int start = selectionStart();
-    const int fits = std::min(length, static_cast<int>(entry->text().size()) - start);
-    const ToolkitCall call;
-    if (fits > 0)
-        entry->setSelection(start, fits);
-    else
-        entry->setCursorPosition(start);
 }
 
 // ---- looks

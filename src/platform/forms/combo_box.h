@@ -44,10 +44,6 @@ public:
     void setText(const QString& text) override;
     void setLocked(bool locked) override;
     bool isLocked() const override;
-    int selectionStart() const override;
-    void setSelectionStart(int position) override;
-    int selectionLength() const override;
-    void setSelectionLength(int length) override;
 
     void setBackColour(const QColor& colour) override;
 
@@ -63,6 +59,8 @@ public:
 
 private:
     friend class ComboEdit;
+
+    Entry* entry() const override;
 
     ComboStyle style_;
     ItemOrder order_;

@@ -96,13 +96,15 @@ protected:
     /// The name with the form's in front, as the run-time report says it.
     const QString& path() const { return path_; }
 
+    /// The focus has gone to another control, and LostFocus has run.
+    virtual void hasLostFocus() { }
+
     /// True when the Tab key stops here, apart from place and state.
     virtual bool isTabStop() const { return true; }
 
     friend class Form;
     friend class Keyboard;
     friend class Stage;
-    friend class EntryKeys;
 
 private:
     void moveFocusOn();
@@ -111,7 +113,6 @@ private:
     QString name_;
     QString path_;
     QWidget* widget_ = nullptr;
-    bool focusAwaitsPress_ = false; // the focus came by mouse; GotFocus waits until the press has put the caret
     QColor backColour_;
     int helpNumber_ = 0;
     int tabIndex_ = -1;

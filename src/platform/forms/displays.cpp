@@ -38,11 +38,14 @@ private:
         event->accept();
         if (event->button() != Qt::LeftButton)
             return;
+        if (!std::exchange(pressed_, down) && !down)
+            return; // the press was elsewhere
         const bool inside = rect().contains(event->position().toPoint());
         fromToolkit([this, down, inside] { mouse_(down, inside); });
     }
 
     std::function<void(bool, bool)> mouse_;
+    bool pressed_ = false;
 };
 
 // ---- labels

@@ -228,7 +228,6 @@ void Form::show()
     Stage& stage = Stage::instance();
     stage.settleUnless(*this);
     if (!std::exchange(shown_, true)) {
-        stage.shown(*this);
         const ToolkitCall call;
         window_->fitAndCentre();
         window_->show();
@@ -266,7 +265,6 @@ void Form::show_Modal(Form& owner)
     stage.settleUnless(*this);
     QEventLoop loop;
     shown_ = true;
-    stage.shown(*this);
     {
         const ToolkitCall call;
         window_->setWindowModality(Qt::ApplicationModal);
@@ -288,8 +286,12 @@ void Form::show_Modal(Form& owner)
         const ToolkitCall call;
         window_->setWindowModality(Qt::NonModal);
     }
-    if (stage.active() != this || !owner.isVisible())
+    if (stage.active() != this)
         return;
+    if (!owner.isVisible()) {
+        stage.giveUpFront();
+        return;
+    }
     stage.bringForward(owner);
     stage.activate(&owner);
 }
@@ -336,6 +338,8 @@ void Form::moveFocus(Control* control)
             throw;
         }
     }
+    if (left && focused_ != left && moving_ != left)
+        left->hasLostFocus();
     if (moving_ != control)
         return; // LostFocus has sent it elsewhere
     moving_ = nullptr;

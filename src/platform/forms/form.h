@@ -92,7 +92,6 @@ protected:
 
 private:
     friend class Control;
-    friend class EntryKeys;
     friend class FormWindow;
     friend class Keyboard;
     friend class Stage;

@@ -91,7 +91,8 @@ bool Keyboard::down(Control& control, const QKeyEvent& event)
         return true;
     if (code != key::F1)
         return false;
-    openHelp(control.helpNumber() ? control.helpNumber() : control.form().helpNumber());
+    if (!event.isAutoRepeat())
+        openHelp(control.helpNumber() ? control.helpNumber() : control.form().helpNumber());
     return true;
 }
 
@@ -120,8 +121,12 @@ bool Keyboard::pressText(Control& control, const QKeyEvent& event)
         [&control](uint character) { return press(control, static_cast<int>(character)) != key::Refused; });
 }
 
-bool Keyboard::pressDefault(Form& form)
+bool Keyboard::pressDefault(Form& form, const QKeyEvent& event)
 {
+    if (!isEnter(event))
+        return false;
+    if (event.isAutoRepeat())
+        return true;
     CommandButton* button = form.defaultButton();
     if (!button || !button->isEnabled() || !button->isVisible())
         return false;
@@ -135,7 +140,7 @@ void Keyboard::pressedOnForm(Form& form, const QKeyEvent& event)
         openHelp(form.helpNumber());
         return;
     }
-    if (isEnter(event) && pressDefault(form))
+    if (pressDefault(form, event))
         return;
     if (isCommand(event) || !hasCharacter(event))
         return;

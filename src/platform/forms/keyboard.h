@@ -34,8 +34,9 @@ public:
     /// Runs KeyPress with each character that a key gives; false when one was refused.
     static bool pressText(Control& control, const QKeyEvent& event);
 
-    /// Presses the form's default button, where it has one that can be pressed.
-    static bool pressDefault(Form& form);
+    /// For the Enter key: presses the form's default button, where it has one that can be pressed. A key that is held
+    /// counts once. True when the key is used up.
+    static bool pressDefault(Form& form, const QKeyEvent& event);
 
     /// A key that no control has taken.
     static void pressedOnForm(Form& form, const QKeyEvent& event);

@@ -3,6 +3,7 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/event.h"
+#include "platform/forms/input_gate.h"
 #include "platform/forms/look.h"
 #include "platform/forms/stage.h"
 #include "platform/values/failure.h"
@@ -167,7 +168,8 @@ void prepare(QApplication& application)
     // A message box that closes while no screen is visible must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
     look::apply(application);
-    Stage::instance().follow(application);
+    Stage::instance().attend(application);
+    InputGate::instance().guard(application);
 }
 
 void endProcess(int status)

@@ -3,6 +3,7 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
+#include "platform/forms/input_gate.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -33,7 +34,7 @@ Stage& Stage::instance()
     return the;
 }
 
-void Stage::follow(QApplication& application)
+void Stage::attend(QApplication& application)
 {
     QObject::connect(
         &application, &QApplication::focusChanged, &application, [this](QWidget*, QWidget* now) { focusMoved(now); });
@@ -41,13 +42,18 @@ void Stage::follow(QApplication& application)
 
 void Stage::focusMoved(QWidget* now)
 {
-    if (insideToolkitCall())
-        return;
+    if (!insideToolkitCall() && !InputGate::instance().holdsBack(now))
+        follow(now);
+}
+
+bool Stage::follow(QWidget* now)
+{
     Control* control = controlOf(now);
     // What comes and goes with windows is no move of the focus within a screen.
-    if (!control || control->focusAwaitsPress_ || !control->form().isVisible() || active_ != &control->form())
-        return;
+    if (!control || !control->form().isVisible() || active_ != &control->form())
+        return false;
     fromToolkit([control] { control->form().moveFocus(control); });
+    return true;
 }
 
 Control* Stage::controlOf(QWidget* widget) const
@@ -63,12 +69,12 @@ void Stage::activate(Form* form)
     if (active_ == form)
         return;
     interrupted();
+    if (form)
+        putOnTop(*form);
     if (Form* left = std::exchange(active_, form))
         runHandler(left->path(), "Deactivate", [left] { left->Form_Deactivate(); });
     if (active_ != form || !form)
         return;
-    std::erase(shown_, form);
-    shown_.push_back(form);
     runHandler(form->path(), "Activate", [form] { form->Form_Activate(); });
     if (active_ == form && form->isVisible()) // Form_Activate may have hidden it
         form->enter();
@@ -112,7 +118,7 @@ void Stage::windowActivated(Form& form)
     fromToolkit([this, &form] { activate(&form); });
 }
 
-void Stage::shown(Form& form)
+void Stage::putOnTop(Form& form)
 {
     std::erase(shown_, &form);
     shown_.push_back(&form);

@@ -20,7 +20,7 @@ public:
     static Stage& instance();
 
     /// Follows the focus that the user moves.
-    void follow(QApplication& application);
+    void attend(QApplication& application);
 
     Form* active() const { return active_; }
 
@@ -39,7 +39,6 @@ public:
     void giveUpFront();
     void handOnFront();
 
-    void shown(Form& form);
     void hidden(Form& form);
     void destroyed(Form& form);
 
@@ -64,8 +63,13 @@ public:
     /// The control that a widget belongs to, or null.
     Control* controlOf(QWidget* widget) const;
 
+    /// The toolkit's focus is on a widget by the user's hand: so is the screen's. False where that is no move within
+    /// the screen in front.
+    bool follow(QWidget* now);
+
 private:
     void focusMoved(QWidget* now);
+    void putOnTop(Form& form);
 
     std::vector<Form*> shown_; // topmost last
     QHash<QWidget*, Control*> controls_;

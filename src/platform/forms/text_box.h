@@ -5,6 +5,7 @@
 
 namespace forms {
 
+class Entry;
 class LineEdit;
 class MemoEdit;
 
@@ -15,41 +16,46 @@ enum class Alignment { Left, Centre, Right };
 /// UTF-16 units, as QString does; a surrogate pair is never cut.
 class TextEntry : public Control {
 public:
-    virtual QString text() const = 0;
+    virtual QString text() const;
 
-    /// Replaces the text, whatever the limit and the lock say. Change has run on return; the same text again is no
-    /// change.
-    virtual void setText(const QString& text) = 0;
+    /// Replaces the text, whatever the limit and the lock say, and shows it from its beginning. Change has run on
+    /// return; the same text again is no change.
+    virtual void setText(const QString& text);
 
     /// The most characters that the user can get in; 0 sets no limit of its own.
     void setMaxLength(int characters) { maxLength_ = characters; }
     int maxLength() const { return maxLength_; }
 
     /// A locked box shows and copies its text and takes no input.
-    virtual void setLocked(bool locked) = 0;
-    virtual bool isLocked() const = 0;
+    virtual void setLocked(bool locked);
+    virtual bool isLocked() const;
 
     /// Where the selection begins, or the caret where nothing is selected. Setting it drops the selection.
-    virtual int selectionStart() const = 0;
-    virtual void setSelectionStart(int position) = 0;
+    int selectionStart() const;
+    void setSelectionStart(int position);
 
     /// How much is selected behind the start; a length past the end is cut at the end.
-    virtual int selectionLength() const = 0;
-    virtual void setSelectionLength(int length) = 0;
+    int selectionLength() const;
+    void setSelectionLength(int length);
 
     void selectAll();
 
     /// The Delete key and what does its work (cut, the menu, an assistive tool) take nothing out then.
     void setDeleteRefused(bool refused) { deleteRefused_ = refused; }
+    bool isDeleteRefused() const { return deleteRefused_; }
 
     Event<> Change{path(), "Change"}; ///< once for each change of the text, typed or set
 
 protected:
     using Control::Control;
 
-    friend class EntryKeys;
+    /// The toolkit's entry, or null in a box whose text is always one of a list.
+    virtual Entry* entry() const = 0;
 
 private:
+    /// A long text shows its beginning again.
+    void hasLostFocus() override;
+
     int maxLength_ = 0;
     bool deleteRefused_ = false;
 };
@@ -59,14 +65,7 @@ class TextBox : public TextEntry {
 public:
     TextBox(Form& form, const QString& name);
 
-    QString text() const override;
     void setText(const QString& text) override;
-    void setLocked(bool locked) override;
-    bool isLocked() const override;
-    int selectionStart() const override;
-    void setSelectionStart(int position) override;
-    int selectionLength() const override;
-    void setSelectionLength(int length) override;
 
     void setAlignment(Alignment alignment);
 
@@ -78,6 +77,8 @@ public:
     void setElided(bool elided);
 
 private:
+    Entry* entry() const override;
+
     LineEdit* edit_;
 };
 
@@ -86,19 +87,12 @@ class MemoBox : public TextEntry {
 public:
     MemoBox(Form& form, const QString& name);
 
-    QString text() const override;
-    void setText(const QString& text) override;
-    void setLocked(bool locked) override;
-    bool isLocked() const override;
-    int selectionStart() const override;
-    void setSelectionStart(int position) override;
-    int selectionLength() const override;
-    void setSelectionLength(int length) override;
-
     /// Makes the box so many average characters wide and so many lines high.
     void setSizeInCharacters(int characters, int lines);
 
 private:
+    Entry* entry() const override;
+
     MemoEdit* edit_;
 };
 

@@ -94,21 +94,6 @@ TEST_F(Combo, APickByCursorKeysFiresClickAndNotChange)
     }
 }
 
-TEST_F(Combo, TheListIsNoReasonForFocusEvents)
-{
-    for (forms::Control* each : form.controls()) {
-        each->GotFocus = [this, each] { journal.note(each->name() + ".GotFocus"); };
-        each->LostFocus = [this, each] { journal.note(each->name() + ".LostFocus"); };
-    }
-    pick(form.picked, "beta");
-    EXPECT_EQ(journal.taken(), "typed.LostFocus picked.GotFocus Click:beta");
-    press(Qt::Key_F4);
-    press(Qt::Key_Escape);
-    EXPECT_EQ(journal.taken(), "");
-    tab();
-    EXPECT_EQ(journal.taken(), "picked.LostFocus sorted.GotFocus");
-}
-
 TEST_F(Combo, TextByCodeFiresChangeOnTheEditableKindAndClickOnThePickOnlyKind)
 {
     form.typed.setText("beta");

@@ -36,8 +36,9 @@ const Way ways[] = {
     {"ControlV", [](TextEntry&, const QString& text) { paste(text); }},
     {"ShiftInsert", [](TextEntry&, const QString& text) { pasteByShiftInsert(text); }},
     {"Menu", [](TextEntry& box, const QString& text) { pasteByMenu(box, text); }},
-    {"Drop", [](TextEntry& box, const QString& text) { drop(box, text); }},
+    {"Drop", [](TextEntry& box, const QString& text) { EXPECT_EQ(drop(box, text), !box.isLocked()); }},
     {"InputMethod", [](TextEntry&, const QString& text) { commit(text); }},
+    {"Assistant", [](TextEntry& box, const QString& text) { setByAssistant(box, text); }},
 };
 
 const char* const boxNames[] = {"line", "memo", "combo"};
@@ -116,16 +117,6 @@ protected:
     Boxes form{journal};
 };
 
-TEST_F(Entry, AMiddleClickPastesThePrimarySelectionThroughTheFilterOrNothing)
-{
-    for (const char* name : boxNames) {
-        TextEntry& box = form.entry(name);
-        forms::behaviours::digitsOnly(box);
-        pasteByMiddleClick(box, "x1");
-        EXPECT_EQ(box.text(), "") << name;
-    }
-}
-
 TEST_F(Entry, ControlCharactersAndLineEndsAreDroppedInOneLine)
 {
     const QString text = QString("a\tb\r\nc\x01\x7f") + QChar(0x2028) + QChar(0x85) + "d";
@@ -151,9 +142,11 @@ TEST_F(Entry, AMegabytePastedIsCutToTheLimit)
         paste(megabyte);
         EXPECT_EQ(box.text(), QString(50, 'x')) << name;
         box.setText("");
-        box.KeyPress = [](int&) {};
+        int strokes = 0;
+        box.KeyPress = [&strokes](int&) { ++strokes; };
         paste(megabyte);
         EXPECT_EQ(box.text(), QString(50, 'x')) << name;
+        EXPECT_EQ(strokes, 51) << "the rest of a text is dropped once the box is full";
     }
 }
 
@@ -171,6 +164,56 @@ TEST_F(Entry, ChangeHasRunWhenTheSetterReturnsAndOnlyWhereTheTextDiffers)
         box.setText("longer than the limit");
         EXPECT_EQ(journal.taken(), "longer than the limit") << name;
     }
+}
+
+TEST_F(Entry, ALongTextShowsItsBeginningAgainWhenTheFocusHasGone)
+{
+    for (const char* name : boxNames) {
+        TextEntry& box = form.entry(name);
+        click(box);
+        type(QString(80, 'x'));
+        box.selectAll();
+        press(Qt::Key_Tab);
+        EXPECT_EQ(box.selectionStart() + box.selectionLength(), 0) << name;
+    }
+}
+
+TEST_F(Entry, ANoBreakSpaceStaysAndAltTabTypesNothing)
+{
+    const QString text = QString("a") + QChar(QChar::Nbsp) + "b";
+    for (const char* name : boxNames) {
+        TextEntry& box = form.entry(name);
+        click(box);
+        paste(text);
+        press(Qt::Key_Tab, Qt::AltModifier);
+        EXPECT_EQ(box.text(), text) << name;
+    }
+}
+
+TEST_F(Entry, ALengthCapLetsTheLastCharacterInAndNoMore)
+{
+    form.line.setText("ab");
+    forms::behaviours::lengthCap(form.line, 3);
+    click(form.line);
+    type("xyz");
+    EXPECT_EQ(form.line.text(), "abx");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(form.line.text(), "ab");
+}
+
+TEST_F(Entry, AListOnlyBoxKeepsItsTextWhateverHandIsLaidOnIt)
+{
+    form.combo.addItems({"alpha", "beta"});
+    forms::behaviours::listOnly(form.combo);
+    pick(form.combo, "beta");
+    type("x");
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Delete);
+    form.combo.selectAll();
+    press(Qt::Key_X, Qt::ControlModifier);
+    setByAssistant(form.combo, "alphabet");
+    setByAssistant(form.combo, "");
+    EXPECT_EQ(form.combo.text(), "beta");
 }
 
 } // namespace

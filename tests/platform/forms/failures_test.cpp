@@ -67,6 +67,21 @@ TEST_F(Failures, AreCaughtByTheHandlerAroundThem)
     EXPECT_EQ(form.one.text(), "bad") << "the text was set all the same";
 }
 
+TEST_F(Failures, CaughtInSilenceGiveTheirHandlersNameToNoOther)
+{
+    form.one.Change = [] { fail("first"); };
+    form.answers["ok.Click"] = [this] {
+        try {
+            form.one.setText("bad");
+        } catch (const values::RuntimeFailure&) {
+        }
+        fail("second");
+    };
+    click(form.ok);
+    const auto report = reportedFailure().value();
+    EXPECT_EQ(report.handler + report.failure.section(':', -1), "Form.ok_Click second");
+}
+
 class LastWords : public Failures {
 protected:
     void SetUp() override
@@ -89,6 +104,12 @@ TEST_F(LastWords, AnUncaughtFailureCleansUpShowsTheReportAndEndsWithStatusOne)
         click(form.ok);
     };
     EXPECT_EXIT(run(), testing::ExitedWithCode(1), "cleaned up, Form.ok_Click: .*why\nshown");
+}
+
+TEST_F(LastWords, ASecondHandlerOnAnEventEndsTheProcessAndNamesTheEvent)
+{
+    EXPECT_DEATH(
+        form.ok.Click = [] {}, "Form.ok_Click has a handler already");
 }
 
 } // namespace

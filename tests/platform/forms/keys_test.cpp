@@ -141,4 +141,17 @@ TEST_F(Keys, F1OpensTheTopicOfTheControlOrElseOfTheForm)
     }
 }
 
+TEST_F(Keys, F1OpensTheFormsTopicWhereNoControlHasTheFocus)
+{
+    TrialForm bare("Bare", journal);
+    forms::Label words{bare, "words", "Nothing to type here"};
+    bare.layOut({&words});
+    bare.setHelpNumber(3001);
+    bare.show();
+    press(Qt::Key_F1);
+    EXPECT_EQ(openedHelp(), 3001);
+    press(Qt::Key_A);
+    EXPECT_FALSE(openedHelp());
+}
+
 } // namespace

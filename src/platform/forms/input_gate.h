@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPointF>
+#include <QPointer>
+#include <QWidget>
+#include <QWindow>
+
+class QApplication;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace forms {
+
+class Control;
+
+/// What the user's hands do comes through here before a window has it; for the layer itself, not for screens.
+///
+/// A key that is held belongs to the window in which it went down: what it repeats answers no box and no screen that
+/// has opened since, and an access key doesn't repeat at all. The second press of a double click belongs to the window
+/// of the first.
+///
+/// The focus that a press brings waits until the press has put the caret, so that a handler's selection stays, and at
+/// the latest until the press has been delivered, whatever part of a control it was on.
+class InputGate : public QObject {
+public:
+    static InputGate& instance();
+
+    void guard(QApplication& application);
+
+    /// Asked when the toolkit's focus moves: true when the move waits for a press.
+    bool holdsBack(QWidget* now);
+
+    /// True while a press is on its way that has brought the focus.
+    bool bringsFocus() const { return delivering_ && brought_; }
+
+    /// Called by the control that the press is on, at the moment that suits it: LostFocus and GotFocus run. False when
+    /// the press counts no longer: a box has taken the release meanwhile, or a handler has sent the focus elsewhere.
+    bool reaches(const Control& control, const QMouseEvent& press);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool isForeign(QObject* window, const QKeyEvent& stroke);
+    bool isStray(QWindow& window, const QMouseEvent& press) const;
+    void deliver(QWindow& window, QMouseEvent& press);
+    bool letFocusIn();
+
+    int heldKey_ = 0;
+    QPointer<QObject> heldIn_;
+
+    QPointer<QWindow> pressedIn_;
+    QPointF pressedAt_;
+    unsigned long pressedWhen_ = 0;
+
+    bool delivering_ = false;
+    QPointer<QWidget> brought_; // has the toolkit's focus by the press that is being delivered
+};
+
+} // namespace forms
