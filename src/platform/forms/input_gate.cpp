@@ -41,10 +41,11 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
-        if (!watched->isWindowType() || !isForeign(watched, *static_cast<QKeyEvent*>(event)))
-            return false;
-        event->accept(); // which makes it no access key
-        return true;
+        return watched->isWindowType() && takesAway(*watched, *static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+        if (watched->isWindowType())
+            noteRelease(*static_cast<QKeyEvent*>(event));
+        return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (!watched->isWindowType())
@@ -61,14 +62,41 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
 
 // ---- keys
 
-bool InputGate::isForeign(QObject* window, const QKeyEvent& stroke)
+// True when the window gets no more of the stroke.
+bool InputGate::takesAway(QObject& window, QKeyEvent& stroke)
 {
-    if (!stroke.isAutoRepeat()) {
+    if (!isRepeat(stroke)) {
         heldKey_ = stroke.key();
-        heldIn_ = window;
+        heldIn_ = &window;
         return false;
     }
-    return stroke.type() == QEvent::ShortcutOverride || stroke.key() != heldKey_ || window != heldIn_;
+    const bool isForeign = stroke.key() != heldKey_ || &window != heldIn_;
+    if (stroke.type() == QEvent::ShortcutOverride || isForeign) {
+        stroke.accept(); // which makes it no access key
+        return true;
+    }
+    if (stroke.isAutoRepeat())
+        return false;
+    QKeyEvent repeat(stroke.type(), stroke.key(), stroke.modifiers(), stroke.nativeScanCode(),
+        stroke.nativeVirtualKey(), stroke.nativeModifiers(), stroke.text(), true);
+    repeat.setTimestamp(stroke.timestamp());
+    window.event(&repeat);
+    return true;
+}
+
+// The window system tells a repeat as a release and a press at the same moment. The toolkit misses that when it reads
+// the first before the second has come.
+bool InputGate::isRepeat(const QKeyEvent& stroke) const
+{
+    const bool atOnce =
+        stroke.nativeScanCode() != 0 && stroke.nativeScanCode() == releasedCode_ && stroke.timestamp() == releasedWhen_;
+    return stroke.isAutoRepeat() || atOnce;
+}
+
+void InputGate::noteRelease(const QKeyEvent& stroke)
+{
+    releasedCode_ = stroke.nativeScanCode();
+    releasedWhen_ = stroke.timestamp();
 }
 
 // ---- presses

@@ -42,13 +42,17 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool isForeign(QObject* window, const QKeyEvent& stroke);
+    bool takesAway(QObject& window, QKeyEvent& stroke);
+    bool isRepeat(const QKeyEvent& stroke) const;
+    void noteRelease(const QKeyEvent& stroke);
     bool isStray(QWindow& window, const QMouseEvent& press) const;
     void deliver(QWindow& window, QMouseEvent& press);
     bool letFocusIn();
 
     int heldKey_ = 0;
     QPointer<QObject> heldIn_;
+    quint32 releasedCode_ = 0;
+    unsigned long releasedWhen_ = 0;
 
     QPointer<QWindow> pressedIn_;
     QPointF pressedAt_;
