@@ -160,7 +160,7 @@ void Connection::shut()
         failure = std::current_exception();
     }
     handle_.reset(); // a journal with contents stays, for the next opening
-    texts_.clear();
+    texts_ = std::make_shared<TextPool>();
     if (failure)
         std::rethrow_exception(failure);
 }

@@ -4,6 +4,7 @@
 #include "platform/storage/engine.h"
 #include "platform/storage/text_pool.h"
 
+#include <memory>
 #include <vector>
 
 namespace storage {
@@ -60,7 +61,7 @@ private:
 
     QString path_;
     QByteArray key_;
-    TextPool texts_;
+    std::shared_ptr<TextPool> texts_ = std::make_shared<TextPool>(); // snapshots share it
     Handle handle_;
     std::vector<TableView*> views_;
 };

@@ -4,6 +4,7 @@
 #include "platform/storage/connection.h"
 #include "platform/storage/folded_text.h"
 #include "platform/storage/row_set.h"
+#include "platform/storage/snapshot.h"
 #include "platform/storage/statement.h"
 #include "platform/storage/table_definition.h"
 #include "platform/values/currency.h"
@@ -121,6 +122,9 @@ public:
     /// last. Failures: InvalidCall, where there is no such column.
     void Sort(const QString& columnList);
 
+    /// The rows that are stored, in the order in which they are walked. The view stays where it stands.
+    Snapshot snapshot() const;
+
 private:
     friend class Connection;
     friend class Field;
@@ -129,7 +133,7 @@ private:
     enum class Edit { None, Row, New };
 
     const Column& column(int ordinal) const { return definition_.columns[static_cast<std::size_t>(ordinal)]; }
-    TextPool& texts() const { return connection_.texts_; }
+    TextPool& texts() const { return *connection_.texts_; }
     bool atEnd(Place end) const { return edit_ != Edit::New && (place_ == end || rows_.count() == 0); }
 
     TextId initial(ColumnType type) const;

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/storage/snapshot.h"
+
+#include "platform/storage/row_set.h"
+#include "platform/storage/table_view.h"
+#include "platform/values/currency.h"
+#include "platform/values/failure.h"
+
+namespace storage {
+
+namespace {
+
+values::Currency amountIn(const QString& tenThousandths)
+{
+    bool isNumber = false;
+    const qint64 count = tenThousandths.toLongLong(&isNumber);
+    if (!isNumber)
+        throw values::mismatch(tenThousandths, QStringLiteral("a stored amount"));
+    return values::Currency::fromTenThousandths(count);
+}
+
+} // namespace
+
+Snapshot::Snapshot(std::shared_ptr<const TextPool> texts, const TableDefinition& definition, const RowSet& rows)
+    : texts_(std::move(texts))
+    , definition_(&definition)
+{
+    cells_.reserve(static_cast<std::size_t>(rows.count()) * columns());
+    for (int row = rows.first(); row != RowSet::none; row = rows.next(row))
+        cells_.insert(cells_.end(), rows.cells(row).begin(), rows.cells(row).end());
+}
+
+QString Snapshot::text(int row, int ordinal) const
+{
+    if (row < 0 || row >= rowCount())
+        throw values::RuntimeFailure(values::FailureKind::NoCurrentRecord, QString::fromUtf8(definition_->name));
+    const auto column = static_cast<std::size_t>(ordinal);
+    // Not by the pool's own texts, which stay in memory once they are looked at.
+    const std::string_view bytes = texts_->utf8(cells_[static_cast<std::size_t>(row) * columns() + column]);
+    const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    return definition_->columns[column].type == ColumnType::Currency ? amountIn(text).toText() : text;
+}
+
+Snapshot TableView::snapshot() const
+{
+    return {connection_.texts_, definition_, rows_};
+}
+
+} // namespace storage

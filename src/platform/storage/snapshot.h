@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/storage/table_definition.h"
+#include "platform/storage/text_pool.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace storage {
+
+class RowSet;
+
+/// The rows of a table as they stood when it was taken. What happens to the view later doesn't reach it, nor does the
+/// end of the connection. A cell takes four bytes: the texts are the view's own, and are read when they are asked for.
+class Snapshot {
+public:
+    Snapshot(std::shared_ptr<const TextPool> texts, const TableDefinition& definition, const RowSet& rows);
+
+    int rowCount() const { return static_cast<int>(cells_.size() / columns()); }
+
+    /// The value as text, as `Field::text` gives it. Failures: NoCurrentRecord, where there is no such row;
+    /// TypeMismatch, where an amount isn't stored as one.
+    QString text(int row, int ordinal) const;
+
+private:
+    std::size_t columns() const { return definition_->columns.size(); }
+
+    std::shared_ptr<const TextPool> texts_;
+    const TableDefinition* definition_;
+    std::vector<TextId> cells_;
+};
+
+} // namespace storage
