@@ -6,8 +6,10 @@
 #include "core/places.h"
 #include "platform/values/date.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QWidget>
 
 void ScreenTest::SetUp()
 {
@@ -27,6 +29,10 @@ void ScreenTest::SetUp()
 
 void ScreenTest::TearDown()
 {
+    // A report that is left open would block those of the next test.
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->testAttribute(Qt::WA_DeleteOnClose))
+            delete window;
     FormsTest::TearDown();
     closeData();
     values::setToday({});

@@ -5,6 +5,7 @@
 #include "platform/forms/look.h"
 #include "platform/forms/stage.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QLabel>
@@ -113,6 +114,9 @@ Answer MsgBox(const QString& text, int flags, const QString& title)
         return messageDoor()(message);
     Stage& stage = Stage::instance();
     stage.settle();
+    QWidget* at = QApplication::activeWindow();
+    if (at && !at->isModal() && !stage.isScreen(*at))
+        return ask(message, at); // a window beside the screens keeps its box, and the front
     Form* front = stage.active();
     const Answer answer = ask(message, front && front->isVisible() ? front->window() : nullptr);
     if (front && front->isVisible())

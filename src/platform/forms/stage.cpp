@@ -138,6 +138,11 @@ void Stage::destroyed(Form& form)
         active_ = nullptr;
 }
 
+bool Stage::isScreen(const QWidget& window) const
+{
+    return std::any_of(shown_.begin(), shown_.end(), [&window](const Form* form) { return form->window() == &window; });
+}
+
 Form* Stage::top() const
 {
     return shown_.empty() ? nullptr : shown_.back();

@@ -42,6 +42,9 @@ public:
     void hidden(Form& form);
     void destroyed(Form& form);
 
+    /// True for the window of a screen that is shown.
+    bool isScreen(const QWidget& window) const;
+
     /// The topmost screen that is shown, or null.
     Form* top() const;
 

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/brush.h"
+
+#include <algorithm>
+
+namespace report {
+
+namespace {
+
+constexpr double lineWidth = 10; // half a point
+
+double shareOf(Align align)
+{
+    return align == Align::Left ? 0 : align == Align::Centre ? 0.5 : 1;
+}
+
+bool isBelowGrowing(const Section& section, const Place& place)
+{
+    return section.growing && place.top > section.growing->place.top;
+}
+
+} // namespace
+
+Brush::Brush(QPainter& painter, const Document& document, int page, int pages)
+    : painter_(painter)
+    , document_(document)
+    , page_(page)
+    , pages_(pages)
+{
+    painter_.setPen(QPen(Qt::black, lineWidth));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter_.setLayoutDirection(Qt::LayoutDirectionAuto);
+}
+
+void Brush::paint(const Section& section, int row) const
+{
+    for (const Picture& picture : section.pictures)
+        draw(picture);
+    for (const Label& label : section.labels)
+        write(decoded(label.text), label.place, label.type, label.align);
+    for (const Field& field : section.fields)
+        write(formatted(document_.rows->text(row, field.column), field.format), field.place, field.type, field.align);
+    for (const Box& box : section.boxes)
+        painter_.drawRect(QRectF(box.place.left, box.place.top, box.place.width, box.place.height));
+    drawRules(section, false, 0);
+}
+
+void Brush::paintBelow(const Section& section, double shift) const
+{
+    drawRules(section, true, shift);
+}
+
+void Brush::drawRules(const Section& section, bool below, double shift) const
+{
+    for (const Rule& rule : section.rules)
+        if (isBelowGrowing(section, rule.place) == below)
+            painter_.drawLine(QLineF(
+                rule.place.left, rule.place.top + shift, rule.place.left + rule.place.width, rule.place.top + shift));
+}
+
+void Brush::paintLines(const Field& field, int row, int firstLine, int lines, double top) const
+{
+    const QString text = formatted(document_.rows->text(row, field.column), field.format);
+    const std::vector<QStringView> all = linesOf(text, field.type, field.place.width);
+    const double height = lineHeightOf(field.type);
+    double baseLine = top + ascentOf(field.type);
+    for (int line = firstLine; line < firstLine + lines; ++line, baseLine += height)
+        writeLine(all[static_cast<std::size_t>(line)].toString(), field.place.left, baseLine, field.type);
+}
+
+QString Brush::decoded(const QString& text) const
+{
+    if (!text.contains(u'%'))
+        return text;
+    return QString(text)
+        .replace(QStringLiteral("%p"), QString::number(page_ + 1))
+        .replace(QStringLiteral("%P"), QString::number(pages_))
+        .replace(QStringLiteral("%d"), document_.moment.date)
+        .replace(QStringLiteral("%T"), document_.moment.time);
+}
+
+void Brush::write(const QString& text, const Place& place, Type type, Align align) const
+{
+    const Fitted fitted = fit(text, type, place.width);
+    const double free = align == Align::Left ? 0 : place.width - widthOf(fitted.text, fitted.type);
+    // Smaller type stands on the same base line as its neighbours.
+    writeLine(fitted.text, place.left + free * shareOf(align), place.top + ascentOf(type), fitted.type);
+}
+
+void Brush::writeLine(const QString& text, double left, double baseLine, Type type) const
+{
+    if (text.isEmpty())
+        return;
+    setType(type);
+    painter_.drawText(QPointF(left, baseLine), text);
+}
+
+void Brush::setType(Type type) const
+{
+    if (type == type_)
+        return;
+    painter_.setFont(fontOf(type));
+    type_ = type;
+}
+
+void Brush::draw(const Picture& picture) const
+{
+    const Place& place = picture.place;
+    QRectF target(QPointF(), QSizeF(picture.image.size()).scaled(place.width, place.height, Qt::KeepAspectRatio));
+    target.moveCenter({place.left + place.width / 2, place.top + place.height / 2});
+    painter_.drawImage(target, picture.image);
+}
+
+} // namespace report

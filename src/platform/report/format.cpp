@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/format.h"
+
+#include "platform/values/currency.h"
+
+namespace report {
+
+namespace {
+
+// An amount below zero bears a minus sign here, in place of the parentheses of the screens.
+QString withMinus(const QString& amount)
+{
+    return amount.startsWith(u'(') ? u'-' + amount.mid(1, amount.size() - 2) : amount;
+}
+
+} // namespace
+
+QString formatted(const QString& value, Format format)
+{
+    if (format == Format::Text)
+        return value;
+    const auto amount = values::Currency::tryParse(value);
+    return amount ? withMinus(amount->toText()) : value;
+}
+
+QString plain(const QString& value, Format format)
+{
+    const QString printed = formatted(value, format);
+    if (format == Format::Text || !values::Currency::tryParse(value))
+        return printed;
+    return QString(printed).remove(u'$').remove(u',');
+}
+
+} // namespace report

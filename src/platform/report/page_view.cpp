@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/page_view.h"
+
+#include "platform/forms/look.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace report {
+
+namespace {
+
+constexpr int gap = 16; // around the page, for its shadow
+constexpr int shadow = 3;
+
+} // namespace
+
+/// The sheet of paper, with the desk around it.
+class PageView::Sheet : public QWidget {
+public:
+    explicit Sheet(PageView& view)
+        : view_(view)
+    {
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        if (!view_.pages_ || failed_)
+            return;
+        QPainter painter(this);
+        const QRect paper = rect().adjusted(gap, gap, -gap, -gap);
+        painter.fillRect(paper.translated(shadow, shadow), forms::look::colours().line);
+        painter.fillRect(paper, Qt::white);
+        painter.setClipRect(paper);
+        painter.translate(paper.topLeft());
+        const double scale = paper.width() / view_.pages_->paper().size().width();
+        painter.scale(scale, scale);
+        paintPage(painter);
+    }
+
+private:
+    // The failure is told when the toolkit has come back from painting, and once.
+    void paintPage(QPainter& painter)
+    {
+        try {
+            view_.pages_->paint(painter, view_.page_);
+        } catch (const std::exception&) {
+            failed_ = true;
+            QMetaObject::invokeMethod(
+                this, [this] { view_.Failed(); }, Qt::QueuedConnection);
+        }
+    }
+
+    PageView& view_;
+    bool failed_ = false;
+};
+
+PageView::PageView(QWidget* parent)
+    : QScrollArea(parent)
+    , sheet_(new Sheet(*this))
+{
+    setObjectName(QStringLiteral("pageView"));
+    setAlignment(Qt::AlignCenter);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    // The room for the page doesn't depend on the page.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setWidget(sheet_);
+}
+
+void PageView::setPages(const Pages& pages)
+{
+    pages_ = &pages;
+    page_ = std::min(page_, pages.count() - 1);
+    fitSheet();
+}
+
+void PageView::setPage(int page)
+{
+    page = std::clamp(page, 0, pages_->count() - 1);
+    if (page == page_)
+        return;
+    page_ = page;
+    verticalScrollBar()->setValue(0);
+    sheet_->update();
+    Changed();
+}
+
+void PageView::setZoom(Zoom zoom)
+{
+    zoom_ = zoom;
+    fitSheet();
+}
+
+QSizeF PageView::paperSize() const
+{
+    return pages_->paper().size() / TwipsPerInch * logicalDpiX();
+}
+
+double PageView::factor() const
+{
+    const double byWidth = (viewport()->width() - 2 * gap) / paperSize().width();
+    const double byHeight = (viewport()->height() - 2 * gap) / paperSize().height();
+    switch (zoom_.kind) {
+    case Zoom::Kind::Width:
+        return byWidth;
+    case Zoom::Kind::Page:
+        return std::min(byWidth, byHeight);
+    default:
+        return zoom_.factor;
+    }
+}
+
+void PageView::fitSheet()
+{
+    if (!pages_)
+        return;
+    const QSizeF size = paperSize() * std::max(factor(), 0.05);
+    sheet_->resize(size.toSize() + QSize(2 * gap, 2 * gap));
+    sheet_->update();
+    if (Changed)
+        Changed();
+}
+
+void PageView::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    fitSheet();
+}
+
+// ---- turning pages
+
+void PageView::turn(int direction)
+{
+    const int before = page_;
+    setPage(page_ + direction);
+    if (page_ != before && direction < 0)
+        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+// Further down the page, and from its end to the next one.
+void PageView::goOn(int direction)
+{
+    QScrollBar& bar = *verticalScrollBar();
+    const int end = direction > 0 ? bar.maximum() : bar.minimum();
+    if (bar.value() == end)
+        turn(direction);
+    else
+        bar.triggerAction(direction > 0 ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderPageStepSub);
+}
+
+bool PageView::turnsPage(int key)
+{
+    switch (key) {
+    case Qt::Key_PageDown:
+    case Qt::Key_Space:
+        goOn(+1);
+        return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_Backspace:
+        goOn(-1);
+        return true;
+    case Qt::Key_Home:
+        setPage(0);
+        return true;
+    case Qt::Key_End:
+        setPage(pages_->count() - 1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void PageView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->modifiers() == Qt::NoModifier && turnsPage(event->key()))
+        event->accept();
+    else
+        QScrollArea::keyPressEvent(event);
+}
+
+void PageView::wheelEvent(QWheelEvent* event)
+{
+    const int direction = event->angleDelta().y() < 0 ? +1 : -1;
+    const QScrollBar& bar = *verticalScrollBar();
+    const bool atEnd = bar.value() == (direction > 0 ? bar.maximum() : bar.minimum());
+    if (event->angleDelta().y() != 0 && atEnd)
+        turn(direction);
+    else
+        QScrollArea::wheelEvent(event);
+    event->accept();
+}
+
+} // namespace report

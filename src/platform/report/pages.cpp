@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/pages.h"
+
+#include "platform/report/brush.h"
+
+#include <algorithm>
+
+namespace report {
+
+Pages::Pages(std::shared_ptr<const Document> document, const Paper& paper)
+    : document_(std::move(document))
+    , paper_(paper)
+    , scale_(fittingScale())
+{
+    if (const auto& growing = document_->layout.detail.growing)
+        lineHeight_ = lineHeightOf(growing->type);
+    breakIntoPages();
+}
+
+double Pages::fittingScale() const
+{
+    const Layout& layout = document_->layout;
+    const Extent extent = extentOf(layout);
+    const double halfWidth = std::max(layout.axis - extent.left, extent.right - layout.axis);
+    const double height = layout.pageHeader.height + layout.detail.height + layout.pageFooter.height;
+    const double byWidth = (paper_.size().width() / 2 - paper_.edge) / halfWidth;
+    const double byHeight = (paper_.size().height() - 2 * margin()) / height;
+    return std::min({1.0, byWidth, byHeight});
+}
+
+double Pages::margin() const
+{
+    return std::max(document_->layout.margin, paper_.edge);
+}
+
+// ---- heights, all in the layout's own measure
+
+double Pages::bodyHeight() const
+{
+    const Layout& layout = document_->layout;
+    return (paper_.size().height() - 2 * margin()) / scale_ - layout.pageHeader.height - layout.pageFooter.height;
+}
+
+int Pages::lineCount(int row) const
+{
+    const auto& growing = document_->layout.detail.growing;
+    if (!growing)
+        return 1;
+    const QString text = formatted(document_->rows->text(row, growing->column), growing->format);
+    return static_cast<int>(linesOf(text, growing->type, growing->place.width).size());
+}
+
+double Pages::heightOf(const Piece& piece) const
+{
+    const Section& detail = document_->layout.detail;
+    if (!detail.growing)
+        return detail.height;
+    const Place& grown = detail.growing->place;
+    const double lines = piece.lines * lineHeight_;
+    if (piece.firstLine > 0)
+        return lines + detail.height - grown.top - grown.height;
+    return detail.height + std::max(0.0, lines - grown.height);
+}
+
+int Pages::linesThatFit(double room, bool beginning) const
+{
+    const double above = beginning ? document_->layout.detail.growing->place.top : 0;
+    return std::max(1, static_cast<int>((room - above) / lineHeight_));
+}
+
+// ---- where the pages begin
+
+void Pages::breakIntoPages()
+{
+    const Layout& layout = document_->layout;
+    double room = startPage({0, 0}) - layout.reportHeader.height;
+    const int rows = document_->rows->count();
+    for (int row = 0; row < rows; ++row)
+        placeRow(row, room);
+    if (layout.reportFooter.height > room)
+        startPage({rows, 0});
+}
+
+double Pages::startPage(Start start)
+{
+    starts_.push_back(start);
+    return bodyHeight();
+}
+
+void Pages::placeRow(int row, double& room)
+{
+    Piece piece{row, 0, lineCount(row), true};
+    const Start& page = starts_.back();
+    const bool pageIsEmpty = page.row == row && page.line == 0;
+    if (heightOf(piece) > room && !pageIsEmpty)
+        room = startPage({row, 0});
+    while (document_->layout.detail.growing && piece.lines > 1 && heightOf(piece) > room) {
+        const int placed = std::min(linesThatFit(room, piece.firstLine == 0), piece.lines - 1);
+        piece.firstLine += placed;
+        piece.lines -= placed;
+        room = startPage({row, piece.firstLine});
+    }
+    room -= heightOf(piece);
+}
+
+// ---- painting
+
+std::vector<Pages::Piece> Pages::piecesOf(int page) const
+{
+    const auto number = static_cast<std::size_t>(page);
+    const int rows = document_->rows->count();
+    const Start begin = starts_[number];
+    const Start end = number + 1 < starts_.size() ? starts_[number + 1] : Start{rows, 0};
+    std::vector<Piece> pieces;
+    for (int row = begin.row; row < end.row || (row == end.row && end.line > 0); ++row) {
+        const int first = row == begin.row ? begin.line : 0;
+        const bool goesOn = row == end.row;
+        pieces.push_back({row, first, (goesOn ? end.line : lineCount(row)) - first, !goesOn});
+    }
+    return pieces;
+}
+
+void Pages::paintDetail(const Brush& brush, const Piece& piece) const
+{
+    const Section& detail = document_->layout.detail;
+    const bool begins = piece.firstLine == 0;
+    if (detail.growing)
+        brush.paintLines(
+            *detail.growing, piece.row, piece.firstLine, piece.lines, begins ? detail.growing->place.top : 0);
+    if (begins)
+        brush.paint(detail, piece.row);
+    if (piece.isLast)
+        brush.paintBelow(detail, heightOf(piece) - detail.height);
+    brush.moveDown(heightOf(piece));
+}
+
+void Pages::paint(QPainter& painter, int page) const
+{
+    const Layout& layout = document_->layout;
+    painter.save();
+    painter.translate(paper_.size().width() / 2 - layout.axis * scale_, margin());
+    painter.scale(scale_, scale_);
+    const Brush brush(painter, *document_, page, count());
+    brush.paint(layout.pageHeader, 0);
+    painter.save();
+    brush.moveDown(layout.pageHeader.height);
+    if (page == 0) {
+        brush.paint(layout.reportHeader, 0);
+        brush.moveDown(layout.reportHeader.height);
+    }
+    for (const Piece& piece : piecesOf(page))
+        paintDetail(brush, piece);
+    if (page + 1 == count())
+        brush.paint(layout.reportFooter, 0);
+    painter.restore();
+    brush.moveDown(layout.pageHeader.height + bodyHeight());
+    brush.paint(layout.pageFooter, 0);
+    painter.restore();
+}
+
+} // namespace report

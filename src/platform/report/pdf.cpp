@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/pdf.h"
+
+#include "platform/report/pdf_information.h"
+#include "platform/report/whole_file.h"
+
+#include <QPainter>
+#include <QPdfWriter>
+
+#include <numeric>
+
+namespace report {
+
+namespace {
+
+void prepare(QPdfWriter& writer, const Pages& pages)
+{
+    writer.setResolution(static_cast<int>(TwipsPerInch)); // a unit of the painter is a twip
+    writer.setPageSize(pages.paper().page);
+    writer.setPageMargins({});
+}
+
+Outcome paintAll(QPdfWriter& writer, const Pages& pages, const std::vector<int>& chosen, const Progress& progress)
+{
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return Outcome::Failed;
+    int done = 0;
+    for (const int page : chosen) {
+        if (progress && !progress(done))
+            return Outcome::Cancelled;
+        if (done++ > 0 && !writer.newPage())
+            return Outcome::Failed;
+        pages.paint(painter, page);
+    }
+    return painter.end() ? Outcome::Done : Outcome::Failed;
+}
+
+} // namespace
+
+Outcome savePdf(const Pages& pages, const QString& path, const Progress& progress)
+{
+    return savePdf(pages, allPages(pages), path, progress);
+}
+
+Outcome savePdf(const Pages& pages, const std::vector<int>& chosen, const QString& path, const Progress& progress)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return Outcome::Failed;
+    PdfInformation information(file);
+    QPdfWriter writer(&information);
+    prepare(writer, pages);
+    const Outcome outcome = paintAll(writer, pages, chosen, progress);
+    if (outcome != Outcome::Done)
+        return outcome; // what was written goes with the file object
+    const bool isWhole = information.add(pages.document()->names) && commitWhole(file);
+    return isWhole ? Outcome::Done : Outcome::Failed;
+}
+
+std::vector<int> allPages(const Pages& pages)
+{
+    std::vector<int> all(static_cast<std::size_t>(pages.count()));
+    std::iota(all.begin(), all.end(), 0);
+    return all;
+}
+
+} // namespace report

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/preview.h"
+
+#include "platform/forms/boundary.h"
+#include "platform/forms/runtime.h"
+#include "platform/report/csv.h"
+#include "platform/report/pdf.h"
+#include "platform/report/preview_choices.h"
+#include "platform/report/printing.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace report {
+
+namespace {
+
+// There is nothing that outlives the program: what the user chose holds while it runs.
+struct Remembered {
+    Zoom zoom;
+    std::optional<Paper> paper;
+    QString folder;
+};
+
+Remembered& remembered()
+{
+    static Remembered the;
+    return the;
+}
+
+Paper rememberedPaper()
+{
+    return remembered().paper.value_or(localPaper());
+}
+
+QString startFolder()
+{
+    if (!remembered().folder.isEmpty())
+        return remembered().folder;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
+bool isTable(const QString& path)
+{
+    return path.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+Preview::Preview(const QString& name, std::shared_ptr<const Document> document, std::function<void()> error)
+    : QWidget(nullptr, Qt::Window)
+    , document_(std::move(document))
+    , pages_(std::in_place, document_, rememberedPaper())
+    , error_(std::move(error))
+{
+    setObjectName(name);
+    setWindowRole(name);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(document_->names.title);
+    look();
+    paper_->setCurrentIndex(indexOf(pages_->paper()));
+    view_->setPages(*pages_);
+    view_->setZoom(remembered().zoom);
+    showState();
+}
+
+void Preview::open()
+{
+    const forms::ToolkitCall call;
+    show();
+    raise();
+    activateWindow();
+    view_->setFocus();
+}
+
+// ---- pages, zoom and paper
+
+void Preview::showState()
+{
+    const bool canGoBack = page() > 1;
+    const bool canGoOn = page() < pageCount();
+    first_->setEnabled(canGoBack);
+    previous_->setEnabled(canGoBack);
+    next_->setEnabled(canGoOn);
+    last_->setEnabled(canGoOn);
+    page_->setMaximum(pageCount());
+    page_->setValue(page());
+    count_->setText(QStringLiteral("of %1").arg(pageCount()));
+    zoom_->setCurrentIndex(indexOf(view_->zoom()));
+    zoomIn_->setEnabled(nextZoom(view_->factor(), +1).has_value());
+    zoomOut_->setEnabled(nextZoom(view_->factor(), -1).has_value());
+    view_->setAccessibleName(QStringLiteral("Page %1 of %2").arg(page()).arg(pageCount()));
+}
+
+void Preview::setPaper(int index)
+{
+    remembered().paper = papers()[static_cast<std::size_t>(index)];
+    pages_.emplace(document_, *remembered().paper);
+    view_->setPages(*pages_);
+}
+
+void Preview::pickZoom(int index)
+{
+    remembered().zoom = zooms()[static_cast<std::size_t>(index)].zoom;
+    view_->setZoom(remembered().zoom);
+}
+
+void Preview::zoomBy(int direction)
+{
+    const std::optional<Zoom> zoom = nextZoom(view_->factor(), direction);
+    if (zoom)
+        pickZoom(indexOf(*zoom));
+}
+
+// ---- printing and saving
+
+void Preview::print()
+{
+    finish(QStringLiteral("The report has been handed to the printer."),
+        [this] { return report::print(*pages_, view_->page(), this); });
+}
+
+void Preview::saveAs()
+{
+    QFileDialog dialog(this, QStringLiteral("Save Report As"), startFolder());
+    dialog.setObjectName(QStringLiteral("reportSaveDialog"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    QStringList filters{QStringLiteral("PDF Document (*.pdf)")};
+    if (hasTable(*document_))
+        filters.append(QStringLiteral("Spreadsheet (*.csv)"));
+    dialog.setNameFilters(filters);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(document_->names.file + QStringLiteral(".pdf"));
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+        dialog.setDefaultSuffix(filter.contains(QStringLiteral("csv")) ? QStringLiteral("csv") : QStringLiteral("pdf"));
+        const QFileInfo chosen(dialog.selectedFiles().value(0));
+        dialog.selectFile(chosen.completeBaseName() + u'.' + dialog.defaultSuffix());
+    });
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString path = dialog.selectedFiles().constFirst();
+    remembered().folder = QFileInfo(path).path();
+    finish(QStringLiteral("The report has been saved as %1.").arg(QDir::toNativeSeparators(path)),
+        [this, path] { return save(path); });
+}
+
+Outcome Preview::save(const QString& path)
+{
+    if (isTable(path) && hasTable(*document_))
+        return saveCsv(*document_, path) ? Outcome::Done : Outcome::Failed;
+    ProgressWindow progress(QStringLiteral("Saving..."), pageCount(), this);
+    return savePdf(*pages_, path, progress.progress());
+}
+
+void Preview::finish(const QString& done, const std::function<Outcome()>& run)
+{
+    status_->clear();
+    Outcome outcome = Outcome::Failed;
+    try {
+        outcome = run();
+    } catch (const std::exception&) {
+        // A value that can't be printed: told as any other failure.
+    }
+    if (outcome == Outcome::Failed) {
+        QApplication::setActiveWindow(this); // not a dialogue that has just gone
+        error_();
+    }
+    if (outcome == Outcome::Done)
+        status_->setText(done);
+}
+
+} // namespace report

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/report/page_view.h"
+#include "platform/report/progress.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QSpinBox;
+
+namespace report {
+
+/// The window of an open report: pages to look at, from which it is printed or saved. It is a window of its own beside
+/// the screens, which the user may leave open, and it is destroyed when it is closed. Zoom and paper are those of the
+/// last window.
+class Preview : public QWidget {
+public:
+    /// `name` is the name of the window for the system; `error` tells the user that printing or saving has failed.
+    Preview(const QString& name, std::shared_ptr<const Document> document, std::function<void()> error);
+
+    /// Puts the window in front of the screens.
+    void open();
+
+    /// The number of the page that is shown, counted from 1, and the count of all.
+    int page() const { return view_->page() + 1; }
+    int pageCount() const { return pages_->count(); }
+
+private:
+    void look();
+    void react();
+    void layOut();
+    QPushButton* button(const char* name, const QString& caption, const char* icon, const QString& toolTip);
+    void shortcut(const QKeySequence& keys, const std::function<void()>& action);
+    std::function<void()> handler(const std::function<void()>& action);
+
+    void showState();
+    void setPaper(int index);
+    void pickZoom(int index);
+    void zoomBy(int direction);
+    void goTo(int page) { view_->setPage(page - 1); }
+    void print();
+    void saveAs();
+    Outcome save(const QString& path);
+    void finish(const QString& done, const std::function<Outcome()>& run);
+
+    std::shared_ptr<const Document> document_;
+    std::optional<Pages> pages_;
+    std::function<void()> error_;
+
+    PageView* view_ = nullptr;
+    QPushButton* first_ = nullptr;
+    QPushButton* previous_ = nullptr;
+    QSpinBox* page_ = nullptr;
+    QLabel* count_ = nullptr;
+    QPushButton* next_ = nullptr;
+    QPushButton* last_ = nullptr;
+    QPushButton* zoomOut_ = nullptr;
+    QComboBox* zoom_ = nullptr;
+    QPushButton* zoomIn_ = nullptr;
+    QComboBox* paper_ = nullptr;
+    QPushButton* print_ = nullptr;
+    QPushButton* save_ = nullptr;
+    QPushButton* close_ = nullptr;
+    QLabel* status_ = nullptr;
+};
+
+} // namespace report

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/preview.h"
+
+#include "platform/forms/look.h"
+#include "platform/forms/runtime.h"
+#include "platform/report/preview_choices.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace report {
+
+namespace {
+
+constexpr double shareOfDesktop = 0.9;
+
+void name(QWidget& widget, const char* objectName, const QString& accessibleName, const QString& toolTip)
+{
+    widget.setObjectName(QLatin1String(objectName));
+    widget.setAccessibleName(accessibleName);
+    widget.setToolTip(toolTip);
+}
+
+QFrame* divider(QWidget* parent)
+{
+    auto* line = new QFrame(parent);
+    line->setFrameShape(QFrame::VLine);
+    line->setFixedWidth(forms::look::grid(2));
+    line->setForegroundRole(QPalette::Mid);
+    line->setFrameShadow(QFrame::Plain);
+    return line;
+}
+
+} // namespace
+
+std::function<void()> Preview::handler(const std::function<void()>& action)
+{
+    return [action] { forms::runAsHandler(QStringLiteral("Preview"), action); };
+}
+
+QPushButton* Preview::button(const char* objectName, const QString& caption, const char* icon, const QString& toolTip)
+{
+    auto* made =
+        new QPushButton(QIcon(QStringLiteral(":/pictures/icons/%1.png").arg(QLatin1String(icon))), caption, this);
+    name(*made, objectName, toolTip.section(QStringLiteral(" ("), 0, 0), toolTip);
+    made->setAutoDefault(false);
+    if (caption.isEmpty())
+        made->setFixedWidth(forms::look::grid(4));
+    return made;
+}
+
+void Preview::shortcut(const QKeySequence& keys, const std::function<void()>& action)
+{
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, handler(action));
+}
+
+// In the order of the Tab key.
+void Preview::look()
+{
+    view_ = new PageView(this);
+    view_->Changed = [this] { showState(); };
+    view_->Failed = handler([this] { error_(); });
+    first_ = button("first", {}, "first", QStringLiteral("First Page (Ctrl+Home)"));
+    previous_ = button("previous", {}, "previous", QStringLiteral("Previous Page (Ctrl+Page Up)"));
+    page_ = new QSpinBox(this);
+    name(*page_, "page", QStringLiteral("Page Number"), QStringLiteral("Page Number (Ctrl+G)"));
+    page_->setMinimum(1);
+    page_->setKeyboardTracking(false);
+    page_->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    page_->setAlignment(Qt::AlignRight);
+    page_->setFixedWidth(forms::look::fieldWidth(4));
+    count_ = new QLabel(this);
+    count_->setObjectName(QStringLiteral("count"));
+    next_ = button("next", {}, "next", QStringLiteral("Next Page (Ctrl+Page Down)"));
+    last_ = button("last", {}, "last", QStringLiteral("Last Page (Ctrl+End)"));
+    zoomOut_ = button("zoomOut", {}, "minus", QStringLiteral("Zoom Out (Ctrl+-)"));
+    zoom_ = new QComboBox(this);
+    name(*zoom_, "zoom", QStringLiteral("Zoom"), QStringLiteral("Zoom (Ctrl+0: Whole Page, Ctrl+1: Page Width)"));
+    for (const ZoomChoice& choice : zooms())
+        zoom_->addItem(QLatin1String(choice.words));
+    zoomIn_ = button("zoomIn", {}, "plus", QStringLiteral("Zoom In (Ctrl++)"));
+    paper_ = new QComboBox(this);
+    name(*paper_, "paper", QStringLiteral("Paper"), QStringLiteral("Paper"));
+    for (const Paper& paper : papers())
+        paper_->addItem(paper.page.id() == QPageSize::A4 ? QStringLiteral("A4") : QStringLiteral("Letter"));
+    print_ = button("print", QStringLiteral("&Print..."), "printer", QStringLiteral("Print (Ctrl+P)"));
+    save_ = button("save", QStringLiteral("&Save As..."), "save", QStringLiteral("Save As A File (Ctrl+S)"));
+    close_ = button("close", QStringLiteral("&Close"), "cancel", QStringLiteral("Close (Esc)"));
+    status_ = new QLabel(this);
+    status_->setObjectName(QStringLiteral("status"));
+    status_->setTextFormat(Qt::PlainText);
+    react();
+    layOut();
+}
+
+void Preview::react()
+{
+    const struct {
+        QPushButton* button;
+        std::vector<QKeySequence> keys;
+        std::function<void()> action;
+    } actions[] = {
+        {first_, {QKeySequence("Ctrl+Home")}, [this] { goTo(1); }},
+        {previous_, {QKeySequence("Ctrl+PgUp")}, [this] { goTo(page() - 1); }},
+        {next_, {QKeySequence("Ctrl+PgDown")}, [this] { goTo(page() + 1); }},
+        {last_, {QKeySequence("Ctrl+End")}, [this] { goTo(pageCount()); }},
+        {zoomOut_, {QKeySequence("Ctrl+-")}, [this] { zoomBy(-1); }},
+        {zoomIn_, {QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}, [this] { zoomBy(+1); }},
+        {print_, {QKeySequence("Ctrl+P")}, [this] { print(); }},
+        {save_, {QKeySequence("Ctrl+S")}, [this] { saveAs(); }},
+        {close_, {QKeySequence("Esc"), QKeySequence("Ctrl+W")}, [this] { close(); }},
+    };
+    for (const auto& each : actions) {
+        connect(each.button, &QPushButton::clicked, this, handler(each.action));
+        for (const QKeySequence& keys : each.keys)
+            shortcut(keys, each.action);
+    }
+    shortcut(QKeySequence("Ctrl+G"), [this] {
+        page_->setFocus();
+        page_->selectAll();
+    });
+    shortcut(QKeySequence("Ctrl+0"), [this] { pickZoom(indexOf(Zoom{Zoom::Kind::Page})); });
+    shortcut(QKeySequence("Ctrl+1"), [this] { pickZoom(indexOf(Zoom{Zoom::Kind::Width})); });
+    connect(page_, &QSpinBox::valueChanged, this, [this](int page) { goTo(page); });
+    connect(zoom_, &QComboBox::activated, this, [this](int index) { pickZoom(index); });
+    connect(paper_, &QComboBox::activated, this, [this](int index) { setPaper(index); });
+}
+
+void Preview::layOut()
+{
+    auto* bar = new QHBoxLayout;
+    bar->setContentsMargins(forms::look::grid(1), forms::look::grid(1), forms::look::grid(1), forms::look::grid(1));
+    bar->setSpacing(forms::look::grid(1) / 2);
+    for (QWidget* widget : std::initializer_list<QWidget*>{first_, previous_, new QLabel(QStringLiteral("Page"), this),
+             page_, count_, next_, last_, divider(this), zoomOut_, zoom_, zoomIn_, divider(this), paper_})
+        bar->addWidget(widget);
+    bar->addStretch();
+    for (QWidget* widget : {print_, save_, close_})
+        bar->addWidget(widget);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addLayout(bar);
+    column->addWidget(view_, 1);
+    status_->setContentsMargins(
+        forms::look::grid(1), forms::look::grid(1) / 2, forms::look::grid(1), forms::look::grid(1) / 2);
+    column->addWidget(status_);
+
+    const QSize desktop = screen()->availableSize();
+    const double height = desktop.height() * shareOfDesktop;
+    resize(QSize(static_cast<int>(std::min<double>(desktop.width() * shareOfDesktop, height * shareOfDesktop)),
+        static_cast<int>(height)));
+}
+
+} // namespace report

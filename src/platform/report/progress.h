@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProgressDialog>
+#include <QString>
+
+#include <functional>
+
+namespace report {
+
+/// How a run over many pages came out.
+enum class Outcome { Done, Cancelled, Failed };
+
+/// Told before each page how many are done; false cancels the run.
+using Progress = std::function<bool(int done)>;
+
+/// Shows how far a run is, once it takes longer than a moment, and has a button to cancel it. No other window of the
+/// program takes input meanwhile.
+class ProgressWindow {
+public:
+    ProgressWindow(const QString& words, int pages, QWidget* window);
+
+    /// The progress to be told.
+    Progress progress();
+
+private:
+    QProgressDialog dialog_;
+};
+
+} // namespace report

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/report/pdf.h"
+#include "support/pdf_text.h"
+#include "support/print.h"
+#include "trial_report.h"
+
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using report::Pages;
+
+class ReportPages : public testing::Test {
+protected:
+    std::vector<pdf::Page> printed(const std::vector<QStringList>& rows, const report::Paper& paper = trial::letter())
+    {
+        const Pages pages(trial::document(rows), paper);
+        EXPECT_EQ(report::savePdf(pages, path()), report::Outcome::Done);
+        const std::vector<pdf::Page> read = pdf::read(path());
+        EXPECT_EQ(read.size(), static_cast<std::size_t>(pages.count()));
+        return read;
+    }
+
+    QString path() const { return folder_.filePath("report.pdf"); }
+
+    static QString wordsOf(const std::vector<pdf::Page>& pages)
+    {
+        QString text;
+        for (const pdf::Page& page : pages)
+            text += page.text() + u' ';
+        return text;
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+// The body of a page is 15,840 - 2 x 700 - 1,000 = 13,440 high: six rows.
+TEST_F(ReportPages, HoldAsManyWholeRowsAsFitAndTellTheirNumber)
+{
+    EXPECT_EQ(Pages(trial::document({}), trial::letter()).count(), 1);
+    EXPECT_EQ(Pages(trial::document(trial::rows(6)), trial::letter()).count(), 1);
+    const std::vector<pdf::Page> pages = printed(trial::rows(13));
+    ASSERT_EQ(pages.size(), 3);
+    for (std::size_t page = 0; page < pages.size(); ++page) {
+        EXPECT_EQ(placesOf(pages[page], QString("Page %1 of 3").arg(page + 1)).size(), 1)
+            << pages[page].text().toStdString();
+        EXPECT_EQ(placesOf(pages[page], QString("row%1").arg(6 * page)).size(), 1);
+        EXPECT_TRUE(placesOf(pages[page], QString("row%1").arg(6 * page + 6)).empty());
+    }
+    const double top = 700 + trial::HeaderHeight;
+    EXPECT_NEAR(placesOf(pages[1], "row6").at(0).top(), top + 100, 28);
+    EXPECT_NEAR(placesOf(pages[1], "row11").at(0).top(), top + 5 * trial::DetailHeight + 100, 28);
+    EXPECT_NEAR(placesOf(pages[1], "row6").at(0).left(), 6120 - 4500 + trial::Left, 28);
+    EXPECT_NEAR(placesOf(pages[1], "11/24/2026").at(0).right(), 6120 - 4500 + 6500, 28);
+}
+
+TEST_F(ReportPages, GrowByTheLinesOfANote)
+{
+    std::vector<QStringList> rows = trial::rows(6);
+    rows[1][2] = "one\ntwo\r\n\nfour\nfive\nsix\nseven\neight";
+    const std::vector<pdf::Page> pages = printed(rows);
+    ASSERT_EQ(pages.size(), 2); // eight lines take the room of the sixth row
+    const double line = report::lineHeightOf({9});
+    const double below = placesOf(pages[0], "row2").at(0).top() - placesOf(pages[0], "row1").at(0).top();
+    EXPECT_NEAR(below, trial::DetailHeight + 8 * line - 300, 5);
+    EXPECT_NEAR(placesOf(pages[0], "four").at(0).top() - placesOf(pages[0], "one").at(0).top(), 3 * line, 5);
+    EXPECT_EQ(placesOf(pages[1], "row5").size(), 1);
+}
+
+TEST_F(ReportPages, SplitOnlyARowThatIsHigherThanAPage)
+{
+    QStringList lines;
+    for (int line = 0; line < 120; ++line)
+        lines.append(QString("line%1").arg(line));
+    std::vector<QStringList> rows = trial::rows(3);
+    rows[1][2] = lines.join(u'\n');
+    const std::vector<pdf::Page> pages = printed(rows);
+    ASSERT_EQ(pages.size(), 4); // it begins on a page of its own, and what follows it stands below its end
+    EXPECT_EQ(placesOf(pages[0], "row0").size(), 1);
+    EXPECT_NEAR(placesOf(pages[1], "row1").at(0).top(), 700 + trial::HeaderHeight + 100, 28);
+    EXPECT_NEAR(placesOf(pages[2], "line50").at(0).top(), 700 + trial::HeaderHeight, 28);
+    EXPECT_EQ(placesOf(pages[3], "row2").size(), 1);
+    EXPECT_TRUE(wordsOf(pages).contains(lines.first(45).join(u' ')));
+    for (const QString& line : lines)
+        EXPECT_EQ(wordsOf(pages).count(line + u' '), 1) << line.toStdString();
+    for (const pdf::Page& page : pages)
+        EXPECT_LE(page.words.back().place.bottom(), 15840 - 700);
+}
+
+TEST_F(ReportPages, WrapEveryScriptWithinTheField)
+{
+    const QString latin = QString("W").repeated(254);
+    const QString sentences = "Bought at the auction on the hill, twenty-three pieces, one of which is chipped. ";
+    const QString mixed = QString::fromUtf8("\u05E9\u05DC\u05D5\u05DD \U0001F98A \u0E01\u0E32\u0E23 ").repeated(30);
+    const QString ideographs = QString(QChar(0x5BB6)).repeated(254);
+    const double right = 6120 - 4500 + trial::Left + trial::NoteWidth;
+    for (const QString& note : {latin, sentences.repeated(3), mixed, ideographs}) {
+        const std::vector<QStringView> lines = report::linesOf(note, {9}, trial::NoteWidth);
+        EXPECT_GT(lines.size(), 2);
+        QString joined;
+        for (const QStringView line : lines)
+            joined += line;
+        EXPECT_EQ(joined, note);
+        const double top = 700 + trial::HeaderHeight + trial::NoteTop - 50;
+        for (const pdf::Word& word : printed(trial::rows(1, note)).at(0).words)
+            EXPECT_TRUE(word.place.top() < top || word.place.right() <= right + 10) << word.text.toStdString();
+    }
+    const QString text = printed(trial::rows(1, sentences.repeated(3))).at(0).text();
+    EXPECT_TRUE(QString(text).remove(u' ').contains(sentences.repeated(3).remove(u' '))) << text.toStdString();
+    // A line is full before it breaks.
+    const double full = report::widthOf(report::linesOf(latin, {9}, trial::NoteWidth).at(0).toString(), {9});
+    EXPECT_GT(full, trial::NoteWidth * 0.95);
+}
+
+TEST_F(ReportPages, SetALongValueSmallerAndThenCutIt)
+{
+    const QString fits = "Attic", smaller = "Conservatory 2", cut = "The conservatory behind the house";
+    EXPECT_EQ(report::fit(fits, {9}, 1000).type.points, 9);
+    const report::Fitted set = report::fit(smaller, {9}, 1000);
+    EXPECT_EQ(set.text, smaller);
+    EXPECT_LT(set.type.points, 9);
+    EXPECT_GT(set.type.points, 6);
+    EXPECT_LE(report::widthOf(set.text, set.type), 1000);
+    EXPECT_GT(report::widthOf(set.text, {set.type.points + 0.25}), 1000);
+    const report::Fitted ends = report::fit(cut, {9, true}, 1000);
+    EXPECT_EQ(ends.type, (report::Type{6, true}));
+    EXPECT_TRUE(ends.text.startsWith("The cons") && ends.text.endsWith(QChar(0x2026))) << ends.text.toStdString();
+    EXPECT_LE(report::widthOf(ends.text, ends.type), 1000);
+    EXPECT_EQ(report::fit("two\nlines", {9}, 1000).text, "two lines");
+}
+
+TEST_F(ReportPages, PrintAmountsAndDatesOfTheReport)
+{
+    std::vector<QStringList> rows = trial::rows(4);
+    rows[0][1] = "1234.5";
+    rows[1][1] = "-$15.00";
+    rows[2][1] = "None";
+    rows[3][1] = "($1,000.00)";
+    const QString text = wordsOf(printed(rows, trial::a4()));
+    for (const char* amount : {" $1,234.50 ", " -$15.00 ", " None ", " -$1,000.00 "})
+        EXPECT_TRUE(text.contains(amount)) << text.toStdString();
+}
+
+// A printer that can't reach the edges, and paper that is too small, get the page smaller as a whole.
+TEST_F(ReportPages, AreFittedToWhatThePrinterReaches)
+{
+    const report::Paper small{QPageSize(QPageSize::A6)};
+    const std::vector<pdf::Page> pages = printed(trial::rows(2), small);
+    const double reach = small.size().width() - small.edge;
+    for (const pdf::Word& word : pages.at(0).words)
+        EXPECT_LE(word.place.right(), reach + 5) << word.text.toStdString();
+    report::Paper edged = trial::letter();
+    edged.edge = 1440;
+    EXPECT_EQ(Pages(trial::document(trial::rows(6)), edged).count(), 2);
+    EXPECT_NEAR(placesOf(printed(trial::rows(1), edged).at(0), "Page 1 of 1").at(0).top(), 1440 + 100, 28);
+}
+
+} // namespace

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+/// What another program reads in a PDF file.
+namespace pdf {
+
+/// A word of a page; its place in twips from the paper's top left corner.
+struct Word {
+    QString text;
+    QRectF place;
+};
+
+struct Page {
+    QSizeF size;
+    std::vector<Word> words;
+
+    /// The words in the order of the file, with blanks between them.
+    QString text() const;
+};
+
+std::vector<Page> read(const QString& path);
+
+/// Where the words of a text stand side by side, wherever on the page.
+std::vector<QRectF> placesOf(const Page& page, const QString& text);
+
+/// A line of pdfinfo, by its name; and all that pdffonts and others print.
+QString info(const QString& path, const QString& name);
+QString output(const QString& program, const QStringList& arguments);
+
+} // namespace pdf
