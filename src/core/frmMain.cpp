@@ -93,6 +93,12 @@ void frmMain::cmdPersonal_Click()
     hide();
 }
 
+void frmMain::cmdPrint_Click()
+{
+    screen<frmPrint>().show();
+    hide();
+}
+
 void frmMain::cmdSearch_Click()
 {
     if (Data1.rsInventory.RecordCount() == 0) {

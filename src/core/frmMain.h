@@ -43,6 +43,7 @@ private:
     void cmdAuto_Click();
     void cmdSearch_Click();
     void cmdPersonal_Click();
+    void cmdPrint_Click();
     void cmdValue_Click();
     void cmdLeave_Click();
     void open_Area_Menu();

@@ -37,6 +37,7 @@ void frmMain::look()
     cmdIn.Click = [this] { cmdIn_Click(); };
     cmdOut.Click = [this] { cmdOut_Click(); };
     cmdAuto.Click = [this] { cmdAuto_Click(); };
+    cmdPrint.Click = [this] { cmdPrint_Click(); };
     cmdValue.Click = [this] { cmdValue_Click(); };
     cmdSearch.Click = [this] { cmdSearch_Click(); };
     cmdPersonal.Click = [this] { cmdPersonal_Click(); };

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "reports/data_report.h"
+
+#include "core/conventions.h"
+#include "platform/values/date.h"
+#include "reports/snapshot_rows.h"
+
+namespace {
+
+// The household, whose inventory it is; the program, as long as no name has been entered.
+QString author()
+{
+    const storage::Snapshot household = Data1.rsGeneral.snapshot();
+    QStringList names;
+    for (const int column : {General::First, General::Last})
+        if (const QString name = household.text(0, column); name != "None")
+            names.append(name);
+    return names.isEmpty() ? conventions::Footer : names.join(u' ');
+}
+
+// Files sort by their day.
+QString fileName(const char* document)
+{
+    const values::Date today = values::Today();
+    return QStringLiteral("%1 %2-%3-%4")
+        .arg(document)
+        .arg(today.year(), 4, 10, QChar(u'0'))
+        .arg(today.month(), 2, 10, QChar(u'0'))
+        .arg(today.day(), 2, 10, QChar(u'0'));
+}
+
+} // namespace
+
+void DataReport::show()
+{
+    auto document = std::make_shared<report::Document>();
+    document->layout = plan_.layout();
+    document->rows = std::make_shared<SnapshotRows>((Data1.*plan_.view).snapshot());
+    document->names = {reportTitles().*plan_.title, plan_.document, author(), fileName(plan_.document)};
+    delete window_;
+    window_ = new report::Preview(plan_.name, std::move(document), DataReport_Error);
+    window_->open();
+}
+
+void DataReport::DataReport_Error()
+{
+    conventions::MsgBox("A Printing Error Has Occurred..."
+                        "You May Not Have A Printer Installed Or Is Installed Incorrectly.",
+        forms::box::Stop);
+}
