@@ -82,6 +82,7 @@ printed() {
     step "printed"
     click frmAddUpDel cmdPrint
     expect "select ID, Type, Make, Amount from Print" '1|Camcorder|Northlight & Sons|$1500.00'
+    shown_and_saved one-asset "Camcorder" "Northlight & Sons" "\$1,500.00" "Total Pages: 1"
 }
 
 back_to_results() {

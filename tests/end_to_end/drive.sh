@@ -195,6 +195,55 @@ click_day() {
     click_at $((X + W * (2 * column + 1) / 14)) $((Y + H * (2 * row + 1) / 12))
 }
 
+# ---- reports
+
+# front ROLE: puts the window of that role in front, as a click on its title bar does.
+front() {
+    local window
+    for window in $(windows); do
+        if [ "$(xprop -id "$window" WM_WINDOW_ROLE | sed -n 's/.*"\(.*\)"/\1/p')" = "$1" ]; then
+            xdotool windowactivate "$window"
+        fi
+    done
+    wait_screen "$1"
+}
+
+has_title() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
+
+# save_as FILE: by the window of the report in front.
+save_as() {
+    keys ctrl+s
+    until_true "the dialogue to save" has_title "Save Report As"
+    keys ctrl+a
+    text "$1"
+    keys Return
+    until_true "$1" test -s "$1"
+}
+
+# holds FILE TEXT...: what another program reads in it.
+holds() {
+    local file=$1 read wanted
+    read=$(pdftotext -layout "$file" - | tr -s ' \n' ' ')
+    shift
+    for wanted in "$@"; do
+        [[ $read == *"$wanted"* ]] || fail "$file does not hold \"$wanted\": $read"
+    done
+}
+
+# shown_and_saved NAME TEXT...: the asset report in front, saved beside the pictures, and closed.
+shown_and_saved() {
+    local name=$1
+    shift
+    wait_screen AssetReport
+    shot "$name"
+    save_as "$Pictures/$name.pdf"
+    holds "$Pictures/$name.pdf" "$@"
+    keys Escape
+    until_true "the report to close" has_left AssetReport
+}
+
+has_left() { ! is_in_front "$1"; }
+
 # ---- the second program
 
 sqlcipher_with_key() { sqlcipher -batch -cmd "PRAGMA key = '$Key'" "$@" 2>&1; }

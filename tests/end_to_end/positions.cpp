@@ -11,6 +11,7 @@
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
+#include "reports/frmPrint.h"
 #include "search/frmSearch.h"
 #include "search/frmSearchResults.h"
 
@@ -65,5 +66,6 @@ int main(int argc, char* argv[])
         printScreen<frmAddField>();
         printScreen<frmUpdate>();
         printScreen<frmDelField>();
+        printScreen<frmPrint>();
     });
 }

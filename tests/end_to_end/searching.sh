@@ -61,6 +61,8 @@ search_all() {
     shot results-page-3
     keys Prior Prior
     shot results-page-1
+    keys alt+p
+    shown_and_saved found-assets "Maker 01" "Maker 23" "Total Pages: 4"
 }
 
 search_by_lists() {
