@@ -50,8 +50,13 @@ protected:
     static void closeReport()
     {
         for (const char* name : {"AssetReport", "CoverSheet", "FillOutForm"})
-            if (QWidget* window = reportWindow(name))
+            if (QWidget* window = reportWindow(name)) {
+                window->activateWindow();
+                settle();
                 QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+            }
+        settle();
+        forms::activeForm()->window()->activateWindow(); // as a window manager does
         settle();
         EXPECT_FALSE(reports::AssetReport().isVisible());
     }

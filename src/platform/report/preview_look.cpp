@@ -144,6 +144,9 @@ void Preview::layOut()
     for (QWidget* widget : {print_, save_, close_})
         bar->addWidget(widget);
 
+    for (QComboBox* list : {zoom_, paper_})
+        list->setMinimumWidth(list->sizeHint().width()); // its words are never cut
+
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
