@@ -171,19 +171,4 @@ void BM_BarePainter(benchmark::State& state)
 }
 BENCHMARK(BM_BarePainter)->Unit(benchmark::kMillisecond);
 
-// The platform without a screen complains of every window that is raised.
-void quietHandler(QtMsgType, const QMessageLogContext&, const QString&) { }
-
 } // namespace
-
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(quietHandler);
-    QApplication application(argc, argv);
-    forms::prepare(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -85,7 +85,7 @@ void searchAll(benchmark::State& state)
         state.ResumeTiming();
         searchFor({});
     }
-    state.counters["found"] = screen<frmSearchResults>().MatchCount;
+    state.counters["found"] = static_cast<int>(screen<frmSearchResults>().MatchCount);
 }
 
 void sortByMake(benchmark::State& state)

@@ -116,9 +116,8 @@ void frmInsInfo::layOut()
 
     forms::look::Page page(*this);
     page.title(lblHead[0]);
-    page.column()->addStretch(1);
     page.add(middle);
-    page.column()->addStretch(1);
+    page.space(3);
     page.buttons({&cmdUpdate, &cmdCancel, &cmdClear});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);

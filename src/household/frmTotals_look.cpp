@@ -60,9 +60,8 @@ void frmTotals::layOut()
 
     forms::look::Page page(*this);
     page.title(lblHead);
-    page.column()->addStretch(1);
     page.add(middle);
-    page.column()->addStretch(1);
+    page.space(3);
     page.buttons({&cmdOK});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);

@@ -22,14 +22,14 @@ struct ColumnLook {
 
 // From left to right. Numbers stand on the right, where they can be compared.
 constexpr ColumnLook columnLooks[] = {
-    {&frmSearchResults::txtMore, -1, 7, forms::Alignment::Centre},
+    {&frmSearchResults::txtMore, -1, 6, forms::Alignment::Centre},
     {&frmSearchResults::txtItem, 0, 5, forms::Alignment::Right},
-    {&frmSearchResults::txtArea, 1, 8, forms::Alignment::Left},
-    {&frmSearchResults::txtLocation, 2, 17, forms::Alignment::Left},
-    {&frmSearchResults::txtType, 3, 20, forms::Alignment::Left},
-    {&frmSearchResults::txtYear, 4, 7, forms::Alignment::Right},
-    {&frmSearchResults::txtMake, 5, 16, forms::Alignment::Left},
-    {&frmSearchResults::txtModel, 6, 16, forms::Alignment::Left},
+    {&frmSearchResults::txtArea, 1, 7, forms::Alignment::Left},
+    {&frmSearchResults::txtLocation, 2, 14, forms::Alignment::Left},
+    {&frmSearchResults::txtType, 3, 16, forms::Alignment::Left},
+    {&frmSearchResults::txtYear, 4, 6, forms::Alignment::Right},
+    {&frmSearchResults::txtMake, 5, 13, forms::Alignment::Left},
+    {&frmSearchResults::txtModel, 6, 13, forms::Alignment::Left},
 };
 
 constexpr frmSearchResults::ResultColumn frmSearchResults::*longTexts[] = {&frmSearchResults::txtArea,

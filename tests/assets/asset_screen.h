@@ -36,6 +36,7 @@ protected:
     /// What the pager of the search results does with an asset.
     static void openFound(const QString& id)
     {
+        forms::screen<frmMain>().hide();
         forms::screen<frmMain>().FromResults = true;
         forms::screen<frmSearchResults>().SelectedAsset = id;
         asset().AssetKey = values::Integer::fromText(id);

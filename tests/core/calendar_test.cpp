@@ -21,14 +21,6 @@ constexpr int Question = 36;
 const char* const CloseQuestion = "Are You Sure You Want To Close The Calendar?";
 const char* const TodayQuestion = "A Calendar Date Has Not Been Selected...Would You Like To Use Today's Date!";
 
-QString heard; // the cell to which the screen reader was sent last
-
-void hear(QAccessibleEvent* event)
-{
-    if (event->type() == QAccessible::Focus)
-        heard = event->accessibleInterface()->text(QAccessible::Name);
-}
-
 frmAddUpDel& asset()
 {
     return screen<frmAddUpDel>();
@@ -42,20 +34,6 @@ forms::MonthCalendar& date()
 // The calendar in front of the asset screen, which is disabled meanwhile.
 class Calendar : public ScreenTest {
 protected:
-    void SetUp() override
-    {
-        ScreenTest::SetUp();
-        QAccessible::setActive(true);
-        QAccessible::installUpdateHandler(hear);
-    }
-
-    void TearDown() override
-    {
-        QAccessible::installUpdateHandler(nullptr);
-        QAccessible::setActive(false);
-        ScreenTest::TearDown();
-    }
-
     // Opens the calendar as the asset screen does, lets the user act in it, and tells what has come of it.
     QString after(std::function<void()> act)
     {
@@ -114,10 +92,13 @@ protected:
     static QString state()
     {
         const QString page = date().widget()->findChild<QLabel*>()->text();
-        if (QApplication::focusWidget() == &days())
-            return page + ": " + heard;
-        const auto* button = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
-        return page + ": " + button->text(QAccessible::Name) + ", " + button->text(QAccessible::Description);
+        auto* focused = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+        if (QApplication::focusWidget() == &days()) {
+            const QModelIndex day = days().currentIndex();
+            const auto* cell = day.isValid() ? focused->tableInterface()->cellAt(day.row(), day.column()) : nullptr;
+            return page + ": " + (cell ? cell->text(QAccessible::Name) : QString());
+        }
+        return page + ": " + focused->text(QAccessible::Name) + ", " + focused->text(QAccessible::Description);
     }
 
     static QString numbers()

@@ -37,7 +37,7 @@ TEST_F(Navigation, ShowsOneScreenAtATimeWithItsFocusAndItsNumber)
         QString leadsTo;
         QString title;
     } steps[] = {
-        {[&] { menu.show(); }, "2 frmMain: cmdIn", ""},
+        {[&] { menu.show(); }, "2 frmMain: cmdIn", "Title "},
         {[] { press(Qt::Key_Return); }, "13 frmAuto: cmdAdd(0)", "Indoor Asset Management"},
         {[&] { click(area.cmdBack[0]); }, "2 frmMain: cmdIn", "Indoor Asset Management"},
         {[&] { click(menu.cmdOut); }, "13 frmAuto: cmdAdd(0)", "Outdoor Asset Management"},

@@ -7,6 +7,8 @@
 #include "core/frmCalendar.h"
 #include "core/frmMain.h"
 #include "household/frmGenInfo.h"
+#include "household/frmInsInfo.h"
+#include "household/frmTotals.h"
 #include "lists/frmAddField.h"
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
@@ -56,6 +58,8 @@ int main(int argc, char* argv[])
     forms::runAsHandler("positions", [] {
         printScreen<frmMain>();
         printScreen<frmGenInfo>();
+        printScreen<frmInsInfo>();
+        printScreen<frmTotals>();
         printScreen<frmAuto>();
         printScreen<frmAddUpDel>();
         printScreen<frmWar>();

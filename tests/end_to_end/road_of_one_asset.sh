@@ -169,7 +169,7 @@ asset_by_keys() {
     step "an asset, by keys, with a new name"
     local before dated
     before=$(sql "$Database" "select count(*) from Indoor_Items")
-    keys alt+Down Down Down Return Tab # the first row leads to the list editors
+    keys alt+Down Down Return Tab # the list opens on its first row, which leads to the list editors
     pick_name cmbCat Category Art category-list-2
     keys Tab
     text 'Brass Kestrel'

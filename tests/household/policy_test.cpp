@@ -4,6 +4,7 @@
 #include "household/frmInsInfo.h"
 #include "household/household.h"
 #include "platform/forms/look.h"
+#include "platform/storage/statement.h"
 
 using forms::Answer;
 using forms::screen;
@@ -208,6 +209,28 @@ TEST_F(Policy, TellsAnAmountThatIsNoneAndStoresNothingOfIt)
     expectRefusal(); // the same in the other save
     click(policy().chkNotify);
     EXPECT_EQ(kept(), QStringList({"Mutual", "P-1", "12/25/2026", "$5.00", "Yes"}));
+}
+
+TEST_F(Policy, TellsASaveThatTheFileRefusesAndKeepsTheRowWhole)
+{
+    const QStringList row = {"Mutual", "P-1", "12/25/2026", "$5.00", "No"};
+    open(row);
+    storage::execute(Data1.Home.handle(),
+        "CREATE TEMP TRIGGER Refuse BEFORE UPDATE ON Personal_Info BEGIN SELECT RAISE(ABORT, 'no room'); END");
+    policy().txtCompany.setFocus();
+    type("Other");
+    expectRefusal();
+    click(policy().chkNotify);
+    EXPECT_EQ(policy().chkNotify.value(), 0);
+    expectBox("Invalid Policy Expiration Date...Be Sure The Format Is mm/dd/yyyy (Example: 12/25/2005)",
+        forms::box::Exclamation);
+    click(policy().cmdUpdate);
+    EXPECT_TRUE(policy().isVisible());
+    storage::execute(Data1.Home.handle(), "DROP TRIGGER Refuse");
+    EXPECT_EQ(kept(), row);
+    expectBox("Your Insurance Information Has Been Updated!", forms::box::Information);
+    click(policy().cmdUpdate);
+    EXPECT_EQ(kept()[0], "Other");
 }
 
 TEST_F(Policy, EndsAtItsCloseBoxWithoutAQuestionAndBeginsAnew)

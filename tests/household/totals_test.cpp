@@ -2,7 +2,7 @@
 #include "core/frmStartup.h"
 #include "household/frmTotals.h"
 #include "household/household.h"
-#include "platform/values/failure.h"
+#include "platform/storage/statement.h"
 
 using forms::screen;
 using values::Currency;
@@ -96,7 +96,7 @@ TEST_F(Totals, WarnWhereTheSumsExceedTheCoverageAndTheRunningTotalIsNotZero)
     EXPECT_EQ(forms::activeForm(), &screen<frmTotals>());
 }
 
-TEST_F(Totals, EndTheProgramOnACoverageThatIsNoAmountAndOnTooManyAssets)
+TEST_F(Totals, EndTheProgramOnACoverageThatIsNoAmount)
 {
     addAsset("Indoor", "$1.00");
     storeHousehold(Currency(), "None");
@@ -105,6 +105,25 @@ TEST_F(Totals, EndTheProgramOnACoverageThatIsNoAmountAndOnTooManyAssets)
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->handler, "frmMain.cmdValue_Click");
     EXPECT_EQ(Data1.rsInventory.RecordCount(), 1);
+}
+
+TEST_F(Totals, CountAsManyAssetsAsACountHoldsAndEndTheProgramOnOneMore)
+{
+    {
+        storage::Transaction atOnce(Data1.Home.handle());
+        for (int asset = 1; asset <= 32'767; ++asset)
+            addAsset("Mobile", "$1.00");
+        atOnce.commit();
+    }
+    pressValue();
+    EXPECT_EQ(shownTotals().mid(4), QStringList({"32767 Mobile Assets =>", "$32,767.00", "32767", "$32,767.00"}));
+    press(Qt::Key_Return);
+    addAsset("Attic", "$1.00");
+    pressValue();
+    const auto failure = reportedFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->handler, "frmMain.cmdValue_Click");
+    EXPECT_EQ(Data1.rsInventory.RecordCount(), 32'768);
 }
 
 } // namespace

@@ -250,12 +250,12 @@ int LightStyle::styleHint(
     switch (hint) {
     case SH_UnderlineShortcut:
         return 1; // access keys are always underlined: nobody has to know that Alt shows them
+    // The same on every desktop: Yes stands before No, buttons of boxes have no icons, and a list opens below its box,
+    // not over it.
     case SH_DialogButtonLayout:
-        return 0; // the same order on every desktop: Yes before No
     case SH_DialogButtonBox_ButtonsHaveIcons:
-        return 0;
     case SH_ComboBox_Popup:
-        return 0; // lists open below their box, as lists do, and not over it
+        return 0;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/line_edit.h"
 
+#include "platform/forms/look.h"
+
 #include <QDropEvent>
 #include <QPainter>
 #include <QStyle>
@@ -15,7 +17,7 @@ LineEdit::LineEdit(QWidget* parent, TextEntry& box)
     , Entry(box, Lines::One)
 {
     setMaxLength(std::numeric_limits<int>::max());
-    setTextMargins(3, 1, 3, 1);
+    setTextMargins(look::entryTextMargin, 1, look::entryTextMargin, 1);
     QObject::connect(this, &QLineEdit::textChanged, this, [this] { contentChanged(); });
 }
 

@@ -139,9 +139,8 @@ int entryInset()
 
 int textInset()
 {
-    constexpr int entryMargin =
-        2; // what the toolkit's entry keeps free on its own, besides room for glyphs that overhang
-    return entryInset() + entryMargin + std::max(0, -QFontMetrics(QApplication::font()).minLeftBearing());
+    constexpr int toolkitMargin = 2; // what the toolkit's entry keeps free on its own
+    return entryInset() + entryTextMargin + toolkitMargin;
 }
 
 int rowsHeight(int rows)

@@ -61,6 +61,9 @@ double pictureScale();
 int entryInset();
 int textInset();
 
+/// What an entry of one line keeps free beside its text, in pixels.
+inline constexpr int entryTextMargin = 3;
+
 /// The height of so many rows of fields, with the gaps between them.
 int rowsHeight(int rows);
 

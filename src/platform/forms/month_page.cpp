@@ -252,7 +252,9 @@ bool MonthPage::eventFilter(QObject* watched, QEvent* event)
 {
     bool used = false;
     fromToolkit([this, watched, event, &used] {
-        if (watched == days_->viewport())
+        if (event->type() == QEvent::Wheel)
+            used = wheelTurned(*static_cast<QWheelEvent*>(event));
+        else if (watched == days_->viewport())
             used = mouseUsed(*event);
         else if (event->type() == QEvent::KeyPress)
             used = keyPressed(watched, *static_cast<QKeyEvent*>(event));
@@ -374,12 +376,18 @@ void MonthPage::released(const QModelIndex& cell)
 
 void MonthPage::wheelEvent(QWheelEvent* event)
 {
+    fromToolkit([this, event] { wheelTurned(*event); });
+    event->accept();
+}
+
+bool MonthPage::wheelTurned(const QWheelEvent& event)
+{
     constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
-    wheel_ += event->angleDelta().y();
+    wheel_ += event.angleDelta().y();
     const int months = -(wheel_ / notch);
     wheel_ %= notch;
-    fromToolkit([this, months] { calendar_.turn(months); });
-    event->accept();
+    calendar_.turn(months);
+    return true;
 }
 
 void MonthPage::paintEvent(QPaintEvent*)

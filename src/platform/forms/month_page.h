@@ -39,6 +39,7 @@ private:
     void pressed(const QKeyEvent& stroke);
     bool moved(const QKeyEvent& stroke);
     bool mouseUsed(const QEvent& event);
+    bool wheelTurned(const QWheelEvent& event);
     void released(const QModelIndex& cell);
     QList<QWidget*> stops() const;
 

@@ -24,7 +24,7 @@ QString captionsOf(const Form& form, TextRole role)
 QString headingOf(const Form& form)
 {
     for (const TextRole role : {TextRole::Title, TextRole::Heading, TextRole::Instruction})
-        if (const QString heading = captionsOf(form, role); !heading.isEmpty())
+        if (QString heading = captionsOf(form, role); !heading.isEmpty())
             return heading;
     for (const Control* control : form.controls())
         if (dynamic_cast<const Picture*>(control))
@@ -43,7 +43,7 @@ ScreenInterface::ScreenInterface(QWidget& window, const Form& form)
 QString ScreenInterface::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Name)
-        if (const QString heading = headingOf(form_); !heading.isEmpty())
+        if (QString heading = headingOf(form_); !heading.isEmpty())
             return heading;
     return QAccessibleWidget::text(kind);
 }

@@ -25,10 +25,10 @@ QString formatted(const QString& value, Format format)
 
 QString plain(const QString& value, Format format)
 {
-    const QString printed = formatted(value, format);
-    if (format == Format::Text || !values::Currency::tryParse(value))
-        return printed;
-    return QString(printed).remove(u'$').remove(u',');
+    QString printed = formatted(value, format);
+    if (format == Format::Amount && values::Currency::tryParse(value))
+        printed.remove(u'$').remove(u',');
+    return printed;
 }
 
 } // namespace report

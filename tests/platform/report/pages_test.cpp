@@ -106,7 +106,8 @@ TEST_F(ReportPages, WrapEveryScriptWithinTheField)
             joined += line;
         EXPECT_EQ(joined, note);
         const double top = 700 + trial::HeaderHeight + trial::NoteTop - 50;
-        for (const pdf::Word& word : printed(trial::rows(1, note)).at(0).words)
+        const std::vector<pdf::Page> pages = printed(trial::rows(1, note));
+        for (const pdf::Word& word : pages.at(0).words)
             EXPECT_TRUE(word.place.top() < top || word.place.right() <= right + 10) << word.text.toStdString();
     }
     const QString text = printed(trial::rows(1, sentences.repeated(3))).at(0).text();

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What 32,000 assets are worth, from the press of the button to the screen, beside a bare sum over the same rows.
+#include "core/data_store.h"
+#include "core/frmMain.h"
+#include "household/frmTotals.h"
+#include "sample_database.h"
+
+#include <benchmark/benchmark.h>
+
+using forms::screen;
+
+namespace {
+
+constexpr int assets = 32'000;
+
+/// The sample database, open.
+class Household {
+public:
+    Household()
+    {
+        useDatabase(sampleDatabase(assets));
+        Data1.rsGeneral.Open();
+        Data1.rsInventory.Open();
+    }
+
+    ~Household()
+    {
+        forms::destroyScreens();
+        Data1.Home.close();
+    }
+
+    Household(const Household&) = delete;
+    Household& operator=(const Household&) = delete;
+};
+
+void BM_Totals(benchmark::State& state)
+{
+    const Household household;
+    Data1.rsGeneral.AddNew();
+    Data1.rsGeneral.Fields(General::PolicyCoverage) = "$0.00";
+    auto& menu = screen<frmMain>();
+    screen<frmTotals>();
+    for ([[maybe_unused]] auto round : state)
+        menu.cmdValue.press();
+}
+BENCHMARK(BM_Totals)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+void BM_BareSum(benchmark::State& state)
+{
+    const Household household;
+    auto& rows = Data1.rsInventory;
+    for ([[maybe_unused]] auto round : state) {
+        values::Currency sum;
+        for (rows.MoveFirst(); !rows.atEOF(); rows.MoveNext())
+            sum += rows.Fields(Inventory::Amount).currency();
+        benchmark::DoNotOptimize(sum);
+    }
+}
+BENCHMARK(BM_BareSum)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
