@@ -15,13 +15,6 @@ namespace {
 
 const QString None = QStringLiteral("None");
 
-// A stored amount in the form of money; what doesn't read as one stands as it is.
-QString amountText(const QString& stored)
-{
-    const auto amount = values::Currency::tryParse(stored);
-    return amount ? amount->toText() : stored;
-}
-
 // February has 29 days in every year, and what is no month has 31.
 int daysOf(const QString& month)
 {
@@ -47,7 +40,7 @@ struct frmWar::Entry {
             return stored; // "None" is one of the types
         if (stored == None)
             return {};
-        return kind == Amount ? amountText(stored) : stored;
+        return kind == Amount ? values::currencyFormat(stored) : stored;
     }
 
     QString textOr(const QString& whenEmpty) const { return box.text().isEmpty() ? whenEmpty : box.text(); }
