@@ -101,6 +101,8 @@ bool Field::contains(const FoldedText& text) const
 
 qint64 Field::integer() const
 {
+    if (view_.column(ordinal_).type == ColumnType::Identity && view_.edit_ != TableView::Edit::New)
+        return view_.rowNumber();
     const std::string_view digits = view_.texts().utf8(view_.cell(ordinal_));
     qint64 number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);

@@ -152,9 +152,22 @@ TextId TableView::cell(int ordinal) const
 {
     if (edit_ != Edit::None)
         return pending_[static_cast<std::size_t>(ordinal)];
+    requireRow();
+    return rows_.cell(row_, ordinal);
+}
+
+// What a column that the database numbers holds, at hand without its text: a walk to a row of a given number looks at
+// nothing else.
+qint64 TableView::rowNumber() const
+{
+    requireRow();
+    return rows_.rowId(row_);
+}
+
+void TableView::requireRow() const
+{
     if (place_ != Place::Row)
         throw RuntimeFailure(FailureKind::NoCurrentRecord, QString::fromUtf8(definition_.name));
-    return rows_.cell(row_, ordinal);
 }
 
 void TableView::put(int ordinal, TextId value)
@@ -246,8 +259,7 @@ void TableView::Delete()
 {
     if (std::exchange(edit_, Edit::None) == Edit::New)
         return;
-    if (place_ != Place::Row)
-        throw RuntimeFailure(FailureKind::NoCurrentRecord, QString::fromUtf8(definition_.name));
+    requireRow();
     if (definition_.staging) {
         unwritten_ = true;
     } else {

@@ -138,6 +138,8 @@ private:
 
     TextId initial(ColumnType type) const;
     TextId cell(int ordinal) const;
+    qint64 rowNumber() const;
+    void requireRow() const;
     void put(int ordinal, TextId value);
     TextId cellFor(const Column& column, const QString& value) const;
 
