@@ -84,6 +84,7 @@ void Connection::open()
     setForeignJournalAside(path_, key_);
     Handle opened = openFile(path_, key_, Access::ReadWrite);
     configure(opened.get());
+    file_ = identityOf(opened.get());
     handle_ = std::move(opened);
 }
 
@@ -144,7 +145,7 @@ void Connection::confirm(Transaction& transaction)
 // What is written into a file that has left its place nobody finds again.
 void Connection::refuseIfMoved() const
 {
-    if (!liesAt(handle(), path_))
+    if (!liesAt(file_, path_))
         throw RuntimeFailure(
             FailureKind::Database, path_ + QStringLiteral(" was moved, replaced or removed while it was open"));
 }

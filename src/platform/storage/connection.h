@@ -63,6 +63,7 @@ private:
     QByteArray key_;
     std::shared_ptr<TextPool> texts_ = std::make_shared<TextPool>(); // snapshots share it
     Handle handle_;
+    FileIdentity file_; // the one that is open
     std::vector<TableView*> views_;
 };
 

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <optional>
 #include <system_error>
 
 #include <fcntl.h>
@@ -72,6 +73,14 @@ void refuseCutShort(sqlite3* handle, const QString& path)
         throw values::RuntimeFailure(values::FailureKind::Database, QStringLiteral("the file is cut short"));
 }
 
+std::optional<FileIdentity> identityAt(const char* path)
+{
+    struct ::stat found { };
+    if (::stat(path, &found) != 0)
+        return std::nullopt;
+    return FileIdentity{found.st_dev, found.st_ino};
+}
+
 } // namespace
 
 qint64 generationOf(sqlite3* handle)
@@ -84,15 +93,20 @@ void readOnce(sqlite3* handle)
     numberOf(handle, "SELECT count(*) FROM sqlite_master");
 }
 
-bool liesAt(sqlite3* handle, const QString& path)
+FileIdentity identityOf(sqlite3* handle)
 {
-    struct ::stat there { };
-    struct ::stat ours { };
+    const std::optional<FileIdentity> identity = identityAt(sqlite3_db_filename(handle, "main"));
     int hasMoved = 0;
     sqlite3_file_control(handle, "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
-    return hasMoved == 0 && ::stat(QFile::encodeName(path).constData(), &there) == 0
-        && ::stat(sqlite3_db_filename(handle, "main"), &ours) == 0 && there.st_dev == ours.st_dev
-        && there.st_ino == ours.st_ino;
+    if (!identity || hasMoved != 0)
+        throw values::RuntimeFailure(
+            values::FailureKind::Database, QStringLiteral("the file was moved while it was opened"));
+    return *identity;
+}
+
+bool liesAt(FileIdentity file, const QString& path)
+{
+    return identityAt(QFile::encodeName(path).constData()) == file;
 }
 
 void CloseHandle::operator()(sqlite3* handle) const

@@ -36,8 +36,19 @@ qint64 generationOf(sqlite3* handle);
 /// Database.
 void readOnce(sqlite3* handle);
 
-/// Whether the file that is open lies under that path.
-bool liesAt(sqlite3* handle, const QString& path);
+/// Which file it is, whatever its name.
+struct FileIdentity {
+    quint64 device = 0;
+    quint64 number = 0;
+
+    bool operator==(const FileIdentity&) const = default;
+};
+
+/// The file that is open. Failures: Database, where it has left its name already.
+FileIdentity identityOf(sqlite3* handle);
+
+/// Whether that file lies under that path.
+bool liesAt(FileIdentity file, const QString& path);
 
 /// Throws the failure (Database) for a result code: the engine's words and, for an input or output error, the system's.
 [[noreturn]] void throwEngineFailure(sqlite3* handle, int code);
