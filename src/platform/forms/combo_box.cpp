@@ -9,6 +9,7 @@
 #include "platform/forms/look.h"
 #include "platform/forms/stage.h"
 #include "platform/values/failure.h"
+#include "platform/values/text.h"
 
 #include <QAbstractItemView>
 #include <QAbstractListModel>
@@ -241,6 +242,8 @@ private:
         if (!entry_)
             return;
         const QString text = entry_->text();
+        if (currentIndex() >= 0 && itemText(currentIndex()) == text)
+            return; // of equal items the one that was picked
         const auto index = static_cast<int>(items_.items().indexOf(text));
         if (index == currentIndex())
             return;
@@ -261,7 +264,7 @@ namespace {
 
 bool sortsBefore(const QString& one, const QString& other)
 {
-    return one.compare(other, Qt::CaseInsensitive) < 0;
+    return values::compareNames(one, other) < 0;
 }
 
 } // namespace

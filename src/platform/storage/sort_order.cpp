@@ -3,6 +3,7 @@
 
 #include "platform/values/currency.h"
 #include "platform/values/failure.h"
+#include "platform/values/text.h"
 
 #include <QStringList>
 
@@ -67,7 +68,7 @@ int compareCells(ColumnType type, const QString& a, const QString& b)
     case ColumnType::Text:
         break;
     }
-    return a.compare(b, Qt::CaseInsensitive);
+    return values::compareNames(a, b);
 }
 
 } // namespace storage
