@@ -10,6 +10,8 @@
 #include "reports/reports.h"
 #include "search/frmSearchResults.h"
 
+#include <exception>
+
 using forms::screen;
 using values::Currency;
 
@@ -84,7 +86,7 @@ void frmAddUpDel::cmdPrint_Click()
 {
     try {
         print_Asset();
-    } catch (const values::RuntimeFailure&) {
+    } catch (const std::exception&) {
         Data1.rsPrint.CancelUpdate();
         conventions::MsgBox(
             "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", forms::box::Stop);

@@ -94,6 +94,7 @@ void frmPrint::cmdAllPrint_Click()
     for (Data1.rsInventory.MoveFirst(); !Data1.rsInventory.atEOF(); Data1.rsInventory.MoveNext())
         stage_Asset();
     Data1.rsPrint.Update();
+    Data1.Home.commitPending(); // first, so that no report stands open over a write that was refused
     reports::show_AssetReport();
     cmdAllPrint[3].setFocus();
     hide_Print_Progress();
@@ -148,6 +149,7 @@ void frmPrint::print_Assets()
             return;
         }
         Data1.rsPrint.Update();
+        Data1.Home.commitPending(); // here, so that a refused write is told as a failed print
         reports::show_AssetReport();
     } catch (const std::exception&) {
         tell_Printing_Error();

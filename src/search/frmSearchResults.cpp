@@ -6,12 +6,13 @@
 #include "core/frmMain.h"
 #include "core/frmProgress.h"
 #include "core/frmStartup.h"
-#include "platform/values/failure.h"
+#include "platform/forms/behaviours.h"
 #include "reports/frmPrint.h"
 #include "reports/reports.h"
 #include "search/frmSearch.h"
 
 #include <algorithm>
+#include <exception>
 #include <optional>
 
 using forms::screen;
@@ -119,7 +120,7 @@ void frmSearchResults::cmdPrint_Click()
         return;
     try {
         reports::show_AssetReport();
-    } catch (const values::RuntimeFailure&) {
+    } catch (const std::exception&) {
         conventions::MsgBox(
             "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", forms::box::Stop);
     }
@@ -138,8 +139,7 @@ void frmSearchResults::lblSubHead_Click(int Index)
     if (Index > 0)
         SortColumn = sortOfHeader[Index];
     FromSearchScreen = false;
-    cmdPrevious.setEnabled(false);
-    PageOffset = 0;
+    begin_Load();
     Get_Records_For_Print();
 }
 
@@ -261,10 +261,17 @@ void frmSearchResults::load_From_Search_Screen()
         }
         hourglass.emplace(); // for this search alone
     }
-    cmdPrevious.setEnabled(false);
-    PageOffset = 0;
+    begin_Load();
     clear_Result_Rows();
     Get_Records_For_Print();
+}
+
+// What both ways into a search begin with.
+void frmSearchResults::begin_Load()
+{
+    cmdPrevious.setEnabled(false);
+    forms::behaviours::showReleased(cmdNext);
+    PageOffset = 0;
 }
 
 void frmSearchResults::Get_Records_For_Print()
