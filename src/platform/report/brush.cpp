@@ -14,6 +14,13 @@ double shareOf(Align align)
     return align == Align::Left ? 0 : align == Align::Centre ? 0.5 : 1;
 }
 
+// The painter would pick single points out of a picture that it shows much smaller.
+QImage notLargerThan(const QImage& image, const QSize& shown)
+{
+    const bool shrinks = !shown.isEmpty() && shown.width() < image.width();
+    return shrinks ? image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : image;
+}
+
 bool isBelowGrowing(const Section& section, const Place& place)
 {
     return section.growing && place.top > section.growing->place.top;
@@ -109,7 +116,8 @@ void Brush::draw(const Picture& picture) const
     const Place& place = picture.place;
     QRectF target(QPointF(), QSizeF(picture.image.size()).scaled(place.width, place.height, Qt::KeepAspectRatio));
     target.moveCenter({place.left + place.width / 2, place.top + place.height / 2});
-    painter_.drawImage(target, picture.image);
+    const QSize shown = painter_.deviceTransform().mapRect(target).size().toSize();
+    painter_.drawImage(target, notLargerThan(picture.image, shown));
 }
 
 } // namespace report

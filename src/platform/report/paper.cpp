@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/paper.h"
 
-#include <QLocale>
+#include <cstdint>
+
+#include <langinfo.h>
 
 namespace report {
 
@@ -12,8 +14,9 @@ QSizeF Paper::size() const
 
 Paper localPaper()
 {
-    // The countries that measure in inches are those that write on Letter, Great Britain aside.
-    const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    // Not by inches and centimetres: Canada and Mexico are metric and write on Letter.
+    constexpr std::intptr_t letterHeight = 279; // millimetres
+    const bool letter = reinterpret_cast<std::intptr_t>(nl_langinfo(_NL_PAPER_HEIGHT)) == letterHeight;
     return {QPageSize(letter ? QPageSize::Letter : QPageSize::A4)};
 }
 

@@ -177,6 +177,8 @@ void Preview::finish(const QString& done, const std::function<Outcome()>& run)
     }
     if (outcome == Outcome::Done)
         status_->setText(done);
+    if (outcome == Outcome::NothingChosen)
+        status_->setText(QStringLiteral("Nothing was printed: the report has no such page."));
 }
 
 } // namespace report

@@ -4,6 +4,7 @@
 #include "platform/report/pdf.h"
 
 #include <QPrintDialog>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
@@ -29,6 +30,24 @@ Paper paperOf(const QPrinter& printer)
     return paper;
 }
 
+// What the dialogue keeps for the print service by itself: names and values in turn.
+QStringList keptForService(const QPrinter& printer)
+{
+    constexpr auto serviceOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00); // no name is public
+    return printer.printEngine()->property(serviceOptions).toStringList();
+}
+
+// For sheets that are turned by hand and printed on both sides.
+void keepPageSet(std::vector<int>& pages, const QStringList& kept)
+{
+    const auto name = kept.indexOf(QStringLiteral("page-set"));
+    const QString set = name < 0 ? QString() : kept.value(name + 1);
+    if (set == QStringLiteral("odd"))
+        std::erase_if(pages, [](int page) { return page % 2 != 0; }); // counted from 0
+    else if (set == QStringLiteral("even"))
+        std::erase_if(pages, [](int page) { return page % 2 == 0; });
+}
+
 std::vector<int> chosenPages(const QPrinter& printer, const Pages& pages, int currentPage)
 {
     if (printer.printRange() == QPrinter::CurrentPage)
@@ -37,6 +56,7 @@ std::vector<int> chosenPages(const QPrinter& printer, const Pages& pages, int cu
     std::vector<int> chosen = allPages(pages);
     if (printer.printRange() == QPrinter::PageRange && !ranges.isEmpty())
         std::erase_if(chosen, [&ranges](int page) { return !ranges.contains(page + 1); });
+    keepPageSet(chosen, keptForService(printer));
     if (printer.pageOrder() == QPrinter::LastPageFirst)
         std::reverse(chosen.begin(), chosen.end());
     return chosen;
@@ -94,6 +114,15 @@ QString sidesOf(QPrinter::DuplexMode duplex)
     }
 }
 
+// What is carried out already, the pages, doesn't go on to the service.
+void passOn(JobOptions& options, const QStringList& kept)
+{
+    for (const char* name :
+        {"number-up", "number-up-layout", "job-hold-until", "job-billing", "job-priority", "job-sheets"})
+        if (const auto at = kept.indexOf(QLatin1StringView(name)); at >= 0)
+            options.add(name, kept.value(at + 1));
+}
+
 void describe(JobOptions& options, const QPrinter& printer)
 {
     options.add("media", printer.pageLayout().pageSize().key());
@@ -103,6 +132,7 @@ void describe(JobOptions& options, const QPrinter& printer)
         options.add("sides", sides);
     if (printer.colorMode() == QPrinter::GrayScale)
         options.add("print-color-mode", QStringLiteral("monochrome"));
+    passOn(options, keptForService(printer));
 }
 
 // The job is a file that is whole before the print service hears of it: a run that is cancelled or fails prints
@@ -121,6 +151,8 @@ Outcome printTo(const QPrinter& printer, const Pages& pages, int currentPage, QW
 {
     const Pages printed(pages.document(), paperOf(printer));
     const std::vector<int> chosen = chosenPages(printer, printed, currentPage);
+    if (chosen.empty())
+        return Outcome::NothingChosen;
     ProgressWindow progress(QStringLiteral("Printing..."), static_cast<int>(chosen.size()), window);
     if (!printer.outputFileName().isEmpty())
         return savePdf(printed, chosen, printer.outputFileName(), progress.progress());

@@ -8,8 +8,8 @@
 
 namespace report {
 
-/// How a run over many pages came out.
-enum class Outcome { Done, Cancelled, Failed };
+/// How a run over many pages came out. NothingChosen: the report has none of the pages that were asked for.
+enum class Outcome { Done, Cancelled, NothingChosen, Failed };
 
 /// Told before each page how many are done; false cancels the run.
 using Progress = std::function<bool(int done)>;
