@@ -53,7 +53,7 @@ void CommandButton::clicked()
 
 void CommandButton::press()
 {
-    if (isEnabled() && isVisible())
+    if (isEnabled() && isVisible() && form().isVisible()) // a press that waited finds the screen gone
         Click.fire();
 }
 

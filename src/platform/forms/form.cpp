@@ -91,7 +91,7 @@ protected:
     void closeEvent(QCloseEvent* event) override
     {
         event->ignore();
-        if (form_.isEnabled())
+        if (form_.isEnabled() && form_.isVisible()) // a press that waited finds the screen gone
             fromToolkit([this] { form_.close(); });
     }
 

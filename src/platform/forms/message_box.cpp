@@ -107,12 +107,25 @@ void setMessageDoor(std::function<Answer(const Message&)> door)
     messageDoor() = std::move(door);
 }
 
+namespace {
+
+// While the user is asked nobody waits for the program.
+struct PlainPointer {
+    PlainPointer() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    PlainPointer(const PlainPointer&) = delete;
+    PlainPointer& operator=(const PlainPointer&) = delete;
+    ~PlainPointer() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+} // namespace
+
 Answer MsgBox(const QString& text, int flags, const QString& title)
 {
     Stage::instance().interrupted();
     const Message message{text, flags, title};
     if (messageDoor())
         return messageDoor()(message);
+    const PlainPointer pointer;
     Stage& stage = Stage::instance();
     stage.settle();
     QWidget* at = QApplication::activeWindow();

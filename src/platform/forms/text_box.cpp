@@ -6,6 +6,8 @@
 #include "platform/forms/look.h"
 #include "platform/forms/memo_edit.h"
 
+#include <QTextDocument>
+
 namespace forms {
 
 // ---- what all boxes have
@@ -80,10 +82,20 @@ Entry* TextBox::entry() const
     return edit_;
 }
 
+namespace {
+
+// A tool tip takes what looks like markup for it, and this is the user's text.
+QString asToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : text;
+}
+
+} // namespace
+
 void TextBox::setText(const QString& text)
 {
     if (edit_->isElided())
-        setToolTip(edit_->fits(text) ? QString() : text);
+        setToolTip(edit_->fits(text) ? QString() : asToolTip(text));
     TextEntry::setText(text);
 }
 
