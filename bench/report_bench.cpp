@@ -38,6 +38,8 @@ public:
             view->Open();
         if (Data1.rsGeneral.RecordCount() == 0)
             addHousehold();
+        for (; !Data1.rsPrint.atEOF(); Data1.rsPrint.MoveNext())
+            Data1.rsPrint.Delete(); // what an earlier run of the same benchmark has staged
         for (; !Data1.rsInventory.atEOF(); Data1.rsInventory.MoveNext())
             stage();
         Data1.rsPrint.Update();
