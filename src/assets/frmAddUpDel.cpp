@@ -173,7 +173,6 @@ void frmAddUpDel::return_To_Results()
 }
 
 // The lists stay as they are, unlike at a cancel: on purpose.
-
 void frmAddUpDel::cmdMain_Click()
 {
     if (!leaving_Is_Confirmed())

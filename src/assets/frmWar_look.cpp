@@ -38,6 +38,7 @@ QStringList years()
 void frmWar::look()
 {
     setTitle(conventions::Title);
+    setHelpNumber(helpTopic);
     lblHead[0].setCaption("Asset Warranty Information");
     lblHead[1].setCaption("First, Complete The Warranty Information Below:");
     lblHead[2].setCaption("Second, Click Save To Continue:");
@@ -192,7 +193,7 @@ void frmWar::layOut()
     page.add(table());
     page.space(1);
     page.instruction(lblHead[2]);
-    page.buttons({&cmdSave, &cmdCancel});
+    page.buttons({&cmdCancel, &cmdSave});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }

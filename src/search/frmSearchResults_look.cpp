@@ -33,7 +33,7 @@ constexpr ColumnLook columnLooks[] = {
 };
 
 constexpr frmSearchResults::ResultColumn frmSearchResults::*longTexts[] = {&frmSearchResults::txtArea,
-    &frmSearchResults::txtLocation, &frmSearchResults::txtType, &frmSearchResults::txtMake,
+    &frmSearchResults::txtLocation, &frmSearchResults::txtType, &frmSearchResults::txtYear, &frmSearchResults::txtMake,
     &frmSearchResults::txtModel};
 
 // Nothing on the page moves when a box comes or goes.
