@@ -9,11 +9,10 @@
 #include "platform/values/date.h"
 #include "platform/values/text.h"
 
+using conventions::None;
 using forms::screen;
 
 namespace {
-
-const QString None = QStringLiteral("None");
 
 // February has 29 days in every year, and what is no month has 31.
 int daysOf(const QString& month)
@@ -38,9 +37,8 @@ struct frmWar::Entry {
     {
         if (kind == CoverageType)
             return stored; // "None" is one of the types
-        if (stored == None)
-            return {};
-        return kind == Amount ? values::currencyFormat(stored) : stored;
+        const QString text = conventions::withoutNone(stored);
+        return kind == Amount ? values::currencyFormat(text) : text;
     }
 
     QString textOr(const QString& whenEmpty) const { return box.text().isEmpty() ? whenEmpty : box.text(); }

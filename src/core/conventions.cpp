@@ -26,6 +26,16 @@ void confirm_Close(forms::Form& form, const std::function<void()>& saveFirst)
     form.hide();
 }
 
+QString orNone(const QString& text)
+{
+    return text.isEmpty() ? None : text;
+}
+
+QString withoutNone(const QString& stored)
+{
+    return stored == None ? QString() : stored;
+}
+
 void setHelpNumbers(int number, std::initializer_list<forms::Control*> controls)
 {
     for (forms::Control* control : controls)

@@ -33,6 +33,13 @@ void hideIfMade()
         made->hide();
 }
 
+/// What an entry left empty is stored as.
+inline const QString None = QStringLiteral("None");
+
+/// A text as an entry stores it, and a stored one as an entry shows it.
+QString orNone(const QString& text);
+QString withoutNone(const QString& stored);
+
 /// Gives many controls one help number.
 void setHelpNumbers(int number, std::initializer_list<forms::Control*> controls);
 

@@ -148,6 +148,12 @@ DataStore::DataStore()
 {
 }
 
+void rewind(storage::TableView& view)
+{
+    if (view.RecordCount() != 0)
+        view.MoveFirst();
+}
+
 QByteArray databaseKey()
 {
     return QByteArrayLiteral("R2916mTq47DxWuHzEoN");

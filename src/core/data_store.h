@@ -136,6 +136,9 @@ struct DataStore {
 
 extern DataStore Data1;
 
+/// Stands on the first row of a view, if it has rows.
+void rewind(storage::TableView& view);
+
 /// The key of the database file.
 QByteArray databaseKey();
 

@@ -37,12 +37,6 @@ const AreaSum areaSums[] = {
         " Mobile Asset =>", " Mobile Assets =>"},
 };
 
-void rewind(TableView& view)
-{
-    if (!view.atBOF())
-        view.MoveFirst();
-}
-
 void empty(frmTotals& totals)
 {
     for (const AreaSum& sum : areaSums) {

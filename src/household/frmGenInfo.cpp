@@ -16,13 +16,13 @@ namespace {
 struct Rule {
     const char* marker; ///< what an empty entry is stored as
     bool upper; ///< stored in upper case
-    int fullAt; ///< the length at which the focus hops on to the next entry; 0: it never does
+    bool hops; ///< leads on to the next entry when it is full
 };
 
-constexpr Rule asTyped = {"None", false, 0};
-constexpr Rule upperCased = {"None", true, 0};
-constexpr Rule threeDigits = {"---", false, 3};
-constexpr Rule fourDigits = {"----", false, 4};
+constexpr Rule asTyped = {"None", false, false};
+constexpr Rule upperCased = {"None", true, false};
+constexpr Rule threeDigits = {"---", false, true};
+constexpr Rule fourDigits = {"----", false, true};
 
 /// By the ordinals of the columns, Last to EMail.
 constexpr Rule rules[] = {
@@ -110,24 +110,10 @@ void frmGenInfo::cmdExit_Click()
     conventions::confirm_Close(*this, [this] { save_It(); });
 }
 
-void frmGenInfo::cmbState_Change()
-{
-    if (!ChangedByCode && cmbState.text().length() > 1)
-        txtInfo[General::ZIP].setFocus();
-}
-
-void frmGenInfo::cmbState_LostFocus()
-{
-    ChangedByCode = true;
-    cmbState.setText(values::upper(cmbState.text()));
-    ChangedByCode = false;
-}
-
 void frmGenInfo::txtInfo_Change(int index)
 {
-    const int fullAt = rules[index].fullAt;
-    if (!ChangedByCode && fullAt > 0 && txtInfo[index].text().length() >= fullAt)
-        txtInfo[index + 1].setFocus();
+    if (!ChangedByCode && rules[index].hops)
+        address::hopFrom(txtInfo[index], txtInfo[index + 1]);
 }
 
 void frmGenInfo::load_PersonalInfo()
@@ -140,7 +126,7 @@ void frmGenInfo::load_PersonalInfo()
     ChangedByCode = true;
     for (int i = General::Last; i <= General::EMail; ++i) {
         const QString stored = row.Fields(i).text();
-        entry(i).setText(standsForEmpty(i, stored) ? QString() : stored);
+        show_In(i, standsForEmpty(i, stored) ? QString() : stored);
     }
     ChangedByCode = false;
     txtInfo[General::First].setFocus();
@@ -160,7 +146,15 @@ void frmGenInfo::return_To_Menu()
     hide();
 }
 
-forms::TextEntry& frmGenInfo::entry(int index)
+void frmGenInfo::show_In(int index, const QString& text)
+{
+    if (index == General::State)
+        state_.setText(text);
+    else
+        txtInfo[index].setText(text);
+}
+
+const forms::TextEntry& frmGenInfo::entry(int index) const
 {
     if (index == General::State)
         return cmbState;

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/address.h"
 #include "platform/forms/forms.h"
-
-namespace forms::look {
-class FieldRows;
-}
 
 /// The personal information of the household, and the door to its insurance policy and its financial accounts. The
 /// index of an entry is the ordinal of its column.
@@ -38,7 +35,6 @@ private:
     void lookOfEntries();
     void lookOfButtons();
     void arrange();
-    void addPhone(forms::look::FieldRows& rows, int piece, int frame);
     void answer();
     void Form_Load() override;
     void Form_Activate() override;
@@ -47,10 +43,10 @@ private:
     void cmdContinue_Click();
     void cmdBack_Click();
     void cmdExit_Click();
-    void cmbState_Change();
-    void cmbState_LostFocus();
     void txtInfo_Change(int index);
-    forms::TextEntry& entry(int index);
+    void show_In(int index, const QString& text);
+    const forms::TextEntry& entry(int index) const;
 
+    address::StateBox state_{cmbState, txtInfo[6]}; // hops on to the ZIP
     bool ChangedByCode = false; // hops answer the user's own changes
 };

@@ -10,25 +10,14 @@
 #include "platform/values/failure.h"
 #include "platform/values/text.h"
 
+using conventions::None;
+using conventions::orNone;
 using forms::screen;
 using values::RuntimeFailure;
 
 namespace {
 
-const QString None = QStringLiteral("None");
 constexpr int DateForPolicy = 4; // DateTarget of the calendar
-
-storage::TableView& householdRow()
-{
-    if (!Data1.rsGeneral.atBOF())
-        Data1.rsGeneral.MoveFirst();
-    return Data1.rsGeneral;
-}
-
-QString orNone(const QString& text)
-{
-    return text.isEmpty() ? None : text;
-}
 
 // Refuses what is no amount: the totals compare the coverage with a number.
 QString coverageToStore(const QString& text)
@@ -130,7 +119,7 @@ void frmInsInfo::reset_Notify()
 void frmInsInfo::cmdUpdate_Click()
 {
     try {
-        householdRow();
+        rewind(Data1.rsGeneral);
         if (orNone(txtPolicyExpire.text()) == None)
             chkNotify.setValue(0);
         write_Policy();
@@ -171,7 +160,8 @@ void frmInsInfo::cmdClear_Click()
 
 void frmInsInfo::write_Policy()
 {
-    storage::TableView& row = householdRow();
+    storage::TableView& row = Data1.rsGeneral;
+    rewind(row);
     row.Fields(General::PolicyExpiration) = orNone(txtPolicyExpire.text());
     txtPolicyExpire.setText(row.Fields(General::PolicyExpiration).text());
     row.Fields(General::PolicyCompany) = orNone(txtCompany.text());
@@ -190,7 +180,8 @@ void frmInsInfo::whiten()
 
 bool frmInsInfo::has_Changed() const
 {
-    storage::TableView& row = householdRow();
+    storage::TableView& row = Data1.rsGeneral;
+    rewind(row);
     const QString NotifyText = chkNotify.value() == 1 ? "Yes" : "No";
     const auto differs = [&row](General::Column column, const QString& shown) {
         return !values::equalUpper(row.Fields(column).text(), shown);

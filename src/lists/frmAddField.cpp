@@ -99,7 +99,7 @@ bool frmAddField::is_Available(const editing::List& list) const
 {
     storage::TableView& table = list.names();
     const QString name = txtAdd.text();
-    for (names::rewind(table); !table.atEOF(); table.MoveNext())
+    for (rewind(table); !table.atEOF(); table.MoveNext())
         if (values::equalUpper(table.Fields(list.kind.column).text(), name))
             return true;
     return false;
@@ -108,7 +108,7 @@ bool frmAddField::is_Available(const editing::List& list) const
 void frmAddField::add_Name(const editing::List& list)
 {
     storage::TableView& table = list.names();
-    names::rewind(table);
+    rewind(table);
     table.AddNew();
     forms::ComboBox& box = editing::boxOf(list.kind);
     box.addItem(txtAdd.text());

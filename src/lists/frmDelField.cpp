@@ -97,7 +97,7 @@ bool frmDelField::is_Refused(const editing::List& list) const
 bool frmDelField::is_Standard(const editing::List& list) const
 {
     storage::TableView& table = list.names();
-    for (names::rewind(table); !table.atEOF(); table.MoveNext())
+    for (rewind(table); !table.atEOF(); table.MoveNext())
         if (table.Fields(list.kind.column) == cmbCat.text() && table.Fields(Names::Standard) == 1)
             return true;
     return false;
@@ -107,7 +107,7 @@ bool frmDelField::is_Standard(const editing::List& list) const
 bool frmDelField::is_In_Use(const editing::List& list) const
 {
     storage::TableView& assets = Data1.rsInventory;
-    for (names::rewind(assets); !assets.atEOF(); assets.MoveNext())
+    for (rewind(assets); !assets.atEOF(); assets.MoveNext())
         if (assets.Fields(list.kind.assetColumn) == cmbCat.text())
             return true;
     return false;
@@ -118,7 +118,7 @@ void frmDelField::blank_Name(const editing::List& list)
 {
     const forms::WaitPointer wait;
     storage::TableView& table = list.names();
-    for (names::rewind(table); !table.atEOF(); table.MoveNext()) {
+    for (rewind(table); !table.atEOF(); table.MoveNext()) {
         if (table.Fields(list.kind.column) != cmbCat.text())
             continue;
         table.Fields(list.kind.column) = names::Blank;

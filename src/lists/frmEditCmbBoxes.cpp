@@ -32,12 +32,6 @@ bool holds(const forms::ComboBox& box, const QString& name)
 
 } // namespace
 
-frmEditCmbBoxes::frmEditCmbBoxes()
-    : forms::Form("frmEditCmbBoxes")
-{
-    look();
-}
-
 void frmEditCmbBoxes::Form_Activate()
 {
     frmStartup::CurrentScreen = 12;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/forms.h"
+#include "core/option_menu.h"
 
 namespace editing {
 struct Kind;
@@ -9,18 +9,9 @@ struct Kind;
 
 /// The menu between the asset screen and the list editors: add, change or delete a name of the list whose heading
 /// stands in lblHead.
-class frmEditCmbBoxes : public forms::Form {
+class frmEditCmbBoxes : public OptionMenu {
 public:
     frmEditCmbBoxes();
-
-    forms::Label lblHead{*this, "lblHead"};
-    forms::Label lblHead2{*this, "lblHead2"};
-    forms::Label lblHead3{*this, "lblHead3"};
-    forms::ControlArray<forms::OptionButton, 3> optEdit{*this, "optEdit"}; ///< Add, Change, Delete
-    forms::CommandButton cmdUpdate{*this, "cmdUpdate"};
-    forms::CommandButton cmdCancel{*this, "cmdCancel"};
-    forms::Label lblSelIn{*this, "lblSelIn"};
-    forms::Label lblCopyright{*this, "lblCopyright"};
 
     int MenuHelpNumber = 0;
 
@@ -28,8 +19,6 @@ public:
     void load_Help();
 
 private:
-    void look();
-    void layOut();
     void Form_Activate() override;
     void Form_Unload(bool& cancel) override;
     void cmdUpdate_Click();

@@ -90,7 +90,7 @@ void frmUpdate::load_Help()
 bool frmUpdate::is_Standard(const editing::List& list) const
 {
     storage::TableView& table = list.names();
-    for (names::rewind(table); !table.atEOF(); table.MoveNext())
+    for (rewind(table); !table.atEOF(); table.MoveNext())
         if (isNameIn(list, cmbCat.text(), 1))
             return true;
     return false;
@@ -113,7 +113,7 @@ void frmUpdate::remove_Old_Name(const editing::List& list)
     storage::TableView& table = list.names();
     if (cmbCat.text() == names::Blank)
         return; // a blank cell holds no name, and its row is another name's
-    for (names::rewind(table); !table.atEOF(); table.MoveNext()) {
+    for (rewind(table); !table.atEOF(); table.MoveNext()) {
         if (!isNameIn(list, cmbCat.text(), 0))
             continue;
         table.Delete();
@@ -125,7 +125,7 @@ void frmUpdate::remove_Old_Name(const editing::List& list)
 void frmUpdate::add_New_Name(const editing::List& list)
 {
     storage::TableView& table = list.names();
-    for (names::rewind(table); !table.atEOF(); table.MoveNext())
+    for (rewind(table); !table.atEOF(); table.MoveNext())
         if (isNameIn(list, txtNew.text(), 0))
             NameFound = true;
     if (NameFound)
@@ -142,7 +142,7 @@ void frmUpdate::change_Assets(const editing::List& list)
     storage::TableView& assets = Data1.rsInventory;
     const QString area = screen<frmAddUpDel>().cmbArea.text();
     const QString current = cmbCat.text();
-    for (names::rewind(assets); !assets.atEOF(); assets.MoveNext()) {
+    for (rewind(assets); !assets.atEOF(); assets.MoveNext()) {
         if (assets.Fields(list.kind.assetColumn) != current || assets.Fields(Inventory::Area) != area)
             continue;
         assets.Fields(list.kind.assetColumn) = txtNew.text();

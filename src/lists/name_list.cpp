@@ -11,19 +11,13 @@ template <class Test>
 void addNames(forms::ComboBox& list, storage::TableView& table, Names::Column column, Test takes)
 {
     NewNames found(list);
-    for (names::rewind(table); !table.atEOF(); table.MoveNext())
+    for (rewind(table); !table.atEOF(); table.MoveNext())
         if (takes())
             found.take(table.Fields(column).text());
     list.addItems(found.names());
 }
 
 } // namespace
-
-void names::rewind(storage::TableView& table)
-{
-    if (table.RecordCount() != 0)
-        table.MoveFirst();
-}
 
 void fill_Name_List(forms::ComboBox& list, storage::TableView& table, Names::Column column)
 {

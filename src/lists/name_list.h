@@ -15,9 +15,6 @@ inline const QString LocationMarker = QStringLiteral("< Add/Edit Location >");
 inline const QString CategoryMarker = QStringLiteral("< Add/Edit Category >");
 inline const QString ItemMarker = QStringLiteral("< Add/Edit Item >");
 
-/// Stands on the first row of a table, if it has rows.
-void rewind(storage::TableView& table);
-
 } // namespace names
 
 /// Adds the names of a column that the list doesn't hold yet, each once, without regard to case, in the spelling of the

@@ -11,7 +11,6 @@ namespace {
 
 constexpr int HelpNumber = 5001;
 constexpr QColor LightGrey{224, 224, 224};
-constexpr QColor Blue{0, 0, 255};
 
 struct ColumnLook {
     frmSearchResults::ResultColumn frmSearchResults::*boxes;
@@ -36,19 +35,9 @@ constexpr frmSearchResults::ResultColumn frmSearchResults::*longTexts[] = {&frmS
     &frmSearchResults::txtLocation, &frmSearchResults::txtType, &frmSearchResults::txtYear, &frmSearchResults::txtMake,
     &frmSearchResults::txtModel};
 
-// Nothing on the page moves when a box comes or goes.
-void keepPlace(QWidget& widget)
-{
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
-
 void makeLink(forms::TextBox& box)
 {
-    QPalette palette = box.widget()->palette();
-    palette.setColor(QPalette::Text, Blue);
-    box.widget()->setPalette(palette);
+    box.setTextColour(forms::look::colours().link);
     box.widget()->setCursor(Qt::PointingHandCursor);
     box.setToolTip(" Click Here To Update Or Delete This Asset ");
     box.setHelpNumber(HelpNumber);
@@ -147,7 +136,7 @@ void frmSearchResults::dressRows()
             box.setAlignment(look.alignment);
             box.setWidthInCharacters(look.width);
             box.setVisible(false);
-            keepPlace(*box.widget());
+            forms::look::keepPlace(box);
         }
         for (const auto boxes : longTexts)
             (this->*boxes)[row].setElided(true);

@@ -94,14 +94,6 @@ protected:
         return assets.Fields(column).text();
     }
 
-    /// From now on the file refuses a kind of statement on a table, as a full disk does.
-    static void refuseWrites(const QByteArray& statement, const QByteArray& table)
-    {
-        storage::execute(Data1.Home.handle(),
-            "CREATE TEMP TRIGGER Refuse" + table + " BEFORE " + statement + " ON " + table
-                + " BEGIN SELECT RAISE(ABORT, 'no room'); END");
-    }
-
     static values::Currency assetValue() { return Data1.rsGeneral.Fields(General::AssetValue).currency(); }
 
     static QStringList items(const forms::ComboBox& box)

@@ -4,7 +4,6 @@
 #include "household/frmInsInfo.h"
 #include "household/household.h"
 #include "platform/forms/look.h"
-#include "platform/storage/statement.h"
 
 using forms::Answer;
 using forms::screen;
@@ -215,8 +214,7 @@ TEST_F(Policy, TellsASaveThatTheFileRefusesAndKeepsTheRowWhole)
 {
     const QStringList row = {"Mutual", "P-1", "12/25/2026", "$5.00", "No"};
     open(row);
-    storage::execute(Data1.Home.handle(),
-        "CREATE TEMP TRIGGER Refuse BEFORE UPDATE ON Personal_Info BEGIN SELECT RAISE(ABORT, 'no room'); END");
+    refuseWrites("UPDATE", "Personal_Info");
     policy().txtCompany.setFocus();
     type("Other");
     expectRefusal();
@@ -226,7 +224,7 @@ TEST_F(Policy, TellsASaveThatTheFileRefusesAndKeepsTheRowWhole)
         forms::box::Exclamation);
     click(policy().cmdUpdate);
     EXPECT_TRUE(policy().isVisible());
-    storage::execute(Data1.Home.handle(), "DROP TRIGGER Refuse");
+    makeRoom("Personal_Info");
     EXPECT_EQ(kept(), row);
     expectBox("Your Insurance Information Has Been Updated!", forms::box::Information);
     click(policy().cmdUpdate);

@@ -4,6 +4,7 @@
 #include "core/conventions.h"
 #include "core/frmStartup.h"
 #include "core/places.h"
+#include "platform/storage/statement.h"
 #include "platform/values/date.h"
 
 #include <QApplication>
@@ -44,6 +45,18 @@ void ScreenTest::openData()
     for (storage::TableView* view : {&Data1.rsGeneral, &Data1.rsBank, &Data1.rsIndoor, &Data1.rsMobile,
              &Data1.rsInventory, &Data1.rsOutdoor, &Data1.rsPrint})
         view->Open();
+}
+
+void ScreenTest::refuseWrites(const QByteArray& statement, const QByteArray& table)
+{
+    storage::execute(Data1.Home.handle(),
+        "CREATE TEMP TRIGGER Refuse" + table + " BEFORE " + statement + " ON " + table
+            + " BEGIN SELECT RAISE(ABORT, 'no room'); END");
+}
+
+void ScreenTest::makeRoom(const QByteArray& table)
+{
+    storage::execute(Data1.Home.handle(), "DROP TRIGGER Refuse" + table);
 }
 
 void ScreenTest::closeData()

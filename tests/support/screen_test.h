@@ -17,6 +17,10 @@ protected:
     static void openData();
     static void closeData();
 
+    /// From now on the file refuses a kind of statement on a table, as a full disk does, until there is room again.
+    static void refuseWrites(const QByteArray& statement, const QByteArray& table);
+    static void makeRoom(const QByteArray& table);
+
     QString databaseFile() const { return folder_.filePath(QStringLiteral("C_db/KTL.db")); }
     QString backupFolder() const { return folder_.filePath(QStringLiteral("Backup")); }
 

@@ -107,12 +107,25 @@ QString Control::toolTip() const
 void Control::setBackColour(const QColor& colour)
 {
     backColour_ = colour;
+    paintAnew();
+}
+
+void Control::setTextColour(const QColor& colour)
+{
+    textColour_ = colour;
+    paintAnew();
+}
+
+// What is not set here is inherited.
+void Control::paintAnew()
+{
     QPalette palette;
-    if (colour.isValid()) {
-        palette = widget_->palette();
-        palette.setColor(QPalette::Base, colour);
-        palette.setColor(QPalette::Button, colour);
+    if (backColour_.isValid()) {
+        palette.setColor(QPalette::Base, backColour_);
+        palette.setColor(QPalette::Button, backColour_);
     }
+    if (textColour_.isValid())
+        palette.setColor(QPalette::Text, textColour_);
     const ToolkitCall call;
     widget_->setPalette(palette);
 }

@@ -77,6 +77,9 @@ public:
     virtual void setBackColour(const QColor& colour);
     QColor backColour() const { return backColour_; }
 
+    /// The colour of what is written in the control; an invalid one gives the normal one back.
+    void setTextColour(const QColor& colour);
+
     Event<> GotFocus{path_, "GotFocus"};
     Event<> LostFocus{path_, "LostFocus"};
     Event<int&> KeyDown{path_, "KeyDown"}; ///< virtual key code, before KeyPress
@@ -108,12 +111,14 @@ protected:
 
 private:
     void moveFocusOn();
+    void paintAnew();
 
     Form& form_;
     QString name_;
     QString path_;
     QWidget* widget_ = nullptr;
     QColor backColour_;
+    QColor textColour_;
     int helpNumber_ = 0;
     int tabIndex_ = -1;
 };

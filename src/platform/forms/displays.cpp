@@ -146,7 +146,8 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(rect(), picture_.pixmap(size(), devicePixelRatioF()));
+        const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
+        painter.drawPixmap(rect(), picture_.pixmap(size(), devicePixelRatioF(), mode));
     }
 
 private:

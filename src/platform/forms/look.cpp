@@ -386,6 +386,13 @@ void dress(std::initializer_list<FieldLook> fields, int helpNumber)
     }
 }
 
+void keepPlace(const Control& control)
+{
+    QSizePolicy policy = control.widget()->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control.widget()->setSizePolicy(policy);
+}
+
 void equalWidths(std::initializer_list<CommandButton*> buttons)
 {
     int widest = 0;

@@ -37,6 +37,7 @@ struct Colours {
     QColor error{255, 192, 192};
     QColor warning{176, 98, 6}; ///< signs of message boxes
     QColor danger{178, 48, 40};
+    QColor link{0, 0, 255}; ///< letters that stand out from those of other boxes
 };
 
 const Colours& colours();
@@ -181,6 +182,9 @@ struct FieldLook {
 
 /// Gives each control what its line says, and all of them the help number unless it is 0.
 void dress(std::initializer_list<FieldLook> fields, int helpNumber = 0);
+
+/// Keeps the room of a control free while it is hidden, so that nothing on the screen moves.
+void keepPlace(const Control& control);
 
 /// Makes buttons as wide as the widest of them.
 void equalWidths(std::initializer_list<CommandButton*> buttons);
