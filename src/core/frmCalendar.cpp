@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/frmCalendar.h"
 
+#include "accounts/frmBank.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmWar.h"
 #include "core/conventions.h"
@@ -45,6 +46,15 @@ void giveWarrantyBack()
     screen<frmWar>().cmdSave.setEnabled(true);
 }
 
+void giveAccountBack()
+{
+    auto& account = screen<frmBank>();
+    account.FreshEntry = false;
+    account.setEnabled(true);
+    account.cmdBack.setEnabled(true);
+    account.cmdState.setEnabled(true);
+}
+
 const Target targets[] = {
     {frmWar::PartsDate, 9, giveWarrantyBack,
         [](const forms::MonthCalendar& date) {
@@ -60,6 +70,8 @@ const Target targets[] = {
         [](const forms::MonthCalendar& date) { screen<frmAddUpDel>().txtPur.setText(dateText(date)); }},
     {4, 8, [] { screen<frmInsInfo>().setEnabled(true); },
         [](const forms::MonthCalendar& date) { screen<frmInsInfo>().txtPolicyExpire.setText(dateText(date)); }},
+    {5, 7, giveAccountBack,
+        [](const forms::MonthCalendar& date) { screen<frmBank>().txtDate.setText(dateText(date)); }},
 };
 
 // Null for a number that no caller has.

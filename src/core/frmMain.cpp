@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/frmMain.h"
 
+#include "accounts/frmBank.h"
+#include "accounts/frmEditBankBoxes.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
 #include "assets/frmWar.h"
@@ -31,11 +33,11 @@ struct NumberedScreen {
 
 constexpr NumberedScreen numberedScreens[] = {
     {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {3, hideIfMade<frmPrint>}, {4, hideIfMade<frmSearch>},
-    {5, hideIfMade<frmSearchResults>}, {6, hideIfMade<frmTotals>}, {8, hideIfMade<frmInsInfo>}, {9, hideIfMade<frmWar>},
-    {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>}, {12, hideIfMade<frmEditCmbBoxes>},
-    {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>}, {16, hideIfMade<frmDelField>},
-    {17, hideIfMade<frmIntroduction>}, {18, hideIfMade<frmKeyboard>},
-    {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
+    {5, hideIfMade<frmSearchResults>}, {6, hideIfMade<frmTotals>}, {7, hideIfMade<frmBank>},
+    {8, hideIfMade<frmInsInfo>}, {9, hideIfMade<frmWar>}, {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>},
+    {12, hideIfMade<frmEditCmbBoxes>}, {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>},
+    {15, hideIfMade<frmEditBankBoxes>}, {16, hideIfMade<frmDelField>}, {17, hideIfMade<frmIntroduction>},
+    {18, hideIfMade<frmKeyboard>}, {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
 };
 
 } // namespace

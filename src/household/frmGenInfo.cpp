@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmGenInfo.h"
 
+#include "accounts/frmEditBankBoxes.h"
 #include "core/conventions.h"
 #include "core/data_store.h"
 #include "core/frmMain.h"
@@ -86,6 +87,12 @@ void frmGenInfo::cmdInsInfo_Click()
     policy.NotifyFromCode = false;
     policy.show();
     hide();
+}
+
+void frmGenInfo::cmdBank_Click()
+{
+    hide();
+    screen<frmEditBankBoxes>().show();
 }
 
 void frmGenInfo::cmdContinue_Click()

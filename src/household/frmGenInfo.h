@@ -40,6 +40,7 @@ private:
     void Form_Activate() override;
     void Form_Unload(bool& cancel) override;
     void cmdInsInfo_Click();
+    void cmdBank_Click();
     void cmdContinue_Click();
     void cmdBack_Click();
     void cmdExit_Click();

@@ -114,6 +114,7 @@ void frmGenInfo::answer()
         txtInfo[index].Change = [this, index] { txtInfo_Change(index); };
     }
     cmdInsInfo.Click = [this] { cmdInsInfo_Click(); };
+    cmdBank.Click = [this] { cmdBank_Click(); };
     cmdContinue[0].Click = [this] { cmdContinue_Click(); };
     cmdBack[0].Click = [this] { cmdBack_Click(); };
     cmdExit.Click = [this] { cmdExit_Click(); };

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounts/frmBank.h"
+#include "accounts/frmEditBankBoxes.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
 #include "core/frmMain.h"
@@ -78,8 +80,8 @@ TEST_F(Navigation, AsksBeforeTheProgramClosesByEveryWayOut)
 TEST_F(Navigation, HidesTheScreenWhoseNumberIsKept)
 {
     const std::pair<int, forms::Form&> screens[] = {{1, screen<frmGenInfo>()}, {2, screen<frmMain>()},
-        {10, screen<frmAddUpDel>()}, {13, screen<frmAuto>()}, {17, screen<frmIntroduction>()},
-        {18, screen<frmKeyboard>()}};
+        {7, screen<frmBank>()}, {10, screen<frmAddUpDel>()}, {13, screen<frmAuto>()}, {15, screen<frmEditBankBoxes>()},
+        {17, screen<frmIntroduction>()}, {18, screen<frmKeyboard>()}};
     for (const auto& [number, form] : screens) {
         form.show();
         for (const int other : {0, 19, 20, number == 1 ? 2 : 1}) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounts/frmBank.h"
+#include "accounts/frmEditBankBoxes.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
 #include "core/frmMain.h"
@@ -20,7 +22,8 @@ protected:
     static std::vector<forms::Form*> screens()
     {
         return {&forms::screen<frmMain>(), &forms::screen<frmAuto>(), &forms::screen<frmAddUpDel>(),
-            &forms::screen<frmGenInfo>(), &forms::screen<frmIntroduction>(), &forms::screen<frmKeyboard>()};
+            &forms::screen<frmGenInfo>(), &forms::screen<frmIntroduction>(), &forms::screen<frmKeyboard>(),
+            &forms::screen<frmBank>(), &forms::screen<frmEditBankBoxes>()};
     }
 };
 

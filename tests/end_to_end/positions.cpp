@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // positions: tells where the controls of the screens lie, as the program shows them on this display.
 // One line each, "screen control x y width height" relative to the screen's window, whose own line has the control ".".
+#include "accounts/frmBank.h"
+#include "accounts/frmEditBankBoxes.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
 #include "assets/frmWar.h"
@@ -60,6 +62,8 @@ int main(int argc, char* argv[])
         printScreen<frmGenInfo>();
         printScreen<frmInsInfo>();
         printScreen<frmTotals>();
+        printScreen<frmEditBankBoxes>();
+        printScreen<frmBank>();
         printScreen<frmAuto>();
         printScreen<frmAddUpDel>();
         printScreen<frmWar>();

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounts/frmEditBankBoxes.h"
+
+#include "accounts/frmBank.h"
+#include "core/conventions.h"
+#include "core/data_store.h"
+#include "core/frmStartup.h"
+#include "household/frmGenInfo.h"
+
+using forms::screen;
+
+namespace {
+
+/// What a mode makes of the account screen.
+struct ModeOfAccount {
+    const char* caption;
+    const char* icon;
+    const char* toolTip;
+    const char* refusal; ///< where there is no account; null where none is needed
+};
+
+/// By Mode.
+constexpr ModeOfAccount modes[] = {
+    {"&Add New Account", ":/pictures/icons/plus.png", " Click Here To Add A New Financial Account ", nullptr},
+    {"&Update Account", ":/pictures/icons/pencil.png", " Click Here To Update Financial Account ",
+        "There Are No Accounts Available To Update!"},
+    {"&Delete Account", ":/pictures/icons/trash.png", " Click Here To Delete Financial Account ",
+        "There Are No Accounts Available To Delete!"},
+};
+
+} // namespace
+
+void frmEditBankBoxes::Form_Activate()
+{
+    frmStartup::CurrentScreen = 15;
+    AccountMode = 0;
+    optEdit[Add].setValue(true);
+}
+
+void frmEditBankBoxes::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    cmdCancel_Click();
+}
+
+void frmEditBankBoxes::optEdit_Click(int Index)
+{
+    auto& account = screen<frmBank>();
+    account.cmdState.setCaption(modes[Index].caption);
+    account.cmdState.setIcon(modes[Index].icon);
+    AccountMode = Index;
+    account.picDate.setEnabled(Index != Delete);
+}
+
+void frmEditBankBoxes::cmdUpdate_Click()
+{
+    auto& account = screen<frmBank>();
+    account.FreshEntry = true;
+    if (AccountMode < Add || AccountMode > Delete) {
+        conventions::MsgBox("You Must Select An Option Before Continuing!", forms::box::Exclamation);
+        return;
+    }
+    const ModeOfAccount& mode = modes[AccountMode];
+    if (mode.refusal && Data1.rsBank.RecordCount() == 0) {
+        conventions::MsgBox(mode.refusal, forms::box::Information);
+        optEdit[Add].setValue(true);
+        return;
+    }
+    account.cmdState.setToolTip(mode.toolTip);
+    if (AccountMode != Add)
+        account.txtAccount.setLocked(true);
+    open_Account_Screen();
+}
+
+void frmEditBankBoxes::cmdCancel_Click()
+{
+    screen<frmGenInfo>().show();
+    hide();
+}
+
+void frmEditBankBoxes::open_Account_Screen()
+{
+    screen<frmBank>().ReturnFromCalendar = false;
+    screen<frmBank>().show();
+    hide();
+}
