@@ -21,6 +21,8 @@ namespace {
 
 constexpr int PageUp = 33;
 constexpr int PageDown = 34;
+constexpr int Left = 37;
+constexpr int Right = 39;
 
 // By SortColumn; 0 and 3 sort by nothing.
 constexpr const char* sortColumns[] = {"", "Area", "Location", "", "Type", "Year", "Make", "Model"};
@@ -173,6 +175,12 @@ void frmSearchResults::any_KeyDown(int& KeyCode)
     case forms::key::Down:
         step_Through_Rows(1);
         break;
+    case Left:
+        sort_By_Neighbour(-1);
+        break;
+    case Right:
+        sort_By_Neighbour(1);
+        break;
     case PageUp:
         turn_Page(cmdPrevious);
         break;
@@ -202,6 +210,18 @@ void frmSearchResults::step_Through_Rows(int direction)
     const int next = row < 0 && direction < 0 ? filled - 1 : row + direction;
     if (next >= 0 && next < filled)
         txtMore[next].setFocus();
+}
+
+// By the column beside the one sorted by: a header is a label, which only the mouse reaches.
+void frmSearchResults::sort_By_Neighbour(int direction)
+{
+    const auto* sorted = std::find(std::begin(sortOfHeader), std::end(sortOfHeader), SortColumn);
+    const auto header = static_cast<int>(sorted - std::begin(sortOfHeader)) + direction;
+    const int row = rowInFocus();
+    if (header > 0 && header < lblSubHead.count())
+        lblSubHead_Click(header);
+    if (row >= 0)
+        txtMore[row].setFocus();
 }
 
 // By key, the user stays in the row.

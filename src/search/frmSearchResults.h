@@ -89,6 +89,7 @@ private:
     void fill_Row(int number, Showing showing);
     void tell_Nothing_Found();
     void show_Page_Number();
+    void sort_By_Neighbour(int direction);
     void turn_Page(forms::CommandButton& button);
     void step_Through_Rows(int direction);
     int rowInFocus() const;

@@ -64,6 +64,10 @@ TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
     pick(asset().cmbCat, "Antiques");
     press(Qt::Key_Down); // refused
     EXPECT_EQ(asset().cmbCat.text(), "Antiques");
+    press(Qt::Key_Down, Qt::AltModifier); // the list opens all the same
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(asset().cmbCat.text(), "Appliances");
     tab();
     type("Elephant's Foot");
     EXPECT_EQ(asset().cmbType.text(), "Elephant's Foot");

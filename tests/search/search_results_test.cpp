@@ -122,6 +122,13 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
     press(Qt::Key_Space);
     type("x");
     EXPECT_EQ(forms::activeForm(), &results());
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    EXPECT_EQ(results().SortColumn, 2);
+    press(Qt::Key_Left);
+    press(Qt::Key_Left); // there is none before the first
+    EXPECT_EQ(results().SortColumn, 1);
+    expectFocus(results().txtMore[1]);
     tab();
     expectFocus(results().cmdNext);
     press(Qt::Key_Down);

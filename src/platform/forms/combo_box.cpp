@@ -198,8 +198,20 @@ private:
         }
     }
 
+    // Alt with an arrow opens the list whatever handlers do with keys, as Tab moves on: no list is for the mouse alone.
+    static bool opensTheList(const QKeyEvent& event)
+    {
+        const bool arrow = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
+        return arrow && (event.modifiers() & Qt::AltModifier);
+    }
+
     void handleKey(QKeyEvent& event)
     {
+        if (opensTheList(event)) {
+            if (!event.isAutoRepeat())
+                showPopup();
+            return;
+        }
         if (entry_ && !walksTheList(event)) {
             entry_->handleKey(event);
             return;
@@ -217,8 +229,7 @@ private:
 
     void walk(QKeyEvent& event)
     {
-        const bool opens = event.key() == Qt::Key_F4
-            || ((event.modifiers() & Qt::AltModifier) && (event.key() == Qt::Key_Down || event.key() == Qt::Key_Up));
+        const bool opens = event.key() == Qt::Key_F4;
         if (opens || event.key() == Qt::Key_Space) {
             if ((!entry_ || opens) && !event.isAutoRepeat())
                 showPopup();
