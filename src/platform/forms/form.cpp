@@ -56,10 +56,12 @@ public:
 
     void setLeastSize(const QSize& size) { minimumSize_ = minimumSize_.expandedTo(size); }
 
-    /// Takes the canvas's own size, or what of it the desktop has room for, and the middle of the desktop.
-    void fitAndCentre()
+    /// Takes the canvas's own size, or what of it the desktop has room for, and the place of the screen before; the
+    /// first one takes the middle of the desktop.
+    void fitAndPlace()
     {
-        const QRect desktop = screen()->availableGeometry();
+        QScreen* under = centre_.isNull() ? nullptr : QGuiApplication::screenAt(centre_);
+        const QRect desktop = (under ? under : screen())->availableGeometry();
         const QSize frame(frameMargins_.left() + frameMargins_.right(), frameMargins_.top() + frameMargins_.bottom());
         const QSize room = desktop.size() - frame;
         makeFit(room);
@@ -72,8 +74,8 @@ public:
         size = size.boundedTo(room).expandedTo(minimumSize_.boundedTo(room));
         minimumSize_ = size; // a screen never shrinks between two visits
         setFixedSize(size);
-        move(desktop.center() - QPoint(size.width() / 2, size.height() / 2)
-            - QPoint(frameMargins_.left(), frameMargins_.top()) + QPoint(0, frameMargins_.top() / 2));
+        place(desktop.marginsRemoved(frameMargins_),
+            under ? centre_ : desktop.center() + QPoint(0, frameMargins_.top() / 2));
     }
 
 protected:
@@ -101,6 +103,13 @@ protected:
         event->accept();
     }
 
+    void moveEvent(QMoveEvent* event) override
+    {
+        QWidget::moveEvent(event);
+        if (isVisible() && !isModal())
+            centre_ = geometry().center();
+    }
+
     void changeEvent(QEvent* event) override
     {
         QWidget::changeEvent(event);
@@ -111,6 +120,16 @@ protected:
     }
 
 private:
+    // Around a point, and within the room that the desktop has inside a frame.
+    void place(const QRect& room, const QPoint& centre)
+    {
+        QRect inside(QPoint(), size());
+        inside.moveCenter(centre);
+        inside.moveLeft(std::max(std::min(inside.left(), room.right() + 1 - width()), room.left()));
+        inside.moveTop(std::max(std::min(inside.top(), room.bottom() + 1 - height()), room.top()));
+        move(inside.topLeft() - QPoint(frameMargins_.left(), frameMargins_.top()));
+    }
+
     // On a small desktop the pictures give up their room first, then the gaps; what is left scrolls.
     void makeFit(const QSize& room)
     {
@@ -140,6 +159,7 @@ private:
     QSize minimumSize_;
     bool tight_ = false;
     inline static QMargins frameMargins_; // known once a first window has been shown
+    inline static QPoint centre_; // of the screen shown or moved last, without its frame
 };
 
 namespace {
@@ -229,7 +249,7 @@ void Form::show()
     stage.settleUnless(*this);
     if (!std::exchange(shown_, true)) {
         const ToolkitCall call;
-        window_->fitAndCentre();
+        window_->fitAndPlace();
         window_->show();
     }
     stage.bringForward(*this);
@@ -268,7 +288,7 @@ void Form::show_Modal(Form& owner)
     {
         const ToolkitCall call;
         window_->setWindowModality(Qt::ApplicationModal);
-        window_->fitAndCentre();
+        window_->fitAndPlace();
         window_->winId(); // makes the native window, which then can name its owner
         window_->windowHandle()->setTransientParent(owner.window()->windowHandle());
         window_->show();

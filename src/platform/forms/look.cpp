@@ -150,7 +150,7 @@ int rowsHeight(int rows)
 
 QSize leastWindow()
 {
-    return {grid(92), grid(62)};
+    return {grid(96), grid(62)};
 }
 
 void tighten(QLayout& layout)

@@ -326,6 +326,21 @@ TEST_F(Looks, AScreenLargerThanTheDesktopScrollsToTheControlThatHasTheFocus)
     EXPECT_EQ(form.boxes[59].widget()->visibleRegion().boundingRect(), form.boxes[59].widget()->rect());
 }
 
+TEST_F(Looks, AScreenOpensWhereTheOneBeforeStoodWithinTheDesktop)
+{
+    Pictured first(journal, "none.png");
+    Pictured second(journal, "none.png");
+    first.show();
+    const QRect room = first.window()->screen()->availableGeometry();
+    first.window()->move(room.topLeft() + QPoint(7, 5));
+    second.show();
+    first.hide();
+    EXPECT_EQ(second.window()->geometry(), first.window()->geometry());
+    second.window()->move(room.bottomRight());
+    first.show();
+    EXPECT_EQ(first.window()->geometry().bottomRight(), room.bottomRight());
+}
+
 TEST_F(Looks, AScreenIsAWindowNamedByItsHeading)
 {
     Pictured form(journal, "none.png");
