@@ -14,6 +14,7 @@ constexpr QColor LightGrey{224, 224, 224};
 
 struct ColumnLook {
     frmSearchResults::ResultColumn frmSearchResults::*boxes;
+    const char* name; // as it is read out
     int header; // of lblSubHead; none below 0
     int width; // characters
     forms::Alignment alignment;
@@ -21,14 +22,14 @@ struct ColumnLook {
 
 // From left to right. Numbers stand on the right, where they can be compared.
 constexpr ColumnLook columnLooks[] = {
-    {&frmSearchResults::txtMore, -1, 6, forms::Alignment::Centre},
-    {&frmSearchResults::txtItem, 0, 5, forms::Alignment::Right},
-    {&frmSearchResults::txtArea, 1, 7, forms::Alignment::Left},
-    {&frmSearchResults::txtLocation, 2, 14, forms::Alignment::Left},
-    {&frmSearchResults::txtType, 3, 16, forms::Alignment::Left},
-    {&frmSearchResults::txtYear, 4, 6, forms::Alignment::Right},
-    {&frmSearchResults::txtMake, 5, 13, forms::Alignment::Left},
-    {&frmSearchResults::txtModel, 6, 13, forms::Alignment::Left},
+    {&frmSearchResults::txtMore, "Update", -1, 6, forms::Alignment::Centre},
+    {&frmSearchResults::txtItem, "Item", 0, 5, forms::Alignment::Right},
+    {&frmSearchResults::txtArea, "Area", 1, 7, forms::Alignment::Left},
+    {&frmSearchResults::txtLocation, "Location", 2, 14, forms::Alignment::Left},
+    {&frmSearchResults::txtType, "Asset", 3, 16, forms::Alignment::Left},
+    {&frmSearchResults::txtYear, "Year", 4, 6, forms::Alignment::Right},
+    {&frmSearchResults::txtMake, "Make", 5, 13, forms::Alignment::Left},
+    {&frmSearchResults::txtModel, "Model", 6, 13, forms::Alignment::Left},
 };
 
 constexpr frmSearchResults::ResultColumn frmSearchResults::*longTexts[] = {&frmSearchResults::txtArea,
@@ -135,6 +136,7 @@ void frmSearchResults::dressRows()
             box.setBackColour(LightGrey);
             box.setAlignment(look.alignment);
             box.setWidthInCharacters(look.width);
+            box.widget()->setAccessibleName(QStringLiteral("%1, row %2").arg(look.name).arg(row + 1));
             box.setVisible(false);
             forms::look::keepPlace(box);
         }

@@ -82,6 +82,14 @@ QMessageBox::Icon iconOf(int flags)
     }
 }
 
+// What a screen reader says of the box's picture.
+void nameIcon(const QMessageBox& window)
+{
+    constexpr const char* names[] = {"None", "Information", "Warning", "Error", "Question"};
+    if (auto* icon = window.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+        icon->setAccessibleName(names[window.icon()]);
+}
+
 Answer ask(const Message& message, QWidget* parent)
 {
     const bool question = message.flags & box::YesNo;
@@ -89,6 +97,7 @@ Answer ask(const Message& message, QWidget* parent)
     window.setObjectName(QStringLiteral("MsgBox"));
     window.setWindowRole(QStringLiteral("MsgBox"));
     window.setIcon(iconOf(message.flags));
+    nameIcon(window);
     window.setWindowTitle(message.title);
     window.setTextFormat(Qt::PlainText);
     window.setText(message.text);
