@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // make_database FOLDER FILE: checks the CSV files of a folder and makes of them the database as it is shipped.
+#include "data/fixed_random.h"
 #include "data/shipped_database.h"
 #include "platform/values/failure.h"
 
@@ -45,6 +46,7 @@ bool makeDatabase(const QString& folder, const QString& path)
     if (!sound)
         return false;
     QFile::remove(path);
+    drawFromFixedSequence();
     createShippedDatabase(path, names);
     return true;
 }
