@@ -36,10 +36,16 @@ make_place() {
     Place=$(mktemp -d)
     Log=$Place/program.log
     export XDG_RUNTIME_DIR=$Place/runtime TZ=UTC LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+    export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
     unset XDG_DATA_HOME WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
     mkdir -m 700 "$XDG_RUNTIME_DIR"
     use_home "$Place/home"
     open_display
+    open_bus
+    [ "$Build" = /usr ] || positions
+}
+
+positions() {
     "$Build/bin/positions" >"$Place/positions" 2>"$Place/positions.log" || fail "positions: $(cat "$Place/positions.log")"
 }
 
@@ -51,12 +57,21 @@ use_home() {
 }
 
 open_display() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -wr -nolisten tcp 3>"$Place/display" 2>"$Place/xvfb.log" &
+    Xvfb -displayfd 3 -screen 0 "${KESTRILL_DISPLAY:-1280x1024}x24" -wr -nolisten tcp 3>"$Place/display" 2>"$Place/xvfb.log" &
     until_true "the virtual display" test -s "$Place/display"
     DISPLAY=:$(cat "$Place/display")
     export DISPLAY
     openbox --config-file "$Here/openbox.xml" 2>"$Place/openbox.log" &
     until_true "the window manager" manager_is_there
+}
+
+# A session bus, and on it the one of assistive tools.
+open_bus() {
+    dbus-daemon --session --nofork --nosyslog --print-address=3 3>"$Place/bus" >"$Place/bus.log" 2>&1 &
+    until_true "the session bus" test -s "$Place/bus"
+    DBUS_SESSION_BUS_ADDRESS=$(cat "$Place/bus")
+    export DBUS_SESSION_BUS_ADDRESS
+    heard_in_front >/dev/null || true # nothing yet
 }
 
 manager_is_there() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
@@ -70,10 +85,15 @@ leave_place() {
 
 # ---- the program
 
+# The program of the build, whose database has been laid, or the installed one.
 start_program() {
-    "$Build/bin/Kestrill" >>"$Log" 2>&1 &
+    local program=$Build/bin/Kestrill
+    [ "$Build" != /usr ] || program=kestrill
+    "$program" >>"$Log" 2>&1 &
     Program=$!
 }
+
+lay_database() { [ "$Build" = /usr ] || "$Here/../../scripts/lay-database" "$Build/data/KTL.db"; }
 
 has_ended() { ! kill -0 "$1" 2>/dev/null; }
 
@@ -105,20 +125,42 @@ rectangle_of() {
         /Width:/ { w = $2 } /Height:/ { h = $2 } END { if (w) print x, y, x + w, y + h }'
 }
 
-# shot NAME: a picture of all that the program shows, with its title bar and a margin, once it stands still.
+# shot NAME: a picture of all that the program shows, with its title bar and a margin, once it stands still; and what a
+# screen reader finds there.
 shot() {
     local crop picture now last=
+    hear
     Shots=$((Shots + 1))
     picture=$Pictures/$(printf '%02d' "$Shots")-$1.png
     crop=$(for window in $(windows); do rectangle_of "$window"; done | awk '
         NR == 1 || $1 < x { x = $1 } NR == 1 || $2 < y { y = $2 } $3 > r { r = $3 } $4 > b { b = $4 }
-        END { printf "%dx%d+%d+%d", r - x + 16, b - y + 38, x - 8, y - 30 }')
+        END { if (NR) printf "%dx%d+%d+%d", r - x + 16, b - y + 38, x - 8, y - 30; else print "100%" }')
     for _ in 1 2 3 4 5 6 7 8; do
         import -window root -crop "$crop" +repage "$picture"
         now=$(identify -format '%#' "$picture")
         [ "$now" != "$last" ] || break
         last=$now
     done
+}
+
+# ---- ears
+
+heard_in_front() { "$Here/screen_reader.py" front 2>/dev/null; }
+
+# shellcheck disable=SC2053 # a pattern
+is_heard_in_front() { [[ $(heard_in_front) == $1 ]]; }
+
+# wait_heard PATTERN: where the display tells nothing of its windows, a screen is known by the name that is read out.
+wait_heard() { until_true "the window \"$1\" in front" is_heard_in_front "$1"; }
+
+# What a screen reader finds of each kind of window, the first time that one is in front.
+hear() {
+    local kind
+    kind=$(screen_in_front)
+    [ -n "$kind" ] || return 0
+    grep -qsx "== $kind" "$Pictures/heard.txt" && return
+    printf '== %s\n' "$kind" >>"$Pictures/heard.txt"
+    "$Here/screen_reader.py" walk >>"$Pictures/heard.txt" || fail "a screen reader can't use $kind"
 }
 
 # ---- hands
@@ -193,6 +235,25 @@ click_day() {
     row=$(((first + $1 - 1) / 7))
     find frmCalendar days
     click_at $((X + W * (2 * column + 1) / 14)) $((Y + H * (2 * row + 1) / 12))
+}
+
+# The personal information of a first start, from its first box on.
+type_household() {
+    text Ann
+    keys Tab
+    text Q
+    keys Tab
+    text Fairbanks
+    keys Tab
+    text '12 Orchard Lane'
+    keys Tab
+    text Albany
+    keys Tab
+    text ny # moves on by itself when it is full, as the phones do
+    text 12205-ab
+    keys Tab
+    text 518555010151855501025185550103
+    text ann@home.example
 }
 
 # ---- reports

@@ -43,21 +43,7 @@ personal_information_by_keys() {
     step "personal information, typed"
     wait_screen frmGenInfo
     shot personal-empty
-    text Ann
-    keys Tab
-    text Q
-    keys Tab
-    text Fairbanks
-    keys Tab
-    text '12 Orchard Lane'
-    keys Tab
-    text Albany
-    keys Tab
-    text ny # moves on by itself when it is full, as the phones do
-    text 12205-ab
-    keys Tab
-    text 518555010151855501025185550103
-    text ann@home.example
+    type_household
     shot personal-typed
     keys alt+s
     wait_screen frmMain
