@@ -7,6 +7,7 @@ Accounts="select [Financial Institution], Address, Phone1 || Phone2 || Phone3, [
 Tomorrow=$(date -d '1 day' +%-m/%-d/%Y)
 First="First Bank|1 Main St|3155550100|A-100|\$1234.50|$Tomorrow|Checking|NY"
 Second="Second Bank|None|NoneNoneNone|a-100|None|$(date +%-m/%-d/%Y)|Savings|None"
+Changed="New Bank|2 Side St|${Second#*|None|}"
 
 # account_screen KEY: by the option of that access key, from the main menu or the personal information.
 account_screen() {
@@ -63,13 +64,13 @@ one_is_changed() {
     keys alt+c # nothing has changed
     account_screen v
     keys alt+n
-    text $'\t2 Side St'
+    text $'New Bank\t2 Side St' # an address that was not there is no change, the name is
     keys alt+c
     answer account-changes-lost n
     keys alt+u
     answer account-updated Return
     wait_screen frmGenInfo
-    expect "$Accounts" "$First"$'\n'"${Second/None/2 Side St}"
+    expect "$Accounts" "$First"$'\n'"$Changed"
 }
 
 one_is_deleted() {
@@ -82,7 +83,7 @@ one_is_deleted() {
     text $'\tTyped'
     kill -9 "$Program"
     ends_with 137
-    same "$(sql "$Database" "pragma integrity_check; $Accounts")" "ok"$'\n'"${Second/None/2 Side St}" "an account is lost"
+    same "$(sql "$Database" "pragma integrity_check; $Accounts")" "ok"$'\n'"$Changed" "an account is lost"
 }
 
 use_home "$Place/accounts"
