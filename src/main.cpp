@@ -3,27 +3,12 @@
 #include "core/data_store.h"
 #include "core/ending.h"
 #include "core/frmBW_Splash.h"
+#include "core/program_name.h"
 #include "platform/system/signals.h"
 
 #include <QApplication>
-#include <QIcon>
 
 namespace {
-
-QIcon programIcon()
-{
-    QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128, 256, 512})
-        icon.addFile(QStringLiteral(":/pictures/logo-%1.png").arg(size));
-    return icon;
-}
-
-void nameProgram()
-{
-    QApplication::setApplicationName("Kestrill");
-    QApplication::setDesktopFileName("kestrill");
-    QApplication::setWindowIcon(programIcon());
-}
 
 // The system or the session asks the program to end: in order, and without a question.
 void endFromOutside()
@@ -45,7 +30,7 @@ void start()
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    nameProgram();
+    name_Program();
     forms::prepare(application);
     forms::runAsHandler("main", start);
     return QApplication::exec();

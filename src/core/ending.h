@@ -6,6 +6,9 @@
 /// The end of the data store, whatever ends the program.
 namespace ending {
 
+/// The status of a start that could not load the database. By it the launcher knows when to offer a restore.
+inline constexpr int NotLoaded = 3;
+
 /// Closes all views, which closes the file, and tells how many rows each table has.
 std::vector<storage::TableCount> close_Views();
 

@@ -2,6 +2,7 @@
 #include "core/frmProgress.h"
 
 #include "core/data_store.h"
+#include "core/earlier_backups.h"
 #include "core/ending.h"
 #include "core/frmExit.h"
 #include "core/places.h"
@@ -42,10 +43,10 @@ void proveDatabase(const QString& copy, const std::vector<TableCount>& counts)
                 QStringLiteral("the backup copy of %1 doesn't hold its %2 rows").arg(count.table).arg(count.rows));
 }
 
-// An empty journal that couldn't be removed stays where it is.
-bool isJournal(const QString& file)
+// An empty journal that couldn't be removed stays where it is, and so does what a restore that was killed has left.
+bool isRemains(const QString& file)
 {
-    return file.endsWith(QLatin1String("-journal"));
+    return file.endsWith(QLatin1String("-journal")) || file.endsWith(places::RestoringSuffix);
 }
 
 void back_Up_Database(const std::vector<TableCount>& counts)
@@ -57,7 +58,8 @@ void back_Up_Database(const std::vector<TableCount>& counts)
         proveDatabase(copy, counts);
         isProved = true;
     };
-    sys::copyFolder(places::databaseFolder(), places::backupFolder(), proof, isJournal);
+    earlier::keep_Backup();
+    sys::copyFolder(places::databaseFolder(), places::backupFolder(), proof, isRemains);
     if (!isProved) // a link, say, leads to the data and is none
         throw values::RuntimeFailure(values::FailureKind::File,
             QStringLiteral("the backup holds no database, since %1 is no file").arg(places::databaseFile()));

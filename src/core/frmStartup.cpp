@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/frmStartup.h"
 
+#include "core/already_running.h"
 #include "core/conventions.h"
 #include "core/data_store.h"
+#include "core/ending.h"
 #include "core/frmMain.h"
 #include "core/places.h"
 #include "household/frmIntroduction.h"
@@ -49,7 +51,7 @@ void frmStartup::Form_Load()
     } catch (const std::exception&) {
         // On purpose the database is blamed for whatever failed.
         conventions::MsgBox("Unable To Load Database...Closing Program!", forms::box::Stop);
-        forms::endProcess(1);
+        forms::endProcess(ending::NotLoaded);
     }
 }
 
@@ -62,16 +64,10 @@ void frmStartup::start_Up()
     set_Report_Titles();
 }
 
-// Any program counts whose name holds the product's, on purpose. Of two starts at the same moment the younger gives
-// way.
 void frmStartup::check_Already_Running()
 {
     const sys::Process self = sys::thisProcess();
-    int count = 0;
-    for (const sys::Process& process : list_Processes())
-        if (process.name.contains("Kestrill", Qt::CaseSensitive) && !sys::isYoungerTwin(process, self))
-            ++count;
-    if (count < 2)
+    if (count_Running(list_Processes(), self) < 2)
         return;
     conventions::MsgBox("Kestrill Is Already Running!", forms::box::Exclamation);
     forms::endProcess(1);

@@ -10,12 +10,14 @@ namespace {
 struct Folders {
     QString database;
     QString backup;
+    QString earlierBackups;
 };
 
 // One spelling of each name, everywhere: most file systems tell "C_db" from "C_DB".
 Folders& folders()
 {
-    static Folders folders{sys::dataFolder(QStringLiteral("KTL/C_db")), sys::backupFolder(QStringLiteral("Backup"))};
+    static Folders folders{sys::dataFolder(QStringLiteral("KTL/C_db")), sys::backupFolder(QStringLiteral("Backup")),
+        sys::dataFolder(QStringLiteral("KTL-backups"))};
     return folders;
 }
 
@@ -36,9 +38,14 @@ QString backupFolder()
     return folders().backup;
 }
 
+QString earlierBackupsFolder()
+{
+    return folders().earlierBackups;
+}
+
 void setFolders(const QString& database, const QString& backup)
 {
-    folders() = {database, backup};
+    folders() = {database, backup, database + QStringLiteral("-backups")};
 }
 
 } // namespace places

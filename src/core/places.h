@@ -8,7 +8,16 @@ namespace places {
 
 QString databaseFolder();
 QString databaseFile();
+
+/// What follows the database's name while a restore prepares the file that will bear it. A restore that was killed may
+/// leave one, which belongs into no backup.
+inline const QString RestoringSuffix = QStringLiteral(".restoring");
+
 QString backupFolder();
+
+/// Where the backups go that later ones have replaced. Neither the data folder, which each close copies, nor the backup
+/// folder, which is the user's.
+QString earlierBackupsFolder();
 
 /// Other folders for the rest of the run, for tests.
 void setFolders(const QString& database, const QString& backup);

@@ -77,7 +77,7 @@ without_database() {
     use_home "$Place/empty"
     start_program
     answer no-database Return
-    ends_with 1
+    ends_with 3
     same "$(command find "$HOME" -name '*KTL*')" "" "files were made in the data folder"
 }
 

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/folder_copy.h"
 
-#include "platform/system/failures.h"
-
-#include <QDir>
-#include <QFile>
+#include "platform/system/file_handle.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -24,76 +21,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view TemporaryPrefix = ".folder-copy-";
-constexpr std::size_t BlockSize = std::size_t{1} << 20;
-
-QString textOf(const fs::path& path)
-{
-    return QFile::decodeName(path.c_str());
-}
-
-fs::path pathOf(const QString& text)
-{
-    return fs::absolute(QFile::encodeName(QDir::cleanPath(text)).toStdString());
-}
-
-values::RuntimeFailure refused(const char* attempt, const fs::path& path, int reason = errno)
-{
-    return refusal(values::FailureKind::File, QLatin1String(attempt) + u' ' + textOf(path), reason);
-}
-
-// An open file or folder.
-class Handle {
-public:
-    explicit Handle(int number)
-        : number_(number)
-    {
-    }
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-    ~Handle()
-    {
-        if (isOpen())
-            ::close(number_);
-    }
-
-    bool isOpen() const { return number_ >= 0; }
-    int number() const { return number_; }
-
-private:
-    int number_;
-};
-
-void write(const Handle& file, const char* bytes, std::size_t count, const fs::path& path)
-{
-    while (count > 0) {
-        const ssize_t written = TEMP_FAILURE_RETRY(::write(file.number(), bytes, count));
-        if (written < 0)
-            throw refused("writing", path);
-        bytes += written;
-        count -= static_cast<std::size_t>(written);
-    }
-}
-
-void copyBytes(const fs::path& source, const Handle& copy, const fs::path& target)
-{
-    const Handle file(::open(source.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!file.isOpen())
-        throw refused("reading", source);
-    std::vector<char> block(BlockSize);
-    ssize_t count = 0;
-    while ((count = TEMP_FAILURE_RETRY(::read(file.number(), block.data(), block.size()))) > 0)
-        write(copy, block.data(), static_cast<std::size_t>(count), target);
-    if (count < 0)
-        throw refused("reading", source);
-}
-
-// Makes the names in a folder outlast a power cut. Some file systems have no such operation for folders and say so.
-void flushFolder(const fs::path& path)
-{
-    const Handle folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder.isOpen() || (::fsync(folder.number()) != 0 && errno != EINVAL && errno != ENOTSUP))
-        throw refused("flushing", path);
-}
 
 // What a folder holds, as paths below it; a folder comes before what it holds itself.
 struct Contents {
@@ -220,7 +147,7 @@ void PendingCopy::putInPlace()
         fs::rename(file.temporary, file.target);
     files_.clear();
     madeFolders_.clear();
-    std::for_each(touched.begin(), touched.end(), flushFolder);
+    std::for_each(touched.begin(), touched.end(), [](const fs::path& folder) { flushFolder(folder); });
 }
 
 std::set<fs::path> PendingCopy::touchedFolders() const

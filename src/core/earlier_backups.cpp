@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/earlier_backups.h"
+
+#include "core/places.h"
+#include "core/thinning.h"
+#include "platform/system/files.h"
+#include "platform/values/failure.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstdio>
+#include <numeric>
+
+namespace earlier {
+
+namespace {
+
+const QString NameFormat = QStringLiteral("yyyy-MM-dd_HH-mm-ss");
+const QString AsideMark = QStringLiteral("_put-aside");
+constexpr int LengthOfMoment = 19;
+constexpr qint64 LeastShareOfFreeDisk = 10; // of the free disk they take a tenth at most
+
+QString databaseIn(const QString& folder)
+{
+    return folder + u'/' + QFileInfo(places::databaseFile()).fileName();
+}
+
+bool holdsBackup(const QString& folder, const QString& backup)
+{
+    return sys::isSameFile(databaseIn(folder), backup);
+}
+
+// The name is taken only by a folder with another file: a close that broke off may have left the rest.
+QString freeFolder(const QDateTime& made, bool isPutAside, const QString& backup = {})
+{
+    const QString name =
+        places::earlierBackupsFolder() + u'/' + made.toString(NameFormat) + (isPutAside ? AsideMark : QString());
+    QString folder = name;
+    for (int number = 2; QFileInfo::exists(databaseIn(folder)) && !holdsBackup(folder, backup); ++number)
+        folder = name + QStringLiteral("_%1").arg(number);
+    return folder;
+}
+
+// A second name costs nothing now, and keeps the file when the new backup takes the first one.
+void keep(const QString& backup)
+{
+    const QFileInfo file(backup);
+    if (!file.isFile() || file.isSymLink())
+        return;
+    const QString folder = freeFolder(file.lastModified(), false, backup);
+    if (holdsBackup(folder, backup))
+        return;
+    sys::makePrivateFolder(folder);
+    sys::keepFile(backup, databaseIn(folder));
+}
+
+void giveUp(const KeptFile& kept)
+{
+    sys::removeFile(kept.file);
+    QDir().rmdir(QFileInfo(kept.file).path()); // stays where the user has put something in
+}
+
+std::vector<KeptFile> withoutPutAside(std::vector<KeptFile> files)
+{
+    std::erase_if(files, [](const KeptFile& file) { return file.isPutAside; });
+    return files;
+}
+
+void thinByDate(const QDateTime& now)
+{
+    const std::vector<KeptFile> files = withoutPutAside(all());
+    std::vector<QDateTime> made;
+    for (const KeptFile& file : files)
+        made.push_back(file.made);
+    const std::vector<bool> kept = thinning::isKept(made, now);
+    for (std::size_t i = 0; i < files.size(); ++i)
+        if (!kept[i])
+            giveUp(files[i]);
+}
+
+qint64 roomOf(const std::vector<KeptFile>& files)
+{
+    return std::accumulate(files.begin(), files.end(), qint64{0},
+        [](qint64 sum, const KeptFile& file) { return sum + QFileInfo(file.file).size(); });
+}
+
+// The disk is counted as it is when the new backup lies there. What a restore has put aside takes room too, but only
+// its owner gives it up.
+void thinByRoom()
+{
+    std::vector<KeptFile> files = all();
+    if (files.empty())
+        return;
+    const qint64 isFree = sys::freeSpace(places::earlierBackupsFolder()) - QFileInfo(places::databaseFile()).size();
+    qint64 taken = roomOf(files);
+    files = withoutPutAside(files);
+    for (; taken > isFree / LeastShareOfFreeDisk && !files.empty(); files.pop_back()) {
+        taken -= QFileInfo(files.back().file).size();
+        giveUp(files.back());
+    }
+}
+
+} // namespace
+
+std::vector<KeptFile> all()
+{
+    std::vector<KeptFile> files;
+    const QDir folder(places::earlierBackupsFolder());
+    for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QDateTime made = QDateTime::fromString(name.left(LengthOfMoment), NameFormat);
+        const QString file = databaseIn(folder.filePath(name));
+        if (made.isValid() && QFileInfo(file).isFile())
+            files.push_back({name, made, name.mid(LengthOfMoment).startsWith(AsideMark), file});
+    }
+    std::stable_sort(files.begin(), files.end(), [](const KeptFile& a, const KeptFile& b) { return a.made > b.made; });
+    return files;
+}
+
+QString folderFor(const QDateTime& made, bool isPutAside)
+{
+    return freeFolder(made, isPutAside);
+}
+
+void keep_Backup()
+{
+    try {
+        keep(places::backupFolder() + u'/' + QFileInfo(places::databaseFile()).fileName());
+        thinByDate(QDateTime::currentDateTime());
+        thinByRoom();
+    } catch (const std::exception& failure) { // whatever it is
+        std::fprintf(stderr, "Earlier backups: %s\n", failure.what());
+    }
+}
+
+} // namespace earlier

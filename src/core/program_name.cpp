@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/program_name.h"
+
+#include <QApplication>
+#include <QIcon>
+
+namespace {
+
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 48, 64, 128, 256, 512})
+        icon.addFile(QStringLiteral(":/pictures/logo-%1.png").arg(size));
+    return icon;
+}
+
+} // namespace
+
+void name_Program()
+{
+    QApplication::setApplicationName("Kestrill");
+    QApplication::setDesktopFileName("kestrill");
+    QApplication::setWindowIcon(programIcon());
+}

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system/file_handle.h"
+
+#include "platform/system/failures.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace sys {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t BlockSize = std::size_t{1} << 20;
+
+void write(const Handle& file, const char* bytes, std::size_t count, const fs::path& path)
+{
+    while (count > 0) {
+        const ssize_t written = TEMP_FAILURE_RETRY(::write(file.number(), bytes, count));
+        if (written < 0)
+            throw refused("writing", path);
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
+    }
+}
+
+} // namespace
+
+Handle::~Handle()
+{
+    if (isOpen())
+        ::close(number_);
+}
+
+QString textOf(const fs::path& path)
+{
+    return QFile::decodeName(path.c_str());
+}
+
+fs::path pathOf(const QString& text)
+{
+    return fs::absolute(QFile::encodeName(QDir::cleanPath(text)).toStdString());
+}
+
+values::RuntimeFailure refused(const char* attempt, const fs::path& path, int reason)
+{
+    return refusal(values::FailureKind::File, QLatin1String(attempt) + u' ' + textOf(path), reason);
+}
+
+void copyBytes(const fs::path& source, const Handle& copy, const fs::path& target)
+{
+    const Handle file(::open(source.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.isOpen())
+        throw refused("reading", source);
+    std::vector<char> block(BlockSize);
+    ssize_t count = 0;
+    while ((count = TEMP_FAILURE_RETRY(::read(file.number(), block.data(), block.size()))) > 0)
+        write(copy, block.data(), static_cast<std::size_t>(count), target);
+    if (count < 0)
+        throw refused("reading", source);
+}
+
+void flushFolder(const fs::path& path)
+{
+    const Handle folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen() || (::fsync(folder.number()) != 0 && errno != EINVAL && errno != ENOTSUP))
+        throw refused("flushing", path);
+}
+
+} // namespace sys
