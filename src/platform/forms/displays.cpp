@@ -7,6 +7,7 @@
 #include "platform/forms/stage.h"
 #include "platform/values/failure.h"
 
+#include <QAbstractItemView>
 #include <QGroupBox>
 #include <QIcon>
 #include <QLabel>
@@ -116,6 +117,9 @@ void Label::nameFor(Control& control)
 {
     namesControl_ = true;
     label_->setBuddy(control.widget());
+    // A list of records isn't asked by assistive tools for the label that names it.
+    if (auto* list = qobject_cast<QAbstractItemView*>(control.widget()))
+        list->setAccessibleName(QString(caption_).remove(u'&'));
     setCaption(caption_);
 }
 

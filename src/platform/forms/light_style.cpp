@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTreeWidget>
 
 #include <algorithm>
 
@@ -44,6 +45,12 @@ QRect groupBoxPart(const QStyleOptionGroupBox& option, QStyle::SubControl part)
         return {QPoint(option.rect.left(), option.rect.top() + (captionRow - words.height()) / 2), words};
     }
     return option.rect.adjusted(0, rowsHeight(2) - captionRow, 0, 0);
+}
+
+bool isRecordList(const QWidget* widget)
+{
+    return qobject_cast<const QTreeWidget*>(widget)
+        || (widget && qobject_cast<const QTreeWidget*>(widget->parentWidget()));
 }
 
 } // namespace
@@ -177,6 +184,12 @@ int LightStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         // A box of several lines keeps its rounded corners free of the text's ground.
         if (qobject_cast<const QAbstractScrollArea*>(widget))
             return 3;
+        break;
+    case PM_FocusFrameHMargin:
+    case PM_HeaderMargin:
+        // The columns of a list of records keep their texts apart, those on the right too.
+        if (isRecordList(widget))
+            return grid(1) / 2;
         break;
     default:
         break;

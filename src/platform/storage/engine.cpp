@@ -93,6 +93,13 @@ void readOnce(sqlite3* handle)
     numberOf(handle, "SELECT count(*) FROM sqlite_master");
 }
 
+void proveIntact(sqlite3* handle)
+{
+    Statement check(handle, "PRAGMA quick_check(1)");
+    if (!check.step() || check.text(0) != "ok")
+        throw values::RuntimeFailure(values::FailureKind::Database, QString::fromUtf8(check.text(0)));
+}
+
 FileIdentity identityOf(sqlite3* handle)
 {
     const std::optional<FileIdentity> identity = identityAt(sqlite3_db_filename(handle, "main"));

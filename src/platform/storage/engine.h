@@ -50,6 +50,10 @@ FileIdentity identityOf(sqlite3* handle);
 /// Whether that file lies under that path.
 bool liesAt(FileIdentity file, const QString& path);
 
+/// Reads the file to its last page: each page's checksum, its structure. Failures: Database, where anything is not in
+/// order.
+void proveIntact(sqlite3* handle);
+
 /// Throws the failure (Database) for a result code: the engine's words and, for an input or output error, the system's.
 [[noreturn]] void throwEngineFailure(sqlite3* handle, int code);
 

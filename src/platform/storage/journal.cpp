@@ -2,6 +2,7 @@
 #include "platform/storage/journal.h"
 
 #include "platform/storage/engine.h"
+#include "platform/storage/file_lock.h"
 #include "platform/values/failure.h"
 
 #include <QFile>
@@ -12,9 +13,6 @@
 #include <cstdio>
 #include <optional>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 using values::FailureKind;
 using values::RuntimeFailure;
 
@@ -23,35 +21,6 @@ namespace storage {
 namespace {
 
 const QString Suffix = QStringLiteral("-journal");
-
-// Keeps other processes out of a file while it lives, on the bytes that the engine locks. Unlike the engine's own lock,
-// it survives that the same file is opened and closed meanwhile.
-class FileLock {
-public:
-    explicit FileLock(const QString& path)
-        : file_(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC))
-    {
-        struct ::flock bytes { };
-        bytes.l_type = F_WRLCK;
-        bytes.l_whence = SEEK_SET;
-        bytes.l_start = 0x40000000;
-        bytes.l_len = 512;
-        isHeld_ = file_ >= 0 && ::fcntl(file_, F_OFD_SETLK, &bytes) == 0;
-    }
-    FileLock(const FileLock&) = delete;
-    FileLock& operator=(const FileLock&) = delete;
-    ~FileLock()
-    {
-        if (file_ >= 0)
-            ::close(file_);
-    }
-
-    bool isHeld() const { return isHeld_; }
-
-private:
-    int file_;
-    bool isHeld_;
-};
 
 std::optional<qint64> generationIn(const QString& path, const QByteArray& key, Access access)
 {
@@ -62,16 +31,11 @@ std::optional<qint64> generationIn(const QString& path, const QByteArray& key, A
     }
 }
 
-// What the file would be once the journal was played back, tried on copies. They are as encrypted as the file; the
-// folder lies in memory, since a journal is often left by a disk that was full.
+// What the file would be once the journal was played back.
 std::optional<qint64> generationPlayedBack(const QString& file, const QByteArray& key)
 {
-    const QTemporaryDir folder(
-        QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/journal-XXXXXX"));
-    const QString copy = folder.filePath(QStringLiteral("copy"));
-    if (!folder.isValid() || !QFile::copy(file, copy) || !QFile::copy(file + Suffix, copy + Suffix))
-        throw RuntimeFailure(FailureKind::Database, QStringLiteral("no room to try the journal of ") + file);
-    return generationIn(copy, key, Access::ReadWrite);
+    const CopyWithJournal copy(file);
+    return generationIn(copy.file(), key, Access::ReadWrite);
 }
 
 // Each transaction counts the generation up, and its journal holds the one before. So a file in the middle of that
@@ -85,12 +49,38 @@ bool isForeign(const QString& file, const QByteArray& key)
     return playedBack && *lies != *playedBack && *lies != *playedBack + 1;
 }
 
+// The file that the engine opens, under whose name it looks for the journal.
+QString fileWithJournal(const QString& path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return file.isEmpty() || QFileInfo(file + Suffix).size() == 0 ? QString() : file;
+}
+
 } // namespace
+
+// The folder lies in memory, since a journal is often left by a disk that was full.
+CopyWithJournal::CopyWithJournal(const QString& file)
+    : folder_(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/journal-XXXXXX"))
+{
+    const bool isCopied =
+        folder_.isValid() && QFile::copy(file, this->file()) && QFile::copy(file + Suffix, this->file() + Suffix);
+    if (!isCopied)
+        throw RuntimeFailure(FailureKind::Database, QStringLiteral("no room to try the journal of ") + file);
+    QFile::setPermissions(this->file(), QFile::ReadOwner | QFile::WriteOwner);
+}
+
+JournalBeside journalBeside(const QString& path, const QByteArray& key)
+{
+    const QString file = fileWithJournal(path);
+    if (file.isEmpty())
+        return JournalBeside::None;
+    return isForeign(file, key) ? JournalBeside::Foreign : JournalBeside::Own;
+}
 
 void setForeignJournalAside(const QString& path, const QByteArray& key)
 {
-    const QString file = QFileInfo(path).canonicalFilePath();
-    if (file.isEmpty() || QFileInfo(file + Suffix).size() == 0)
+    const QString file = fileWithJournal(path);
+    if (file.isEmpty())
         return;
     const FileLock lock(file);
     if (!lock.isHeld() || !isForeign(file, key))

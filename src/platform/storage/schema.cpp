@@ -22,13 +22,6 @@ void createPrivateFile(const QString& path)
         throw RuntimeFailure(FailureKind::File, path + QStringLiteral(": ") + file.errorString());
 }
 
-void proveIntact(sqlite3* handle)
-{
-    Statement check(handle, "PRAGMA quick_check(1)");
-    if (!check.step() || check.text(0) != "ok")
-        throw RuntimeFailure(FailureKind::Database, QString::fromUtf8(check.text(0)));
-}
-
 qint64 countRows(sqlite3* handle, const QByteArray& table)
 {
     return numberOf(handle, "SELECT count(*) FROM " + sql::quoted(table.constData()));

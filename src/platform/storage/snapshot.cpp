@@ -30,15 +30,20 @@ Snapshot::Snapshot(std::shared_ptr<const TextPool> texts, const TableDefinition&
         cells_.insert(cells_.end(), rows.cells(row).begin(), rows.cells(row).end());
 }
 
-QString Snapshot::text(int row, int ordinal) const
+std::string_view Snapshot::utf8(int row, int ordinal) const
 {
     if (row < 0 || row >= rowCount())
         throw values::RuntimeFailure(values::FailureKind::NoCurrentRecord, QString::fromUtf8(definition_->name));
-    const auto column = static_cast<std::size_t>(ordinal);
+    return texts_->utf8(cells_[static_cast<std::size_t>(row) * columns() + static_cast<std::size_t>(ordinal)]);
+}
+
+QString Snapshot::text(int row, int ordinal) const
+{
     // Not by the pool's own texts, which stay in memory once they are looked at.
-    const std::string_view bytes = texts_->utf8(cells_[static_cast<std::size_t>(row) * columns() + column]);
+    const std::string_view bytes = utf8(row, ordinal);
     const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    return definition_->columns[column].type == ColumnType::Currency ? amountIn(text).toText() : text;
+    const ColumnType type = definition_->columns[static_cast<std::size_t>(ordinal)].type;
+    return type == ColumnType::Currency ? amountIn(text).toText() : text;
 }
 
 Snapshot TableView::snapshot() const

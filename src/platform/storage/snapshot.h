@@ -25,6 +25,12 @@ public:
     /// TypeMismatch, where an amount isn't stored as one.
     QString text(int row, int ordinal) const;
 
+    /// The value as the file holds it, in UTF-8; an amount of a Currency column in ten-thousandths. Valid as long as
+    /// the snapshot. Failures: NoCurrentRecord, where there is no such row.
+    std::string_view utf8(int row, int ordinal) const;
+
+    const TableDefinition& definition() const { return *definition_; }
+
 private:
     std::size_t columns() const { return definition_->columns.size(); }
 

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/folder_choice.h"
+
+#include "platform/forms/form.h"
+#include "platform/forms/stage.h"
+
+#include <QFileDialog>
+
+namespace forms {
+
+namespace {
+
+std::function<QString()>& folderDoor()
+{
+    static std::function<QString()> the;
+    return the;
+}
+
+} // namespace
+
+QString chooseFolder(const QString& title, const QString& start)
+{
+    Stage& stage = Stage::instance();
+    stage.interrupted();
+    if (folderDoor())
+        return folderDoor()();
+    stage.settle();
+    Form* front = stage.active();
+    QFileDialog dialog(front ? front->window() : nullptr, title, start);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Choose"));
+    const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    const QString chosen = isChosen ? dialog.selectedFiles().first() : QString();
+    if (front && front->isVisible())
+        stage.bringForward(*front);
+    return chosen;
+}
+
+void setFolderDoor(std::function<QString()> door)
+{
+    folderDoor() = std::move(door);
+}
+
+} // namespace forms

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/storage/file_reader.h"
+
+#include "platform/storage/file_lock.h"
+#include "platform/storage/row_set.h"
+#include "platform/storage/schema.h"
+#include "platform/storage/sql.h"
+#include "platform/storage/sqlcipher.h"
+#include "platform/storage/statement.h"
+#include "platform/values/failure.h"
+
+#include <QFileInfo>
+
+using values::FailureKind;
+using values::RuntimeFailure;
+
+namespace storage {
+
+namespace {
+
+JournalBeside journalOf(const QString& path, const QByteArray& key, FileReader::Locks locks)
+{
+    if (locks == FileReader::Locks::Respected && isInUse(path))
+        throw RuntimeFailure(FailureKind::Database, path + QStringLiteral(" is in use by another program"));
+    return journalBeside(path, key);
+}
+
+} // namespace
+
+FileReader::FileReader(const QString& path, const QByteArray& key, Locks locks)
+    : journal_(journalOf(path, key, locks))
+    , handle_(opened(path, key, locks))
+{
+    // What `readThrough` has decrypted the rows find again: 64 MiB are a household ten times as large as any.
+    execute(handle_.get(), "PRAGMA cache_size = -65536");
+    // The shared lock stays until the end.
+    execute(handle_.get(), "BEGIN");
+    readOnce(handle_.get());
+}
+
+Handle FileReader::opened(const QString& path, const QByteArray& key, Locks locks)
+{
+    if (journal_ == JournalBeside::Foreign)
+        return openFile(path, key, Access::AsItLies);
+    if (journal_ == JournalBeside::Own)
+        return openFile(copy_.emplace(QFileInfo(path).canonicalFilePath()).file(), key, Access::ReadWrite);
+    return openFile(path, key, locks == Locks::Passed ? Access::AsItLies : Access::ReadOnly);
+}
+
+void FileReader::readThrough()
+{
+    proveIntact(handle_.get());
+}
+
+Snapshot FileReader::rows(const TableDefinition& table)
+{
+    RowSet rows(table.columns.size());
+    std::vector<TextId> cells(table.columns.size(), TextPool::empty);
+    Statement select(handle_.get(), sql::selectRows(table));
+    while (select.step()) {
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            cells[i] = texts_->load(select.text(static_cast<int>(i) + 1));
+        rows.append(select.number(0), cells);
+    }
+    return {texts_, table, rows};
+}
+
+} // namespace storage
