@@ -3,20 +3,10 @@
 
 #include "core/conventions.h"
 #include "platform/values/date.h"
+#include "reports/report_author.h"
 #include "reports/snapshot_rows.h"
 
 namespace {
-
-// The household, whose inventory it is; the program, as long as no name has been entered.
-QString author()
-{
-    const storage::Snapshot household = Data1.rsGeneral.snapshot();
-    QStringList names;
-    for (const int column : {General::First, General::Last})
-        if (const QString name = household.text(0, column); name != "None")
-            names.append(name);
-    return names.isEmpty() ? conventions::Footer : names.join(u' ');
-}
 
 // Files sort by their day.
 QString fileName(const char* document)
@@ -36,7 +26,8 @@ void DataReport::show()
     auto document = std::make_shared<report::Document>();
     document->layout = plan_.layout();
     document->rows = std::make_shared<SnapshotRows>((Data1.*plan_.view).snapshot());
-    document->names = {reportTitles().*plan_.title, plan_.document, author(), fileName(plan_.document)};
+    document->names = {reportTitles().*plan_.title, plan_.document, report_Author(Data1.rsGeneral.snapshot()),
+        fileName(plan_.document)};
     delete window_;
     window_ = new report::Preview(plan_.name, std::move(document), DataReport_Error);
     window_->open();

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The check and the export of a household, beside the same file checked and read by the bare engine, and beside the PDF
+// files alone, which are most of an export.
+#include "bare_database.h"
+#include "sample_database.h"
+#include "tools/checking.h"
+#include "tools/exporting.h"
+#include "tools/report_files.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+void readBare(benchmark::State& state)
+{
+    const QString path = sampleDatabase(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto round : state) {
+        BareDatabase database(path);
+        database.run("PRAGMA cache_size=-65536");
+        database.run("PRAGMA quick_check");
+        for (const storage::TableDefinition* table : databaseTables())
+            readTable(database, *table);
+    }
+}
+
+void checkHousehold(benchmark::State& state)
+{
+    const QString path = sampleDatabase(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto round : state) {
+        const Household household(path);
+        benchmark::DoNotOptimize(checking::odd_Entries(household));
+        benchmark::DoNotOptimize(checking::sums(household));
+    }
+}
+
+void writeReports(benchmark::State& state)
+{
+    const Household household(sampleDatabase(static_cast<int>(state.range(0))));
+    const QTemporaryDir folder;
+    for ([[maybe_unused]] auto round : state)
+        for (const ReportFile& report : reportsOf(household))
+            report::savePdf(*report.pages, folder.filePath(report.name));
+}
+
+void exportHousehold(benchmark::State& state)
+{
+    const QString path = sampleDatabase(static_cast<int>(state.range(0)));
+    const QTemporaryDir folder;
+    for ([[maybe_unused]] auto round : state) {
+        const Household household(path);
+        exporting::write(household, folder.filePath(QStringLiteral("out")), exporting::Former::Replaced);
+    }
+}
+
+} // namespace
+
+BENCHMARK(readBare)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(checkHousehold)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(writeReports)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(exportHousehold)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);

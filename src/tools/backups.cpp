@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/backups.h"
+
+#include "core/earlier_backups.h"
+#include "core/places.h"
+#include "platform/system/files.h"
+#include "tools/exit_codes.h"
+#include "tools/household.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace backups {
+
+namespace {
+
+QString lastBackupFile()
+{
+    return places::backupFolder() + u'/' + QFileInfo(places::databaseFile()).fileName();
+}
+
+void addLast(std::vector<Backup>& list)
+{
+    const QFileInfo file(lastBackupFile());
+    if (!file.isFile())
+        return;
+    const QDateTime made = file.lastModified();
+    list.push_back({made.toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss")), made, QStringLiteral("Last close"),
+        file.filePath(), {}, {}, 0, {}});
+}
+
+bool isSeveral(const std::vector<const Backup*>& found)
+{
+    return std::any_of(
+        found.begin(), found.end(), [&found](const Backup* each) { return each->file != found.front()->file; });
+}
+
+} // namespace
+
+std::vector<Backup> all()
+{
+    std::vector<Backup> list;
+    addLast(list);
+    for (const earlier::KeptFile& kept : earlier::all()) {
+        // A close that broke off has kept the backup that is still the last one.
+        if (sys::isSameFile(kept.file, lastBackupFile()))
+            continue;
+        const QString kind = kept.isPutAside ? QStringLiteral("Put aside") : QStringLiteral("Earlier close");
+        list.push_back({kept.name, kept.made, kind, kept.file, {}, {}, 0, {}});
+    }
+    std::stable_sort(list.begin(), list.end(), [](const Backup& a, const Backup& b) { return a.made > b.made; });
+    return list;
+}
+
+void read(Backup& backup)
+{
+    try {
+        const Household household(backup.file);
+        const std::optional<values::Currency> total = household.total();
+        backup.assets = household.assets();
+        backup.total = total ? total->toText() : QStringLiteral("?");
+        backup.reason.clear();
+        backup.state = QStringLiteral("In order");
+    } catch (const UnreadableHousehold& failure) {
+        backup.state = failure.state();
+        backup.reason = failure.reason();
+    }
+}
+
+const Backup& find(const std::vector<Backup>& among, const QString& name)
+{
+    std::vector<const Backup*> found;
+    for (const Backup& backup : among) {
+        if (backup.name == name || (name == "last" && backup.kind == "Last close"))
+            return backup;
+        if (!name.isEmpty() && backup.name.startsWith(name))
+            found.push_back(&backup);
+    }
+    if (found.empty())
+        throw Refusal(exit_code::Usage, QStringLiteral("There is no backup of %1. --list shows all.").arg(name));
+    if (isSeveral(found))
+        throw Refusal(exit_code::Usage, QStringLiteral("There are several backups of %1. --list shows all.").arg(name));
+    return *found.front();
+}
+
+QString spoken(const QDateTime& moment)
+{
+    return moment.toString(QStringLiteral("M/d/yyyy h:mm AP"));
+}
+
+QStringList headings()
+{
+    return {QStringLiteral("Made"), QStringLiteral("Kind"), QStringLiteral("Assets"), QStringLiteral("Total"),
+        QStringLiteral("State")};
+}
+
+QStringList columnsOf(const Backup& backup)
+{
+    const bool isCounted = backup.isInOrder();
+    return {spoken(backup.made), backup.kind, isCounted ? QString::number(backup.assets) : QString(),
+        isCounted ? backup.total : QString(), backup.isRead() ? backup.state : QStringLiteral("Being read...")};
+}
+
+} // namespace backups

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/exporting.h"
+
+#include "core/data_store.h"
+#include "platform/system/files.h"
+#include "tools/exit_codes.h"
+#include "tools/report_files.h"
+#include "tools/table_texts.h"
+#include "tools/text_file.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+using storage::Snapshot;
+
+namespace exporting {
+
+namespace {
+
+const QString DataFile = QStringLiteral("kestrill.json");
+const QString SchemaFile = QStringLiteral("kestrill.schema.json");
+constexpr int RowsBetweenTellings = 256;
+
+QString csvFileOf(const storage::TableDefinition& table)
+{
+    return QString::fromUtf8(table.name) + QStringLiteral(".csv");
+}
+
+// One export under way: what is written so far, of what all there is.
+class Export {
+public:
+    Export(const Household& household, const QString& folder, const Progress& progress)
+        : household_(household)
+        , folder_(folder)
+        , progress_(progress)
+        , reports_(reportsOf(household))
+    {
+        for (const Snapshot& table : household.tables())
+            all_ += 2 * table.rowCount();
+        for (const ReportFile& report : reports_)
+            all_ += report.pages->count();
+    }
+
+    void run()
+    {
+        for (const Snapshot& table : household_.tables())
+            writeTable(table);
+        writeData();
+        writeSchema();
+        for (const ReportFile& report : reports_)
+            writeReport(report);
+        sys::syncFolder(folder_);
+    }
+
+private:
+    QString file(const QString& name) const { return folder_ + u'/' + name; }
+
+    bool tell(int more) const { return !progress_ || progress_(done_ + more, all_); }
+
+    static void refuseCancelled()
+    {
+        throw Refusal(exit_code::Declined, QStringLiteral("Cancelled. Nothing was written."));
+    }
+
+    void count()
+    {
+        if (++done_ % RowsBetweenTellings == 0 && !tell(0))
+            refuseCancelled();
+    }
+
+    void writeTable(const Snapshot& table)
+    {
+        TextFile out(file(csvFileOf(table.definition())));
+        out.write(table_texts::csvHeadings(table.definition()));
+        for (int row = 0; row < table.rowCount(); ++row, count())
+            out.write(table_texts::csvRow(table, row));
+        out.finish();
+    }
+
+    void writeData()
+    {
+        TextFile out(file(DataFile));
+        out.write("{\n\"$schema\": " + table_texts::jsonText(SchemaFile.toStdString()));
+        out.write(",\n\"program\": \"Kestrill\",\n\"version\": \"" KESTRILL_VERSION "\",\n\"made\": \"");
+        out.write(QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString() + "\",\n\"tables\": {");
+        const char* separator = "\n";
+        for (const Snapshot& table : household_.tables()) {
+            out.write(separator + table_texts::jsonText(table.definition().name) + ": [");
+            writeRows(out, table);
+            out.write("]");
+            separator = ",\n";
+        }
+        out.write("\n}\n}\n");
+        out.finish();
+    }
+
+    void writeRows(TextFile& out, const Snapshot& table)
+    {
+        for (int row = 0; row < table.rowCount(); ++row, count()) {
+            out.write(row == 0 ? "\n" : ",\n");
+            out.write(table_texts::jsonRow(table, row));
+        }
+    }
+
+    void writeSchema() const
+    {
+        TextFile out(file(SchemaFile));
+        out.write(table_texts::jsonSchema(household_.tables()));
+        out.finish();
+    }
+
+    void writeReport(const ReportFile& report)
+    {
+        const QString path = file(report.name);
+        const report::Outcome outcome = report::savePdf(*report.pages, path, [this](int page) { return tell(page); });
+        if (outcome == report::Outcome::Cancelled)
+            refuseCancelled();
+        if (outcome == report::Outcome::Failed)
+            throw Refusal(exit_code::Failed, QStringLiteral("%1 could not be written.").arg(path));
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        done_ += report.pages->count();
+    }
+
+    const Household& household_;
+    QString folder_;
+    const Progress& progress_;
+    std::vector<ReportFile> reports_;
+    int done_ = 0;
+    int all_ = 0;
+};
+
+QStringList entriesOf(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+// An empty folder gives way by itself. A former export goes in the same step as the new one comes.
+void putInPlace(QTemporaryDir& written, const QString& folder)
+{
+    if (!entriesOf(folder).isEmpty()) {
+        sys::exchangeFolders(written.path(), folder);
+        return;
+    }
+    sys::renameFile(written.path(), folder);
+    written.setAutoRemove(false);
+}
+
+void writeWhole(const Household& household, const QString& folder, const Progress& progress)
+{
+    const QString above = QFileInfo(folder).path();
+    QTemporaryDir written(above + QStringLiteral("/.kestrill-export-XXXXXX"));
+    if (!written.isValid())
+        throw Refusal(
+            exit_code::Failed, QStringLiteral("Nothing can be written in %1: %2.").arg(above, written.errorString()));
+    Export(household, written.path(), progress).run();
+    putInPlace(written, folder);
+    sys::syncFolder(above);
+}
+
+} // namespace
+
+QStringList fileNames()
+{
+    QStringList names{DataFile, SchemaFile};
+    for (const storage::TableDefinition* table : databaseTables())
+        names.append(csvFileOf(*table));
+    return names + reportFileNames();
+}
+
+bool isFormerExport(const QString& folder)
+{
+    const QFileInfo there(folder);
+    if (!there.exists() && !there.isSymLink())
+        return false;
+    if (!there.isDir())
+        throw Refusal(exit_code::Failed, QStringLiteral("%1 is no folder.").arg(folder));
+    const QStringList entries = entriesOf(folder);
+    const QStringList ours = fileNames();
+    const auto isOurs = [&ours](const QString& entry) { return ours.contains(entry); };
+    if (!std::all_of(entries.begin(), entries.end(), isOurs))
+        throw Refusal(exit_code::Failed,
+            QStringLiteral("%1 holds other files. An export takes a folder of its own.").arg(folder));
+    return !entries.isEmpty();
+}
+
+void write(const Household& household, const QString& folder, Former former, const Progress& progress)
+{
+    const QString target = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    if (isFormerExport(target) && former == Former::Kept)
+        throw Refusal(exit_code::Failed, QStringLiteral("There is an export in %1 already.").arg(target));
+    try {
+        const QFileInfo link(target); // a link keeps leading to its folder
+        writeWhole(household, link.isSymLink() ? link.canonicalFilePath() : target, progress);
+    } catch (const values::RuntimeFailure& failure) {
+        throw Refusal(exit_code::Failed, failure.text());
+    }
+}
+
+QString freshFolderIn(const QString& folder)
+{
+    const QString name = folder + QStringLiteral("/Kestrill ") + QDate::currentDate().toString(Qt::ISODate);
+    QString fresh = name;
+    for (int number = 2; QFileInfo::exists(fresh); ++number)
+        fresh = name + QStringLiteral(" (%1)").arg(number);
+    return fresh;
+}
+
+} // namespace exporting

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/frmExport.h"
+
+#include "core/conventions.h"
+#include "platform/forms/folder_choice.h"
+#include "platform/report/progress.h"
+#include "tools/exit_codes.h"
+#include "tools/exporting.h"
+#include "tools/source.h"
+
+#include <QDir>
+
+namespace {
+
+constexpr int Percent = 100;
+
+// The program is an application of its own for the moment: no other window of it takes input.
+exporting::Progress shownIn(report::ProgressWindow& window)
+{
+    return [progress = window.progress()](
+               int done, int all) { return progress(static_cast<int>(qint64{done} * Percent / std::max(all, 1))); };
+}
+
+} // namespace
+
+frmExport::frmExport()
+    : forms::Form("frmExport")
+{
+    look();
+}
+
+void frmExport::Form_Load()
+{
+    tmStart.setEnabled(true);
+}
+
+void frmExport::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    forms::endProcess(exit_code::Done);
+}
+
+// Whoever has asked for an export is asked at once where to.
+void frmExport::tmStart_Timer()
+{
+    tmStart.setEnabled(false);
+    cmdChoose_Click();
+}
+
+void frmExport::cmdChoose_Click()
+{
+    const QString folder = forms::chooseFolder("Choose The Folder For The Export", QDir::homePath());
+    if (folder.isEmpty())
+        return;
+    try {
+        export_To(exporting::freshFolderIn(folder));
+    } catch (const Refusal& refusal) {
+        lblResult.setCaption(refusal.words());
+        conventions::MsgBox(
+            refusal.words(), refusal.code() == exit_code::Declined ? forms::box::Information : forms::box::Stop);
+    } catch (const UnreadableHousehold& failure) {
+        conventions::MsgBox(failure.reason(), forms::box::Stop);
+    }
+}
+
+void frmExport::export_To(const QString& folder)
+{
+    lblResult.setCaption("Please Wait...");
+    const Household household(sourceFile({}));
+    {
+        report::ProgressWindow window("Everything is being written...", Percent, this->window());
+        exporting::write(household, folder, exporting::Former::Kept, shownIn(window));
+    }
+    lblResult.setCaption(
+        QStringLiteral("Written: %1, in the folder\n%2").arg(household.summary(), QDir::toNativeSeparators(folder)));
+    cmdClose.setFocus();
+}

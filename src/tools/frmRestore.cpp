@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/frmRestore.h"
+
+#include "core/conventions.h"
+#include "core/places.h"
+#include "tools/comparison.h"
+#include "tools/exit_codes.h"
+#include "tools/frmRestored.h"
+#include "tools/restoring.h"
+
+#include <algorithm>
+
+using conventions::MsgBox;
+
+frmRestore::frmRestore()
+    : forms::Form("frmRestore")
+{
+    look();
+}
+
+// The list stands at once; what is in each backup follows, one at a time.
+void frmRestore::Form_Load()
+{
+    list_ = backups::all();
+    for (const Backup& backup : list_)
+        lstBackups.addRecord(backups::columnsOf(backup));
+    cmdRestore.setEnabled(!list_.empty());
+    pbRestore.setMax(static_cast<int>(list_.size()) + 1);
+    show_State();
+    tmRead.setEnabled(true);
+}
+
+void frmRestore::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    forms::endProcess(exit_code::Done);
+}
+
+void frmRestore::tmRead_Timer()
+{
+    if (!isTodayRead_) {
+        read_Today();
+        return;
+    }
+    const auto unread = std::find_if(list_.begin(), list_.end(), [](const Backup& backup) { return !backup.isRead(); });
+    if (unread == list_.end()) {
+        tmRead.setEnabled(false);
+        pbRestore.setVisible(false);
+        return;
+    }
+    read_Backup(static_cast<std::size_t>(unread - list_.begin()));
+}
+
+void frmRestore::lstBackups_Click()
+{
+    show_State();
+}
+
+void frmRestore::cmdRestore_Click()
+{
+    const auto picked = static_cast<std::size_t>(lstBackups.picked());
+    if (!list_[picked].isRead())
+        read_Backup(picked);
+    const Backup& chosen = list_[picked];
+    try {
+        restoring::refuse_While_Running();
+        const Household household(chosen.file);
+        read_Today();
+        if (MsgBox(question(chosen, household), forms::box::Exclamation + forms::box::YesNo) == forms::Answer::Yes)
+            restore(chosen);
+    } catch (const Refusal& refusal) {
+        MsgBox(refusal.words(), forms::box::Stop);
+    } catch (const UnreadableHousehold& failure) {
+        MsgBox(QStringLiteral("This backup can't be restored: %1.").arg(failure.reason()), forms::box::Stop);
+    }
+}
+
+void frmRestore::restore(const Backup& chosen)
+{
+    pbRestore.setValue(0);
+    pbRestore.setMax(restoring::StepCount);
+    pbRestore.setVisible(true);
+    tmRead.setEnabled(false);
+    try {
+        const restoring::Result result = restoring::lay_Down(chosen, [this](int step) { pbRestore.setValue(step); });
+        forms::screen<frmRestored>().tell(backups::spoken(chosen.made), result.summary, result.putAside);
+        hide();
+    } catch (const Refusal&) {
+        pbRestore.setVisible(false);
+        throw;
+    }
+}
+
+void frmRestore::read_Today()
+{
+    isTodayRead_ = true;
+    try {
+        today_.emplace(places::databaseFile());
+        lblToday.setCaption(QStringLiteral("Today's file: %1").arg(today_->summary()));
+    } catch (const UnreadableHousehold& failure) {
+        today_.reset();
+        whyNotToday_ = failure.reason();
+        lblToday.setCaption(QStringLiteral("Today's file: %1").arg(failure.state().toLower()));
+    }
+}
+
+void frmRestore::read_Backup(std::size_t index)
+{
+    backups::read(list_[index]);
+    lstBackups.setRecord(static_cast<int>(index), backups::columnsOf(list_[index]));
+    pbRestore.setValue(std::min(pbRestore.value() + 1, pbRestore.max()));
+    show_State();
+}
+
+void frmRestore::show_State()
+{
+    if (list_.empty()) {
+        lblState.setCaption("There is no backup yet: the program makes one each time it is closed.");
+        return;
+    }
+    const Backup& picked = list_[static_cast<std::size_t>(lstBackups.picked())];
+    lblState.setCaption(!picked.isRead() ? QStringLiteral("This backup is being read...")
+            : picked.isInOrder()         ? QStringLiteral("This backup can be read to its last page.")
+                                         : QStringLiteral("This backup can't be restored: %1.").arg(picked.reason));
+}
+
+QString frmRestore::question(const Backup& chosen, const Household& household) const
+{
+    QStringList lines{QStringLiteral("Go back to the backup of %1?").arg(backups::spoken(chosen.made)), QString(),
+        QStringLiteral("The backup: %1").arg(household.summary())};
+    if (!today_) {
+        lines.append(QStringLiteral("Today's file can't be read: %1").arg(whyNotToday_));
+    } else {
+        lines.append(QStringLiteral("Today's file: %1").arg(today_->summary()));
+        const QStringList lost = what_Is_Lost(*today_, household);
+        lines += QString();
+        lines += lost.isEmpty() ? QStringList(QStringLiteral("Both hold the same.")) : lost;
+    }
+    lines += {QString(), QStringLiteral("Today's file is put aside and can be brought back in the same way.")};
+    return lines.join(u'\n');
+}

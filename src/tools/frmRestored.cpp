@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/frmRestored.h"
+
+#include "tools/exit_codes.h"
+
+frmRestored::frmRestored()
+    : forms::Form("frmRestored")
+{
+    look();
+}
+
+void frmRestored::Form_Unload(bool& cancel)
+{
+    cancel = true;
+    forms::endProcess(exit_code::Done);
+}
+
+void frmRestored::tell(const QString& made, const QString& summary, const QString& putAside)
+{
+    lblTell[0].setCaption(QStringLiteral("The household is as it was at the backup of %1: %2.").arg(made, summary));
+    lblTell[1].setCaption(putAside.isEmpty()
+            ? QStringLiteral("There was no file before, so there is none to go back to.")
+            : QStringLiteral("The file that was there until now is put aside. To go back to it, choose Restore From "
+                             "Backup again and pick the line \"Put aside\", or give the command"));
+    lblTell[2].setCaption(putAside.isEmpty() ? QString() : QStringLiteral("kestrill-restore --restore ") + putAside);
+    show();
+}

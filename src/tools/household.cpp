@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/household.h"
+
+#include "core/data_store.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using storage::FileReader;
+using storage::Snapshot;
+using values::Currency;
+using values::RuntimeFailure;
+
+namespace {
+
+// Runs a step of the reading; what fails in it is told with what that means.
+template <class Step>
+auto orUnreadable(const QString& state, Step step)
+{
+    try {
+        return step();
+    } catch (const RuntimeFailure& failure) {
+        throw UnreadableHousehold(state, failure.text().section(QStringLiteral(": "), 1)); // without its kind
+    }
+}
+
+FileReader openedReader(const QString& file, FileReader::Locks locks)
+{
+    const QFileInfo found(file);
+    if (!found.exists())
+        throw UnreadableHousehold(QStringLiteral("Missing"), file + QStringLiteral(" does not exist"));
+    if (!found.isReadable())
+        throw UnreadableHousehold(QStringLiteral("No right to read"), file + QStringLiteral(" can't be read"));
+    return orUnreadable(QStringLiteral("Damaged or foreign"), [&] { return FileReader(file, databaseKey(), locks); });
+}
+
+} // namespace
+
+UnreadableHousehold::UnreadableHousehold(const QString& state, const QString& reason)
+    : RuntimeFailure(values::FailureKind::Database, reason)
+    , state_(state)
+    , reason_(reason)
+{
+}
+
+Household::Household(const QString& file, FileReader::Locks locks)
+{
+    FileReader reader = openedReader(file, locks);
+    journal_ = reader.journal();
+    orUnreadable(QStringLiteral("Damaged"), [&reader] { reader.readThrough(); });
+    for (const storage::TableDefinition* table : databaseTables())
+        tables_.push_back(orUnreadable(QStringLiteral("Another version"), [&] { return reader.rows(*table); }));
+    if (this->table("Personal_Info").rowCount() == 0)
+        throw UnreadableHousehold(QStringLiteral("Another version"), QStringLiteral("it holds no household"));
+}
+
+const Snapshot& Household::table(std::string_view name) const
+{
+    return *std::find_if(
+        tables_.begin(), tables_.end(), [name](const Snapshot& table) { return name == table.definition().name; });
+}
+
+int Household::assets() const
+{
+    return table("Inventory").rowCount();
+}
+
+std::optional<Currency> Household::total() const
+{
+    const Snapshot& assets = table("Inventory");
+    Currency sum;
+    try {
+        for (int row = 0; row < assets.rowCount(); ++row)
+            sum += Currency::tryParse(assets.text(row, Inventory::Amount)).value_or(Currency());
+    } catch (const RuntimeFailure&) {
+        return std::nullopt;
+    }
+    return sum;
+}
+
+QString Household::summary() const
+{
+    const std::optional<Currency> sum = total();
+    return counted(assets(), QStringLiteral("asset"), QStringLiteral("assets")) + QStringLiteral(", ")
+        + (sum ? sum->toText() : QStringLiteral("more than can be counted"));
+}
+
+QString counted(int count, const QString& one, const QString& many)
+{
+    return QString::number(count) + u' ' + (count == 1 ? one : many);
+}

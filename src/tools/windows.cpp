@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/windows.h"
+
+#include "core/conventions.h"
+#include "core/program_name.h"
+#include "tools/frmExport.h"
+#include "tools/frmRestore.h"
+
+#include <QApplication>
+
+namespace windows {
+
+namespace {
+
+template <class First>
+int run(int& argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    name_Program();
+    forms::prepare(application);
+    forms::setReportWords(conventions::Title, [] { return QStringLiteral("Nothing was lost."); });
+    forms::runAsHandler("main", [] { forms::screen<First>().show(); });
+    return QApplication::exec();
+}
+
+} // namespace
+
+int restore(int& argc, char* argv[])
+{
+    return run<frmRestore>(argc, argv);
+}
+
+int exportAll(int& argc, char* argv[])
+{
+    return run<frmExport>(argc, argv);
+}
+
+} // namespace windows

@@ -1,0 +1,93 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# A household that was damaged comes back by the window and by the command, and goes out whole to other programs.
+
+Commands=$Place/prefix/bin
+
+two_closes() {
+    step "two closes: the second keeps the backup of the first"
+    [ -x "$Commands/kestrill" ] || cmake --install "$Build" --prefix "$Place/prefix" >/dev/null
+    use_home "$Place/back"
+    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    local city
+    for city in Utica Rome; do
+        sqlcipher_with_key "$Database" "update Personal_Info set [Introduced] = '1', [City] = '$city'"
+        start_program
+        wait_screen frmMain
+        keys alt+x
+        answer "closed-in-$city" Return
+        ends_with 0
+    done
+    same "$(cd "$HOME/.local/share/KTL-backups" && command find . -name KTL.db | wc -l)" 1 "not one earlier backup"
+    expect_mode "$HOME/.local/share/KTL-backups" 700
+}
+
+# Each page but the first, as by a disk that fails.
+damage() {
+    local page pages
+    pages=$(($(stat -c %s "$Database") / 1024))
+    for ((page = 1; page < pages; page++)); do
+        printf '%016d' "$page" | dd of="$Database" bs=1 seek=$((page * 1024 + 100)) conv=notrunc status=none
+    done
+}
+
+by_the_window() {
+    step "damaged page by page: the launcher offers the backups, and keys bring one back"
+    damage
+    cp "$Database" "$Place/damaged.db"
+    "$Commands/kestrill" >>"$Log" 2>&1 &
+    Program=$!
+    answer cannot-load Return
+    wait_screen frmRestore
+    shot backups
+    keys Down Return
+    answer go-back Return
+    wait_screen frmRestored
+    shot restored
+    keys Return
+    ends_with 3
+    same "$(sql "$Database" "select City from Personal_Info")" Utica "not the earlier backup"
+    cmp -s "$Place/damaged.db" "$HOME"/.local/share/KTL-backups/*_put-aside/KTL.db || fail "today's file was not put aside"
+    start_program
+    wait_screen frmMain
+    same "$("$Commands/kestrill-restore" --restore last --yes 2>&1 || echo $?)" $'Kestrill is running. Close it first.\n4' \
+        "restored while the program runs"
+    same "$("$Commands/kestrill-check" >/dev/null 2>&1 || echo $?)" 4 "checked while the program runs"
+    kill -TERM "$Program"
+    ends_with 0
+}
+
+by_the_command() {
+    step "damaged again: the command brings the last backup back, and says what it is"
+    local status=0
+    damage
+    "$Commands/kestrill-check" >"$Place/check" 2>&1 || status=$?
+    same "$status" 3 "the check says $status of a damaged file"
+    "$Commands/kestrill-restore" --list >"$Place/list"
+    same "$(cut -f 2,5 "$Place/list" | sort | uniq -c | tr -s ' ' | tr '\t\n' ' ,')" \
+        " 1 Earlier close In order, 1 Last close In order, 1 Put aside Damaged or foreign," "the list is $(cat "$Place/list")"
+    "$Commands/kestrill-restore" --restore last --yes >"$Place/said" 2>&1
+    grep -q 'To go back: kestrill-restore --restore' "$Place/said" || fail "not told how to go back: $(cat "$Place/said")"
+    same "$(sql "$Database" "select City from Personal_Info")" Rome "not the last backup"
+    "$Commands/kestrill-check" >"$Place/check" || fail "the check finds: $(cat "$Place/check")"
+}
+
+everything_out() {
+    step "exported: another program reads each text as it is"
+    local columns='[Financial Institution], [Address], [Phone1], [Phone2], [Phone3], [Account Number], [City]'
+    sqlcipher_with_key "$Database" "insert into Bank_Info values (7, '\"quoted\", and' || char(13, 10) || 'more',
+        ' blanks ', char(27) || '[2J', '=1+1', '\\', char(128512, 8238), ''';--', '\$1.00', '1/1/2026', 'None',
+        'caf' || char(233), 'NY')"
+    env -u DISPLAY "$Commands/kestrill-export" "$Place/export" >>"$Log"
+    cp "$Database" "$Place/copy.db"
+    same "$(sqlcipher_with_key "$Place/copy.db" ".mode csv" ".import '$Place/export/Bank_Info.csv' back" \
+        "select count(*) from (select $columns from Bank_Info intersect select $columns from back)")" 1 "a text has changed"
+    holds "$Place/export/Cover Sheet.pdf" Rome
+    expect_mode "$Place/export" 700
+    same "$("$Commands/kestrill-export" "$Place/export" >/dev/null 2>&1 || echo $?)" 6 "an export was overwritten"
+}
+
+two_closes
+by_the_window
+by_the_command
+everything_out

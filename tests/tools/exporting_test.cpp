@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools_test.h"
+
+#include "support/pdf_text.h"
+#include "tools/exporting.h"
+#include "tools/household.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using exporting::Former;
+using testing::HasSubstr;
+
+namespace {
+
+const QStringList hostileTexts = {QStringLiteral("\"quoted\", and more"), QStringLiteral("two\r\nlines\nand\rmore"),
+    QStringLiteral(" blanks at both ends "), QStringLiteral("=HYPERLINK(\"http://x\")"),
+    QStringLiteral("back\\slash \\u0041"), QStringLiteral("caf\u00e9 \u4f60\u597d \U0001F600 \u202Ereversed"),
+    QString(QChar(u'\0')) + "\x01\x1b[31m\x7f", QStringLiteral("'; DROP TABLE Inventory; --"),
+    QStringLiteral("</script>&amp;"), QString(70'000, u'\u00fc')};
+
+// As RFC 4180 has them: what is between quotes is taken as it stands.
+std::vector<std::vector<QByteArray>> readCsv(const QByteArray& text)
+{
+    std::vector<std::vector<QByteArray>> rows(1, {QByteArray()});
+    bool isQuoted = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        QByteArray& field = rows.back().back();
+        if (text[i] == '"' && isQuoted && text.mid(i + 1, 1) == "\"")
+            field += text[i++];
+        else if (text[i] == '"')
+            isQuoted = !isQuoted;
+        else if (!isQuoted && text[i] == ',')
+            rows.back().emplace_back();
+        else if (!isQuoted && text.mid(i, 2) == "\r\n" && ++i > 0)
+            rows.push_back({QByteArray()});
+        else
+            field += text[i];
+    }
+    rows.pop_back();
+    return rows;
+}
+
+class ExportingTest : public ToolsTest {
+protected:
+    void SetUp() override
+    {
+        ToolsTest::SetUp();
+        for (const QString& text : hostileTexts)
+            addAsset(text, "$1,234.50", text);
+        folder_ = places::databaseFolder() + "/../out";
+    }
+
+    QByteArray file(const QString& name) const { return contentsOf(folder_ + '/' + name); }
+
+    std::string textOf(const QString& name) const
+    {
+        QString text;
+        for (const pdf::Page& page : pdf::read(folder_ + '/' + name))
+            text += page.text() + ' ';
+        return text.toStdString();
+    }
+
+    static QStringList beside()
+    {
+        return QDir(places::databaseFolder() + "/..").entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    QString folder_;
+};
+
+} // namespace
+
+TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJson)
+{
+    const QByteArray before = contentsOf(places::databaseFile());
+    const Household household(places::databaseFile());
+    exporting::write(household, folder_, Former::Kept);
+    EXPECT_EQ(contentsOf(places::databaseFile()), before);
+    const QJsonObject data = QJsonDocument::fromJson(file("kestrill.json")).object();
+    const QJsonObject schema = QJsonDocument::fromJson(file("kestrill.schema.json")).object();
+    const QJsonObject tables = schema["properties"]["tables"]["properties"].toObject();
+    EXPECT_EQ(tables.keys(), data["tables"].toObject().keys());
+    for (const storage::Snapshot& table : household.tables()) {
+        const auto& columns = table.definition().columns;
+        const QString name = table.definition().name;
+        SCOPED_TRACE(name.toStdString());
+        const auto csv = readCsv(file(name + ".csv"));
+        const QJsonArray rows = data["tables"][name].toArray();
+        ASSERT_EQ(csv.size(), static_cast<std::size_t>(table.rowCount()) + 1);
+        ASSERT_EQ(rows.size(), table.rowCount());
+        EXPECT_EQ(tables[name]["items"]["required"].toArray().size(), static_cast<qsizetype>(columns.size()));
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            EXPECT_EQ(csv[0][column], columns[column].name);
+            const bool isAmount = columns[column].type == storage::ColumnType::Currency;
+            for (int row = 0; row < table.rowCount() && !isAmount; ++row) {
+                const std::string_view wanted = table.utf8(row, static_cast<int>(column));
+                EXPECT_EQ(csv[static_cast<std::size_t>(row) + 1][column].toStdString(), wanted);
+                const QJsonValue value = rows[row].toObject()[columns[column].name];
+                EXPECT_EQ(
+                    value.isString() ? value.toString().toStdString() : std::to_string(value.toInteger()), wanted);
+            }
+        }
+    }
+    EXPECT_EQ(data["tables"]["Personal_Info"].toArray().at(0)["AssetValue"].toString(), "12345.0000");
+}
+
+TEST_F(ExportingTest, WritesTheReportsForTheHouseholdAlone)
+{
+    exporting::write(Household(places::databaseFile()), folder_, Former::Kept);
+    EXPECT_THAT(textOf("Asset Report.pdf"), HasSubstr("Item: =HYPERLINK(\"http://x\") Description"));
+    EXPECT_THAT(textOf("Cover Sheet.pdf"), HasSubstr("$12,345.00"));
+    EXPECT_EQ(QFile::permissions(folder_), QFile::Permissions(0x7700));
+    QStringList wanted = exporting::fileNames();
+    wanted.sort();
+    QStringList found = QDir(folder_).entryList(QDir::Files | QDir::Hidden);
+    found.sort();
+    EXPECT_EQ(found, wanted);
+    for (const QString& name : found)
+        EXPECT_EQ(QFile::permissions(folder_ + '/' + name), QFile::Permissions(0x6600)) << name.toStdString();
+}
+
+TEST_F(ExportingTest, IsWholeOrNotThere)
+{
+    const Household household(places::databaseFile());
+    const QStringList before = beside();
+    std::vector<int> told;
+    const auto cancelAt = [&told](int step) {
+        return [&told, step](int done, int all) {
+            told.push_back(all);
+            return done < step * all / 10;
+        };
+    };
+    for (int step = 0; step <= 9; ++step)
+        EXPECT_EQ(
+            refusal([&] { exporting::write(household, folder_, Former::Kept, cancelAt(step)); }), exit_code::Declined);
+    for (const rlim_t bytes : {1000, 40'000, 100'000}) {
+        const FullDisk full(bytes);
+        EXPECT_EQ(refusal([&] { exporting::write(household, folder_, Former::Kept); }), exit_code::Failed);
+    }
+    EXPECT_EQ(refusal([&] { exporting::write(household, folder_ + "/no/where", Former::Kept); }), exit_code::Failed);
+    EXPECT_EQ(beside(), before);
+}
+
+TEST_F(ExportingTest, TakesThePlaceOfNothingButAnExportThatIsGivenUp)
+{
+    const Household household(places::databaseFile());
+    QDir().mkdir(folder_);
+    exporting::write(household, folder_, Former::Kept); // an empty folder is free
+    put(folder_ + "/Inventory.csv", "former");
+    EXPECT_EQ(refusal([&] { exporting::write(household, folder_, Former::Kept); }), exit_code::Failed);
+    EXPECT_EQ(file("Inventory.csv"), "former");
+    exporting::write(household, folder_, Former::Replaced);
+    EXPECT_NE(file("Inventory.csv"), "former");
+    put(folder_ + "/letter.txt", "not ours");
+    EXPECT_EQ(refusal([&] { exporting::write(household, folder_, Former::Replaced); }), exit_code::Failed);
+    EXPECT_EQ(
+        refusal([&] { exporting::write(household, folder_ + "/letter.txt", Former::Replaced); }), exit_code::Failed);
+    EXPECT_EQ(file("letter.txt"), "not ours");
+    EXPECT_EQ(beside().filter("kestrill").size(), 0);
+}
