@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# shellcheck shell=bash disable=SC2016,SC2034,SC2154 # the files of this folder share their variables
 # From the first start to the second by keys alone, each screen known by the name that is read out: on any display, with
 # the program of a build or the installed one.
 
