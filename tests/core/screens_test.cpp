@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounts/frmBank.h"
 #include "accounts/frmEditBankBoxes.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
@@ -94,6 +95,13 @@ forms::Form& warranty()
     return screen<frmWar>();
 }
 
+forms::Form& account()
+{
+    shown<frmEditBankBoxes>();
+    press(Qt::Key_Return);
+    return screen<frmBank>();
+}
+
 /// A screen as a user comes to it, and where the Tab key goes from there until it is back.
 struct Walk {
     forms::Form& (*open)();
@@ -131,6 +139,9 @@ constexpr Walk walks[] = {
     {shown<frmInsInfo>,
         "txtCompany txtPolicyNum txtPolicyExpire txtCoverageAmt chkNotify cmdUpdate cmdCancel cmdClear"},
     {shown<frmEditBankBoxes>, "optEdit(0) cmdUpdate cmdCancel"},
+    {account,
+        "txtName txtAddress txtCity cmbState txtPhone1 txtPhone2 txtPhone3 cmbType txtAccount txtRoute txtBalance "
+        "txtDate cmdBack cmdState"},
 };
 
 class AllScreens : public ScreenTest {

@@ -153,13 +153,15 @@ is_heard_in_front() { [[ $(heard_in_front) == $1 ]]; }
 # wait_heard PATTERN: where the display tells nothing of its windows, a screen is known by the name that is read out.
 wait_heard() { until_true "the window \"$1\" in front" is_heard_in_front "$1"; }
 
-# What a screen reader finds of each kind of window, the first time that one is in front.
+# What a screen reader finds of each kind of window, the first time that one is in front; not of those that close by
+# themselves.
 hear() {
     local kind
     kind=$(screen_in_front)
-    [ -n "$kind" ] || return 0
+    [[ $kind && $kind != frmBW_Splash && $kind != frmExit ]] || return 0
     grep -qsx "== $kind" "$Pictures/heard.txt" && return
     printf '== %s\n' "$kind" >>"$Pictures/heard.txt"
+    until_true "$kind on the accessibility bus" is_heard_in_front "?*"
     "$Here/screen_reader.py" walk >>"$Pictures/heard.txt" || fail "a screen reader can't use $kind"
 }
 

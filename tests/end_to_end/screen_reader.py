@@ -3,14 +3,17 @@
 """What a screen reader finds of Kestrill on the accessibility bus.
 
 front: the name of the window in front. walk: that window and each control in it that is shown, as "role | name |
-description | states". A control without a name ends with status 1."""
+description | states", with "~" for what moves with the date. A control without a name ends with status 1."""
 
+import calendar
+import re
 import sys
 
 import pyatspi
 
 BARE = {"filler", "panel", "scroll pane", "viewport", "separator", "scroll bar", "table cell", "list item", "label"}
 STATES = ("editable", "multi-line", "read-only", "checkable", "default")
+DATES = re.compile(r"\b(?:%s)\b" % "|".join([r"\d+", *calendar.month_name[1:], *calendar.day_name]))
 TAKEN = {"push button", "check box", "radio button", "text", "password text", "combo box", "table"}
 
 
@@ -28,11 +31,13 @@ def front():
 
 
 def name_of(item):
-    """Its label's words, where it has a label: so does a screen reader."""
+    """Its label's words, where it has a label: so does a screen reader. An option has words of its own beside it."""
+    own = item.name.strip()
     for relation in item.getRelationSet():
         if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY:
-            return relation.getTarget(0).name.strip()
-    return item.name.strip()
+            label = relation.getTarget(0).name.strip()
+            return f"{label}: {own}" if item.getRoleName() == "radio button" else label
+    return own
 
 
 def line(item):
@@ -40,7 +45,8 @@ def line(item):
     if item.getRoleName() in TAKEN and "enabled" in states and "focusable" not in states:
         sys.exit(f"the focus can't be moved to {item.getRoleName()} {name_of(item)!r}")
     shown = [state for state in STATES if state in states]
-    return " | ".join((item.getRoleName(), name_of(item), item.description.strip(), " ".join(shown))).rstrip(" |")
+    words = (item.getRoleName(), name_of(item), item.description.strip(), " ".join(shown))
+    return DATES.sub("~", " | ".join(words).rstrip(" |"))
 
 
 def walk(item):

@@ -172,6 +172,7 @@ MonthPage::MonthPage(QWidget* parent, MonthCalendar& calendar)
     layOut();
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(days_);
+    setAccessibleName(QStringLiteral("Calendar"));
 }
 
 QPushButton* MonthPage::makeTurner(const QString& sign, const QString& name, int months)
