@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "accounts/frmBank.h"
 #include "accounts/frmEditBankBoxes.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
@@ -81,6 +80,17 @@ forms::Form& toUpdate()
     return screen<frmAddUpDel>();
 }
 
+// Of an area, whose places are there to choose from.
+forms::Form& search()
+{
+    shown<frmMain>();
+    click(screen<frmMain>().cmdIn);
+    click(screen<frmAuto>().cmdUpdate[1]);
+    pick(screen<frmSearch>().cmbLocation, "Attic");
+    click(screen<frmSearch>().txtKey);
+    return screen<frmSearch>();
+}
+
 forms::Form& results()
 {
     shown<frmSearch>();
@@ -95,11 +105,12 @@ forms::Form& warranty()
     return screen<frmWar>();
 }
 
-forms::Form& account()
+// With a date that is still to come, without which the notice asks for one.
+forms::Form& policy()
 {
-    shown<frmEditBankBoxes>();
-    press(Qt::Key_Return);
-    return screen<frmBank>();
+    shown<frmInsInfo>();
+    screen<frmInsInfo>().txtPolicyExpire.setText("1/1/2030");
+    return screen<frmInsInfo>();
 }
 
 /// A screen as a user comes to it, and where the Tab key goes from there until it is back.
@@ -117,7 +128,7 @@ constexpr Walk walks[] = {
         "cmbLoc cmbCat cmbType cmbYear txtMake txtMod txtSerial optPurNewUsed(0) txtPur txtPPrice optRecOnFile(1) "
         "txtLoc txtDescription chkWar chkClear cmdAdd cmdCancel cmdMain cmdClear"},
     {toUpdate,
-        "cmbArea cmbLoc cmbCat cmbType cmbYear txtMake txtMod txtSerial optPurNewUsed(0) txtPur txtPPrice "
+        "cmbArea cmbLoc cmbCat cmbType cmbYear txtMake txtMod txtSerial optPurNewUsed(1) txtPur txtPPrice "
         "optRecOnFile(1) txtLoc txtDescription cmdWarranty cmdUpdate cmdDelete cmdCancel cmdMain cmdPrint"},
     {warranty,
         "cmbParts txtPAmt txtPCover cmbPMonth cmbPDay cmbPYear cmbLabor txtLAmt txtLCover cmbLMonth cmbLDay "
@@ -126,7 +137,7 @@ constexpr Walk walks[] = {
     {shown<frmAddField>, "txtAdd cmdUpdate cmdCancel"},
     {shown<frmUpdate>, "cmbCat txtNew cmdUpdate cmdCancel"},
     {shown<frmDelField>, "cmbCat cmdUpdate cmdCancel"},
-    {shown<frmSearch>, "txtKey cmbArea cmbLocation cmbCat cmbType cmdBack cmdClearForm cmdContinue"},
+    {search, "txtKey cmbLocation cmbCat cmbType cmdBack cmdClearForm cmdContinue"},
     {results, "cmdNext cmdBack cmdPrint cmdMain"},
     {shown<frmPrint>,
         "cmdInPrint(0) cmdOutPrint(2) cmdAutoPrint(1) cmdAllPrint(3) cmdCustom(4) cmdCover(0) "
@@ -136,12 +147,8 @@ constexpr Walk walks[] = {
         "txtInfo(1) txtInfo(2) txtInfo(0) txtInfo(3) txtInfo(4) cmbState txtInfo(6) txtInfo(7) "
         "txtInfo(8) txtInfo(9) txtInfo(10) txtInfo(11) txtInfo(12) txtInfo(13) txtInfo(14) "
         "txtInfo(15) txtInfo(16) cmdInsInfo cmdBank cmdContinue(0) cmdBack(0) cmdExit"},
-    {shown<frmInsInfo>,
-        "txtCompany txtPolicyNum txtPolicyExpire txtCoverageAmt chkNotify cmdUpdate cmdCancel cmdClear"},
+    {policy, "txtCompany txtPolicyNum txtPolicyExpire txtCoverageAmt chkNotify cmdUpdate cmdCancel cmdClear"},
     {shown<frmEditBankBoxes>, "optEdit(0) cmdUpdate cmdCancel"},
-    {account,
-        "txtName txtAddress txtCity cmbState txtPhone1 txtPhone2 txtPhone3 cmbType txtAccount txtRoute txtBalance "
-        "txtDate cmdBack cmdState"},
 };
 
 class AllScreens : public ScreenTest {
@@ -155,6 +162,9 @@ protected:
                 Data1.rsInventory.Fields(column) = column == Inventory::Amount ? "$12.50" : "None";
             Data1.rsInventory.Fields(Inventory::Area) = "Indoor";
             Data1.rsInventory.Fields(Inventory::Make) = "Acme";
+            // Without a month its day asks for one.
+            for (const auto month : {Inventory::PartsMonth, Inventory::LaborMonth})
+                Data1.rsInventory.Fields(month) = "Jan";
             Data1.rsInventory.Update();
         }
     }

@@ -169,6 +169,21 @@ hear() {
 
 keys() { xdotool key --delay 15 "$@"; }
 
+fingerprint() { import -window root ppm:- | md5sum; }
+
+has_changed() { [ "$(fingerprint)" != "$1" ]; }
+
+is_still() { ! has_changed "$(fingerprint)"; }
+
+# keys_seen KEYS...: and waits until the display has answered and stands still, as one does who looks at a list.
+keys_seen() {
+    local before
+    before=$(fingerprint)
+    keys "$@"
+    until_true "an answer to $*" has_changed "$before"
+    until_true "the display to stand still" is_still
+}
+
 text() { xdotool type --delay 15 "$1"; }
 
 click_at() { xdotool mousemove "$1" "$2" click 1; }

@@ -53,7 +53,8 @@ def walk(item):
     if not item.getState().contains(pyatspi.STATE_SHOWING):
         return
     role = item.getRoleName()
-    if role not in BARE:
+    border = role == "frame" and item.parent.getRoleName() == "filler"  # not a window
+    if role not in BARE and not (border and not name_of(item)):
         if not name_of(item):
             sys.exit(f"a {role} in {item.parent.getRoleName()} {item.parent.name!r} has no name")
         print(line(item))
@@ -66,6 +67,6 @@ window = front()
 if not window:
     sys.exit("no window of Kestrill is in front")
 if sys.argv[1] == "front":
-    print(window.name)
+    print(window.name.strip())
 else:
     walk(window)
