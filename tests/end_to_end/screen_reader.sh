@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# shellcheck shell=bash disable=SC2013,SC2034,SC2154 # the files of this folder share their variables
 # What a screen reader has found of the windows that the scenarios have shown, against what it found when somebody last
 # looked it through. A window that is not in the kept list is left to the one who adds it.
 
