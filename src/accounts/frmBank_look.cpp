@@ -3,9 +3,9 @@
 #include "core/conventions.h"
 #include "platform/forms/look.h"
 
-#include <QFrame>
 #include <QGridLayout>
 #include <QVBoxLayout>
+#include <QWidget>
 
 namespace behaviours = forms::behaviours;
 
@@ -16,11 +16,14 @@ constexpr int LongestType = 255;
 constexpr int EntryWidth = 60; // characters
 constexpr int ShortWidth = 18;
 
+// No frame, which a screen reader would tell of.
 QWidget* separator(frmBank& form)
 {
-    auto* line = new QFrame(form.canvas());
+    auto* line = new QWidget(form.canvas());
     line->setObjectName("lnSeperator");
-    line->setFrameShape(QFrame::HLine);
+    line->setFixedHeight(1);
+    line->setAutoFillBackground(true);
+    line->setPalette(forms::look::colours().line);
     return line;
 }
 
@@ -84,6 +87,7 @@ void frmBank::lookOfEntries()
     lblSubhead[4].setCaption("State");
     lblChoice[6].setCaption("As Of");
     txtName.setText(" Enter Financial Institution ");
+    txtName.widget()->setAccessibleName("Financial Institution"); // which no label says
     txtName.setTextColour(forms::look::colours().link);
     for (forms::TextBox* box : {&txtName, &txtBalance, &txtDate})
         box->setAlignment(forms::Alignment::Centre);
