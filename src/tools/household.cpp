@@ -35,6 +35,18 @@ FileReader openedReader(const QString& file, FileReader::Locks locks)
     return orUnreadable(QStringLiteral("Damaged or foreign"), [&] { return FileReader(file, databaseKey(), locks); });
 }
 
+std::optional<Currency> sumOf(const Snapshot& assets)
+{
+    Currency sum;
+    try {
+        for (int row = 0; row < assets.rowCount(); ++row)
+            sum += Currency::tryParse(assets.text(row, Inventory::Amount)).value_or(Currency());
+    } catch (const RuntimeFailure&) {
+        return std::nullopt;
+    }
+    return sum;
+}
+
 } // namespace
 
 UnreadableHousehold::UnreadableHousehold(const QString& state, const QString& reason)
@@ -53,6 +65,7 @@ Household::Household(const QString& file, FileReader::Locks locks)
         tables_.push_back(orUnreadable(QStringLiteral("Another version"), [&] { return reader.rows(*table); }));
     if (this->table("Personal_Info").rowCount() == 0)
         throw UnreadableHousehold(QStringLiteral("Another version"), QStringLiteral("it holds no household"));
+    total_ = sumOf(this->table("Inventory"));
 }
 
 const Snapshot& Household::table(std::string_view name) const
@@ -64,19 +77,6 @@ const Snapshot& Household::table(std::string_view name) const
 int Household::assets() const
 {
     return table("Inventory").rowCount();
-}
-
-std::optional<Currency> Household::total() const
-{
-    const Snapshot& assets = table("Inventory");
-    Currency sum;
-    try {
-        for (int row = 0; row < assets.rowCount(); ++row)
-            sum += Currency::tryParse(assets.text(row, Inventory::Amount)).value_or(Currency());
-    } catch (const RuntimeFailure&) {
-        return std::nullopt;
-    }
-    return sum;
 }
 
 QString Household::summary() const

@@ -36,7 +36,7 @@ public:
     int assets() const;
 
     /// The sum of all amounts that can be read; nothing where it goes beyond what an amount can be.
-    std::optional<values::Currency> total() const;
+    std::optional<values::Currency> total() const { return total_; }
 
     /// "12 assets, $1,234.50"
     QString summary() const;
@@ -44,6 +44,7 @@ public:
 private:
     std::vector<storage::Snapshot> tables_;
     storage::JournalBeside journal_ = storage::JournalBeside::None;
+    std::optional<values::Currency> total_;
 };
 
 /// "1 asset", "2 assets"
