@@ -62,15 +62,15 @@ left_to_menu() {
     is_in_front frmMain
 }
 
-# Of a build that has them.
 account_screens() {
-    grep -q '^frmEditBankBoxes ' "$Place/positions" || return 0
     click frmGenInfo cmdBank
     portrait frmEditBankBoxes
-    click frmEditBankBoxes 'optEdit(0)'
-    click frmEditBankBoxes cmdUpdate
+    keys alt+a Return
+    wait_screen frmBank
+    # The state leads on to the phone, the phone to the type by itself.
+    text $'Harbor Savings Bank\t1 Main Street\tAlbany\tny5185550140\tA-100'
     portrait frmBank
-    click frmBank 'cmdBack'
+    click frmBank cmdBack
     until_true "personal information" left_to_personal
 }
 
@@ -170,6 +170,25 @@ leave_editor() {
     wait_screen frmAddUpDel
 }
 
+# Two closes, so that there is an earlier backup, too.
+backups() {
+    step "the backups"
+    cmake --install "$Build" --prefix "$Place/prefix" >/dev/null
+    for _ in 1 2; do
+        at_menu
+        keys alt+x
+        wait_screen MsgBox
+        keys Return
+        ends_with 0
+        sqlcipher_with_key "$Database" "delete from Inventory where Type = 'Sofa'"
+    done
+    "$Place/prefix/bin/kestrill-restore" >>"$Log" 2>&1 &
+    Program=$!
+    portrait restore frmRestore
+    kill -TERM "$Program"
+    wait "$Program" || true
+}
+
 # The closing screen is gone in a moment: a large database keeps it, and the program is held while it is looked at.
 closing() {
     step "the closing"
@@ -197,4 +216,5 @@ household_screens
 reports
 search_and_asset
 name_lists
+backups
 closing
