@@ -46,7 +46,7 @@ void FormsTest::SetUp()
         EXPECT_FALSE(failure_) << "A second failure after " << failure_->handler.toStdString();
         failure_ = report;
     });
-    forms::setHelpDoor([this](int number) { openedHelp_ = number; });
+    forms::setHelpDoor([this](int number, const QString&) { openedHelp_ = number; });
     QObject::connect(&scriptPoll_, &QTimer::timeout, &scriptPoll_, [this] { runScript(); });
     QObject::connect(&guard_, &QTimer::timeout, &guard_, [this] { guardModal(); });
     constexpr int guardMilliseconds = 250;

@@ -3,6 +3,7 @@
 
 #include "platform/forms/buttons.h"
 #include "platform/forms/form.h"
+#include "platform/forms/runtime.h"
 #include "platform/forms/stage.h"
 
 #include <QKeyEvent>
@@ -83,6 +84,12 @@ bool Keyboard::hasText(const QKeyEvent& event)
     return !text.isEmpty() && text.at(0).unicode() >= 32 && text.at(0).unicode() != 127;
 }
 
+void Keyboard::openHelpFor(const Form& form, const Control* control)
+{
+    const int own = control ? control->helpNumber() : 0;
+    openHelp(own ? own : form.helpNumber(), form.name());
+}
+
 bool Keyboard::down(Control& control, const QKeyEvent& event)
 {
     int code = virtualKey(event);
@@ -92,7 +99,7 @@ bool Keyboard::down(Control& control, const QKeyEvent& event)
     if (code != key::F1)
         return false;
     if (!event.isAutoRepeat())
-        openHelp(control.helpNumber() ? control.helpNumber() : control.form().helpNumber());
+        openHelpFor(control.form(), &control);
     return true;
 }
 
@@ -137,7 +144,7 @@ bool Keyboard::pressDefault(Form& form, const QKeyEvent& event)
 void Keyboard::pressedOnForm(Form& form, const QKeyEvent& event)
 {
     if (event.key() == Qt::Key_F1) {
-        openHelp(form.helpNumber());
+        openHelpFor(form, nullptr);
         return;
     }
     if (pressDefault(form, event))

@@ -22,6 +22,9 @@ public:
     /// True for a key that carries printable text, be it held with a command key or not.
     static bool hasText(const QKeyEvent& event);
 
+    /// Opens help for a control, or for a screen on which none has the focus.
+    static void openHelpFor(const Form& form, const Control* control);
+
     /// Runs KeyDown and then, for F1, help. True when the key is used up: refused by the handler, or F1.
     static bool down(Control& control, const QKeyEvent& event);
 

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/message_box.h"
 
+#include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
+#include "platform/forms/keyboard.h"
 #include "platform/forms/look.h"
+#include "platform/forms/runtime.h"
 #include "platform/forms/stage.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
@@ -22,7 +26,8 @@ namespace {
 constexpr int leastCharacters = 34; // of a line, so that a short text doesn't cut off the title
 constexpr int mostCharacters = 60; // of a line, on which the eye still finds its way
 
-/// A box that grows with its text and then breaks it into lines; the toolkit measures it before it knows the font.
+/// A box that grows with its text and then breaks it into lines; the toolkit measures it before it knows the font. F1
+/// opens the help of what the user was at when the box came.
 class Box : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
@@ -35,6 +40,14 @@ protected:
         return event->type() == QEvent::LayoutRequest ? QDialog::event(event) : QMessageBox::event(event);
     }
 
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() != Qt::Key_F1)
+            QMessageBox::keyPressEvent(event);
+        else
+            fromToolkit([this] { openHelpBehind(); });
+    }
+
     void showEvent(QShowEvent* event) override
     {
         QMessageBox::showEvent(event);
@@ -45,6 +58,14 @@ protected:
     }
 
 private:
+    void openHelpBehind() const
+    {
+        if (const Form* form = Stage::instance().active())
+            Keyboard::openHelpFor(*form, form->activeControl());
+        else
+            openHelp(0, objectName());
+    }
+
     void fitWords(QLabel& words) const
     {
         const QFontMetrics metrics = words.fontMetrics();

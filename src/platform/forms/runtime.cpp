@@ -31,7 +31,7 @@ struct Runtime {
     std::function<void()> handlerReturn;
     std::function<void(int)> ender;
     std::function<void(const FailureReport&)> reporter;
-    std::function<void(int)> helpDoor;
+    std::function<void(int, const QString&)> helpDoor;
     QString title;
     std::function<QString()> closingWords;
 };
@@ -209,15 +209,15 @@ void setReportWords(const QString& title, std::function<QString()> closingWords)
     runtime().closingWords = std::move(closingWords);
 }
 
-void setHelpDoor(std::function<void(int)> door)
+void setHelpDoor(std::function<void(int, const QString&)> door)
 {
     runtime().helpDoor = std::move(door);
 }
 
-void openHelp(int number)
+void openHelp(int number, const QString& window)
 {
     if (runtime().helpDoor)
-        runtime().helpDoor(number);
+        runtime().helpDoor(number, window);
 }
 
 void runAsHandler(const QString& name, const std::function<void()>& handler)

@@ -82,7 +82,4 @@ private:
     Form* awaited_ = nullptr; // asked forward, not there yet
 };
 
-/// Opens the help door for a control.
-void openHelp(int number);
-
 } // namespace forms

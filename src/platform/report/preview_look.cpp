@@ -125,6 +125,7 @@ void Preview::react()
         page_->setFocus();
         page_->selectAll();
     });
+    shortcut(QKeySequence("F1"), [this] { forms::openHelp(0, objectName()); });
     shortcut(QKeySequence("Ctrl+0"), [this] { pickZoom(indexOf(Zoom{Zoom::Kind::Page})); });
     shortcut(QKeySequence("Ctrl+1"), [this] { pickZoom(indexOf(Zoom{Zoom::Kind::Width})); });
     connect(page_, &QSpinBox::valueChanged, this, [this](int page) { goTo(page); });
