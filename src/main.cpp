@@ -3,6 +3,7 @@
 #include "core/data_store.h"
 #include "core/ending.h"
 #include "core/frmBW_Splash.h"
+#include "core/manual.h"
 #include "core/program_name.h"
 #include "platform/system/signals.h"
 
@@ -19,6 +20,7 @@ void endFromOutside()
 void start()
 {
     forms::setReportWords(conventions::Title, ending::what_Is_Known);
+    forms::setHelpDoor(manual::open);
     forms::onEnd([] { ending::close_Store(); });
     forms::onHandlerReturn([] { Data1.Home.commitPending(); });
     sys::onTermination(endFromOutside);

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/help/find_bar.h"
+
+#include "platform/forms/look.h"
+#include "platform/help/parts.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextBrowser>
+
+namespace help {
+
+FindBar::FindBar(QTextBrowser& page, QWidget* parent)
+    : QWidget(parent)
+    , page_(page)
+    , words_(new QLineEdit(this))
+    , state_(new QLabel(this))
+{
+    parts::name(*words_, "findWords", "Words To Find On This Page", "Words To Find On This Page (Ctrl+F)");
+    words_->setMaximumWidth(forms::look::fieldWidth(30));
+    state_->setObjectName(QStringLiteral("findState"));
+    auto* words = new QLabel(QStringLiteral("Find On This Page:"), this);
+    words->setBuddy(words_);
+    QPushButton* next = parts::button(*this, {"findNext", "&Next", "next", "Find Next (F3)"});
+    QPushButton* previous = parts::button(*this, {"findPrevious", "Pre&vious", "previous", "Find Previous (Shift+F3)"});
+    connect(words_, &QLineEdit::textEdited, this, [this] { typed(); });
+    connect(words_, &QLineEdit::returnPressed, this, [this] { find(true); });
+    connect(next, &QPushButton::clicked, this, [this] { find(true); });
+    connect(previous, &QPushButton::clicked, this, [this] { find(false); });
+
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(parts::margins());
+    line->addWidget(words);
+    line->addWidget(words_, 1);
+    line->addWidget(next);
+    line->addWidget(previous);
+    line->addWidget(state_, 1);
+    hide();
+}
+
+void FindBar::open()
+{
+    show();
+    tell({}, false);
+    words_->setFocus();
+    words_->selectAll();
+}
+
+// What is typed on top of words that were found stays at their place while it fits.
+void FindBar::typed()
+{
+    QTextCursor cursor = page_.textCursor();
+    cursor.setPosition(cursor.selectionStart());
+    page_.setTextCursor(cursor);
+    find(true);
+}
+
+void FindBar::find(bool forward)
+{
+    if (words_->text().isEmpty())
+        return open();
+    show();
+    tell({}, false);
+    if (seek(forward))
+        return;
+    const QTextCursor before = page_.textCursor();
+    page_.moveCursor(forward ? QTextCursor::Start : QTextCursor::End);
+    if (seek(forward))
+        return tell(forward ? "From the top again." : "From the bottom again.", false);
+    page_.setTextCursor(before);
+    tell("Not found on this page.", true);
+}
+
+bool FindBar::seek(bool forward)
+{
+    return page_.find(words_->text(), forward ? QTextDocument::FindFlags() : QTextDocument::FindBackward);
+}
+
+void FindBar::showWords(const QString& words)
+{
+    for (const QString& sought : QStringList(words) + words.split(u' ', Qt::SkipEmptyParts)) {
+        words_->setText(sought);
+        page_.moveCursor(QTextCursor::Start);
+        if (seek(true))
+            return;
+    }
+}
+
+void FindBar::tell(const QString& words, bool isFailure)
+{
+    state_->setText(words);
+    parts::colour(*words_, isFailure ? forms::look::colours().error : forms::look::colours().field);
+    if (words.isEmpty())
+        return;
+    QAccessibleEvent alert(state_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+} // namespace help

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/help/page_browser.h"
+
+#include "platform/forms/look.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace help {
+
+namespace {
+
+constexpr std::array typeScales{0.85, 1.0, 1.2, 1.45, 1.75, 2.1, 2.5};
+constexpr int ownSize = 1;
+
+// What size a picture has is decided here, not by the page.
+QString withoutSizes(const QString& html)
+{
+    static const QRegularExpression size(QStringLiteral("(<img\\b[^>]*?)\\s(?:width|height)=['\"]?\\d+['\"]?"));
+    return QString(html).replace(size, QStringLiteral("\\1"));
+}
+
+} // namespace
+
+PageBrowser::PageBrowser(QWidget* parent)
+    : QTextBrowser(parent)
+    , step_(ownSize)
+{
+    setObjectName(QStringLiteral("page"));
+    setFrameShape(QFrame::NoFrame);
+    setOpenExternalLinks(false);
+    setUndoRedoEnabled(false);
+    document()->setDocumentMargin(forms::look::grid(2));
+}
+
+double PageBrowser::typeScale() const
+{
+    return typeScales.at(static_cast<std::size_t>(step_));
+}
+
+bool PageBrowser::canChangeType(int steps) const
+{
+    return step_ + steps >= 0 && step_ + steps < static_cast<int>(typeScales.size());
+}
+
+void PageBrowser::changeType(int steps)
+{
+    if (!canChangeType(steps))
+        return;
+    step_ = steps == 0 ? ownSize : step_ + steps;
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * typeScale());
+    setFont(font);
+    loadAgain();
+}
+
+QString PageBrowser::page() const
+{
+    return source().fileName();
+}
+
+// ---- pictures
+
+int PageBrowser::room() const
+{
+    return viewport()->width() - static_cast<int>(2 * document()->documentMargin());
+}
+
+QImage PageBrowser::fitted(const QImage& picture)
+{
+    const int wanted = static_cast<int>(picture.width() * typeScale() * forms::look::pictureScale());
+    const int width = std::min(wanted, room());
+    widest_ = std::max(widest_, wanted);
+    narrowest_ = room();
+    // The toolkit would shrink and enlarge it roughly.
+    QImage fitted = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                        .scaledToWidth(static_cast<int>(width * devicePixelRatioF()), Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(devicePixelRatioF());
+    return fitted;
+}
+
+QVariant PageBrowser::loadResource(int type, const QUrl& name)
+{
+    QVariant loaded = QTextBrowser::loadResource(type, name);
+    if (type == QTextDocument::HtmlResource) {
+        widest_ = 0;
+        return withoutSizes(QString::fromUtf8(loaded.toByteArray()));
+    }
+    if (type != QTextDocument::ImageResource)
+        return loaded;
+    const QImage picture = QImage::fromData(loaded.toByteArray());
+    return picture.isNull() || room() <= 0 ? QVariant(picture) : fitted(picture);
+}
+
+void PageBrowser::resizeEvent(QResizeEvent* event)
+{
+    QTextBrowser::resizeEvent(event);
+    if (std::min(room(), widest_) != std::min(narrowest_, widest_))
+        loadAgain();
+}
+
+// What stands at the top stays there.
+void PageBrowser::loadAgain()
+{
+    const int top = cursorForPosition(QPoint(0, 0)).position();
+    reload();
+    QTextCursor cursor(document());
+    cursor.setPosition(std::min(top, document()->characterCount() - 1));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(cursor).top());
+}
+
+} // namespace help

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/help/parts.h"
+
+#include "platform/forms/look.h"
+
+#include <QPushButton>
+
+namespace help::parts {
+
+QPushButton* button(QWidget& parent, const ButtonLook& look)
+{
+    auto* made = new QPushButton(forms::look::icon(QStringLiteral(":/pictures/icons/%1.png").arg(look.icon)),
+        QString::fromLatin1(look.caption), &parent);
+    const QByteArray words = QByteArray(look.toolTip).split('(').first().trimmed();
+    name(*made, look.name, words.constData(), look.toolTip);
+    made->setAutoDefault(false);
+    return made;
+}
+
+void name(QWidget& widget, const char* objectName, const char* accessibleName, const char* toolTip)
+{
+    widget.setObjectName(QString::fromLatin1(objectName));
+    widget.setAccessibleName(QString::fromLatin1(accessibleName));
+    widget.setToolTip(QString::fromLatin1(toolTip));
+}
+
+void colour(QWidget& entry, const QColor& colour)
+{
+    QPalette palette = entry.palette();
+    palette.setColor(QPalette::Base, colour);
+    entry.setPalette(palette);
+}
+
+QMargins margins()
+{
+    const int gap = forms::look::grid(1);
+    return {gap, gap, gap, gap};
+}
+
+} // namespace help::parts

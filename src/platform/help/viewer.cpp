@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/help/viewer.h"
+
+#include "platform/forms/boundary.h"
+#include "platform/forms/look.h"
+#include "platform/forms/runtime.h"
+#include "platform/help/find_bar.h"
+#include "platform/help/modal_companion.h"
+#include "platform/help/page_browser.h"
+#include "platform/help/parts.h"
+#include "platform/help/printing.h"
+#include "platform/help/side_panel.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace help {
+
+namespace {
+
+constexpr double shareOfDesktop = 0.9;
+
+constexpr parts::ButtonLook buttons[] = {
+    {"back", "&Back", "back", "Back To The Topic Before (Alt+Left)"},
+    {"forward", "&Forward", "next", "Forward Again (Alt+Right)"},
+    {"toContents", "&Contents", "list", "Contents (F6)"},
+    {"find", "F&ind", "magnifier", "Find On This Page (Ctrl+F)"},
+    {"smaller", "&Smaller", "minus", "Smaller Type (Ctrl+-)"},
+    {"larger", "&Larger", "plus", "Larger Type (Ctrl++)"},
+    {"print", "&Print...", "printer", "Print This Page (Ctrl+P)"},
+    {"close", "Cl&ose", "cancel", "Close Help (Esc)"},
+};
+
+} // namespace
+
+Viewer::Viewer(const Book& book, const QString& title)
+    : QWidget(nullptr, Qt::Window)
+    , book_(book)
+    , title_(title)
+    , page_(new PageBrowser(this))
+    , panel_(new SidePanel(book_, this))
+    , find_(new FindBar(*page_, this))
+    , status_(new QLabel(this))
+{
+    setObjectName(QStringLiteral("help"));
+    setWindowRole(QStringLiteral("help"));
+    status_->setObjectName(QStringLiteral("status"));
+    for (const parts::ButtonLook& look : buttons)
+        parts::button(*this, look);
+    react();
+    layOut();
+    placeBesideScreens();
+    new ModalCompanion(*this);
+}
+
+void Viewer::open(const QString& topic)
+{
+    const forms::ToolkitCall call; // what comes of it is no event of a screen
+    go(book_.placeOf(topic));
+    show();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    page_->setFocus();
+}
+
+void Viewer::go(const QString& place)
+{
+    tell({});
+    page_->setSource(book_.url(place));
+}
+
+void Viewer::showState()
+{
+    const QString title = page_->documentTitle();
+    setWindowTitle(title.isEmpty() ? title_ : title + QStringLiteral(" - ") + title_);
+    page_->setAccessibleName(title);
+    panel_->mark(page_->page() + (page_->source().hasFragment() ? u'#' + page_->source().fragment() : QString()));
+    button("back")->setEnabled(page_->isBackwardAvailable());
+    button("forward")->setEnabled(page_->isForwardAvailable());
+    button("smaller")->setEnabled(page_->canChangeType(-1));
+    button("larger")->setEnabled(page_->canChangeType(+1));
+}
+
+// What was opened last is closed first.
+void Viewer::escape()
+{
+    if (!find_->isVisible()) {
+        close();
+        return;
+    }
+    find_->hide();
+    page_->setFocus();
+}
+
+void Viewer::print()
+{
+    tell({});
+    const report::Outcome outcome = help::print(*page_, this);
+    if (outcome == report::Outcome::Failed)
+        tell(QStringLiteral("The page could not be printed. Look whether there is a printer, and whether it is on."));
+    if (outcome == report::Outcome::Done)
+        tell(QStringLiteral("The page has been handed to the printer."));
+}
+
+void Viewer::tell(const QString& words)
+{
+    status_->setText(words);
+    status_->setVisible(!words.isEmpty());
+    if (words.isEmpty())
+        return;
+    QAccessibleEvent alert(status_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+// ---- look
+
+QPushButton* Viewer::button(const char* name)
+{
+    return findChild<QPushButton*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
+}
+
+void Viewer::react()
+{
+    const struct {
+        const char* button;
+        std::vector<const char*> keys;
+        std::function<void()> action;
+    } actions[] = {
+        {"back", {"Alt+Left", "Back"}, [this] { page_->backward(); }},
+        {"forward", {"Alt+Right", "Forward"}, [this] { page_->forward(); }},
+        {"toContents", {"F6"}, [this] { panel_->toContents(); }},
+        {"find", {"Ctrl+F"}, [this] { find_->open(); }},
+        {"smaller", {"Ctrl+-"}, [this] { page_->changeType(-1); }},
+        {"larger", {"Ctrl++", "Ctrl+="}, [this] { page_->changeType(+1); }},
+        {"print", {"Ctrl+P"}, [this] { print(); }},
+        {"close", {"Ctrl+W"}, [this] { close(); }},
+        {nullptr, {"Esc"}, [this] { escape(); }},
+        {nullptr, {"Ctrl+0"}, [this] { page_->changeType(0); }},
+        {nullptr, {"Ctrl+K"}, [this] { panel_->toSearch(); }},
+        {nullptr, {"F3"}, [this] { find_->find(true); }},
+        {nullptr, {"Shift+F3"}, [this] { find_->find(false); }},
+        {nullptr, {"F1"}, [this] { go(book_.contents().front().place); }},
+    };
+    for (const auto& each : actions) {
+        const auto handler = [this, action = each.action] {
+            forms::runAsHandler(QStringLiteral("Help"), [this, &action] {
+                action();
+                showState();
+            });
+        };
+        if (each.button)
+            connect(button(each.button), &QPushButton::clicked, this, handler);
+        for (const char* keys : each.keys)
+            connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this, handler);
+    }
+    panel_->Chosen = [this](const QString& place) { go(place); };
+    panel_->Found = [this](const QString& page, const QString& words) {
+        go(page);
+        find_->showWords(words);
+    };
+    connect(page_, &QTextBrowser::sourceChanged, this, [this] { showState(); });
+    connect(page_, &QTextBrowser::historyChanged, this, [this] { showState(); });
+}
+
+void Viewer::layOut()
+{
+    auto* bar = new QHBoxLayout;
+    bar->setContentsMargins(parts::margins());
+    bar->setSpacing(forms::look::grid(1) / 2);
+    for (const parts::ButtonLook& look : buttons) {
+        if (QByteArray(look.name) == "print")
+            bar->addStretch();
+        bar->addWidget(button(look.name));
+    }
+
+    auto* right = new QWidget(this);
+    auto* reading = new QVBoxLayout(right);
+    reading->setContentsMargins({});
+    reading->setSpacing(0);
+    reading->addWidget(page_, 1);
+    reading->addWidget(find_);
+
+    auto* halves = new QSplitter(this);
+    parts::name(*halves, "halves", "Contents And Page", "");
+    halves->setChildrenCollapsible(false);
+    halves->addWidget(panel_);
+    halves->addWidget(right);
+    for (int index = 0; index < halves->count(); ++index)
+        halves->handle(index)->setAccessibleName(QStringLiteral("Divider"));
+    halves->setStretchFactor(1, 1);
+    halves->setSizes({forms::look::grid(32), forms::look::grid(80)});
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addLayout(bar);
+    column->addWidget(halves, 1);
+    status_->setContentsMargins(parts::margins());
+    column->addWidget(status_);
+}
+
+// At the right edge of the desktop, so that something of the screen in its middle stays in sight.
+void Viewer::placeBesideScreens()
+{
+    const QRect desktop = screen()->availableGeometry();
+    const QSize room = desktop.size() * shareOfDesktop;
+    resize(QSize(forms::look::grid(116), forms::look::grid(88)).boundedTo(room));
+    move(desktop.right() - width() - forms::look::grid(1), desktop.top() + (desktop.height() - height()) / 2);
+}
+
+} // namespace help
