@@ -33,10 +33,6 @@ FormsTest::FormsTest()
         forms::prepare(*qApp);
         return true;
     }();
-}
-
-void FormsTest::SetUp()
-{
     forms::setMessageDoor([this](const forms::Message& shown) { return answer(shown); });
     forms::setProcessEnder([this](int status) {
         endStatus_ = status;

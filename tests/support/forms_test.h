@@ -18,11 +18,18 @@
 class FormsTest : public testing::Test {
 protected:
     FormsTest();
-    void SetUp() override;
     void TearDown() override;
 
     /// Queues a message box that has to come, and the answer to it. The title is that of setBoxTitle().
     void expectBox(const QString& text, int flags, forms::Answer answer = forms::Answer::OK);
+
+    /// Clicks a control, at which such a box has to come.
+    void clickTold(forms::Control& control, const QString& text, int flags, forms::Answer answer = forms::Answer::OK)
+    {
+        expectBox(text, flags, answer);
+        user::click(control);
+    }
+
     void setBoxTitle(const QString& title) { boxTitle_ = title; }
 
     /// Shows boxes on the screen, to be answered by whileModal().
@@ -37,6 +44,9 @@ protected:
 
     /// The failure that no handler caught; asking makes it an expected one.
     std::optional<forms::FailureReport> reportedFailure() { return std::exchange(failure_, {}); }
+
+    /// Its handler; empty where none was missed.
+    QString failedHandler() { return reportedFailure().value_or(forms::FailureReport()).handler; }
 
     /// The number under which help was opened last; nothing when it wasn't since the last question.
     std::optional<int> openedHelp() { return std::exchange(openedHelp_, {}); }

@@ -2,6 +2,7 @@
 #pragma once
 
 // All that a test of screens needs.
+#include "support/rows.h"
 #include "support/scene.h"
 #include "support/screen_test.h"
 

@@ -6,18 +6,19 @@
 #include "core/places.h"
 #include "platform/storage/statement.h"
 #include "platform/values/date.h"
+#include "support/scene.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QWidget>
 
-void ScreenTest::SetUp()
+ScreenTest::ScreenTest()
 {
-    FormsTest::SetUp();
     setBoxTitle(conventions::Title);
-    ASSERT_TRUE(QDir().mkpath(folder_.filePath(QStringLiteral("C_db"))));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(KESTRILL_SHIPPED_DATABASE), databaseFile()));
+    EXPECT_TRUE(QDir().mkpath(folder_.filePath(QStringLiteral("C_db"))));
+    EXPECT_TRUE(QFile::copy(QStringLiteral(KESTRILL_SHIPPED_DATABASE), databaseFile()));
     places::setFolders(folder_.filePath(QStringLiteral("C_db")), backupFolder());
     values::setToday(values::Date::fromDayMonthYear(24, 11, 2026));
     frmStartup::CurrentScreen = 20;
@@ -37,6 +38,15 @@ void ScreenTest::TearDown()
     FormsTest::TearDown();
     closeData();
     values::setToday({});
+}
+
+void ScreenTest::expectToStay(const std::function<void()>& leave, const QString& question)
+{
+    const QRegularExpression focus(QStringLiteral(": [^;]*"));
+    const QString before = scene().remove(focus);
+    expectBox(question, YesNoQuestion, forms::Answer::No);
+    leave();
+    EXPECT_EQ(scene().remove(focus), before);
 }
 
 void ScreenTest::openData()
@@ -62,4 +72,10 @@ void ScreenTest::makeRoom(const QByteArray& table)
 void ScreenTest::closeData()
 {
     Data1.Home.close();
+}
+
+void ScreenTest::reopenData()
+{
+    closeData();
+    openData();
 }

@@ -10,8 +10,17 @@
 /// 24 November 2026; message boxes under the product's title. No screen exists yet.
 class ScreenTest : public FormsTest {
 protected:
-    void SetUp() override;
+    static constexpr int Stop = forms::box::Stop;
+    static constexpr int Exclamation = forms::box::Exclamation;
+    static constexpr int Information = forms::box::Information;
+    static constexpr int YesNoQuestion = forms::box::Question + forms::box::YesNo;
+    static constexpr const char* CloseKestrill = "Are You Sure You Want To Close Kestrill?";
+
+    ScreenTest();
     void TearDown() override;
+
+    /// A way out that asks first: with No, the same screens stand there as before.
+    void expectToStay(const std::function<void()>& leave, const QString& question = CloseKestrill);
 
     /// Opens all views of Data1, each on its first row; closes them, for tests of the start and of the end.
     static void openData();
@@ -23,6 +32,8 @@ protected:
 
     QString databaseFile() const { return folder_.filePath(QStringLiteral("C_db/KTL.db")); }
     QString backupFolder() const { return folder_.filePath(QStringLiteral("Backup")); }
+
+    static void reopenData();
 
 private:
     QTemporaryDir folder_;

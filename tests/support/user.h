@@ -9,6 +9,7 @@
 #include <functional>
 
 class QMenu;
+class QWidget;
 class QWindow;
 
 /// What a user does. Everything goes through the windows as real events, the way of the hardware: a screen behind a
@@ -39,6 +40,9 @@ bool rightClick(forms::Control& control);
 /// Other parts of a control than its middle.
 void clickArrow(forms::ComboBox& box);
 void clickScrollBar(forms::MemoBox& box);
+
+/// Turns the wheel over a widget, by eighths of a degree.
+void wheel(QWidget& widget, int eighths);
 
 // ---- the keyboard; whatever has the focus gets it
 
@@ -82,6 +86,9 @@ void setByAssistant(forms::Control& control, const QString& text);
 /// Opens the list with the mouse and clicks an item.
 void pick(forms::ComboBox& box, const QString& item);
 bool isListOpen();
+
+/// What the list of a box holds.
+QStringList itemsOf(const forms::ComboBox& box);
 
 /// Clicks a button of the real message box that is up.
 void clickInBox(const QString& caption);

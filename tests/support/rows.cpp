@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/rows.h"
+
+#include "core/data_store.h"
+
+void put(storage::TableView& row, const Cells& cells)
+{
+    for (const auto& [column, text] : cells)
+        row.Fields(column) = text;
+    row.Update();
+}
+
+QStringList cellsOf(storage::TableView& row, int first, int last)
+{
+    QStringList texts;
+    for (int column = first; column <= last; ++column)
+        texts.append(row.Fields(column).text());
+    return texts;
+}
+
+QStringList inFile(storage::TableView& table, const std::vector<int>& columns)
+{
+    if (table.isOpen())
+        table.Close();
+    table.Open();
+    QStringList texts;
+    for (const int column : columns)
+        texts.append(table.Fields(column).text());
+    return texts;
+}
+
+void addRow(storage::TableView& table, const Cells& cells)
+{
+    table.AddNew();
+    put(table, cells);
+}
+
+void addRow(storage::TableView& table, int first, const QStringList& texts)
+{
+    table.AddNew();
+    for (const QString& text : texts)
+        table.Fields(first++) = text;
+    table.Update();
+}
+
+void addAssetRow(const QStringList& texts)
+{
+    QStringList all = texts;
+    for (int column = Inventory::Area + static_cast<int>(texts.size()); column <= Inventory::WarrantyDescription;
+         ++column)
+        all.append(column == Inventory::Amount ? "$12.50" : "None");
+    addRow(Data1.rsInventory, Inventory::Area, all);
+}
+
+void addNames(storage::TableView& table, const QStringList& names, int standard)
+{
+    addRow(table, Names::Location, names + QStringList(QString::number(standard)));
+}
+
+void removeRows(storage::TableView& table)
+{
+    for (table.MoveFirst(); !table.atEOF(); table.MoveNext())
+        table.Delete();
+}
+
+QStringList columnOf(const storage::TableView& table, int column)
+{
+    QStringList texts;
+    const storage::Snapshot rows = table.snapshot();
+    for (int row = 0; row < rows.rowCount(); ++row)
+        texts.append(rows.text(row, column));
+    return texts;
+}

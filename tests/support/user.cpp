@@ -1,0 +1,419 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/user.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+#include <QWidget>
+#include <QWindow>
+
+#include <stdexcept>
+
+namespace user {
+
+namespace {
+
+/// A place in a window, as the mouse knows it.
+struct Spot {
+    QWindow* window;
+    QPoint position;
+};
+
+// The user scrolls to what the window has no room for.
+void bringIntoView(QWidget& widget)
+{
+    for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget())
+        if (auto* scroller = qobject_cast<QScrollArea*>(parent))
+            scroller->ensureWidgetVisible(&widget);
+}
+
+Spot spotOf(forms::Control& control, QPoint position)
+{
+    settle();
+    QWidget& widget = *control.widget();
+    if (!widget.isVisible())
+        throw std::logic_error("The user can't see " + control.name().toStdString());
+    bringIntoView(widget);
+    QWidget& window = *widget.window();
+    Spot spot{window.windowHandle(), widget.mapTo(&window, position)};
+    QWidget* hit = window.childAt(spot.position);
+    if (widget.rect().contains(position) && hit != &widget && !widget.isAncestorOf(hit))
+        throw std::logic_error("Something covers " + control.name().toStdString());
+    if (QWidget* popup = QApplication::activePopupWidget()) // has the mouse to itself
+        spot = {popup->windowHandle(), popup->mapFromGlobal(widget.mapToGlobal(position))};
+    QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval; // a click on its own
+    return spot;
+}
+
+struct Click {
+    QPoint where; // on the display
+    int when = 0;
+} lastClick;
+
+Spot middleOf(forms::Control& control)
+{
+    return spotOf(control, control.widget()->rect().center());
+}
+
+QString textOf(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    if (key >= Qt::Key_A && key <= Qt::Key_Z && (modifiers & Qt::ControlModifier))
+        return QChar(key - Qt::Key_A + 1); // the control character of the letter, as keyboards give it
+    if (key >= Qt::Key_A && key <= Qt::Key_Z && (modifiers & Qt::ShiftModifier))
+        return QChar(key);
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F35)
+        return {};
+    const char character = QTest::keyToAscii(key);
+    return character ? QString(QLatin1Char(character)) : QString();
+}
+
+void goDown(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
+{
+    settle();
+    QTest::sendKeyEvent(QTest::Press, &frontWindow(), key, text, modifiers);
+}
+
+// The release goes to whatever window is in front by then.
+void goUp(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
+{
+    if (QGuiApplication::focusWindow() || forms::activeForm())
+        QTest::sendKeyEvent(QTest::Release, &frontWindow(), key, text, modifiers);
+}
+
+void stroke(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
+{
+    goDown(key, text, modifiers);
+    goUp(key, text, modifiers);
+}
+
+void typeCharacter(char32_t character)
+{
+    if (character == U'\n')
+        return press(Qt::Key_Return);
+    if (character == U'\t')
+        return tab();
+    const QString text = QString::fromUcs4(&character, 1);
+    if (character > 0xFFFF)
+        return commit(text); // no keyboard has a key for it
+    const QChar unit = text.at(0);
+    stroke(Qt::Key(unit.toUpper().unicode()), text, unit.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
+}
+
+QAbstractItemView& openedList(forms::ComboBox& box)
+{
+    clickArrow(box);
+    QWidget* popup = QApplication::activePopupWidget();
+    auto* view = popup ? popup->findChild<QAbstractItemView*>() : nullptr;
+    if (!view)
+        throw std::logic_error("The list of " + box.name().toStdString() + " doesn't open");
+    return *view;
+}
+
+QModelIndex itemIn(const QAbstractItemView& view, const QString& item, const forms::ComboBox& box)
+{
+    const auto row = itemsOf(box).indexOf(item);
+    if (row < 0)
+        throw std::out_of_range(QStringLiteral("%1 has no item \"%2\". There are: %3")
+                                    .arg(box.name(), item, itemsOf(box).join(u'|'))
+                                    .toStdString());
+    return view.model()->index(static_cast<int>(row), 0);
+}
+
+} // namespace
+
+// ---- the mouse
+
+forms::Control& control(forms::Form& form, const QString& name)
+{
+    QString names;
+    for (forms::Control* each : form.controls()) {
+        if (each->name() == name)
+            return *each;
+        names += QLatin1Char(' ') + each->name();
+    }
+    throw std::out_of_range(
+        QStringLiteral("%1 has no control %2. There are:%3").arg(form.name(), name, names).toStdString());
+}
+
+void clickAt(forms::Control& control, QPoint position)
+{
+    const Spot spot = spotOf(control, position);
+    lastClick = {spot.window->mapToGlobal(spot.position), QTest::lastMouseTimestamp};
+    QTest::mouseClick(spot.window, Qt::LeftButton, {}, spot.position);
+}
+
+void clickAgain()
+{
+    constexpr int betweenMilliseconds = 100;
+    QTest::lastMouseTimestamp = lastClick.when + betweenMilliseconds;
+    QWindow& window = frontWindow();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(lastClick.where));
+}
+
+void clickScrollBar(forms::MemoBox& box)
+{
+    clickAt(box, {box.widget()->width() - 5, box.widget()->height() / 2});
+}
+
+void click(forms::Control& control)
+{
+    clickAt(control, control.widget()->rect().center());
+}
+
+void wheel(QWidget& widget, int eighths)
+{
+    const QPointF middle = widget.rect().center();
+    QWheelEvent turn(middle, widget.mapToGlobal(middle), {}, {0, eighths}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &turn);
+}
+
+bool rightClick(forms::Control& control)
+{
+    bool opened = false;
+    inMenuOf(control, [&opened](QMenu& menu) {
+        opened = true;
+        menu.close();
+    });
+    return opened;
+}
+
+void inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script)
+{
+    // The menu has an event loop of its own, inside the click.
+    QTimer inMenu;
+    QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&inMenu, &script] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            inMenu.stop();
+            script(*menu);
+        }
+    });
+    inMenu.start(0);
+    const Spot spot = middleOf(control);
+    QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
+}
+
+bool drop(forms::Control& control, const QString& text)
+{
+    const Spot spot = middleOf(control);
+    QMimeData data;
+    data.setText(text);
+    QDragEnterEvent enter(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QDragMoveEvent move(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QDropEvent end(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    bool copies = true;
+    for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&move), &end}) {
+        QCoreApplication::sendEvent(spot.window, event);
+        copies = copies && event->isAccepted() && event->dropAction() == Qt::CopyAction;
+    }
+    settle();
+    return copies;
+}
+
+void clickWindow(forms::Form& form)
+{
+    QWindow& window = *form.window()->windowHandle();
+    window.requestActivate();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, {1, 1});
+}
+
+void closeBox(forms::Form& form)
+{
+    settle();
+    QWindow& window = *form.window()->windowHandle();
+    if (QWindow* modal = QGuiApplication::modalWindow(); modal && modal != &window)
+        return; // the toolkit drops the request for a window behind a modal one
+    window.close();
+}
+
+void visitAnotherProgram()
+{
+    QWindow& own = frontWindow();
+    {
+        QWindow other; // a window that belongs to no screen
+        other.show();
+        other.requestActivate();
+        settle();
+    }
+    own.requestActivate();
+    settle();
+}
+
+// ---- the keyboard, and other ways in which text gets into a box
+
+QWindow& frontWindow()
+{
+    QWidget* front = QApplication::activePopupWidget();
+    if (!front)
+        front = QApplication::activeModalWidget();
+    if (!front && forms::activeForm())
+        front = forms::activeForm()->window();
+    QWindow* window = front ? front->windowHandle() : QGuiApplication::focusWindow();
+    if (!window)
+        throw std::logic_error("No window is in front to take a key");
+    return *window;
+}
+
+void settle()
+{
+    QCoreApplication::processEvents();
+}
+
+void type(const QString& text)
+{
+    for (const uint character : text.toUcs4())
+        typeCharacter(character);
+}
+
+void type(forms::Control& control, const QString& text)
+{
+    if (!control.hasFocus())
+        click(control);
+    type(text);
+}
+
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    stroke(key, textOf(key, modifiers), modifiers);
+}
+
+void hold(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    goDown(key, textOf(key, modifiers), modifiers);
+}
+
+void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers, int times)
+{
+    for (; times > 0; --times)
+        for (const bool down : {false, true})
+            QTest::simulateEvent(&frontWindow(), down, key, modifiers, textOf(key, modifiers), true, 1);
+}
+
+void letGo(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    goUp(key, textOf(key, modifiers), modifiers);
+}
+
+void tab()
+{
+    press(Qt::Key_Tab);
+}
+
+void backTab()
+{
+    stroke(Qt::Key_Backtab, QStringLiteral("\t"), Qt::ShiftModifier);
+}
+
+void accessKey(char letter)
+{
+    press(QTest::asciiToKey(letter), Qt::AltModifier);
+}
+
+void paste(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+    press(Qt::Key_V, Qt::ControlModifier);
+}
+
+void pasteByShiftInsert(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+    press(Qt::Key_Insert, Qt::ShiftModifier);
+}
+
+void commit(const QString& text)
+{
+    settle();
+    QObject* target = QGuiApplication::focusObject();
+    if (!target)
+        throw std::logic_error("Nothing has the focus to take a composed text");
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(target, &event);
+    settle();
+}
+
+void setByAssistant(forms::Control& control, const QString& text)
+{
+    QWidget* widget = control.widget();
+    auto* line = widget->findChild<QLineEdit*>(); // of a combo box
+    QAccessible::queryAccessibleInterface(line ? line : widget)->setText(QAccessible::Value, text);
+}
+
+// ---- lists and boxes
+
+void clickArrow(forms::ComboBox& box)
+{
+    const int height = box.widget()->height();
+    clickAt(box, {box.widget()->width() - height / 2, height / 2});
+}
+
+bool isListOpen()
+{
+    return QApplication::activePopupWidget();
+}
+
+QStringList itemsOf(const forms::ComboBox& box)
+{
+    QStringList items;
+    for (int index = 0; index < box.listCount(); ++index)
+        items += box.list(index);
+    return items;
+}
+
+void clickInBox(const QString& caption)
+{
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>()) {
+        if (button->text().remove(QLatin1Char('&')) != caption)
+            continue;
+        QTest::mouseClick(box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
+        return;
+    }
+    throw std::logic_error("No message box is up that has a button " + caption.toStdString());
+}
+
+void pick(forms::ComboBox& box, const QString& item)
+{
+    QAbstractItemView& view = openedList(box);
+    const QModelIndex index = itemIn(view, item, box);
+    view.scrollTo(index);
+    QWidget& popup = *view.window();
+    const QPoint middle = view.viewport()->mapTo(&popup, view.visualRect(index).center());
+    // The pointer travels to the item: a release where the press was is taken for the end of the opening click.
+    QTest::mouseMove(popup.windowHandle(), {1, 1});
+    QTest::mouseMove(popup.windowHandle(), middle);
+    QTest::mouseClick(popup.windowHandle(), Qt::LeftButton, {}, middle);
+}
+
+void pasteByMenu(forms::Control& control, const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+    bool opened = false;
+    inMenuOf(control, [&opened](QMenu& menu) {
+        opened = true;
+        for (QAction* action : menu.actions()) {
+            if (!action->isEnabled() || !action->text().startsWith(QLatin1String("&Paste")))
+                continue;
+            const QPoint middle = menu.actionGeometry(action).center();
+            QTest::mouseMove(menu.windowHandle(), middle);
+            return QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, middle);
+        }
+        menu.close(); // as a user leaves it who finds the command grey
+    });
+    if (!opened)
+        throw std::logic_error("No menu opens on " + control.name().toStdString());
+}
+
+} // namespace user
