@@ -5,21 +5,6 @@ using forms::TextEntry;
 
 namespace {
 
-class Boxes : public TrialForm {
-public:
-    explicit Boxes(Journal& journal)
-        : TrialForm("Boxes", journal)
-    {
-        layOut({&line, &memo, &combo});
-    }
-
-    forms::TextBox line{*this, "line"};
-    forms::MemoBox memo{*this, "memo"};
-    forms::ComboBox combo{*this, "combo"};
-
-    TextEntry& entry(const QString& name) { return control<TextEntry>(*this, name); }
-};
-
 /// A way in which text gets into a box that has the focus.
 struct Way {
     const char* name;
@@ -41,95 +26,72 @@ const Way ways[] = {
     {"Assistant", [](TextEntry& box, const QString& text) { setByAssistant(box, text); }},
 };
 
-const char* const boxNames[] = {"line", "memo", "combo"};
+const char* const boxNames[] = {"line", "memo", "empty"}; // a line, several, a combo box
 
-using Case = std::tuple<const char*, Way>;
+class TextEnters : public FormInFront<AllKinds>, public testing::WithParamInterface<Way> { };
 
-class TextEntersABox : public FormsTest, public testing::WithParamInterface<Case> {
-protected:
-    void SetUp() override
-    {
-        FormsTest::SetUp();
-        form.show();
-        click(box);
-    }
+INSTANTIATE_TEST_SUITE_P(
+    By, TextEnters, testing::ValuesIn(ways), [](const auto& way) { return std::string(way.param.name); });
 
-    void enter(const QString& text) { std::get<Way>(GetParam()).enter(box, text); }
-
-    Journal journal;
-    Boxes form{journal};
-    TextEntry& box{form.entry(std::get<0>(GetParam()))};
-};
-
-QString nameOf(const Case& each)
+TEST_P(TextEnters, CharacterByCharacterThroughKeyPressThenThroughTheLimit)
 {
-    return QString(std::get<0>(each)) + std::get<Way>(each).name;
-}
-
-INSTANTIATE_TEST_SUITE_P(AllWays, TextEntersABox,
-    testing::Combine(testing::ValuesIn(boxNames), testing::ValuesIn(ways)),
-    [](const auto& each) { return nameOf(each.param).toStdString(); });
-
-TEST_P(TextEntersABox, CharacterByCharacterThroughKeyPress)
-{
-    box.KeyPress = [this](int& keyAscii) {
-        journal.note(QString::number(keyAscii));
-        if (keyAscii >= 'a')
-            keyAscii = forms::key::Refused;
-        else if (keyAscii == 'B')
-            keyAscii = 'X';
-    };
-    enter("1aB2");
-    EXPECT_EQ(journal.taken().remove("Boxes.Activate "), "49 97 66 50");
-    EXPECT_EQ(box.text(), "1X2");
-}
-
-TEST_P(TextEntersABox, ThenThroughTheLimitWithWholeCharacters)
-{
-    box.setMaxLength(4);
     const QString grin = QString::fromUcs4(U"\U0001F600");
-    enter("ab" + grin + grin + "c");
-    EXPECT_EQ(box.text(), "ab" + grin + grin);
-}
+    for (const char* name : boxNames) {
+        SCOPED_TRACE(name);
+        TextEntry& box = form.entry(name);
+        click(box);
+        box.setMaxLength(4);
+        GetParam().enter(box, "ab" + grin + grin + "c");
+        EXPECT_EQ(box.text(), "ab" + grin + grin) << "whole characters";
 
-TEST_P(TextEntersABox, ALockedBoxTakesNothing)
-{
-    box.setText("kept");
-    box.Change = [this] { journal.note("Change"); };
-    box.setLocked(true);
-    journal.taken();
-    enter("x");
-    press(Qt::Key_Backspace);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(box.text(), "kept");
-    EXPECT_EQ(journal.taken(), "");
-}
-
-class Entry : public FormsTest {
-protected:
-    void SetUp() override
-    {
-        FormsTest::SetUp();
-        form.show();
+        box.setText("");
+        QString strokes;
+        box.KeyPress = [&strokes](int& keyAscii) {
+            strokes += QString(" %1").arg(keyAscii);
+            keyAscii = keyAscii >= 'a' ? forms::key::Refused : keyAscii == 'B' ? int('X') : keyAscii;
+        };
+        GetParam().enter(box, "1aB2");
+        EXPECT_EQ(strokes, " 49 97 66 50");
+        EXPECT_EQ(box.text(), "1X2");
     }
+}
 
-    Journal journal;
-    Boxes form{journal};
-};
-
-TEST_F(Entry, ControlCharactersAndLineEndsAreDroppedInOneLine)
+TEST_P(TextEnters, NoLockedBox)
 {
-    const QString text = QString("a\tb\r\nc\x01\x7f") + QChar(0x2028) + QChar(0x85) + "d";
-    for (const char* name : {"line", "combo"}) {
+    for (const char* name : boxNames) {
+        TextEntry& box = form.entry(name);
+        box.setText("kept");
+        box.Change = [] { ADD_FAILURE() << "a change"; };
+        box.setLocked(true);
+        click(box);
+        GetParam().enter(box, "x");
+        press(Qt::Key_Backspace);
+        press(Qt::Key_Delete);
+        EXPECT_EQ(box.text(), "kept") << name;
+    }
+}
+
+using Entry = FormInFront<AllKinds>;
+
+TEST_F(Entry, DropsControlCharactersAndLineEndsInOneLineAndKeepsANoBreakSpace)
+{
+    const QString text = QString("a\tb\r\nc\x01\x7f") + QChar(0x2028) + QChar(0x85) + QChar(QChar::Nbsp) + "d";
+    const QString left = QString("abc") + QChar(QChar::Nbsp) + "d";
+    for (const char* name : {"line", "empty"}) {
         TextEntry& box = form.entry(name);
         click(box);
         paste(text);
-        EXPECT_EQ(box.text(), "abcd") << name;
+        press(Qt::Key_Tab, Qt::AltModifier); // types nothing
+        EXPECT_EQ(box.text(), left) << name;
         box.setText("");
         box.KeyPress = [](int&) {};
         commit(text);
-        EXPECT_EQ(box.text(), "abcd") << name;
+        EXPECT_EQ(box.text(), left) << name;
     }
+    click(form.memo);
+    paste(left);
+    press(Qt::Key_Tab, Qt::AltModifier);
+    EXPECT_EQ(form.memo.text(), left);
 }
 
 TEST_F(Entry, AMegabytePastedIsCutToTheLimit)
@@ -155,12 +117,8 @@ TEST_F(Entry, ChangeHasRunWhenTheSetterReturnsAndOnlyWhereTheTextDiffers)
     for (const char* name : boxNames) {
         TextEntry& box = form.entry(name);
         box.Change = [this, &box] { journal.note(box.text()); };
-        journal.taken();
-        box.setText("new");
-        EXPECT_EQ(journal.taken(), "new") << name;
-        box.setText("new");
-        EXPECT_EQ(journal.taken(), "") << name;
         box.setMaxLength(2);
+        box.setText("longer than the limit");
         box.setText("longer than the limit");
         EXPECT_EQ(journal.taken(), "longer than the limit") << name;
     }
@@ -178,23 +136,10 @@ TEST_F(Entry, ALongTextShowsItsBeginningAgainWhenTheFocusHasGone)
     }
 }
 
-TEST_F(Entry, ANoBreakSpaceStaysAndAltTabTypesNothing)
-{
-    const QString text = QString("a") + QChar(QChar::Nbsp) + "b";
-    for (const char* name : boxNames) {
-        TextEntry& box = form.entry(name);
-        click(box);
-        paste(text);
-        press(Qt::Key_Tab, Qt::AltModifier);
-        EXPECT_EQ(box.text(), text) << name;
-    }
-}
-
 TEST_F(Entry, ALengthCapLetsTheLastCharacterInAndNoMore)
 {
     form.line.setText("ab");
     forms::behaviours::lengthCap(form.line, 3);
-    click(form.line);
     type("xyz");
     EXPECT_EQ(form.line.text(), "abx");
     press(Qt::Key_Backspace);
@@ -203,7 +148,6 @@ TEST_F(Entry, ALengthCapLetsTheLastCharacterInAndNoMore)
 
 TEST_F(Entry, AListOnlyBoxKeepsItsTextWhateverHandIsLaidOnIt)
 {
-    form.combo.addItems({"alpha", "beta"});
     forms::behaviours::listOnly(form.combo);
     pick(form.combo, "beta");
     type("x");

@@ -3,18 +3,7 @@
 
 namespace {
 
-class Focus : public FormsTest {
-protected:
-    void SetUp() override
-    {
-        FormsTest::SetUp();
-        form.show();
-        journal.taken();
-    }
-
-    Journal journal;
-    TwoBoxes form{"Form", journal};
-};
+using Focus = FormInFront<TwoBoxes>;
 
 TEST_F(Focus, LeavesOneControlBeforeItComesToTheOther)
 {
@@ -30,7 +19,7 @@ TEST_F(Focus, LeavesOneControlBeforeItComesToTheOther)
 
 TEST_F(Focus, SetOnAFormThatIsNotInFrontIsTakenWhenItComes)
 {
-    TwoBoxes other("Other", journal);
+    TwoBoxes other(journal, "Other");
     other.two.setFocus();
     EXPECT_EQ(journal.taken(), "");
     EXPECT_FALSE(other.two.hasFocus());
@@ -43,13 +32,10 @@ TEST_F(Focus, SetOnAFormThatIsNotInFrontIsTakenWhenItComes)
     EXPECT_EQ(journal.taken(), "Other.Deactivate Form.Activate one.LostFocus two.GotFocus");
 }
 
-TEST_F(Focus, AndActivationDoNotStirForAMessageBox)
+TEST_F(Focus, AndActivationDoNotStirForABoxAMenuOrAnotherProgram)
 {
     useRealBoxes();
-    form.answers["ok.Click"] = [this] {
-        const auto answer = forms::MsgBox("Sure?", forms::box::Question + forms::box::YesNo, "Title");
-        form.note(answer == forms::Answer::Yes ? "Yes" : "No");
-    };
+    form.askAt("ok.Click");
     form.ok.setDefault(true);
     for (const auto& [key, answer] : {std::pair(Qt::Key_Return, "Yes"), std::pair(Qt::Key_Escape, "No")}) {
         whileModal([pressed = key] { press(pressed); });
@@ -57,17 +43,46 @@ TEST_F(Focus, AndActivationDoNotStirForAMessageBox)
         EXPECT_EQ(journal.taken(), answer);
         type("x");
     }
-    EXPECT_EQ(form.one.text(), "xx");
-}
-
-TEST_F(Focus, AndActivationDoNotStirForAContextMenuOrAnotherProgram)
-{
-    pasteByMenu(form.one, "x");
-    EXPECT_EQ(journal.taken(), "");
+    pasteByMenu(form.one, "y");
     visitAnotherProgram();
     EXPECT_EQ(journal.taken(), "");
-    type("y");
-    EXPECT_EQ(form.one.text(), "xy");
+    type("z");
+    EXPECT_EQ(form.one.text(), "xxyz");
+}
+
+class Activation : public FormInFront<TwoBoxes> {
+protected:
+    TwoBoxes second{journal, "Second"};
+};
+
+TEST_F(Activation, OfOneScreenFollowsTheDeactivationOfTheOther)
+{
+    second.show();
+    EXPECT_EQ(journal.taken(), "Form.Deactivate Second.Activate one.GotFocus");
+    form.hide();
+    EXPECT_EQ(journal.taken(), "") << "a screen behind goes without an event";
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(Activation, OfAModalScreenAndBackOfItsOwner)
+{
+    form.answers["ok.Click"] = [this] {
+        second.show_Modal(form);
+        journal.note("returned");
+    };
+    second.answers["ok.Click"] = [this] {
+        second.hide();
+        second.show_Modal(form); // an event in between: the first call hasn't returned yet
+    };
+    whileModal([this] {
+        EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Form.Deactivate Second.Activate one.GotFocus");
+        type("x");
+        click(second.ok);
+    });
+    click(form.ok);
+    EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Second.Deactivate Form.Activate returned");
+    EXPECT_EQ(second.one.text(), "x");
+    EXPECT_TRUE(form.ok.hasFocus());
 }
 
 } // namespace

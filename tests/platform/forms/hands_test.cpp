@@ -1,104 +1,59 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
-using forms::ComboStyle;
-
 namespace {
 
-/// Boxes with more to press on than their text.
-class Parts : public TrialForm {
-public:
-    explicit Parts(Journal& journal)
-        : TrialForm("Parts", journal)
-    {
-        ok.setCaption("&OK");
-        layOut({&line, &empty, &filled, &locked, &choice, &memo, &check, &house, &garage, &ok});
-        for (forms::ComboBox* each : {&filled, &locked, &choice})
-            each->addItems({"alpha", "beta"});
-        locked.setLocked(true);
-        ok.setDefault(true);
-        watchFocusAndClicks();
-    }
-
-    forms::TextBox line{*this, "line"};
-    forms::ComboBox empty{*this, "empty"};
-    forms::ComboBox filled{*this, "filled"};
-    forms::ComboBox locked{*this, "locked"};
-    forms::ComboBox choice{*this, "choice", ComboStyle::PickOnly};
-    forms::MemoBox memo{*this, "memo"};
-    forms::CheckBox check{*this, "check"};
-    forms::OptionButton house{*this, "house"};
-    forms::OptionButton garage{*this, "garage"};
-    forms::CommandButton ok{*this, "ok"};
-};
-
-class Hands : public FormsTest {
-protected:
-    void SetUp() override
-    {
-        FormsTest::SetUp();
-        form.show();
-        journal.taken();
-    }
-
-    Journal journal;
-    Parts form{journal};
-};
+// Presses on other parts of a control than its middle, keys that are held, clicks that come twice.
+using Hands = FormInFront<AllKinds>;
 
 TEST_F(Hands, TheFocusComesAtThePressWhateverPartItIsOn)
 {
     struct Press {
-        forms::Control& control;
+        const char* control;
         std::function<void()> press;
-        forms::Control& next;
+        const char* next;
     };
     const Press presses[] = {
-        {form.empty, [this] { clickArrow(form.empty); }, form.filled},
-        {form.filled, [this] { clickArrow(form.filled); }, form.locked},
-        {form.filled,
-            [this] {
-                clickAt(form.filled, {0, 0});
-            },
-            form.locked},
-        {form.locked, [this] { clickArrow(form.locked); }, form.choice},
-        {form.choice, [this] { clickArrow(form.choice); }, form.memo},
-        {form.memo, [this] { clickScrollBar(form.memo); }, form.check},
-        {form.memo, [this] { EXPECT_TRUE(rightClick(form.memo)); }, form.check},
+        {"empty", [this] { clickArrow(form.empty); }, "combo"},
+        {"combo", [this] { clickArrow(form.combo); }, "locked"},
+        {"combo", [this] { clickAt(form.combo, QPoint()); }, "locked"},
+        {"locked", [this] { clickArrow(form.locked); }, "choice"},
+        {"choice", [this] { clickArrow(form.choice); }, "memo"},
+        {"memo", [this] { clickScrollBar(form.memo); }, "check"},
+        {"memo", [this] { EXPECT_TRUE(rightClick(form.memo)); }, "check"},
     };
     for (const auto& [control, press, next] : presses) {
-        form.line.setFocus();
-        journal.taken();
+        stand(form.line);
         press();
-        EXPECT_EQ(journal.taken(), "line.LostFocus " + control.name() + ".GotFocus");
+        EXPECT_EQ(journal.taken(), QString("line.LostFocus %1.GotFocus").arg(control));
         if (isListOpen())
             ::press(Qt::Key_Escape);
         tab();
-        EXPECT_EQ(journal.taken(), control.name() + ".LostFocus " + next.name() + ".GotFocus");
+        EXPECT_EQ(journal.taken(), QString("%1.LostFocus %2.GotFocus").arg(control, next));
     }
 }
 
 TEST_F(Hands, TheSecondClickBringsTheFocusWhereTheFirstHasClosedAList)
 {
-    clickArrow(form.filled);
+    clickArrow(form.combo);
     journal.taken();
     EXPECT_TRUE(isListOpen());
     click(form.line);
     EXPECT_FALSE(isListOpen());
     clickAgain();
-    EXPECT_EQ(journal.taken(), "filled.LostFocus line.GotFocus line.Click");
+    EXPECT_EQ(journal.taken(), "combo.LostFocus line.GotFocus line.Click");
     EXPECT_TRUE(form.line.hasFocus());
 }
 
 TEST_F(Hands, ABoxThatTheFocusBringsComesOnceWithNoListBehindIt)
 {
     useRealBoxes();
-    for (forms::ComboBox* each : {&form.filled, &form.choice}) {
+    for (forms::ComboBox* each : {&form.combo, &form.choice}) {
         form.answers[each->name() + ".GotFocus"] = [this] {
             form.note("box");
             forms::MsgBox("Mind this", forms::box::Information, "Title");
         };
-        form.line.setFocus();
-        journal.taken();
+        stand(form.line);
         whileModal([] { clickInBox("OK"); });
         clickArrow(*each);
         EXPECT_EQ(journal.taken(), "line.LostFocus box") << each->name().toStdString();
@@ -115,7 +70,6 @@ TEST_F(Hands, APressCountsNoMoreOnceAHandlerHasSentTheFocusElsewhere)
     for (forms::Control* each : std::initializer_list<forms::Control*>{&form.memo, &form.check}) {
         each->MouseDown = [this] { form.note("MouseDown"); };
         each->MouseUp = [this] { form.note("MouseUp"); };
-        journal.taken();
         click(*each);
         EXPECT_EQ(journal.taken(), "line.LostFocus " + each->name() + ".LostFocus line.GotFocus");
     }
@@ -129,8 +83,7 @@ TEST_F(Hands, AListDropsDownWithAnEventInWhichALockCanEnd)
         form.locked.setLocked(form.line.text() == "shut");
     };
     form.line.setText("shut");
-    form.locked.setFocus();
-    journal.taken();
+    stand(form.locked);
     for (const auto& opens :
         std::initializer_list<std::function<void()>>{[this] { clickArrow(form.locked); }, [] { press(Qt::Key_F4); }}) {
         form.locked.setLocked(true);
@@ -144,7 +97,7 @@ TEST_F(Hands, AListDropsDownWithAnEventInWhichALockCanEnd)
     EXPECT_EQ(form.locked.text(), "beta");
 }
 
-TEST_F(Hands, MouseAndKeyComeUpWhenTheValueHasTurned)
+TEST_F(Hands, AClickComesWhenAValueTurnsByUserOrCodeAndMouseAndKeyComeUpBehindIt)
 {
     form.check.MouseUp = [this] { form.note(QString::number(form.check.value())); };
     form.check.KeyUp = [this](int&) { form.note(QString::number(form.check.value())); };
@@ -154,8 +107,15 @@ TEST_F(Hands, MouseAndKeyComeUpWhenTheValueHasTurned)
     press(Qt::Key_Space);
     EXPECT_EQ(journal.taken(), "check.Click 0");
     click(form.garage);
-    EXPECT_EQ(journal.taken(), "check.LostFocus garage.GotFocus garage.Click on");
-    form.garage.setValue(false);
+    click(form.garage);
+    EXPECT_EQ(journal.taken(), "check.LostFocus garage.GotFocus garage.Click on on");
+    for (int times = 0; times < 2; ++times) {
+        form.check.setValue(1);
+        form.house.setValue(true);
+    }
+    EXPECT_EQ(journal.taken(), "check.Click house.Click");
+    EXPECT_FALSE(form.garage.value());
+    form.house.setValue(false);
     EXPECT_EQ(journal.taken(), "") << "an option clicks when it turns on";
 }
 
@@ -176,19 +136,13 @@ TEST_F(Hands, ADoubleClickIsOneClickAndADoubleClick)
     EXPECT_EQ(journal.taken(), "line.LostFocus memo.GotFocus memo.Click DblClick");
 }
 
-// ---- keys that are held, clicks that come twice
-
 TEST_F(Hands, AHeldKeyCountsOnceAndAnswersNoBoxThatItHasOpened)
 {
     useRealBoxes();
-    form.answers["ok.Click"] = [this] {
-        const auto answer = forms::MsgBox("Sure?", forms::box::Question + forms::box::YesNo, "Title");
-        form.note(answer == forms::Answer::Yes ? "Yes" : "No");
-    };
+    form.askAt("ok.Click");
     for (const Qt::KeyboardModifiers modifiers : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::AltModifier)}) {
         const Qt::Key key = modifiers ? Qt::Key_O : Qt::Key_Return;
-        form.line.setFocus();
-        journal.taken();
+        stand(form.line);
         whileModal([key, modifiers] {
             repeat(key, modifiers);
             repeat(Qt::Key_Return);
@@ -213,8 +167,7 @@ TEST_F(Hands, AHeldKeyRepeatsWhatItTypesAndNothingElse)
     hold(Qt::Key_Return);
     repeat(Qt::Key_Return, {}, 1);
     EXPECT_EQ(form.memo.text(), "\n\n");
-    form.check.setFocus();
-    journal.taken();
+    stand(form.check);
     struct Key {
         Qt::Key key;
         Qt::KeyboardModifiers modifiers;
@@ -237,7 +190,7 @@ TEST_F(Hands, AHeldKeyRepeatsWhatItTypesAndNothingElse)
 
 TEST_F(Hands, TheSecondClickOfADoubleClickPressesNothingOnAnotherScreen)
 {
-    Parts other(journal);
+    AllKinds other(journal);
     form.answers["ok.Click"] = [&other] { other.show(); };
     click(form.ok);
     journal.taken();

@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cmath>
@@ -58,17 +57,12 @@ void expectWholeText(const QLabel& words, const QString& text)
 
 TEST_F(Looks, AMessageBoxShowsItsWholeTextAtEveryTypeSize)
 {
-    const QString texts[] = {
-        QStringLiteral("Any Unsaved Changes Will Be Lost...Continue"),
-        QStringLiteral("          Account Has Been Updated!"),
-        QStringLiteral("You Must Select A Future Policy Expiration Date Before Selecting This Option!"),
-        QStringLiteral("This Name Is Used By Other Assets In Your Inventory.\n\n"
-                       "Changing It Here Changes The List That You Choose From, And None Of The Assets That You Have "
-                       "Entered Before. Are You Sure You Want To Change It?"),
-        QStringLiteral("A folder without a blank: /home/someone/%1").arg(QString(40, u'x')),
-    };
+    const QString texts[] = {"          Account Has Been Updated!",
+        "You Must Select A Future Policy Expiration Date Before Selecting This Option!",
+        QString("Several lines of several words\n\n") + QString("A sentence of five words. ").repeated(9),
+        "A folder without a blank: /home/someone/" + QString(40, u'x')};
     useRealBoxes();
-    TwoBoxes form("Form", journal);
+    TwoBoxes form(journal);
     for (const double points : {9.0, 12.0, 16.0}) {
         setDesktopFont(points);
         form.show();
@@ -101,32 +95,10 @@ QImage pictureOf(const forms::Control& control)
     return control.widget()->grab().toImage();
 }
 
-struct AllKinds : TrialForm {
-    explicit AllKinds(Journal& journal)
-        : TrialForm("AllKinds", journal)
-    {
-        for (forms::Button* button : std::initializer_list<forms::Button*>{&push, &mainPush, &option, &tick, &other})
-            button->setCaption("Words");
-        look::mainAction(mainPush);
-        memo.setText("Some words");
-        pick.addItems({"one", "two"});
-        layOut({&line, &memo, &edit, &pick, &push, &mainPush, &option, &tick, &other});
-    }
-
-    forms::TextBox line{*this, "line"};
-    forms::MemoBox memo{*this, "memo"};
-    forms::ComboBox edit{*this, "edit"};
-    forms::ComboBox pick{*this, "pick", forms::ComboStyle::PickOnly};
-    forms::CommandButton push{*this, "push"};
-    forms::CommandButton mainPush{*this, "mainPush"};
-    forms::OptionButton option{*this, "option"};
-    forms::CheckBox tick{*this, "tick"};
-    forms::CommandButton other{*this, "other"};
-};
-
 TEST_F(Looks, EveryKindOfControlShowsThatItHasTheFocus)
 {
     AllKinds form(journal);
+    form.memo.setText("Some words");
     form.show();
     for (forms::Control* control : form.controls()) {
         if (control == &form.other)
@@ -145,22 +117,6 @@ TEST_F(Looks, EveryKindOfControlShowsThatItHasTheFocus)
     EXPECT_GT(differingPixels(pictureOf(form.memo), plain), 1000) << "the selection shows";
     form.other.setFocus();
     EXPECT_EQ(differingPixels(pictureOf(form.memo), plain), 0) << "a box without the focus shows no selection";
-}
-
-TEST_F(Looks, TheMainActionIsFilledWhileItCanBeChosenAndNotPressed)
-{
-    AllKinds form(journal);
-    form.show();
-    const auto face = [&form] {
-        return QColor(pictureOf(form.mainPush).pixel(form.mainPush.widget()->width() / 2, 5));
-    };
-    EXPECT_EQ(face(), look::colours().accent);
-    forms::behaviours::showPressed(form.mainPush);
-    EXPECT_EQ(face(), look::colours().pressed);
-    forms::behaviours::showReleased(form.mainPush);
-    EXPECT_EQ(face(), look::colours().accent);
-    form.mainPush.setEnabled(false);
-    EXPECT_NE(face(), look::colours().accent);
 }
 
 // ---- colours and sizes
@@ -228,20 +184,6 @@ TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithIt)
         EXPECT_NEAR(double(large[index]) / small[index], 16.0 / 11, 0.15) << "measure " << index;
 }
 
-TEST_F(Looks, AnIconIsSharpAtTwiceItsSize)
-{
-    QTemporaryDir folder;
-    for (const auto& [file, size] : {std::pair("x.png", 20), std::pair("x@2x.png", 40), std::pair("x@4x.png", 80)}) {
-        QImage picture(size, size, QImage::Format_ARGB32);
-        picture.fill(size == 80 ? Qt::red : Qt::blue);
-        picture.save(folder.filePath(file));
-    }
-    const QIcon icon = look::icon(folder.filePath("x.png"));
-    const QPixmap doubled = icon.pixmap(QSize(36, 36), 2.0);
-    EXPECT_EQ(doubled.size(), QSize(72, 72));
-    EXPECT_EQ(QColor(doubled.toImage().pixel(36, 36)), QColor(Qt::red));
-}
-
 TEST_F(Looks, ADarkDesktopChangesNothing)
 {
     const QPalette light = QApplication::palette();
@@ -277,34 +219,6 @@ struct Pictured : TrialForm {
     forms::Picture answering{*this, "answering"};
     forms::Label footer{*this, "footer", "Foot"};
 };
-
-TEST_F(Looks, OnASmallDesktopPicturesGiveUpTheirRoomFirstAndGapsThen)
-{
-    QTemporaryDir folder;
-    const int room = QApplication::primaryScreen()->availableGeometry().height();
-    const auto show = [&](int height) {
-        const QString file = folder.filePath(QStringLiteral("%1.png").arg(height));
-        QImage(40, height, QImage::Format_ARGB32).save(file);
-        auto form = std::make_unique<Pictured>(journal, file);
-        form->show();
-        settle();
-        return form;
-    };
-    const auto small = show(50);
-    EXPECT_EQ(small->picture.widget()->height(), std::lround(50 * look::pictureScale()));
-    EXPECT_GE(small->window()->height(), std::min(room, look::leastWindow().height()));
-    const int gaps = small->canvas()->sizeHint().height() - 2 * small->picture.widget()->height();
-
-    const int large = room - gaps;
-    const auto tall = show(static_cast<int>(large * 0.6 / look::pictureScale()));
-    EXPECT_TRUE(tall->picture.isVisible());
-    EXPECT_LT(tall->picture.widget()->height(), large * 0.5);
-    EXPECT_NEAR(tall->answering.widget()->height(), large * 0.6, 1) << "what can be pressed stays whole";
-
-    const auto huge = show(static_cast<int>((large + 40) / look::pictureScale()));
-    EXPECT_FALSE(huge->picture.isVisible());
-    EXPECT_LE(huge->canvas()->sizeHint().height(), room) << "the gaps are halved";
-}
 
 TEST_F(Looks, AScreenLargerThanTheDesktopScrollsToTheControlThatHasTheFocus)
 {
@@ -351,6 +265,35 @@ TEST_F(Looks, AScreenIsAWindowNamedByItsHeading)
     EXPECT_EQ(screen->text(QAccessible::Name), "First");
     form.heading.setCaption("Second");
     EXPECT_EQ(screen->text(QAccessible::Name), "Second");
+}
+
+TEST_F(Looks, ProgressIsSeenWhileAHandlerRunsOnAndCostsFewPaints)
+{
+    struct PaintCounter : QObject {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int paints = 0;
+    } counter;
+    TrialForm form("Working", journal);
+    forms::ProgressBar bar{form, "bar"};
+    forms::CommandButton go{form, "go"};
+    form.layOut({&bar, &go});
+    form.show();
+    settle();
+    bar.widget()->installEventFilter(&counter);
+    static constexpr int steps = 20000;
+    go.Click = [&bar, &counter] {
+        bar.setMax(steps);
+        for (int step = 1; step <= steps; ++step)
+            bar.setValue(step);
+        EXPECT_GT(counter.paints, 0);
+        EXPECT_LT(counter.paints, steps / 10);
+        EXPECT_EQ(bar.value(), steps);
+    };
+    click(go);
 }
 
 } // namespace

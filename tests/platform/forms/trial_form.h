@@ -70,6 +70,15 @@ public:
 
     void note(const QString& event) { journal_.note(event); }
 
+    /// Has a button ask, and notes the answer.
+    void askAt(const QString& event)
+    {
+        answers[event] = [this] {
+            const auto answer = forms::MsgBox("Sure?", forms::box::Question + forms::box::YesNo, "Title");
+            note(answer == forms::Answer::Yes ? "Yes" : "No");
+        };
+    }
+
 protected:
     void Form_Activate() override
     {
@@ -86,7 +95,7 @@ private:
 /// A screen with two boxes and a button, for what focus and activation do.
 class TwoBoxes : public TrialForm {
 public:
-    TwoBoxes(const QString& name, Journal& journal)
+    explicit TwoBoxes(Journal& journal, const QString& name = "Form")
         : TrialForm(name, journal)
     {
         ok.setCaption("&OK");
@@ -97,4 +106,57 @@ public:
     forms::TextBox one{*this, "one"};
     forms::TextBox two{*this, "two"};
     forms::CommandButton ok{*this, "ok"};
+};
+
+/// A screen with a control of every kind; Enter is the click of `ok`.
+class AllKinds : public TrialForm {
+public:
+    explicit AllKinds(Journal& journal)
+        : TrialForm("AllKinds", journal)
+    {
+        for (forms::Button* each : std::initializer_list<forms::Button*>{&check, &house, &garage, &other})
+            each->setCaption("Words");
+        ok.setCaption("&OK");
+        ok.setDefault(true);
+        for (forms::ComboBox* each : {&combo, &locked, &choice})
+            each->addItems({"alpha", "beta", "gamma"});
+        locked.setLocked(true);
+        layOut({&line, &empty, &combo, &locked, &choice, &memo, &check, &house, &garage, &other, &ok});
+        watchFocusAndClicks();
+    }
+
+    forms::TextEntry& entry(const QString& name) { return control<forms::TextEntry>(*this, name); }
+
+    forms::TextBox line{*this, "line"};
+    forms::ComboBox empty{*this, "empty", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::ComboBox combo{*this, "combo"};
+    forms::ComboBox locked{*this, "locked"};
+    forms::ComboBox choice{*this, "choice", forms::ComboStyle::PickOnly};
+    forms::MemoBox memo{*this, "memo"};
+    forms::CheckBox check{*this, "check"};
+    forms::OptionButton house{*this, "house"};
+    forms::OptionButton garage{*this, "garage"};
+    forms::CommandButton other{*this, "other"};
+    forms::CommandButton ok{*this, "ok"};
+};
+
+/// A test with a form that is in front; the journal begins then.
+template <class TestedForm>
+class FormInFront : public FormsTest {
+protected:
+    FormInFront()
+    {
+        form.show();
+        journal.taken();
+    }
+
+    /// Puts the focus there and forgets what has happened until then.
+    void stand(forms::Control& control)
+    {
+        control.setFocus();
+        journal.taken();
+    }
+
+    Journal journal;
+    TestedForm form{journal};
 };

@@ -17,37 +17,32 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 namespace {
 
 using report::Preview;
 
 /// A screen of the program.
-class TrialScreen : public forms::Form {
-public:
+struct TrialScreen : forms::Form {
     TrialScreen()
         : forms::Form("TrialScreen")
     {
-        auto* column = new QVBoxLayout(canvas());
-        column->addWidget(button.widget());
+        (new QVBoxLayout(canvas()))->addWidget(button.widget());
         button.Click = [this] { ++clicks; };
     }
+
+    void Form_Activate() override { ++activations; }
 
     forms::CommandButton button{*this, "button"};
     int activations = 0;
     int clicks = 0;
-
-private:
-    void Form_Activate() override { ++activations; }
 };
 
 /// A screen from which the report is opened, and its window.
 class ReportPreview : public FormsTest {
 protected:
-    void SetUp() override
+    ReportPreview()
     {
-        FormsTest::SetUp();
         screen_.show();
         open();
     }
@@ -98,14 +93,6 @@ protected:
 
     report::PageView& view() { return *part<report::PageView>("pageView"); }
     QScrollBar& bar() { return *view().verticalScrollBar(); }
-
-    void wheel(int degrees)
-    {
-        const QPointF middle = view().viewport()->rect().center();
-        QWheelEvent event(middle, view().viewport()->mapToGlobal(middle), {}, {0, degrees * 8}, Qt::NoButton, {},
-            Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(view().viewport(), &event);
-    }
 
     /// Types a path into the dialog that Ctrl+S opens, and accepts it.
     void saveAs(const QString& path)
@@ -160,10 +147,10 @@ TEST_F(ReportPreview, TurnsPagesByKeysButtonsNumberAndWheel)
         key(Qt::Key_PageDown); // down the page first
     EXPECT_EQ(preview_->page(), 2);
     EXPECT_EQ(bar().value(), 0);
-    wheel(+15);
+    user::wheel(*view().viewport(), +120);
     EXPECT_EQ(preview_->page(), 1);
     EXPECT_EQ(bar().value(), bar().maximum());
-    wheel(-15);
+    user::wheel(*view().viewport(), -120);
     EXPECT_EQ(preview_->page(), 2);
     key(Qt::Key_End);
     EXPECT_EQ(preview_->page(), 4);
@@ -190,7 +177,6 @@ TEST_F(ReportPreview, ZoomsAndRemembersZoomAndPaper)
     paper->setFocus();
     QTest::keyClick(paper, other.at(0).toLatin1());
     key(Qt::Key_Escape);
-    user::settle();
     EXPECT_FALSE(preview_);
     open();
     EXPECT_EQ(part<QComboBox>("paper")->currentText(), other);
@@ -203,18 +189,15 @@ TEST_F(ReportPreview, ZoomsAndRemembersZoomAndPaper)
 TEST_F(ReportPreview, IsNoScreenOfTheProgram)
 {
     EXPECT_EQ(screen_.activations, 1);
-    screen_.window()->activateWindow();
-    user::settle();
-    preview_->activateWindow();
-    user::settle();
-    screen_.window()->activateWindow();
-    user::settle();
+    for (QWidget* window : {screen_.window(), static_cast<QWidget*>(preview_), screen_.window()}) {
+        window->activateWindow();
+        user::settle();
+    }
     EXPECT_EQ(screen_.activations, 1);
     EXPECT_EQ(forms::activeForm(), &screen_);
     user::click(screen_.button);
     EXPECT_EQ(screen_.clicks, 1);
     key(Qt::Key_W, Qt::ControlModifier);
-    user::settle();
     EXPECT_FALSE(preview_);
     EXPECT_EQ(screen_.activations, 1);
 }

@@ -1,59 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/csv.h"
 #include "platform/report/pdf.h"
+#include "support/files.h"
 #include "support/pdf_text.h"
 #include "support/print.h"
 #include "trial_report.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace {
 
 using report::Outcome;
 using report::Pages;
 
-// No file can grow beyond a few bytes, as on a disk that is full.
-class FullDisk {
-public:
-    FullDisk()
-    {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit little{1024, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &little);
-    }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before_); }
-
-private:
-    rlimit before_{};
-};
-
 class SavedReport : public testing::Test {
 protected:
     QString path(const char* name) const { return folder_.filePath(name); }
     QStringList files() const { return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden); }
-
-    static QByteArray contents(const QString& path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
-    static void write(const QString& path, const QByteArray& contents)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
-    }
 
     const Pages pages_{trial::document(trial::rows(20)), trial::letter()};
     QTemporaryDir folder_;
@@ -81,15 +47,15 @@ TEST_F(SavedReport, IsADocumentWithItsNamesAndFonts)
 
 TEST_F(SavedReport, LeavesAnOlderFileUntilItIsWhole)
 {
-    write(path("old.pdf"), "older");
+    putFile(path("old.pdf"), "older");
     int told = -1;
     const auto cancelled = report::savePdf(pages_, path("old.pdf"), [&told](int done) { return (told = done) < 2; });
     EXPECT_EQ(cancelled, Outcome::Cancelled);
     EXPECT_EQ(told, 2);
-    EXPECT_EQ(contents(path("old.pdf")), "older");
+    EXPECT_EQ(bytesOf(path("old.pdf")), "older");
     EXPECT_EQ(files(), QStringList("old.pdf"));
     EXPECT_EQ(report::savePdf(pages_, path("old.pdf")), Outcome::Done);
-    EXPECT_TRUE(contents(path("old.pdf")).startsWith("%PDF"));
+    EXPECT_TRUE(bytesOf(path("old.pdf")).startsWith("%PDF"));
     EXPECT_EQ(files(), QStringList("old.pdf"));
 }
 
@@ -97,11 +63,11 @@ TEST_F(SavedReport, IsRefusedWhereTheSystemRefuses)
 {
     EXPECT_EQ(report::savePdf(pages_, path("no such folder/a.pdf")), Outcome::Failed);
     EXPECT_FALSE(report::saveCsv(*pages_.document(), path("no such folder/a.csv")));
-    write(path("old.pdf"), "older");
-    const FullDisk full;
+    putFile(path("old.pdf"), "older");
+    const FullDisk full(1024);
     EXPECT_EQ(report::savePdf(pages_, path("old.pdf")), Outcome::Failed);
     EXPECT_FALSE(report::saveCsv(*trial::document(trial::rows(500)), path("a.csv")));
-    EXPECT_EQ(contents(path("old.pdf")), "older");
+    EXPECT_EQ(bytesOf(path("old.pdf")), "older");
     EXPECT_EQ(files(), QStringList("old.pdf"));
 }
 
@@ -111,9 +77,9 @@ TEST_F(SavedReport, IsATableForASpreadsheet)
         {QString::fromUtf8("Caf\u00E9 \U0001F98A"), "-$15.00", " blank"}, {"Lamp", "None", ""}});
     ASSERT_TRUE(report::hasTable(*document));
     ASSERT_TRUE(report::saveCsv(*document, path("a.csv")));
-    EXPECT_EQ(contents(path("a.csv")),
-        "\xEF\xBB\xBFName,Amount,Note\r\n\"Sofa, \"\"blue\"\"\",1234.50,\"two\nlines\"\r\n"
-        "Caf\xC3\xA9 \xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\nLamp,None,\r\n");
+    EXPECT_EQ(bytesOf(path("a.csv")),
+        "\xEF\xBB\xBFName,Amount,Note\r\n\"Sofa, \"\"blue\"\"\",1234.50,\"two\nlines\"\r\nCaf\xC3\xA9 "
+        "\xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\nLamp,None,\r\n");
     document->layout.detail.fields.clear();
     document->layout.detail.growing.reset();
     EXPECT_FALSE(report::hasTable(*document));

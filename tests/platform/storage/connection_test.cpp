@@ -7,9 +7,8 @@ namespace {
 
 class ConnectionTest : public StorageTest {
 protected:
-    void SetUp() override
+    ConnectionTest()
     {
-        StorageTest::SetUp();
         wordsView.Open();
         for (int i = 0; i < 40; ++i)
             addWord(wordsView, QString(500, 'w'));
@@ -49,7 +48,7 @@ TEST_F(ConnectionTest, RefusesADamagedCutOrForeignFileAndLeavesItAsItWas)
         {"an unencrypted database", "SQLite format 3" + QByteArray(8177, '\0')},
     };
     for (const auto& [what, bytes] : cases) {
-        putFile(bytes);
+        putFile(path(), bytes);
         expectRefusal(what);
         EXPECT_EQ(failureOf([this] { storage::checkDatabase(path(), key); }), FailureKind::Database) << what;
     }
@@ -94,7 +93,7 @@ TEST_F(ConnectionTest, TellsAtTheNextWriteAndAtTheCloseThatTheFileHasLeftItsPlac
     };
     for (const auto& [how, move] : moves) {
         SCOPED_TRACE(how);
-        putFile(whole);
+        putFile(path(), whole);
         wordsView.Open();
         stageView.Open();
         addWord(wordsView, "confirmed while it lies there");

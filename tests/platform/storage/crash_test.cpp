@@ -92,7 +92,7 @@ TEST_F(CrashTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalThatTheSessionLe
     const QByteArray backup = files().value("data.db");
     breakOff();
     const QByteArray journal = files().value("data.db-journal");
-    putFile(backup);
+    putFile(path(), backup);
     EXPECT_EQ(wordsInFile(), QStringList({"kept"}));
     EXPECT_EQ(files().value("data.db"), backup);
     EXPECT_EQ(files().value("data.db-foreign-journal"), journal);

@@ -2,9 +2,7 @@
 #include "failing_disk.h"
 #include "storage_test.h"
 
-#include <csignal>
 #include <functional>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -47,14 +45,10 @@ TEST_F(FailedWriteTest, AFullDiskLeavesViewAndFileAsTheyWereAndTheNextWriteWorks
     addWord(wordsView, "a");
     wordsView.AddNew();
     wordsView.Fields(words::Word) = QString(200'000, 'x');
-    std::signal(SIGXFSZ, SIG_IGN); // a file that can't grow is to the writer a disk that is full
-    rlimit former{};
-    getrlimit(RLIMIT_FSIZE, &former);
-    const rlimit full{16'384, former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    const auto failure = failureOf([this] { wordsView.Update(); });
-    setrlimit(RLIMIT_FSIZE, &former);
-    EXPECT_EQ(failure, FailureKind::Database);
+    {
+        const FullDisk full(16'384);
+        EXPECT_EQ(failureOf([this] { wordsView.Update(); }), FailureKind::Database);
+    }
     EXPECT_EQ(walk(wordsView), QStringList({"a"}));
     addWord(wordsView, "b");
     wordsView.Close();
@@ -66,7 +60,8 @@ TEST_F(FailedWriteTest, AFolderThatTakesNoNewFileIsToldAsOne)
     QFile::setPermissions(path(), QFile::Permissions(0x6666));
     QFile::setPermissions(folder.path(), QFile::Permissions(0x5555));
     const uid_t user = geteuid();
-    ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0); // nothing is forbidden to root
+    ASSERT_EQ(seteuid(user == 0 ? 65534 : user),
+        0); // nothing is forbidden to root
     wordsView.Open();
     std::string words;
     try {
@@ -169,7 +164,7 @@ TEST_F(FailingSave, LosesNoStoredRowWhereverItBreaksOffAndHoweverTheSessionEnds)
             EXPECT_EQ(found.size(), outcome & Saved ? 3 : 2);
             EXPECT_EQ(found.first(2), QStringList({"a", QString(5000, 'b')}));
             EXPECT_FALSE(failureOf([this] { storage::checkDatabase(path(), key); }));
-            putFile(before);
+            putFile(path(), before);
         }
     }
     EXPECT_GT(changes, 5);

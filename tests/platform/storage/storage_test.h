@@ -4,17 +4,14 @@
 #include "platform/storage/schema.h"
 #include "platform/storage/table_view.h"
 #include "platform/values/failure.h"
+#include "support/files.h"
 #include "support/print.h"
 
-#include <QDir>
-#include <QFile>
 #include <QMap>
 #include <QStringList>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <optional>
 
 namespace things {
@@ -57,7 +54,7 @@ protected:
         "x'000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f'"; // quick: no phrase
     static constexpr const storage::TableDefinition* tables[] = {&things::table, &words::table, &stage::table};
 
-    void SetUp() override
+    StorageTest()
     {
         storage::createDatabase(path(), key, tables);
         home.setFile(path(), key);
@@ -75,19 +72,9 @@ protected:
     QMap<QString, QByteArray> files() const
     {
         QMap<QString, QByteArray> contents;
-        for (const QString& name : QDir(folder.path()).entryList(QDir::Files)) {
-            QFile file(folder.filePath(name));
-            if (file.open(QIODevice::ReadOnly))
-                contents[name] = file.readAll();
-        }
+        for (const QString& name : QDir(folder.path()).entryList(QDir::Files))
+            contents[name] = bytesOf(folder.filePath(name));
         return contents;
-    }
-
-    void putFile(const QByteArray& contents) const
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(contents);
     }
 
     static void addWord(storage::TableView& view, const QString& word, const QString& kind = {})

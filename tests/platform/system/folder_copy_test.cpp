@@ -2,20 +2,16 @@
 #include "platform/system/folder_copy.h"
 
 #include "platform/values/failure.h"
+#include "support/files.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QTemporaryDir>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <csignal>
 #include <filesystem>
+#include <gmock/gmock.h>
 #include <map>
 #include <random>
 
-#include <sys/resource.h>
 #include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -27,14 +23,6 @@ using testing::HasSubstr;
 using testing::Pair;
 
 constexpr int Megabyte = 1 << 20;
-
-void put(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
-    ASSERT_EQ(file.write(bytes), bytes.size());
-}
 
 // Every file, folder and link below a folder, hidden ones too, with the bytes of the files and the aims of the links.
 std::map<std::string, std::string> treeOf(const QString& folder)
@@ -77,18 +65,18 @@ protected:
 
 TEST_F(FolderCopy, LiesOverWhatIsThereAndKeepsTheRest)
 {
-    put(source + "/data", QByteArray(3 * Megabyte + 7, 'n'));
-    put(source + "/below/further/.hidden", "");
-    put(source + "/data-journal", "left out");
-    put(place.filePath("outside/file"), "not ours");
+    putFile(source + "/data", QByteArray(3 * Megabyte + 7, 'n'));
+    putFile(source + "/below/further/.hidden", "");
+    putFile(source + "/data-journal", "left out");
+    putFile(place.filePath("outside/file"), "not ours");
     std::filesystem::create_symlink("below/..", (source + "/round").toStdString());
     QFile::link(place.filePath("outside"), source + "/link");
     QFile::link(place.filePath("nowhere"), source + "/dead");
-    put(target + "/data", "old");
-    put(target + "/mine", "mine");
-    put(target + "/dead", "a file where a link comes");
+    putFile(target + "/data", "old");
+    putFile(target + "/mine", "mine");
+    putFile(target + "/dead", "a file where a link comes");
     QFile::link(place.filePath("outside"), target + "/below");
-    put(target + "/.folder-copy-Xy12Zz", "left behind by a copy that was killed");
+    putFile(target + "/.folder-copy-Xy12Zz", "left behind by a copy that was killed");
 
     sys::copyFolder(source + "/", target + "/", {}, [](const QString& file) { return file.endsWith("/data-journal"); });
     EXPECT_THAT(treeOf(target),
@@ -104,8 +92,8 @@ TEST_F(FolderCopy, LiesOverWhatIsThereAndKeepsTheRest)
 TEST_F(FolderCopy, ThatFailsLeavesTheOldOneWhole)
 {
     for (const char* name : {"/a", "/below/b"}) {
-        put(source + name, QByteArray(2 * Megabyte, 'n'));
-        put(target + name, "old");
+        putFile(source + name, QByteArray(2 * Megabyte, 'n'));
+        putFile(target + name, "old");
     }
     const auto before = treeOf(target);
     int proofs = 0;
@@ -118,21 +106,17 @@ TEST_F(FolderCopy, ThatFailsLeavesTheOldOneWhole)
         HasSubstr("not proved"));
     EXPECT_EQ(treeOf(target), before);
 
-    std::signal(SIGXFSZ, SIG_IGN); // a file that can't grow is to a writer the same as a disk that is full
-    rlimit former{};
-    getrlimit(RLIMIT_FSIZE, &former);
-    const rlimit full{Megabyte + 1, former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    const std::string failure = failureOf(source, target);
-    setrlimit(RLIMIT_FSIZE, &former);
-    EXPECT_THAT(failure, HasSubstr(target.toStdString()));
+    {
+        const FullDisk full(Megabyte + 1);
+        EXPECT_THAT(failureOf(source, target), HasSubstr(target.toStdString()));
+    }
     EXPECT_EQ(treeOf(target), before);
 }
 
 TEST_F(FolderCopy, RefusesWhatIsNoPlaceForIt)
 {
-    put(source + "/below/data", "data");
-    put(place.filePath("file"), "");
+    putFile(source + "/below/data", "data");
+    putFile(place.filePath("file"), "");
     QFile::link(source, place.filePath("link"));
     const auto before = treeOf(source);
     for (const char* name : {"file", "missing/folder", "source", "source/below/copy", "link", "/proc"})
@@ -144,8 +128,8 @@ TEST_F(FolderCopy, KilledAtAnyMomentLeavesEachFileOldOrNew)
 {
     const QString other = place.filePath("other");
     for (const char* name : {"/a", "/below/b"}) {
-        put(source + name, QByteArray(Megabyte, 'x'));
-        put(other + name, QByteArray(Megabyte, 'y'));
+        putFile(source + name, QByteArray(Megabyte, 'x'));
+        putFile(other + name, QByteArray(Megabyte, 'y'));
     }
     sys::copyFolder(source, target);
     std::minstd_rand random(1);

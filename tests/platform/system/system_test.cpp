@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system/folders.h"
 #include "platform/system/processes.h"
-
+#include "platform/system/signals.h"
 #include "platform/values/failure.h"
+#include "support/files.h"
 #include "support/print.h"
 
-#include <QDir>
-#include <QFile>
+#include <QEventLoop>
 #include <QProcess>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include <QTimer>
 
 #include <algorithm>
 #include <optional>
@@ -23,6 +23,14 @@ std::optional<sys::Process> find(const std::vector<sys::Process>& processes, qin
 {
     const auto found = std::find_if(processes.begin(), processes.end(), [pid](const auto& p) { return p.pid == pid; });
     return found == processes.end() ? std::nullopt : std::optional(*found);
+}
+
+// Lets the event loop answer what has arrived.
+void runLoop()
+{
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 } // namespace
@@ -52,10 +60,7 @@ TEST(Processes, ThatAreEndingAreLeftOut)
     QTemporaryDir place;
     const auto addProcess = [&place](qint64 pid, bool isEnding) {
         const QString folder = place.filePath(QString::number(pid));
-        QDir().mkpath(folder);
-        QFile stat(folder + "/stat");
-        ASSERT_TRUE(stat.open(QIODevice::WriteOnly));
-        stat.write("1 (Name (of it)) R" + QByteArray(" 7").repeated(30));
+        putFile(folder + "/stat", "1 (Name (of it)) R" + QByteArray(" 7").repeated(30));
         if (!isEnding)
             QFile::link("/bin/name (deleted)", folder + "/exe");
     };
@@ -81,4 +86,41 @@ TEST(Processes, OfTwoStartsAtOnceExactlyOneIsTheYounger)
     EXPECT_FALSE(sys::isYoungerTwin(self, self));
     EXPECT_FALSE(sys::isYoungerTwin({101, "p", "/bin/p", 8, 5001}, self)) << "another user's";
     EXPECT_FALSE(sys::isYoungerTwin({101, "p", "/opt/p", 7, 5001}, self)) << "another program";
+}
+
+TEST(Folders, FollowAnAbsoluteDataHomeAndTakeARelativeOneForNone)
+{
+    const QByteArray former = qgetenv("XDG_DATA_HOME");
+    const QString usual = QDir::homePath() + "/.local/share/a/b";
+    const std::pair<const char*, QString> cases[] = {{"/data/home", "/data/home/a/b"}, {"data", usual}, {"", usual}};
+    for (const auto& [home, folder] : cases) {
+        qputenv("XDG_DATA_HOME", home);
+        EXPECT_EQ(sys::dataFolder("a/b"), folder) << home;
+    }
+    qputenv("XDG_DATA_HOME", former);
+    EXPECT_EQ(sys::backupFolder("Copy"), QDir::homePath() + "/Copy");
+}
+
+TEST(Termination, RunsTheCallbackOnceFromTheEventLoopAndSparesIgnoredSignals)
+{
+    std::signal(SIGTERM, SIG_DFL); // a runner may have been started with it ignored
+    std::signal(SIGHUP, SIG_IGN);
+    int calls = 0;
+    sys::onTermination([&calls] {
+        if (++calls > 1)
+            return;
+        std::raise(SIGTERM);
+        runLoop();
+    });
+    std::raise(SIGHUP);
+    runLoop();
+    EXPECT_EQ(calls, 0) << "called for an ignored signal";
+    std::raise(SIGTERM);
+    EXPECT_EQ(calls, 0) << "called from the signal handler";
+    runLoop();
+    std::raise(SIGTERM);
+    runLoop();
+    EXPECT_EQ(calls, 1);
+    sys::onTermination({});
+    EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);
 }
