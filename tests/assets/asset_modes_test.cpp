@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/asset_screen.h"
+#include "search/frmSearch.h"
 
 using forms::Answer;
 using forms::screen;
@@ -18,7 +19,11 @@ protected:
             + "cmdDelete off, cmdPrint off";
     }
 
-    static QString setting(General::Column column) { return Data1.rsGeneral.Fields(column).text(); }
+    void expectHelp(int number)
+    {
+        press(Qt::Key_F1);
+        EXPECT_EQ(openedHelp(), number);
+    }
 };
 
 TEST_F(AssetModes, AddsInTheAreaThatTheMenuNames)
@@ -28,54 +33,44 @@ TEST_F(AssetModes, AddsInTheAreaThatTheMenuNames)
         const char* heading;
         const char* location;
         int help;
-    } areas[] = {
-        {"Indoor", "Add Indoor Asset To Inventory", "Library", 12001},
+    } areas[] = {{"Indoor", "Add Indoor Asset To Inventory", "Library", 12001},
         {"Outdoor", "Add Outdoor Asset To Inventory", "Barn", 13001},
-        {"Mobile", "Add Mobile Asset To Inventory", "Car", 14001},
-    };
+        {"Mobile", "Add Mobile Asset To Inventory", "Car", 14001}};
     for (const auto& [area, heading, location, help] : areas) {
         openToAdd(area);
         EXPECT_EQ(scene(), "10 frmAddUpDel: cmbLoc");
         EXPECT_EQ(contents(asset()), empty(area, "optRecOnFile(1) on, txtLoc=None locked"));
         EXPECT_EQ(asset().lblHead.caption(), heading);
-        EXPECT_TRUE(items(asset().cmbLoc).contains(location)) << area;
+        EXPECT_TRUE(itemsOf(asset().cmbLoc).contains(location)) << area;
         EXPECT_EQ(asset().cmbType.listCount(), 0);
         EXPECT_EQ(asset().defaultButton(), &asset().cmdAdd);
-        press(Qt::Key_F1);
-        EXPECT_EQ(openedHelp(), help);
+        expectHelp(help);
         leaveToMainMenu();
     }
 }
 
 TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
 {
-    openToAdd("Outdoor");
-    fillIn("Barn", "Animal Care", "Dog House", "1234.5");
-    type(asset().txtMake, "Acme");
-    click(asset().optPurNewUsed[1]);
-    click(asset().optRecOnFile[0]);
-    type("Desk");
-    save();
-    leaveToMainMenu();
+    addAssetRow({"Outdoor", "Barn", "Animal Care", "Dog House", "2026", "Acme", "Unknown", "Unknown", "11/24/2026",
+        "$1234.50", "Yes", "Desk", "None", "Used"});
     openToAdd("Indoor");
     leaveToMainMenu();
-    openFound(stored(Inventory::ID));
+    openFound("1");
     EXPECT_EQ(scene(), "10 frmAddUpDel: cmbArea");
     EXPECT_EQ(contents(asset()),
-        "cmbArea=Outdoor, cmbLoc=Barn, cmbCat=Animal Care, cmbType=Dog House, cmbYear=2026, "
-        "txtMake=Acme, txtMod=Unknown, txtSerial=Unknown, optPurNewUsed(1) on, "
-        "txtPur=11/24/2026, txtPPrice=$1,234.50, optRecOnFile(0) on, txtLoc=Desk locked, "
-        "txtDescription=None, chkWar off, chkClear on off, cmdAdd off, cmdClear off");
+        "cmbArea=Outdoor, cmbLoc=Barn, cmbCat=Animal Care, cmbType=Dog House, cmbYear=2026, txtMake=Acme, "
+        "txtMod=Unknown, txtSerial=Unknown, optPurNewUsed(1) on, txtPur=11/24/2026, txtPPrice=$1,234.50, "
+        "optRecOnFile(0) on, txtLoc=Desk locked, txtDescription=None, chkWar off, chkClear on off, cmdAdd off, "
+        "cmdClear off");
     EXPECT_EQ(asset().lblHead.caption(), "Update/Delete Asset From Inventory");
     EXPECT_EQ(screen<frmAuto>().lblHead1[0].caption(), "Outdoor Asset Management");
     EXPECT_EQ(asset().defaultButton(), &asset().cmdUpdate);
-    press(Qt::Key_F1);
-    EXPECT_EQ(openedHelp(), 15001);
+    expectHelp(15001);
 
     // Another area has other names; the asset's category keeps its items.
     asset().cmbArea.setFocus();
     pick(asset().cmbArea, "Mobile");
-    EXPECT_TRUE(items(asset().cmbLoc).contains("Car") && !items(asset().cmbLoc).contains("Barn"));
+    EXPECT_TRUE(itemsOf(asset().cmbLoc).contains("Car") && !itemsOf(asset().cmbLoc).contains("Barn"));
     pick(asset().cmbCat, "Aircraft");
     EXPECT_EQ(asset().cmbType.text(), "Dog House");
     asset().hide();
@@ -90,12 +85,10 @@ TEST_F(AssetModes, RemembersBothBoxesAtOnceAndAcrossRuns)
     const int warranty = asset().chkWar.value();
     click(asset().chkClear);
     click(asset().chkWar);
-    EXPECT_EQ(setting(General::ClearCheck), clear ? "Unchecked" : "Checked");
-    EXPECT_EQ(setting(General::WarrantyCheck), warranty ? "Unchecked" : "Checked");
-
+    EXPECT_EQ(inFile(Data1.rsGeneral, {General::ClearCheck, General::WarrantyCheck}),
+        QStringList({clear ? "Unchecked" : "Checked", warranty ? "Unchecked" : "Checked"}));
     forms::destroyScreens();
-    closeData();
-    openData();
+    reopenData();
     openToAdd("Mobile");
     EXPECT_EQ(asset().chkClear.value(), 1 - clear);
     EXPECT_EQ(asset().chkWar.value(), 1 - warranty);
@@ -105,19 +98,14 @@ TEST_F(AssetModes, AsksBeforeItLeaves)
 {
     openToAdd();
     pick(asset().cmbLoc, "Library");
-    const auto ask = [this](const std::function<void()>& leave, Answer answer) {
-        expectBox(LeaveQuestion, Question, answer);
-        leave();
-        EXPECT_EQ(asset().isVisible(), answer == Answer::No);
-    };
-    ask([] { closeBox(asset()); }, Answer::No);
+    expectToStay([] { closeBox(asset()); }, LeaveQuestion);
     EXPECT_EQ(asset().cmbLoc.text(), "Library");
-
-    ask([] { click(asset().cmdMain); }, Answer::Yes);
+    leaveToMainMenu();
     EXPECT_EQ(scene(), "2 frmMain: cmdIn");
     EXPECT_EQ(asset().cmbLoc.text(), "Library"); // the lists stay
     openToAdd();
-    ask([] { closeBox(asset()); }, Answer::Yes);
+    expectBox(LeaveQuestion, YesNoQuestion, Answer::Yes);
+    closeBox(asset());
     EXPECT_EQ(scene(), "13 frmAuto: cmdAdd(0)");
     EXPECT_EQ(asset().cmbLoc.listCount(), 0);
 }
@@ -126,21 +114,54 @@ TEST_F(AssetModes, ClearEmptiesTheFormAndLeavesNoReceiptOptionChosen)
 {
     openToAdd();
     fillIn();
-    type(asset().txtMake, "Acme");
-    click(asset().optPurNewUsed[1]);
-    click(asset().optRecOnFile[0]);
-    type("Desk");
-    expectBox(LeaveQuestion, Question, Answer::Yes);
-    click(asset().cmdClear);
+    fillInTheRest();
+    clickTold(asset().cmdClear, LeaveQuestion, YesNoQuestion, Answer::Yes);
     EXPECT_EQ(contents(asset()), empty("Indoor", "txtLoc=None"));
     EXPECT_EQ(editor().SavedCategory, "");
     EXPECT_EQ(asset().cmbType.listCount(), 0);
     EXPECT_EQ(scene(), "10 frmAddUpDel: cmbLoc");
-
     fillIn();
     save();
-    EXPECT_EQ(stored(Inventory::Receipt), "No");
-    EXPECT_EQ(stored(Inventory::ReceiptLocation), "None");
+    EXPECT_EQ(row(1),
+        "Indoor|Library|Antiques|Antique Desk|2026|Unknown|Unknown|Unknown|11/24/2026|$1234.50|No|None|None|New|None");
+}
+
+class AreaMenu : public ScreenTest {
+protected:
+    static frmAuto& menu() { return screen<frmAuto>(); }
+
+    static void open(const QString& title)
+    {
+        menu().lblHead1[0].setCaption(title);
+        menu().load_It();
+    }
+};
+
+TEST_F(AreaMenu, HasTheHelpOfItsAreaWhereAnyOtherTitleIsMobile)
+{
+    const std::pair<const char*, int> areas[] = {{"Indoor Asset Management", 9001}, {"Outdoor Asset Management", 10001},
+        {"Mobile Asset Management", 11001}, {"indoor asset management", 11001}};
+    for (const auto& [title, help] : areas) {
+        open(title);
+        EXPECT_EQ(scene(), "13 frmAuto: cmdAdd(0)");
+        press(Qt::Key_F1);
+        EXPECT_EQ(openedHelp(), help);
+        tab(); // the next opening is on Add again
+    }
+}
+
+TEST_F(AreaMenu, TellsThatThereIsNothingToUpdateOrDelete)
+{
+    open("Indoor Asset Management");
+    clickTold(menu().cmdUpdate[1], "There Are No Available Assets To Update...Please Add An Asset Before Continuing!!",
+        Information);
+    expectBox("There Are No Available Assets To Delete...Please Add An Asset Before Continuing!!", Information);
+    accessKey('d');
+    EXPECT_TRUE(menu().isVisible());
+
+    addAssetRow({"Outdoor"}); // of another area
+    click(menu().cmdUpdate[1]);
+    EXPECT_EQ(forms::activeForm(), &screen<frmSearch>());
 }
 
 } // namespace

@@ -2,69 +2,44 @@
 #include "assets/asset_screen.h"
 
 using forms::Answer;
-using forms::screen;
 
 namespace {
 
-class AssetSaving : public AssetScreenTest {
-protected:
-    static void setClearBox(bool ticked)
-    {
-        if ((asset().chkClear.value() == 1) != ticked)
-            click(asset().chkClear);
-    }
-};
+using AssetSaving = AssetScreenTest;
 
 TEST_F(AssetSaving, WritesEveryColumnAndAddsThePriceToTheTotal)
 {
+    addDesks({"$10.00"});
     openToAdd();
-    fillIn("Library", "Antiques", "Antique Desk", "1234.5");
-    asset().cmbYear.setFocus();
-    asset().cmbYear.selectAll();
-    type("1890");
-    type(asset().txtMake, "Acme");
-    type(asset().txtMod, "M 2");
-    type(asset().txtSerial, "S-3");
-    click(asset().optPurNewUsed[1]);
-    click(asset().optRecOnFile[0]);
-    type("Desk drawer");
-    asset().txtDescription.setFocus();
-    type("Oak\nold");
+    fillIn();
+    fillInTheRest();
     save();
-
-    const std::pair<Inventory::Column, const char*> columns[] = {{Inventory::Area, "Indoor"},
-        {Inventory::Location, "Library"}, {Inventory::Category, "Antiques"}, {Inventory::Type, "Antique Desk"},
-        {Inventory::Year, "1890"}, {Inventory::Make, "Acme"}, {Inventory::Model, "M 2"},
-        {Inventory::SerialVinId, "S-3"}, {Inventory::DatePurchased, "11/24/2026"}, {Inventory::Amount, "$1234.50"},
-        {Inventory::Receipt, "Yes"}, {Inventory::ReceiptLocation, "Desk drawer"}, {Inventory::Description, "Oak\nold"},
-        {Inventory::Purchased, "Used"}};
-    for (const auto& [column, text] : columns)
-        EXPECT_EQ(stored(column), text) << column;
+    EXPECT_EQ(row(2),
+        "Indoor|Library|Antiques|Antique Desk|1890|Acme|M 2|S-3|11/24/2026|$1234.50|Yes|Desk "
+        "drawer|Oak\nold|Used|None");
     EXPECT_EQ(stored(Inventory::WarrantyDescription), "None");
-    EXPECT_EQ(assetValue().toText(), "$1,234.50");
+    EXPECT_EQ(inventory(), "2: $1,244.50");
 }
 
 TEST_F(AssetSaving, ComesBackFromTheFileAsItWasTyped)
 {
-    const char* const texts[] = {
-        "\U0001F6B2\U0001F468\u200D\U0001F469\u200D\U0001F467", "שלום עולם", "e\u0301 ﷽", "  ' \" ; -- % _  "};
+    QStringList texts;
+    for (const char* text :
+        {"\U0001F6B2\U0001F468\u200D\U0001F469\u200D\U0001F467", "שלום עולם", "e\u0301 ﷽", "  ' \" ; -- % _  "})
+        texts.append(QString::fromUtf8(text));
     openToAdd();
     setClearBox(false);
     fillIn();
-    for (const char* text : texts) {
+    for (const QString& text : texts) {
         asset().txtMake.setFocus();
-        paste(QString::fromUtf8(text));
+        paste(text);
         save();
     }
     asset().txtMod.setFocus();
     paste(QString(1'000'000, u'ß'));
     save();
-    closeData();
-    openData();
-    for (const char* text : texts) {
-        EXPECT_EQ(Data1.rsInventory.Fields(Inventory::Make), QString::fromUtf8(text));
-        Data1.rsInventory.MoveNext();
-    }
+    reopenData();
+    EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Make), texts + QStringList(texts.last()));
     EXPECT_EQ(stored(Inventory::Model), QString(49, u'ß'));
 }
 
@@ -74,17 +49,13 @@ TEST_F(AssetSaving, ClearsTheScreenOrKeepsItForASimilarAsset)
     setClearBox(false);
     fillIn("Barn", "Animal Care", "Dog House", "10");
     save();
-    EXPECT_EQ(asset().cmbLoc.text(), "Barn");
-    EXPECT_EQ(asset().txtPPrice.text(), "$10.00");
+    EXPECT_EQ(asset().cmbLoc.text() + asset().txtPPrice.text(), "Barn$10.00");
     EXPECT_EQ(asset().activeControl(), &asset().cmbLoc);
     save();
-    EXPECT_EQ(Data1.rsInventory.RecordCount(), 2);
-    EXPECT_EQ(assetValue().toText(), "$20.00");
-
+    EXPECT_EQ(inventory(), "2: $20.00");
     setClearBox(true);
     save();
-    EXPECT_EQ(asset().cmbLoc.text(), "");
-    EXPECT_EQ(asset().txtPPrice.text(), "");
+    EXPECT_EQ(asset().cmbLoc.text() + asset().txtPPrice.text(), "");
 }
 
 TEST_F(AssetSaving, LearnsNewNamesWithTheOldOnesOfTheirRow)
@@ -93,12 +64,15 @@ TEST_F(AssetSaving, LearnsNewNamesWithTheOldOnesOfTheirRow)
     const int known = Data1.rsMobile.RecordCount();
     fillIn("Car", "Aircraft", "drone");
     save();
-    EXPECT_EQ(Data1.rsMobile.RecordCount(), known); // known in another spelling, in other rows
-
+    EXPECT_EQ(Data1.rsMobile.RecordCount(),
+        known); // known in another spelling, in other rows
     fillIn("Car", "Aircraft", "Zeppelin");
     save();
-    EXPECT_EQ(lastNames(Data1.rsMobile), QStringList({"Car", "Aircraft", "Zeppelin", "0"}));
     EXPECT_EQ(Data1.rsMobile.RecordCount(), known + 1);
+    const storage::Snapshot names = Data1.rsMobile.snapshot();
+    for (const auto& [column, name] : {std::pair(Names::Location, "Car"), std::pair(Names::Category, "Aircraft"),
+             std::pair(Names::Type, "Zeppelin"), std::pair(Names::Standard, "0")})
+        EXPECT_EQ(names.text(known, column), name);
 }
 
 TEST_F(AssetSaving, IndoorAloneIsClearedBeforeTheUserIsToldOfAnAssetWithANewName)
@@ -127,34 +101,134 @@ TEST_F(AssetSaving, SettlesTheReceiptLocation)
         click(asset().optRecOnFile[1]);
         click(asset().txtLoc);
     };
+    const auto enter = [] { press(Qt::Key_Return); }; // in the box itself: it has not been left
+    const auto button = [] { click(asset().cmdAdd); };
     const struct {
         std::function<void()> choose;
         const char* typed;
-        const char* receipt;
-        const char* location;
+        std::function<void()> save;
+        const char* stored;
     } cases[] = {
-        {yes, "nOnE", "Yes", "None"}, {yes, "Desk", "Yes", "Desk"}, {yes, "", "Yes", "Unknown"}, // left empty
-        {no, "", "No", "None"}, {noThenLocation, "Desk", "Yes", "Not Specified"}, // "No" was stepped on last
+        {yes, "nOnE", button, "Yes None"},
+        {yes, "Desk", button, "Yes Desk"},
+        {yes, "", button, "Yes Unknown"}, // left empty
+        {no, "", button, "No None"},
+        {noThenLocation, "Desk", button, "Yes Not Specified"}, // "No" was stepped on last
+        {yes, "", enter, "Yes Not Specified"},
+        {noThenLocation, "", enter, "Yes None"},
     };
     openToAdd();
     setClearBox(false);
     fillIn();
-    for (const auto& [choose, typed, receipt, location] : cases) {
+    for (const auto& [choose, typed, save, location] : cases) {
         choose();
-        if (*typed)
-            type(typed);
-        save();
-        EXPECT_EQ(stored(Inventory::Receipt), receipt) << typed;
-        EXPECT_EQ(stored(Inventory::ReceiptLocation), location) << typed;
-    }
-    // Enter in the box itself: it has not been left.
-    for (const auto& [choose, location] : {std::pair<std::function<void()>, const char*>(yes, "Not Specified"),
-             std::pair<std::function<void()>, const char*>(noThenLocation, "None")}) {
-        choose();
+        type(typed);
         expectBox(Added, Information);
-        press(Qt::Key_Return);
-        EXPECT_EQ(stored(Inventory::ReceiptLocation), location);
+        save();
+        EXPECT_EQ(stored(Inventory::Receipt) + " " + stored(Inventory::ReceiptLocation), location) << typed;
     }
+}
+
+const char* const NoLocation = "The Location Of The Asset Must Be Selected Before Saving!";
+const char* const NoCategory = "The Category Of The Asset Must Be Selected Before Saving!";
+
+class AssetRefusals : public AssetScreenTest {
+protected:
+    AssetRefusals()
+    {
+        openToAdd();
+        fillIn();
+    }
+
+    struct Step {
+        forms::TextEntry& field;
+        const char* wrong;
+        QString message;
+        const char* right;
+    };
+
+    // A refusal leads to its field and leaves its text, an empty one with its default.
+    void expectRefused(const Step& step, const QString& left)
+    {
+        save(step.message, Exclamation);
+        EXPECT_EQ(asset().activeControl(), &step.field) << step.message.toStdString();
+        EXPECT_EQ(step.field.text(), left) << step.message.toStdString();
+        EXPECT_EQ(inventory(), "0: $0.00");
+        step.field.setText(step.right);
+    }
+};
+
+// All fields are wrong at first; each is put right after its refusal.
+TEST_F(AssetRefusals, ComeInTheOrderOfTheFields)
+{
+    const QString orUnknown = "  If Unavailable Please Type \"Unknown\"";
+    const std::pair<Step, const char*> steps[] = {
+        {{asset().cmbLoc, "", NoLocation, "Library"}, ""},
+        {{asset().cmbCat, "", NoCategory, "Antiques"}, ""},
+        {{asset().cmbType, "", "An Item Must Be Selected Before Saving Asset!", "Antique Desk"}, ""},
+        {{asset().cmbYear, "", "The Year The Asset Was Made Must Be Entered Before Saving!", "2005"}, "2005"},
+        {{asset().txtMake, "", "The Make Of The Asset Must Be Entered Before Saving!" + orUnknown, "A"}, "Unknown"},
+        {{asset().txtMod, "", "The Model Of The Asset Must Be Entered Before Saving!" + orUnknown, "B"}, "Unknown"},
+        {{asset().txtSerial, "",
+             "The Serial Number Of The Asset Must Be Entered Before Saving...If Unavailable Please Type \"Unknown\"",
+             "C"},
+            "Unknown"},
+        {{asset().txtPur, "MM/DD/YYYY", "The Purchase Date Of The Asset Must Be Entered Before Saving!", "11/24/2026"},
+            "MM/DD/YYYY"},
+        {{asset().txtPPrice, "$.00", NoPrice, "$1.00"}, "$.00"},
+    };
+    asset().cmdMain.setFocus();
+    for (const auto& [step, left] : steps)
+        step.field.setText(step.wrong);
+    for (const auto& [step, left] : steps)
+        expectRefused(step, left);
+    save();
+    EXPECT_EQ(inventory(), "1: $1.00");
+}
+
+TEST_F(AssetRefusals, AnswerToEachOddText)
+{
+    const Step steps[] = {
+        {asset().cmbLoc, "< Add/Edit Location >", NoLocation, "Library"},
+        {asset().cmbCat, "< Add/Edit Category >", NoCategory, "Antiques"},
+        {asset().txtPur, "2/30/2006", BadDate, "24/11/2026"},
+        {asset().txtPur, "dd/mm/yyyy", BadDate, "24/11/2026"},
+        {asset().txtPPrice, "", NoPrice, "$0.00"},
+        {asset().txtPur, "11/25/2026", "The Purchase Date Can Not Be A Future Date!", "24/11/2026"},
+    };
+    asset().cmbLoc.setFocus(); // a price that is left empty takes its empty state
+    asset().txtPPrice.setText({}); // a date that is none ends the check before the price is looked at
+    asset().cmbType.setText("< Add/Edit Item >");
+    for (const Step& step : steps) {
+        step.field.setText(step.wrong);
+        expectRefused(step, step.wrong);
+    }
+    save(); // the marker of items alone is a name; day and month change places where they must
+    EXPECT_EQ(row(1),
+        "Indoor|Library|Antiques|< Add/Edit Item "
+        ">|2026|Unknown|Unknown|Unknown|24/11/2026|$0.00|No|None|None|New|None");
+}
+
+TEST_F(AssetRefusals, AnAmountThatIsNoneLeavesNothingBehindButWhatWasTyped)
+{
+    enterPrice("1/2");
+    expectRefused({asset().txtPur, "", BadDate, "11/24/2026"}, "11/24/2026");
+    EXPECT_EQ(asset().txtPPrice.text() + asset().cmbType.text(), "$1/2.00Antique Desk");
+    asset().txtPPrice.setFocus();
+    type("2");
+    save();
+    EXPECT_EQ(inventory(), "1: $2.00");
+    reopenData();
+    EXPECT_EQ(inventory() + " " + stored(Inventory::Amount), "1: $2.00 $2.00");
+}
+
+TEST_F(AssetRefusals, AnAskForNewOrUsedDoesNotStopTheSave)
+{
+    asset().optPurNewUsed[0].setValue(false);
+    asset().txtDescription.setText({});
+    expectBox("Please Indicate How The Asset Was Purchased...New or Used.", Exclamation);
+    save();
+    EXPECT_EQ(stored(Inventory::Purchased) + stored(Inventory::Description), "Used");
 }
 
 } // namespace

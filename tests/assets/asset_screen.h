@@ -5,21 +5,18 @@
 #include "assets/frmAuto.h"
 #include "core/frmMain.h"
 #include "lists/frmAddField.h"
-#include "platform/storage/connection.h"
-#include "platform/storage/statement.h"
 #include "search/frmSearchResults.h"
 #include "support/harness.h"
 
 /// A test with the asset screen, reached as a user reaches it.
 class AssetScreenTest : public ScreenTest {
 protected:
-    static constexpr int Exclamation = 48;
-    static constexpr int Information = 64;
-    static constexpr int Question = 36;
+    static constexpr int Question = YesNoQuestion;
 
     static constexpr const char* Added = "Asset Has Been Added To Your Inventory!";
     static constexpr const char* BadDate =
         "Invalid Purchase Date...Be Sure The Format Is mm/dd/yyyy (Example: 12/25/2005)";
+    static constexpr const char* NoPrice = "The Purchase Price Of The Asset Must Be Entered Before Saving!";
     static constexpr const char* LeaveQuestion = "Any Unsaved Changes Will Be Lost...Continue?";
 
     static frmAddUpDel& asset() { return forms::screen<frmAddUpDel>(); }
@@ -33,6 +30,18 @@ protected:
         click(forms::screen<frmAuto>().cmdAdd[0]);
     }
 
+    /// Desks that were saved earlier, with the total of their prices.
+    static void addDesks(const QStringList& prices)
+    {
+        values::Currency total;
+        for (const QString& price : prices) {
+            addAssetRow({"Indoor", "Library", "Antiques", "Antique Desk", "2026", "Unknown", "Unknown", "Unknown",
+                "11/24/2026", price, "No", "None", "None", "New"});
+            total += values::Currency::parse(price);
+        }
+        put(Data1.rsGeneral, {{General::AssetValue, total.toText()}});
+    }
+
     /// What the pager of the search results does with an asset.
     static void openFound(const QString& id)
     {
@@ -43,18 +52,43 @@ protected:
         asset().check_Form_Type();
     }
 
+    static void retype(forms::TextEntry& box, const QString& text)
+    {
+        box.setFocus();
+        box.selectAll();
+        type(text);
+    }
+
+    static void enterPrice(const QString& price)
+    {
+        asset().cmbLoc.setFocus();
+        asset().txtPPrice.setFocus();
+        type(price);
+    }
+
     /// Fills in what has to be filled in; the date comes from the calendar, which shows today.
     void fillIn(const QString& location = "Library", const QString& category = "Antiques",
         const QString& item = "Antique Desk", const QString& price = "1234.5")
     {
         pick(asset().cmbLoc, location);
         pick(asset().cmbCat, category);
-        asset().cmbType.setFocus();
-        asset().cmbType.selectAll();
-        type(item);
+        retype(asset().cmbType, item);
         pickToday();
-        asset().txtPPrice.setFocus();
-        type(price);
+        enterPrice(price);
+    }
+
+    /// And all the rest.
+    static void fillInTheRest()
+    {
+        retype(asset().cmbYear, "1890");
+        type(asset().txtMake, "Acme");
+        type(asset().txtMod, "M 2");
+        type(asset().txtSerial, "S-3");
+        click(asset().optPurNewUsed[1]);
+        click(asset().optRecOnFile[0]);
+        type("Desk drawer");
+        asset().txtDescription.setFocus();
+        type("Oak\nold");
     }
 
     void pickToday()
@@ -63,30 +97,18 @@ protected:
         click(asset().picDate);
     }
 
-    void save(const QString& message = Added, int flags = Information)
+    static void setClearBox(bool ticked)
     {
-        expectBox(message, flags);
-        click(asset().cmdAdd);
+        if ((asset().chkClear.value() == 1) != ticked)
+            click(asset().chkClear);
     }
 
-    void leaveToMainMenu()
-    {
-        expectBox(LeaveQuestion, Question, forms::Answer::Yes);
-        click(asset().cmdMain);
-    }
+    void save(const QString& message = Added, int flags = Information) { clickTold(asset().cmdAdd, message, flags); }
 
-    /// The newest asset.
-    static QString stored(Inventory::Column column) { return lastRow(Data1.rsInventory).Fields(column).text(); }
+    void leaveToMainMenu() { clickTold(asset().cmdMain, LeaveQuestion, YesNoQuestion, forms::Answer::Yes); }
 
-    static QStringList lastNames(storage::TableView& table)
-    {
-        lastRow(table);
-        return {table.Fields(Names::Location).text(), table.Fields(Names::Category).text(),
-            table.Fields(Names::Type).text(), table.Fields(Names::Standard).text()};
-    }
-
-    /// A column of the asset of an ID, as it would be read when it is opened again.
-    static QString stored(int id, Inventory::Column column)
+    /// A column of the asset of an ID, as it would be read when it is opened again; its row is current then.
+    static QString stored(int id, int column)
     {
         auto& assets = Data1.rsInventory;
         for (assets.MoveFirst(); !(assets.Fields(Inventory::ID) == id);)
@@ -94,21 +116,21 @@ protected:
         return assets.Fields(column).text();
     }
 
-    static values::Currency assetValue() { return Data1.rsGeneral.Fields(General::AssetValue).currency(); }
+    /// The same of the newest asset.
+    static QString stored(Inventory::Column column) { return columnOf(Data1.rsInventory, column).last(); }
 
-    static QStringList items(const forms::ComboBox& box)
+    /// An asset from its area to its kind of warranty: "Indoor|Library|...|New|None".
+    static QString row(int id)
     {
-        QStringList items;
-        for (int index = 0; index < box.listCount(); ++index)
-            items.append(box.list(index));
-        return items;
+        stored(id, Inventory::ID);
+        return cellsOf(Data1.rsInventory, Inventory::Area, Inventory::PartsType).join('|');
     }
 
-    static storage::TableView& lastRow(storage::TableView& table)
+    static values::Currency assetValue() { return Data1.rsGeneral.Fields(General::AssetValue).currency(); }
+
+    /// How many assets there are, and what they are worth.
+    static QString inventory()
     {
-        table.MoveFirst();
-        for (int rows = table.RecordCount(); rows > 1; --rows)
-            table.MoveNext();
-        return table;
+        return QStringLiteral("%1: %2").arg(Data1.rsInventory.RecordCount()).arg(assetValue().toText());
     }
 };

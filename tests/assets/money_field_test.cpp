@@ -1,56 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "assets/money_field.h"
-#include "support/forms_test.h"
-
-#include <QHBoxLayout>
-#include <QWidget>
-
-#include <algorithm>
-#include <functional>
-
-using namespace user;
+#include "assets/asset_screen.h"
 
 namespace {
 
-// A box for an amount behind another box.
-class Till : public forms::Form {
-public:
-    Till()
-        : forms::Form("Till")
-    {
-        auto* line = new QHBoxLayout(canvas());
-        int place = 0;
-        for (forms::TextBox* box : {&before, &amount}) {
-            box->setTabIndex(place++);
-            box->setMaxLength(254);
-            line->addWidget(box->widget());
-        }
-    }
-
-    forms::TextBox before{*this, "before"};
-    forms::TextBox amount{*this, "amount"};
-
-private:
-    MoneyField amountField_{amount};
-};
-
-class MoneyFieldTest : public FormsTest {
+// The price of an asset, behind another box.
+class MoneyFieldTest : public AssetScreenTest {
 protected:
-    void SetUp() override
+    MoneyFieldTest()
     {
-        FormsTest::SetUp();
-        till().show();
+        openToAdd();
+        asset().cmdAdd.setEnabled(false); // Enter goes to the box
     }
 
-    static Till& till() { return forms::screen<Till>(); }
-    static forms::TextBox& amount() { return till().amount; }
+    static forms::TextBox& amount() { return asset().txtPPrice; }
+    static void leave() { asset().txtSerial.setFocus(); }
 
-    // Comes with the Tab key, types, and tells what stands there.
+    // Comes, types, and tells what stands there.
     static QString typed(const QString& text)
     {
-        till().before.setFocus();
+        leave();
         amount().setText({});
-        tab();
+        amount().setFocus();
         type(text);
         return amount().text();
     }
@@ -60,14 +30,14 @@ protected:
     {
         amount().setFocus();
         amount().setText(text);
-        till().before.setFocus();
+        leave();
         return amount().text();
     }
 
     // Brings the focus to a text with the caret at a place.
     static void come(const QString& text, int caret)
     {
-        till().before.setFocus();
+        leave();
         amount().setText(text);
         select(std::min(caret, static_cast<int>(text.size())), 0);
         amount().setFocus();

@@ -9,14 +9,11 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
-#include <QWheelEvent>
 
 using forms::Answer;
 using forms::screen;
 
 namespace {
-
-constexpr int Question = 36;
 
 const char* const CloseQuestion = "Are You Sure You Want To Close The Calendar?";
 const char* const TodayQuestion = "A Calendar Date Has Not Been Selected...Would You Like To Use Today's Date!";
@@ -49,9 +46,9 @@ protected:
 
     static QString outcome() { return scene() + ", " + asset().txtPur.text(); }
 
-    void expectToStay(const QString& question, const std::function<void()>& act)
+    void stays(const QString& question, const std::function<void()>& act)
     {
-        expectBox(question, Question, Answer::No);
+        expectBox(question, YesNoQuestion, Answer::No);
         act();
         EXPECT_EQ(outcome(), "19 frmCalendar: calDate; frmAddUpDel, 5/6/2007");
     }
@@ -75,18 +72,13 @@ protected:
                 clickAt(date(), turner->geometry().center());
     }
 
-    static void wheel(int eighths)
-    {
-        QWheelEvent turn({5, 5}, days().viewport()->mapToGlobal(QPointF(5, 5)), {}, {0, eighths}, Qt::NoButton,
-            Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(days().viewport(), &turn);
-    }
-
     static void hold(Qt::Key key, const QString& text)
     {
         QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, text, true);
         QApplication::sendEvent(&days(), &repeat);
     }
+
+    static void turn(int eighths) { wheel(*days().viewport(), eighths); }
 
     // The month on show, and what a screen reader says of the place of the focus.
     static QString state()
@@ -136,8 +128,8 @@ TEST_F(Calendar, TakesTheDateAlongWithEveryTurnAndSaysIt)
         {[] { hold(Qt::Key_Right, {}); }, "April 2006: Saturday, April 1, 2006"},
         {[] { press(Qt::Key_PageUp); }, "March 2006: Wednesday, March 1, 2006"},
         {[] { press(Qt::Key_PageDown, Qt::ControlModifier); }, "March 2007: Thursday, March 1, 2007"},
-        {[] { wheel(-60), wheel(-60); }, "April 2007: Sunday, April 1, 2007"},
-        {[] { wheel(120); }, "March 2007: Thursday, March 1, 2007"},
+        {[] { turn(-60), turn(-60); }, "April 2007: Sunday, April 1, 2007"},
+        {[] { turn(120); }, "March 2007: Thursday, March 1, 2007"},
         {[] { clickTurner("Next year"); }, "March 2008: Saturday, March 1, 2008"},
         {[] { clickTurner("Previous month"); }, "February 2008: Friday, February 1, 2008"},
         {[] { tab(); }, "February 2008: Previous year, Friday, February 1, 2008"},
@@ -191,20 +183,20 @@ TEST_F(Calendar, OffersTodayWhereTheDateIsIncomplete)
             date().setValue(values::Date::fromDayMonthYear(31, 1, 2007));
             (date().*takeAway)(0);
             EXPECT_FALSE(days().currentIndex().isValid());
-            expectToStay(TodayQuestion, [] { press(Qt::Key_Return); });
+            stays(TodayQuestion, [] { press(Qt::Key_Return); });
         }
         date().setDay(0);
         date().setYear(2007);
         press(Qt::Key_PageDown);
         EXPECT_EQ(numbers(), "2/0/2007") << "a turn chooses no day";
-        expectBox(TodayQuestion, Question, Answer::Yes);
-        expectToStay(CloseQuestion, [] { press(Qt::Key_Space); });
+        expectBox(TodayQuestion, YesNoQuestion, Answer::Yes);
+        stays(CloseQuestion, [] { press(Qt::Key_Space); });
         EXPECT_EQ(state(), "November 2026: Tuesday, November 24, 2026");
         date().setDay(0);
         press(Qt::Key_Right);
         EXPECT_EQ(numbers(), "11/1/2026") << "the first step chooses a day to start from";
         date().setDay(0);
-        expectBox(TodayQuestion, Question, Answer::Yes);
+        expectBox(TodayQuestion, YesNoQuestion, Answer::Yes);
         press(Qt::Key_Return);
     });
     EXPECT_EQ(taken, "10 frmAddUpDel: cmbLoc, 11/24/2026");
@@ -214,16 +206,16 @@ TEST_F(Calendar, AsksAtAnyOtherKeyAndAtTheCloseBox)
 {
     after([this] {
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Escape, Qt::Key_A, Qt::Key_Backspace, Qt::Key_2})
-            expectToStay(CloseQuestion, [key] { press(key); });
+            stays(CloseQuestion, [key] { press(key); });
         for (const Qt::Key silent : {Qt::Key_Delete, Qt::Key_F5, Qt::Key_Shift})
             press(silent);
         hold(Qt::Key_Space, " "); // still down from before
-        expectToStay(CloseQuestion, [] { closeBox(screen<frmCalendar>()); });
+        stays(CloseQuestion, [] { closeBox(screen<frmCalendar>()); });
         press(Qt::Key_Return);
     });
     for (const std::function<void()>& leave : {std::function<void()>([] { press(Qt::Key_Space); }),
              std::function<void()>([] { closeBox(screen<frmCalendar>()); })}) {
-        expectBox(CloseQuestion, Question, Answer::Yes);
+        expectBox(CloseQuestion, YesNoQuestion, Answer::Yes);
         EXPECT_EQ(after(leave), "10 frmAddUpDel: cmbLoc, 5/6/2007");
     }
 }

@@ -10,30 +10,18 @@
 #include "household/frmKeyboard.h"
 #include "support/harness.h"
 
-using forms::Answer;
 using forms::screen;
 
 namespace {
 
-const char* const CloseQuestion = "Are You Sure You Want To Close Kestrill?";
-
 class Navigation : public ScreenTest {
 protected:
-    // A way out that asks first, and is not taken.
-    void stays(const std::function<void()>& leave, const QString& question = CloseQuestion)
-    {
-        const QString before = scene();
-        expectBox(question, 36, Answer::No);
-        leave();
-        EXPECT_EQ(scene(), before);
-    }
+    frmMain& menu = screen<frmMain>();
+    frmAuto& area = screen<frmAuto>();
 };
 
 TEST_F(Navigation, ShowsOneScreenAtATimeWithItsFocusAndItsNumber)
 {
-    auto& menu = screen<frmMain>();
-    auto& area = screen<frmAuto>();
-    auto& personal = screen<frmGenInfo>();
     const struct {
         std::function<void()> step;
         QString leadsTo;
@@ -56,41 +44,37 @@ TEST_F(Navigation, ShowsOneScreenAtATimeWithItsFocusAndItsNumber)
     menu.show();
     click(menu.cmdPersonal);
     EXPECT_EQ(scene(), "1 frmGenInfo: txtInfo(1)");
-    EXPECT_EQ(personal.lblHead[1].caption(), "First, Select An Item To Change Or Update");
-    EXPECT_EQ(personal.lblHead[2].caption(), "Second, Click Save to Update");
+    EXPECT_EQ(screen<frmGenInfo>().lblHead[1].caption(), "First, Select An Item To Change Or Update");
+    EXPECT_EQ(screen<frmGenInfo>().lblHead[2].caption(), "Second, Click Save to Update");
 }
 
 TEST_F(Navigation, AsksBeforeTheProgramClosesByEveryWayOut)
 {
-    auto& menu = screen<frmMain>();
     menu.show();
-    stays([&] { closeBox(menu); });
-    menu.cmdLeave.setFocus();
-    stays([&] { click(menu.cmdLeave); });
+    expectToStay([this] { closeBox(menu); });
+    expectToStay([this] { click(menu.cmdLeave); });
     click(menu.cmdIn);
-    auto& area = screen<frmAuto>();
-    stays([&] { closeBox(area); });
-    area.cmdLeave[0].setFocus();
-    stays([] { accessKey('x'); });
+    expectToStay([this] { closeBox(area); });
+    expectToStay([] { accessKey('x'); });
     area.hide();
     screen<frmIntroduction>().show();
-    stays([] { closeBox(screen<frmIntroduction>()); });
+    expectToStay([] { closeBox(screen<frmIntroduction>()); });
 }
 
 TEST_F(Navigation, HidesTheScreenWhoseNumberIsKept)
 {
-    const std::pair<int, forms::Form&> screens[] = {{1, screen<frmGenInfo>()}, {2, screen<frmMain>()},
-        {7, screen<frmBank>()}, {10, screen<frmAddUpDel>()}, {13, screen<frmAuto>()}, {15, screen<frmEditBankBoxes>()},
+    const std::pair<int, forms::Form&> screens[] = {{1, screen<frmGenInfo>()}, {2, menu},
+        {7, screen<frmBank>()}, {10, screen<frmAddUpDel>()}, {13, area}, {15, screen<frmEditBankBoxes>()},
         {17, screen<frmIntroduction>()}, {18, screen<frmKeyboard>()}};
     for (const auto& [number, form] : screens) {
         form.show();
         for (const int other : {0, 19, 20, number == 1 ? 2 : 1}) {
             frmStartup::CurrentScreen = other;
-            screen<frmMain>().Hide_Screens();
+            menu.Hide_Screens();
             EXPECT_TRUE(form.isVisible()) << other;
         }
         frmStartup::CurrentScreen = number;
-        screen<frmMain>().Hide_Screens();
+        menu.Hide_Screens();
         EXPECT_EQ(scene(), QString::number(number) + " nothing");
     }
 }

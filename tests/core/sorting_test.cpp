@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/data_store.h"
 #include "platform/values/failure.h"
 #include "support/harness.h"
 
@@ -8,23 +7,10 @@ namespace {
 // Rows of the inventory, told apart by their models.
 class Sorting : public ScreenTest {
 protected:
-    void SetUp() override
-    {
-        ScreenTest::SetUp();
-        add("a", "attic", "$9.00");
-        add("b", "Barn", "$10.00");
-        add("c", "ATTIC", "$10.00");
-        add("d", "", "$1,000.00");
-        add("e", "barn", "$9.00");
-    }
-
     static void add(const char* model, const char* location, const char* amount)
     {
-        Data1.rsInventory.AddNew();
-        Data1.rsInventory.Fields(Inventory::Model) = model;
-        Data1.rsInventory.Fields(Inventory::Location) = location;
-        Data1.rsInventory.Fields(Inventory::Amount) = amount;
-        Data1.rsInventory.Update();
+        addRow(Data1.rsInventory,
+            {{Inventory::Model, model}, {Inventory::Location, location}, {Inventory::Amount, amount}});
     }
 
     // From the current row, which has to be the first.
@@ -39,6 +25,11 @@ protected:
 
 TEST_F(Sorting, OrdersByColumnsWithoutRegardToCaseAndEqualRowsAsTheyWereStored)
 {
+    add("a", "attic", "$9.00");
+    add("b", "Barn", "$10.00");
+    add("c", "ATTIC", "$10.00");
+    add("d", "", "$1,000.00");
+    add("e", "barn", "$9.00");
     const std::pair<const char*, const char*> orders[] = {{"Location", "dacbe"}, {"location DESC", "beacd"},
         {"[Amount]", "aebcd"}, {"Amount desc, Location", "dcbae"}, {" Amount ASC , Model DESC ", "eacbd"},
         {"ID DESC", "edcba"}, {"", "abcde"}, {"Serial/ VIN / ID", "abcde"}};

@@ -1,43 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/data_store.h"
 #include "core/frmBW_Splash.h"
-#include "core/frmMain.h"
 #include "core/frmStartup.h"
 #include "core/places.h"
-#include "household/frmIntroduction.h"
 #include "reports/report_titles.h"
+#include "support/files.h"
 #include "support/harness.h"
-
-#include <QFile>
 
 using forms::screen;
 
 namespace {
 
-constexpr int Stop = 16;
-constexpr int Exclamation = 48;
-constexpr int Information = 64;
-
-const char* const LoadFailure = "Unable To Load Database...Closing Program!";
-
 // The program before its start: no view is open, no screen made.
 class StartUp : public ScreenTest {
 protected:
-    void SetUp() override
+    StartUp()
     {
-        ScreenTest::SetUp();
         store({{General::Introduced, "1"}});
         running({"Kestrill", "bash"});
     }
 
     // Puts values into the household's row and closes the database again.
-    static void store(std::initializer_list<std::pair<General::Column, const char*>> values)
+    static void store(const Cells& values)
     {
         if (!Data1.rsGeneral.isOpen())
             Data1.rsGeneral.Open();
-        for (const auto& [column, value] : values)
-            Data1.rsGeneral.Fields(column) = value;
-        Data1.rsGeneral.Update();
+        put(Data1.rsGeneral, values);
         closeData();
     }
 
@@ -48,9 +35,9 @@ protected:
 
     static void running(const QStringList& names)
     {
-        std::vector<sys::Process> processes(static_cast<std::size_t>(names.size()));
-        for (std::size_t at = 0; at < processes.size(); ++at)
-            processes[at].name = names[static_cast<int>(at)];
+        std::vector<sys::Process> processes;
+        for (const QString& name : names)
+            processes.emplace_back().name = name;
         frmStartup::list_Processes = [processes] { return processes; };
     }
 
@@ -61,17 +48,20 @@ protected:
         screen<frmBW_Splash>().tmrLoad.elapse();
     }
 
+    static void expectStart(const QString& leadsTo)
+    {
+        start();
+        EXPECT_EQ(scene(), leadsTo);
+        endRun();
+    }
+
     static void endRun()
     {
         forms::destroyScreens();
         closeData();
     }
 
-    static QByteArray databaseContents()
-    {
-        QFile file(places::databaseFile());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
+    static QByteArray databaseContents() { return bytesOf(places::databaseFile()); }
 
     void expectRefusal(const QString& text, int flags)
     {
@@ -83,6 +73,8 @@ protected:
         EXPECT_EQ(forms::activeForm(), nullptr) << "a screen has been shown";
         endRun();
     }
+
+    void expectLoadFailure() { expectRefusal("Unable To Load Database...Closing Program!", Stop); }
 };
 
 TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
@@ -105,9 +97,7 @@ TEST_F(StartUp, OfAFirstRunLeadsToTheIntroductionWithoutAnAlert)
     for (const char* introduced : {"None", "", "0", "01", " 1"}) {
         SCOPED_TRACE(introduced);
         store({{General::Introduced, introduced}});
-        start();
-        EXPECT_EQ(scene(), "17 frmIntroduction: cmdOK");
-        endRun();
+        expectStart("17 frmIntroduction: cmdOK");
     }
 }
 
@@ -117,42 +107,26 @@ TEST_F(StartUp, SaysWhenThePolicyExpiresAndGoesOnToTheMenu)
     const char* const expired = "Your Insurance Policy Has Expired...Please Renew Your Insurance Policy So You Can "
                                 "Ensure Coverage In The Event Of Theft Or Disaster!";
     const char* const today = "    Your Insurance Policy Expires Today! ";
-    const struct {
-        const char* notify;
-        const char* expiration;
-        const char* text; // null: no alert
-    } alerts[] = {
-        {"Yes", "11/25/1950", expired},
-        {"Yes", "11/23/2026", expired},
-        {"Yes", "11/24/2026", today},
-        {"yes", "11/24/2026", today},
-        {"YES", "11/24/2026", today},
-        {"Yes ", "11/24/2026", nullptr},
-        {"No", "11/24/2026", nullptr},
-        {"No", "None", nullptr},
+    const char* const none = nullptr;
+    const std::tuple<const char*, const char*, const char*> alerts[] = {{"Yes", "11/25/1950", expired},
+        {"Yes", "11/23/2026", expired}, {"Yes", "11/24/2026", today}, {"yes", "11/24/2026", today},
+        {"YES", "11/24/2026", today}, {"Yes ", "11/24/2026", none}, {"No", "11/24/2026", none}, {"No", "None", none},
         {"Yes", "11/25/2026", "   Your Insurance Policy Expires In 1 Day!"},
         {"Yes", "11/26/2026", "Your Insurance Policy Expires In 2 Days!"},
-        {"Yes", "12/24/2026", "Your Insurance Policy Expires In 30 Days!"},
-        {"Yes", "12/25/2026", nullptr},
-    };
-    for (const auto& alert : alerts) {
-        SCOPED_TRACE(testing::Message() << alert.notify << ", " << alert.expiration);
-        storePolicy(alert.notify, alert.expiration);
-        if (alert.text)
-            expectBox(alert.text, Information, forms::Answer::OK);
-        start();
-        EXPECT_EQ(scene(), "2 frmMain: cmdIn");
-        endRun();
+        {"Yes", "12/24/2026", "Your Insurance Policy Expires In 30 Days!"}, {"Yes", "12/25/2026", none}};
+    for (const auto& [notify, expiration, text] : alerts) {
+        SCOPED_TRACE(testing::Message() << notify << ", " << expiration);
+        storePolicy(notify, expiration);
+        if (text)
+            expectBox(text, Information);
+        expectStart("2 frmMain: cmdIn");
     }
 }
 
 TEST_F(StartUp, RefusesToRunBesideAnotherInstanceWhoseNameHoldsThePhraseInThisCase)
 {
     running({"Kestrill", "kestrill", "KESTRILL", "kestrel"});
-    start();
-    EXPECT_EQ(scene(), "2 frmMain: cmdIn");
-
-    endRun();
+    expectStart("2 frmMain: cmdIn");
     QFile::remove(places::databaseFile());
     running({"Kestrill", "MyKestrillViewer.exe"});
     expectRefusal("Kestrill Is Already Running!", Exclamation);
@@ -163,15 +137,12 @@ TEST_F(StartUp, BlamesTheDatabaseForADateThatIsNoneOrTooFarAwayAFileThatIsNoneAn
     for (const char* expiration : {"None", "", "2/30/2027", "1/1/2200"}) {
         SCOPED_TRACE(expiration);
         storePolicy("Yes", expiration);
-        expectRefusal(LoadFailure, Stop);
+        expectLoadFailure();
     }
-    QFile file(places::databaseFile());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    file.write(QByteArray(4096, 'x'));
-    file.close();
-    expectRefusal(LoadFailure, Stop);
-    file.remove();
-    expectRefusal(LoadFailure, Stop);
+    putFile(places::databaseFile(), QByteArray(8192, 'x'));
+    expectLoadFailure();
+    QFile::remove(places::databaseFile());
+    expectLoadFailure();
 }
 
 } // namespace

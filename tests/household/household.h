@@ -1,56 +1,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/data_store.h"
 #include "core/frmMain.h"
 #include "household/frmGenInfo.h"
 #include "support/harness.h"
 
-inline constexpr int yesNoQuestion = forms::box::Question + forms::box::YesNo;
+/// A test with the personal information, reached as a user reaches it.
+class HouseholdTest : public ScreenTest {
+protected:
+    static frmGenInfo& personal() { return forms::screen<frmGenInfo>(); }
 
-/// What the file holds of the household's row, Last to EMail.
-inline QStringList stored()
-{
-    Data1.rsGeneral.Close();
-    Data1.rsGeneral.Open();
-    QStringList columns;
-    for (int i = General::Last; i <= General::EMail; ++i)
-        columns += Data1.rsGeneral.Fields(i).text();
-    return columns;
-}
+    static void openFromMenu()
+    {
+        forms::screen<frmMain>().show();
+        click(forms::screen<frmMain>().cmdPersonal);
+    }
 
-inline void store(const QStringList& columns)
-{
-    for (int i = General::Last; i <= General::EMail; ++i)
-        Data1.rsGeneral.Fields(i) = columns[i];
-    Data1.rsGeneral.Update();
-}
+    /// What the file holds of the household's row, Last to EMail, and what the screen shows of it.
+    static QStringList stored()
+    {
+        inFile(Data1.rsGeneral, {});
+        return cellsOf(Data1.rsGeneral, General::Last, General::EMail);
+    }
+    static QStringList shown()
+    {
+        QStringList texts;
+        for (int i = General::Last; i <= General::EMail; ++i)
+            texts += i == General::State ? personal().cmbState.text() : personal().txtInfo[i].text();
+        return texts;
+    }
 
-inline QStringList shown(const frmGenInfo& screen)
-{
-    QStringList texts;
-    for (int i = General::Last; i <= General::EMail; ++i)
-        texts += i == General::State ? screen.cmbState.text() : screen.txtInfo[i].text();
-    return texts;
-}
+    /// The same text in every column of the row.
+    static void store(const QString& text)
+    {
+        for (int i = General::Last; i <= General::EMail; ++i)
+            Data1.rsGeneral.Fields(i) = text;
+        Data1.rsGeneral.Update();
+    }
 
-/// The personal information as the main menu opens it.
-inline frmGenInfo& openFromMenu()
-{
-    auto& menu = forms::screen<frmMain>();
-    menu.show();
-    click(menu.cmdPersonal);
-    return forms::screen<frmGenInfo>();
-}
-
-inline QString focused()
-{
-    const forms::Control* control = forms::activeForm()->activeControl();
-    return control ? control->name() : QString();
-}
-
-inline void pasteInto(forms::TextEntry& box, const QString& text)
-{
-    click(box);
-    paste(text);
-}
+    static QString focused() { return forms::activeForm()->activeControl()->name(); }
+};

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/frmStartup.h"
 #include "household/frmTotals.h"
 #include "household/household.h"
 #include "platform/storage/statement.h"
 
 using forms::screen;
-using values::Currency;
 
 namespace {
 
@@ -13,18 +11,12 @@ class Totals : public ScreenTest {
 protected:
     static void addAsset(const QString& area, const QString& amount)
     {
-        auto& assets = Data1.rsInventory;
-        assets.AddNew();
-        assets.Fields(Inventory::Area) = area;
-        assets.Fields(Inventory::Amount) = amount;
-        assets.Update();
+        addRow(Data1.rsInventory, {{Inventory::Area, area}, {Inventory::Amount, amount}});
     }
 
-    static void storeHousehold(Currency assetValue, const QString& coverage)
+    static void storeHousehold(const char* assetValue, const char* coverage)
     {
-        Data1.rsGeneral.Fields(General::AssetValue) = assetValue;
-        Data1.rsGeneral.Fields(General::PolicyCoverage) = coverage;
-        Data1.rsGeneral.Update();
+        put(Data1.rsGeneral, {{General::AssetValue, assetValue}, {General::PolicyCoverage, coverage}});
     }
 
     static void pressValue()
@@ -33,65 +25,57 @@ protected:
         click(screen<frmMain>().cmdValue);
     }
 
-    static QStringList shownTotals()
+    static QString shownTotals()
     {
         const auto& totals = screen<frmTotals>();
-        return {totals.lblInNumAssets.caption(), totals.lblIndoorTots.caption(), totals.lblOutNumAssets.caption(),
-            totals.lblOutdoorTots.caption(), totals.lblMobNumAssets.caption(), totals.lblMobileTots.caption(),
-            totals.lblTotNumAssets.caption(), totals.lblGrandTot.caption()};
-    }
-
-    void expectCoverageWarning(const QString& coverage)
-    {
-        expectBox("Your Assets Currently Exceed Your Policy Coverage Of " + coverage
-                + "...It Is Recommended You Increase Your Insurance Coverage!",
-            forms::box::Exclamation);
+        QStringList texts;
+        for (const forms::Label* label :
+            {&totals.lblInNumAssets, &totals.lblIndoorTots, &totals.lblOutNumAssets, &totals.lblOutdoorTots,
+                &totals.lblMobNumAssets, &totals.lblMobileTots, &totals.lblTotNumAssets, &totals.lblGrandTot})
+            texts.append(label->caption());
+        return texts.join('|');
     }
 };
 
 TEST_F(Totals, CountAndSumEachAreaAnewAndLeadBackToTheMenu)
 {
-    expectBox("No Assets Are Available To Total...Please Add An Asset Before Continuing!", forms::box::Information);
+    expectBox("No Assets Are Available To Total...Please Add An Asset Before Continuing!", Information);
     pressValue();
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
+    EXPECT_EQ(scene(), "2 frmMain: cmdValue");
 
-    storeHousehold(Currency(), "$0.00");
+    storeHousehold("0", "$0.00");
     addAsset("INDOOR", "$1,234.5");
     addAsset("Mobile", "$2");
     addAsset("Mobile", "$0.126"); // counts as it is printed
     addAsset("Attic", "$1,000,000.00"); // of no area: counted, not summed
     pressValue();
-    const QStringList first = {"1 Indoor Asset =>", "$1,234.50", " Outdoor Assets =>", "$0.00", "2 Mobile Assets =>",
-        "$2.13", "4", "$1,236.63"};
-    EXPECT_EQ(shownTotals(), first);
-    EXPECT_EQ(forms::activeForm(), &screen<frmTotals>());
-    EXPECT_FALSE(screen<frmMain>().isVisible());
-    EXPECT_EQ(frmStartup::CurrentScreen, 6);
-    EXPECT_EQ(Data1.rsInventory.Fields(Inventory::Area), "INDOOR"); // the first row is current again
+    EXPECT_EQ(
+        shownTotals(), "1 Indoor Asset =>|$1,234.50| Outdoor Assets =>|$0.00|2 Mobile Assets =>|$2.13|4|$1,236.63");
+    EXPECT_EQ(scene(), "6 frmTotals: cmdOK");
+    EXPECT_EQ(Data1.rsInventory.Fields(Inventory::Area),
+        "INDOOR"); // the first row is current again
     press(Qt::Key_Return);
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
-    EXPECT_FALSE(screen<frmTotals>().isVisible());
+    EXPECT_EQ(scene(), "2 frmMain: cmdValue");
 
     addAsset("Outdoor", "-$5.00");
     pressValue();
-    const QStringList second = {"1 Indoor Asset =>", "$1,234.50", "1 Outdoor Asset =>", "($5.00)", "2 Mobile Assets =>",
-        "$2.13", "5", "$1,231.63"};
-    EXPECT_EQ(shownTotals(), second);
+    EXPECT_EQ(
+        shownTotals(), "1 Indoor Asset =>|$1,234.50|1 Outdoor Asset =>|($5.00)|2 Mobile Assets =>|$2.13|5|$1,231.63");
     closeBox(screen<frmTotals>());
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
-    EXPECT_FALSE(screen<frmTotals>().isVisible());
+    EXPECT_EQ(scene(), "2 frmMain: cmdValue");
 }
 
 TEST_F(Totals, WarnWhereTheSumsExceedTheCoverageAndTheRunningTotalIsNotZero)
 {
     addAsset("Indoor", "$1,500.00");
-    const Currency cent = Currency::fromTenThousandths(100);
-    storeHousehold(cent, "$1500");
+    storeHousehold("0.01", "$1500");
     pressValue(); // equal is no excess
-    storeHousehold(Currency(), "$0.00");
+    storeHousehold("0", "$0.00");
     pressValue(); // no running total, no warning
-    storeHousehold(-cent, "1499.99");
-    expectCoverageWarning("$1,499.99");
+    storeHousehold("-0.01", "1499.99");
+    expectBox("Your Assets Currently Exceed Your Policy Coverage Of $1,499.99...It Is Recommended You Increase Your "
+              "Insurance Coverage!",
+        Exclamation);
     pressValue();
     EXPECT_EQ(forms::activeForm(), &screen<frmTotals>());
 }
@@ -99,11 +83,9 @@ TEST_F(Totals, WarnWhereTheSumsExceedTheCoverageAndTheRunningTotalIsNotZero)
 TEST_F(Totals, EndTheProgramOnACoverageThatIsNoAmount)
 {
     addAsset("Indoor", "$1.00");
-    storeHousehold(Currency(), "None");
+    storeHousehold("0", "None");
     pressValue();
-    const auto failure = reportedFailure();
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->handler, "frmMain.cmdValue_Click");
+    EXPECT_EQ(failedHandler(), "frmMain.cmdValue_Click");
     EXPECT_EQ(Data1.rsInventory.RecordCount(), 1);
 }
 
@@ -116,13 +98,11 @@ TEST_F(Totals, CountAsManyAssetsAsACountHoldsAndEndTheProgramOnOneMore)
         atOnce.commit();
     }
     pressValue();
-    EXPECT_EQ(shownTotals().mid(4), QStringList({"32767 Mobile Assets =>", "$32,767.00", "32767", "$32,767.00"}));
+    EXPECT_EQ(shownTotals().section('|', 4), "32767 Mobile Assets =>|$32,767.00|32767|$32,767.00");
     press(Qt::Key_Return);
     addAsset("Attic", "$1.00");
     pressValue();
-    const auto failure = reportedFailure();
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->handler, "frmMain.cmdValue_Click");
+    EXPECT_EQ(failedHandler(), "frmMain.cmdValue_Click");
     EXPECT_EQ(Data1.rsInventory.RecordCount(), 32'768);
 }
 

@@ -70,8 +70,9 @@ TEST_P(EachList, IsNamedOnEveryScreenAndHasItsHelp)
         closeBox(editor);
         EXPECT_EQ(forms::activeForm(), &asset());
     }
-    EXPECT_EQ(items(changing().cmbCat), items(boxOf(kind)).mid(1)); // without the marker
-    EXPECT_EQ(items(deleting().cmbCat), items(boxOf(kind)).mid(1));
+    EXPECT_EQ(itemsOf(changing().cmbCat),
+        itemsOf(boxOf(kind)).mid(1)); // without the marker
+    EXPECT_EQ(itemsOf(deleting().cmbCat), itemsOf(boxOf(kind)).mid(1));
 }
 
 TEST_P(EachList, TakesANewNameInAnySpellingOnce)
@@ -82,50 +83,43 @@ TEST_P(EachList, TakesANewNameInAnySpellingOnce)
     pickMarker(kind());
     choose(Add);
     type("Tower ");
-    expectBox(" Your " + name() + " Has Been Added!", Information);
-    click(adding().cmdUpdate);
+    clickTold(adding().cmdUpdate, " Your " + name() + " Has Been Added!", Information);
     EXPECT_EQ(usersRows(GetParam().names()), QStringList(GetParam().row("Tower ")));
 
-    type(adding().txtAdd, "tOWER "); // the click has selected the name that stands there
-    expectBox("This " + name() + " Is Already Available!", Exclamation);
-    click(adding().cmdUpdate);
+    type(adding().txtAdd,
+        "tOWER "); // the click has selected the name that stands there
+    clickTold(adding().cmdUpdate, "This " + name() + " Is Already Available!", Exclamation);
     EXPECT_TRUE(isRefused(adding().txtAdd));
     EXPECT_EQ(adding().txtAdd.selectionLength(), 6);
     type(old); // the name of a standard row
-    expectBox("This " + name() + " Is Already Available!", Exclamation);
-    click(adding().cmdUpdate);
+    clickTold(adding().cmdUpdate, "This " + name() + " Is Already Available!", Exclamation);
     EXPECT_EQ(usersRows(GetParam().names()).size(), 1);
 
-    expectBox(LeaveEditor, Question, Answer::No);
-    closeBox(adding());
-    EXPECT_EQ(forms::activeForm(), &adding());
+    expectToStay([] { closeBox(adding()); }, LeaveEditor);
     EXPECT_EQ(boxOf(kind()).text(), old); // behind the editor, already
-    expectBox(LeaveEditor, Question, Answer::Yes);
-    click(adding().cmdCancel);
+    clickTold(adding().cmdCancel, LeaveEditor, Question, Answer::Yes);
     expectSelection(old);
-    EXPECT_EQ(items(boxOf(kind())).count("Tower "), 1);
+    EXPECT_EQ(itemsOf(boxOf(kind())).count("Tower "), 1);
 }
 
 TEST_P(EachList, ChangesANameWithTheAssetsOfItsAreaThatCarryIt)
 {
     const auto column = GetParam().ofLocations() ? Inventory::Location : Inventory::Category;
     const auto other = GetParam().ofLocations() ? Inventory::Category : Inventory::Location;
-    addName(GetParam().names(), GetParam().row("Tower").split('|'));
-    addName(GetParam().names(), {"TOWER", "TOWER", "Bell"}); // goes whole
+    addNames(GetParam().names(), GetParam().row("Tower").split('|'));
+    addNames(GetParam().names(), {"TOWER", "TOWER", "Bell"}); // goes whole
     addAsset(GetParam().area, "Tower", "Tower");
     addAsset(GetParam().area == "Indoor" ? "Mobile" : "Indoor", "Tower", "Tower");
     addAsset(GetParam().area, "TOWER", "TOWER");
     open(Change, GetParam().area, kind());
     pick(changing().cmbCat, "Tower");
     type(changing().txtNew, "Spire");
-    expectBox("Your " + name() + " Has Been Changed!", Information);
-    click(changing().cmdUpdate);
+    clickTold(changing().cmdUpdate, "Your " + name() + " Has Been Changed!", Information);
     expectSelection("Spire");
-    EXPECT_EQ(items(boxOf(kind())).first(), "< Add/Edit " + kind() + " >");
-    EXPECT_EQ(items(boxOf(kind())).filter("Tower", Qt::CaseInsensitive).size(), 0);
+    EXPECT_EQ(itemsOf(boxOf(kind())).first(), "< Add/Edit " + kind() + " >");
+    EXPECT_EQ(itemsOf(boxOf(kind())).filter("Tower", Qt::CaseInsensitive).size(), 0);
     EXPECT_EQ(adding().SavedCategory, "Spire"); // of a location too
-    closeData();
-    openData();
+    reopenData();
     EXPECT_EQ(usersRows(GetParam().names()), QStringList(GetParam().row("Spire")));
     EXPECT_EQ(assetsIn(column), QStringList({"Spire", "Tower", "TOWER"}));
     EXPECT_EQ(assetsIn(other), QStringList({"Tower", "Tower", "TOWER"}));
@@ -133,9 +127,9 @@ TEST_P(EachList, ChangesANameWithTheAssetsOfItsAreaThatCarryIt)
 
 TEST_P(EachList, LosesANameThatNoAssetCarries)
 {
-    addName(GetParam().names(), {"Tower", "Tower", "Bell"});
-    addName(GetParam().names(), {"TOWER", "TOWER", "Bell"});
-    addName(GetParam().names(), {"Tower", "Tower", "Clock"}); // the last row has no next one to move to
+    addNames(GetParam().names(), {"Tower", "Tower", "Bell"});
+    addNames(GetParam().names(), {"TOWER", "TOWER", "Bell"});
+    addNames(GetParam().names(), {"Tower", "Tower", "Clock"}); // the last row has no next one to move to
     const QStringList before = usersRows(GetParam().names());
     addAsset(GetParam().area == "Mobile" ? "Outdoor" : "Mobile", "Tower", "Tower");
     open(Delete, GetParam().area, kind());
@@ -157,10 +151,9 @@ TEST_P(EachList, LosesANameThatNoAssetCarries)
     removeRows(Data1.rsInventory);
     remove("Tower", Answer::Yes, "Your " + name() + " Has Been Deleted!");
     expectSelection("");
-    EXPECT_FALSE(items(boxOf(kind())).contains("Tower"));
-    EXPECT_TRUE(items(boxOf(kind())).contains("TOWER")); // another name
-    closeData();
-    openData();
+    EXPECT_FALSE(itemsOf(boxOf(kind())).contains("Tower"));
+    EXPECT_TRUE(itemsOf(boxOf(kind())).contains("TOWER")); // another name
+    reopenData();
     const QString bell = GetParam().ofLocations() ? "0|Tower|Bell" : "Tower|0|0";
     const QString clock = GetParam().ofLocations() ? "0|Tower|Clock" : "Tower|0|0";
     EXPECT_EQ(usersRows(GetParam().names()), QStringList({bell, "TOWER|TOWER|Bell", clock}));

@@ -12,7 +12,6 @@
 /// A test with the list editors, reached through the markers of the asset screen.
 class ListEditorsTest : public AssetScreenTest {
 protected:
-    static constexpr int Stop = 16;
     static constexpr const char* LeaveEditor = "   All Changes Will Be Lost...Continue?";
     static constexpr const char* LeaveChange = "    All Changes Will Be Lost...Continue?"; // one blank more
 
@@ -43,8 +42,7 @@ protected:
     {
         changing().cmbCat.setText(current);
         type(changing().txtNew, name);
-        expectBox(message, flags);
-        click(changing().cmdUpdate);
+        clickTold(changing().cmdUpdate, message, flags);
     }
 
     /// Deletes a location, with Yes to the question.
@@ -57,51 +55,24 @@ protected:
         click(deleting().cmdUpdate);
     }
 
-    static void addName(storage::TableView& table, const QStringList& names, int standard = 0)
-    {
-        table.AddNew();
-        for (int column = Names::Location; column <= Names::Type; ++column)
-            table.Fields(column) = names[column];
-        table.Fields(Names::Standard) = standard;
-        table.Update();
-    }
-
     static void addAsset(const QString& area, const QString& location, const QString& category)
     {
-        Data1.rsInventory.AddNew();
-        Data1.rsInventory.Fields(Inventory::Area) = area;
-        Data1.rsInventory.Fields(Inventory::Location) = location;
-        Data1.rsInventory.Fields(Inventory::Category) = category;
-        Data1.rsInventory.Update();
-    }
-
-    static void removeRows(storage::TableView& table)
-    {
-        for (table.MoveFirst(); !table.atEOF(); table.MoveNext())
-            table.Delete();
+        addRow(Data1.rsInventory, Inventory::Area, {area, location, category});
     }
 
     /// The rows that didn't come with the program, as "location|category|item".
-    static QStringList usersRows(storage::TableView& table = Data1.rsIndoor)
+    static QStringList usersRows(const storage::TableView& table = Data1.rsIndoor)
     {
-        QStringList rows;
-        if (table.RecordCount() != 0)
-            table.MoveFirst();
-        for (; !table.atEOF(); table.MoveNext())
-            if (table.Fields(Names::Standard) == 0)
-                rows.append(table.Fields(Names::Location).text() + "|" + table.Fields(Names::Category).text() + "|"
-                    + table.Fields(Names::Type).text());
-        return rows;
+        QStringList users;
+        const storage::Snapshot rows = table.snapshot();
+        for (int row = 0; row < rows.rowCount(); ++row)
+            if (rows.text(row, Names::Standard) == "0")
+                users.append(rows.text(row, Names::Location) + "|" + rows.text(row, Names::Category) + "|"
+                    + rows.text(row, Names::Type));
+        return users;
     }
 
-    static QStringList assetsIn(Inventory::Column column)
-    {
-        QStringList texts;
-        auto& assets = Data1.rsInventory;
-        for (assets.MoveFirst(); !assets.atEOF(); assets.MoveNext())
-            texts.append(assets.Fields(column).text());
-        return texts;
-    }
+    static QStringList assetsIn(Inventory::Column column) { return columnOf(Data1.rsInventory, column); }
 
     static bool isRefused(const forms::Control& box)
     {

@@ -6,17 +6,6 @@
 
 namespace {
 
-class Lists : public forms::Form {
-public:
-    Lists()
-        : forms::Form("Lists")
-    {
-    }
-
-    forms::ComboBox filled{*this, "filled", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-    forms::ComboBox walked{*this, "walked", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-};
-
 // The rule as a walk over the list for each row: slow, and plain to see.
 void walkNames(forms::ComboBox& list, storage::TableView& table, Names::Column column)
 {
@@ -35,14 +24,6 @@ void walkNames(forms::ComboBox& list, storage::TableView& table, Names::Column c
     }
 }
 
-QStringList items(const forms::ComboBox& box)
-{
-    QStringList items;
-    for (int index = 0; index < box.listCount(); ++index)
-        items.append(box.list(index));
-    return items;
-}
-
 using NameList = ScreenTest;
 
 TEST_F(NameList, IsWhatAWalkForEachRowGives)
@@ -52,19 +33,19 @@ TEST_F(NameList, IsWhatAWalkForEachRowGives)
         QString("0|||attic|ATTIC|straße|STRASSE|été|ÉTÉ|Ete|ı|I|i|Attic |Σ|ς|10|00|Ǆ|ǆ|ﬁ|FI").split(u'|');
     std::mt19937 random(20261124);
     auto& table = Data1.rsPrint; // a staging table, quick to write
-    Lists& lists = forms::screen<Lists>();
+    forms::Form form("Lists");
+    forms::ComboBox filled{form, "filled", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
+    forms::ComboBox walked{form, "walked", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
     for (int round = 0; round < 200; ++round) {
-        table.AddNew();
-        table.Fields(Names::Category) = names[static_cast<int>(random() % static_cast<unsigned>(names.size()))];
-        table.Update();
-        for (forms::ComboBox* box : {&lists.filled, &lists.walked}) {
+        addRow(table, {{Names::Category, names[static_cast<int>(random() % static_cast<unsigned>(names.size()))]}});
+        for (forms::ComboBox* box : {&filled, &walked}) {
             box->clear();
             if (round % 2 == 1)
                 box->addItems({"ATTIC", "Cellar"}); // what was left there stays
         }
-        fill_Name_List(lists.filled, table, Names::Category);
-        walkNames(lists.walked, table, Names::Category);
-        ASSERT_EQ(items(lists.filled), items(lists.walked)) << round;
+        fill_Name_List(filled, table, Names::Category);
+        walkNames(walked, table, Names::Category);
+        ASSERT_EQ(itemsOf(filled), itemsOf(walked)) << round;
     }
 }
 

@@ -11,7 +11,6 @@
 #include <QTemporaryDir>
 
 #include <cmath>
-#include <map>
 #include <span>
 
 namespace {
@@ -43,20 +42,13 @@ constexpr Placed assetHead[] = {{"Kestrill", 5445, 750, Middle}, {"Asset Report"
     {"With two keys.", 1770, 1725 + 1380}};
 
 constexpr double detail = 1725; // of the asset report, from the top of its page
-constexpr Pair assetEntries[] = {
-    {"Area:", 1665, "Indoor", 1770, detail + 120},
-    {"Location:", 1665, "Library", 1770, detail + 405},
-    {"Category:", 1665, "Antiques", 1770, detail + 690},
-    {"Item:", 1665, "Antique Desk", 1770, detail + 975},
-    {"Year:", 4725, "1931", 4845, detail + 120},
-    {"Make:", 4725, "Northlight", 4845, detail + 405},
-    {"Model:", 4725, "V-300", 4845, detail + 690},
-    {"Serial:", 4725, "SN 0042/7", 4845, detail + 975},
-    {"Receipt:", 8715, "Yes", 8835, detail + 120},
+constexpr Pair assetEntries[] = {{"Area:", 1665, "Indoor", 1770, detail + 120},
+    {"Location:", 1665, "Library", 1770, detail + 405}, {"Category:", 1665, "Antiques", 1770, detail + 690},
+    {"Item:", 1665, "Antique Desk", 1770, detail + 975}, {"Year:", 4725, "1931", 4845, detail + 120},
+    {"Make:", 4725, "Northlight", 4845, detail + 405}, {"Model:", 4725, "V-300", 4845, detail + 690},
+    {"Serial:", 4725, "SN 0042/7", 4845, detail + 975}, {"Receipt:", 8715, "Yes", 8835, detail + 120},
     {"Receipt Location:", 8715, "Fire safe", 8835, detail + 405},
-    {"Date Purchased:", 8715, "7/4/2006", 8835, detail + 690},
-    {"Amount:", 8715, "$1,234.50", 8835, detail + 975},
-};
+    {"Date Purchased:", 8715, "7/4/2006", 8835, detail + 690}, {"Amount:", 8715, "$1,234.50", 8835, detail + 975}};
 
 constexpr Placed coverHeads[] = {{"Kestrill", 5715, 1008, Middle}, {"Asset Report", 5715, 1440, Middle},
     {"Personal Information", 5715, 2544, Middle}, {"Contact Information", 5715, 6576, Middle},
@@ -65,19 +57,14 @@ constexpr Placed coverHeads[] = {{"Kestrill", 5715, 1008, Middle}, {"Asset Repor
     {"Cell Phone =>", 5340, 8190, Right}};
 
 constexpr double sheet = 2400; // the detail of the cover sheet
-constexpr Pair coverEntries[] = {
-    {"First Name =>", 5334, "Ann", 5475, sheet + 864},
-    {"Middle Initial =>", 5334, "Q", 5475, sheet + 1296},
-    {"Last Name =>", 5334, "Fairbanks", 5475, sheet + 1728},
-    {"Address =>", 5334, "Orchard Lane", 5475, sheet + 2160},
-    {"City =>", 5334, "Albany", 5475, sheet + 2592},
-    {"State =>", 5334, "NY", 5475, sheet + 3024},
-    {"ZIP =>", 5334, "12205-AB", 5475, sheet + 3456},
+constexpr Pair coverEntries[] = {{"First Name =>", 5334, "Ann", 5475, sheet + 864},
+    {"Middle Initial =>", 5334, "Q", 5475, sheet + 1296}, {"Last Name =>", 5334, "Fairbanks", 5475, sheet + 1728},
+    {"Address =>", 5334, "Orchard Lane", 5475, sheet + 2160}, {"City =>", 5334, "Albany", 5475, sheet + 2592},
+    {"State =>", 5334, "NY", 5475, sheet + 3024}, {"ZIP =>", 5334, "12205-AB", 5475, sheet + 3456},
     {"E-Mail =>", 5340, "ann@home.example", 5475, sheet + 6225},
     {"Insurance Company =>", 5334, "Tidewater Mutual", 5475, sheet + 7488},
     {"Policy Number =>", 5334, "TM-4711", 5475, sheet + 7920},
-    {"Policy Expiration =>", 5334, "12/31/2027", 5475, sheet + 8352},
-};
+    {"Policy Expiration =>", 5334, "12/31/2027", 5475, sheet + 8352}};
 
 constexpr Placed formTexts[] = {{"Kestrill", 5505, 1152, Middle}, {"Asset Information Form", 5505, 1584, Middle},
     {"Year Asset Was Made =>", 3588, 4464, Right}, {"Make =>", 3588, 4896, Right}, {"Model =>", 3588, 5328, Right},
@@ -85,16 +72,13 @@ constexpr Placed formTexts[] = {{"Kestrill", 5505, 1152, Middle}, {"Asset Inform
     {"Outdoor", 4752, 2448}, {"Mobile", 5760, 2448}, {"(Select One)", 6768, 2448}, {"Used", 4608, 6480},
     {"(Select One)", 5472, 6480}, {"No", 4608, 8064}, {"(Select One)", 5472, 8064}};
 
-constexpr Pair formEntries[] = {
-    {"Area =>", 3588, "Indoor", 3744, 2448},
+constexpr Pair formEntries[] = {{"Area =>", 3588, "Indoor", 3744, 2448},
     {"Location =>", 3588, "(i.e. Bedroom or Porch)", 6768, 2880},
     {"Category =>", 3588, "(i.e. Furniture or Electronics)", 6768, 3312},
-    {"Asset Name =>", 3588, "(i.e. Stereo or Dishwasher)", 6768, 3744},
-    {"Purchased =>", 3588, "New", 3744, 6480},
+    {"Asset Name =>", 3588, "(i.e. Stereo or Dishwasher)", 6768, 3744}, {"Purchased =>", 3588, "New", 3744, 6480},
     {"Purchase Date =>", 3588, "(Format: mm/dd/yyyy)", 6768, 6912},
     {"Asset Receipt On File =>", 3588, "Yes", 3744, 8064},
-    {"Asset Receipt Location =>", 3588, "(i.e. File Cabinet)", 6768, 8496},
-};
+    {"Asset Receipt Location =>", 3588, "(i.e. File Cabinet)", 6768, 8496}};
 
 std::vector<Placed> together(std::span<const Placed> texts, std::span<const Pair> pairs)
 {
@@ -142,26 +126,14 @@ protected:
         EXPECT_EQ(page.words.size(), words) << page.text().toStdString();
     }
 
-    /// All that stands on a caption's line, from left to right.
+    /// All that stands on a caption's line, in the order of the file.
     static QString lineOf(const pdf::Page& page, const QString& caption)
     {
         const double top = placesOf(page, caption).at(0).top();
-        std::map<double, QString> words;
-        for (const pdf::Word& word : page.words)
-            if (std::abs(word.place.top() - top) < halfMillimetre)
-                words[word.place.left()] = word.text;
         QString line;
-        for (const auto& [left, text] : words)
-            line += text;
+        for (const pdf::Word& word : page.words)
+            line += std::abs(word.place.top() - top) < halfMillimetre ? word.text : QString();
         return line;
-    }
-
-    static void addPrinted(const QStringList& values)
-    {
-        Data1.rsPrint.AddNew();
-        for (int column = 0; column < values.size(); ++column)
-            Data1.rsPrint.Fields(column) = values[column];
-        Data1.rsPrint.Update();
     }
 
     static double middleOf(QPageSize::PageSizeId paper) { return report::Paper{QPageSize(paper)}.size().width() / 2; }
@@ -171,8 +143,9 @@ protected:
 
 TEST_F(ReportLayouts, AssetReportStandsAsPrescribed)
 {
-    addPrinted({"1", "Indoor", "Library", "Antiques", "Antique Desk", "1931", "Northlight", "V-300", "SN 0042/7",
-        "7/4/2006", "1234.5", "Yes", "Fire safe", "With two keys."});
+    addRow(Data1.rsPrint, Print::ID,
+        {"1", "Indoor", "Library", "Antiques", "Antique Desk", "1931", "Northlight", "V-300", "SN 0042/7", "7/4/2006",
+            "1234.5", "Yes", "Fire safe", "With two keys."});
     for (const auto paper : {QPageSize::Letter, QPageSize::A4})
         expectPlaced(printed(layouts::AssetReport(), Data1.rsPrint, paper), together(assetHead, assetEntries),
             {middleOf(paper) - 5445, 720});
@@ -180,15 +153,13 @@ TEST_F(ReportLayouts, AssetReportStandsAsPrescribed)
 
 TEST_F(ReportLayouts, CoverSheetStandsAsPrescribed)
 {
-    const std::pair<General::Column, const char*> values[] = {{General::First, "Ann"}, {General::Middle, "Q"},
-        {General::Last, "Fairbanks"}, {General::Address, "Orchard Lane"}, {General::City, "Albany"},
-        {General::State, "NY"}, {General::ZIP, "12205-AB"}, {General::EMail, "ann@home.example"},
-        {General::PolicyCompany, "Tidewater Mutual"}, {General::PolicyNumber, "TM-4711"},
-        {General::PolicyExpiration, "12/31/2027"}, {General::AssetValue, "1234.5"}, {General::HomePhone1, "518"},
-        {General::HomePhone2, "555"}, {General::HomePhone3, "0101"}};
-    for (const auto& [column, value] : values)
-        Data1.rsGeneral.Fields(column) = value;
-    Data1.rsGeneral.Update();
+    put(Data1.rsGeneral,
+        {{General::First, "Ann"}, {General::Middle, "Q"}, {General::Last, "Fairbanks"},
+            {General::Address, "Orchard Lane"}, {General::City, "Albany"}, {General::State, "NY"},
+            {General::ZIP, "12205-AB"}, {General::EMail, "ann@home.example"},
+            {General::PolicyCompany, "Tidewater Mutual"}, {General::PolicyNumber, "TM-4711"},
+            {General::PolicyExpiration, "12/31/2027"}, {General::AssetValue, "1234.5"}, {General::HomePhone1, "518"},
+            {General::HomePhone2, "555"}, {General::HomePhone3, "0101"}});
     for (const auto paper : {QPageSize::Letter, QPageSize::A4}) {
         pdf::Page page = printed(layouts::CoverSheet(), Data1.rsGeneral, paper);
         EXPECT_EQ(lineOf(page, "Home Phone =>"), "HomePhone=>(518)555-0101");
@@ -221,7 +192,7 @@ TEST_F(ReportLayouts, LongValuesStayInTheirFields)
     for (int column = Print::Area; column <= Print::Description; ++column)
         values.append(
             column == Print::Amount ? "$123,456,789.00" : QString("Wwide%1 ").arg(column).repeated(6).trimmed());
-    addPrinted(values);
+    addRow(Data1.rsPrint, Print::ID, values);
     const report::Layout layout = layouts::AssetReport();
     const pdf::Page page = printed(layout, Data1.rsPrint, QPageSize::Letter);
     const double origin = middleOf(QPageSize::Letter) - 5445;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/frmMain.h"
-#include "core/frmStartup.h"
 #include "reports/data_report.h"
 #include "reports/frmPrint.h"
 #include "reports/report_titles.h"
@@ -15,20 +14,13 @@ using forms::screen;
 
 namespace {
 
-constexpr const char* GuardText = "Please Close Print Window Before Selecting Another Report To Print!";
-constexpr const char* ErrorText = "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!";
-constexpr int Stop = 16;
-constexpr int Exclamation = 48;
-
 class PrintMenu : public ScreenTest {
 protected:
-    void SetUp() override
+    PrintMenu()
     {
-        ScreenTest::SetUp();
         screen<frmMain>().show();
         click(screen<frmMain>().cmdPrint);
-        ASSERT_TRUE(menu().isVisible());
-        ASSERT_FALSE(screen<frmMain>().isVisible());
+        EXPECT_EQ(scene().section(':', 0, 0), "3 frmPrint");
     }
 
     void TearDown() override
@@ -39,124 +31,106 @@ protected:
 
     static frmPrint& menu() { return screen<frmPrint>(); }
 
-    static QWidget* reportWindow(const char* name)
+    static QWidget* reportWindow()
     {
         for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->objectName() == name && window->isVisible())
+            if (QStringList({"AssetReport", "CoverSheet", "FillOutForm"}).contains(window->objectName())
+                && window->isVisible())
                 return window;
         return nullptr;
     }
 
+    static QString title() { return reportWindow() ? reportWindow()->windowTitle() : QString(); }
+
     static void closeReport()
     {
-        for (const char* name : {"AssetReport", "CoverSheet", "FillOutForm"})
-            if (QWidget* window = reportWindow(name)) {
-                window->activateWindow();
-                settle();
-                QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
-            }
+        if (QWidget* window = reportWindow()) {
+            window->activateWindow();
+            settle();
+            QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+        }
         settle();
         forms::activeForm()->window()->activateWindow(); // as a window manager does
         settle();
         EXPECT_FALSE(reports::AssetReport().isVisible());
     }
 
-    static void addAsset(const QString& area, const QString& type)
+    // The rows that are staged, and the boxes of a run.
+    static void expectStaged(const QString& types, bool custom)
     {
-        Data1.rsInventory.AddNew();
-        for (int column = Inventory::Area; column <= Inventory::WarrantyDescription; ++column)
-            Data1.rsInventory.Fields(column) = column == Inventory::Amount ? "$5.00" : QString("text %1").arg(column);
-        Data1.rsInventory.Fields(Inventory::Area) = area;
-        Data1.rsInventory.Fields(Inventory::Type) = type;
-        Data1.rsInventory.Update();
-    }
-
-    static QStringList staged(int column = Print::Type)
-    {
-        QStringList texts;
-        const storage::Snapshot rows = Data1.rsPrint.snapshot();
-        for (int row = 0; row < rows.rowCount(); ++row)
-            texts.append(rows.text(row, column));
-        return texts;
+        EXPECT_EQ(columnOf(Data1.rsPrint, Print::Type).join(' '), types);
+        EXPECT_EQ(reports::AssetReport().isVisible(), !types.isEmpty());
+        EXPECT_EQ(menu().CustomPrint, custom);
     }
 };
 
 TEST_F(PrintMenu, StagesTheAssetsOfAnAreaAndOpensTheReport)
 {
-    addAsset("Indoor", "Desk");
-    addAsset("OUTDOOR", "Rake");
-    addAsset("Indoor", "Lamp");
-    addAsset("Outdoors", "Swing");
-    EXPECT_EQ(frmStartup::CurrentScreen, 3);
+    addAssetRow({"Indoor", "", "", "Desk", "1", "2", "3", "4", "5", "$6.00", "7", "8", "text"});
+    addAssetRow({"OUTDOOR", "", "", "Rake"});
+    addAssetRow({"Indoor", "", "", "Lamp"});
+    addAssetRow({"Outdoors", "", "", "Swing"});
     menu().cmdCustom[4].setFocus();
     accessKey('i');
-    EXPECT_EQ(staged(), QStringList({"Desk", "Lamp"}));
-    EXPECT_EQ(staged(Print::ID), QStringList({"1", "3"}));
-    EXPECT_EQ(staged(Print::Description).at(0), "text 13");
-    EXPECT_TRUE(reports::AssetReport().isVisible());
-    EXPECT_TRUE(menu().CustomPrint);
-    EXPECT_EQ(reportWindow("AssetReport")->windowTitle(), "Kestrill by Brindlewick Software");
+    expectStaged("Desk Lamp", true);
+    EXPECT_EQ(columnOf(Data1.rsPrint, Print::ID).join(' '), "1 3");
+    EXPECT_EQ(columnOf(Data1.rsPrint, Print::Description).join(' '), "text None");
+    EXPECT_EQ(title(), "Kestrill by Brindlewick Software");
 
     // One report window blocks all, and nothing is staged under it.
     for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdOutPrint[2], &menu().cmdAutoPrint[1],
-             &menu().cmdAllPrint[3], &menu().cmdCustom[4], &menu().cmdCover[0], &menu().cmdFillOutForm[0]}) {
-        expectBox(GuardText, Exclamation);
-        click(*button);
-    }
-    EXPECT_EQ(staged(), QStringList({"Desk", "Lamp"}));
+             &menu().cmdAllPrint[3], &menu().cmdCustom[4], &menu().cmdCover[0], &menu().cmdFillOutForm[0]})
+        clickTold(*button, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
+    expectStaged("Desk Lamp", true);
     EXPECT_TRUE(menu().isVisible());
     closeReport();
 
     click(menu().cmdOutPrint[2]);
-    EXPECT_EQ(staged(), QStringList("Rake"));
+    expectStaged("Rake", true);
     EXPECT_EQ(menu().activeControl(), &menu().cmdOutPrint[2]);
     EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
     EXPECT_TRUE(screen<frmSearch>().lblHead[3].isVisible());
     closeReport();
 
-    expectBox("           No Assets Found To Print!", Exclamation);
-    click(menu().cmdAutoPrint[1]);
-    EXPECT_EQ(staged(), QStringList());
-    EXPECT_FALSE(menu().CustomPrint);
+    clickTold(menu().cmdAutoPrint[1], "           No Assets Found To Print!", Exclamation);
+    expectStaged("", false);
     EXPECT_EQ(menu().activeControl(), &menu().cmdAutoPrint[1]);
-    EXPECT_FALSE(reports::AssetReport().isVisible());
 }
 
 TEST_F(PrintMenu, StagesAllInTheOrderOfTheInventory)
 {
-    expectBox("             No Assets Found To Print!", Exclamation);
-    click(menu().cmdAllPrint[3]);
+    clickTold(menu().cmdAllPrint[3], "             No Assets Found To Print!", Exclamation);
     EXPECT_TRUE(screen<frmSearch>().pbSearch.isVisible()); // until the next run
-    EXPECT_FALSE(menu().CustomPrint);
-    addAsset("Mobile", "Kayak");
-    addAsset("Indoor", "Desk");
+    expectStaged("", false);
+    addAssetRow({"Mobile", "", "", "Kayak"});
+    addAssetRow({"Indoor", "", "", "Desk"});
     Data1.rsInventory.Sort("Type");
     accessKey('a');
-    EXPECT_EQ(staged(), QStringList({"Desk", "Kayak"}));
+    expectStaged("Desk Kayak", true);
     EXPECT_EQ(menu().activeControl(), &menu().cmdAllPrint[3]);
     EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
-    EXPECT_TRUE(reports::AssetReport().isVisible());
 
     click(menu().cmdBack[0]);
-    EXPECT_FALSE(menu().CustomPrint);
-    EXPECT_TRUE(screen<frmMain>().isVisible());
-    EXPECT_FALSE(menu().isVisible());
-    EXPECT_TRUE(reports::AssetReport().isVisible()); // a window of its own
+    expectStaged("Desk Kayak", false); // a window of its own
+    EXPECT_EQ(scene().section(':', 0, 0), "2 frmMain");
 }
 
 TEST_F(PrintMenu, OpensTheCoverSheetAndTheForm)
 {
     reportTitles().CoverSheet = "Cover Sheet - Kestrill by Brindlewick Software";
     accessKey('s');
-    ASSERT_TRUE(reports::CoverSheet().isVisible());
-    EXPECT_EQ(reportWindow("CoverSheet")->windowTitle(), "Cover Sheet - Kestrill by Brindlewick Software");
+    EXPECT_TRUE(reports::CoverSheet().isVisible());
+    EXPECT_EQ(title(), "Cover Sheet - Kestrill by Brindlewick Software");
     closeReport();
     accessKey('f');
-    ASSERT_TRUE(reports::FillOutForm().isVisible());
+    EXPECT_TRUE(reports::FillOutForm().isVisible());
     EXPECT_EQ(menu().activeControl(), &menu().cmdFillOutForm[0]);
     EXPECT_TRUE(menu().cmdFillOutForm[0].isDefault());
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 2001);
+    for (int times = 0; times < 2; ++times)
+        expectToStay([] { closeBox(menu()); });
+    EXPECT_TRUE(reports::FillOutForm().isVisible());
     reportTitles() = {};
 }
 
@@ -166,36 +140,23 @@ TEST_F(PrintMenu, SearchesForACustomPrintout)
     click(menu().cmdCustom[4]);
     EXPECT_FALSE(screen<frmMain>().FromMenu);
     EXPECT_TRUE(menu().CustomPrint);
-    EXPECT_FALSE(menu().isVisible());
-    EXPECT_TRUE(screen<frmSearch>().isVisible());
+    EXPECT_EQ(scene(), "4 frmSearch: txtKey");
     EXPECT_EQ(screen<frmSearch>().lblHead[0].caption(), "Search For Assets To Print");
 }
 
 // A failed opening is told by each button but All, where it is uncaught.
 TEST_F(PrintMenu, TellsWhatFails)
 {
-    addAsset("Indoor", "Desk");
+    addAssetRow({"Indoor"});
     Data1.rsGeneral.Delete(); // the household whose reports they are
     for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdCover[0], &menu().cmdFillOutForm[0]}) {
-        expectBox(ErrorText, Stop);
-        click(*button);
+        clickTold(*button, "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", Stop);
         EXPECT_FALSE(reportedFailure());
     }
     EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
     click(menu().cmdAllPrint[3]);
     EXPECT_TRUE(reportedFailure());
     EXPECT_FALSE(reports::AssetReport().isVisible());
-}
-
-TEST_F(PrintMenu, AsksBeforeItCloses)
-{
-    accessKey('f');
-    for (int times = 0; times < 2; ++times) {
-        expectBox("Are You Sure You Want To Close Kestrill?", 36, forms::Answer::No);
-        closeBox(menu());
-        EXPECT_TRUE(menu().isVisible());
-    }
-    EXPECT_TRUE(reports::FillOutForm().isVisible());
 }
 
 } // namespace
