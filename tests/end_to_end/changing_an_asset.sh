@@ -7,17 +7,13 @@ Camcorder="from Inventory where ID = 1"
 found_by_word() {
     step "started again: the asset is found by a word"
     start_program
-    wait_screen frmMain
     click frmMain cmdSearch
-    wait_screen frmSearch
-    shot search
+    see frmSearch search
     text CAMcord
     keys Return
-    wait_screen frmSearchResults
-    shot results
+    see frmSearchResults results
     click frmSearchResults 'txtMore(0)'
-    wait_screen frmAddUpDel
-    shot asset-opened
+    see frmAddUpDel asset-opened
 }
 
 updated() {
@@ -29,53 +25,38 @@ updated() {
     expect "select AssetValue from Personal_Info" 800000 # the total went before the check
     expect "select Amount $Camcorder" '$1234.56'
     text 1500 # the refusal has put the focus there
-    click frmAddUpDel txtMake
-    text 'Northlight & Sons'
+    enter frmAddUpDel txtMake 'Northlight & Sons'
     keys alt+u
     answer asset-updated Return
     expect "select Make, Amount, Model, [Parts Type] $Camcorder" 'Northlight & Sons|$1500.00|V-300 "Pro"|None'
     expect "select AssetValue from Personal_Info" 15800000
-    wait_screen frmAddUpDel
-    shot asset-updated
+    see frmAddUpDel asset-updated
 }
 
 warranty_by_mouse_and_keys() {
     step "its warranty"
     click frmAddUpDel cmdWarranty
-    wait_screen frmWar
-    shot warranty-empty
+    see frmWar warranty-empty
     click frmWar cmbPDay
     answer month-first Return
     click frmWar txtPAmt
-    text 250
-    keys Tab
-    text 80x
+    texts 250 80x
     click frmWar picPDate
-    wait_screen frmCalendar
-    shot warranty-calendar
-    keys Return
-    wait_screen frmWar
+    see frmCalendar warranty-calendar
+    go frmWar Return
     pick frmWar cmbLMonth 2 12 month-list
     keys Tab Down Tab Down
-    click frmWar txtDescription
-    text "Carry-in only; keep the receipt."
+    enter frmWar txtDescription "Carry-in only; keep the receipt."
     shot warranty-complete
     keys alt+s
     answer warranty-saved Return
-    wait_screen frmAddUpDel
     expect "select [Parts Type], [Parts Coverage], [Parts Amount], [Parts Month], [Parts Day], [Parts Year], [Labor Type],
  [Labor Month], [Labor Day], [Labor Year], [Warranty Description] $Camcorder" \
         "None|80|\$250.00|$(date +%b)|$(date +%-d)|$(date +%Y)|None|Feb|1|2005|Carry-in only; keep the receipt."
-    warranty_left_unchanged
-}
-
-# Amounts of the same form on both sides: nothing is asked.
-warranty_left_unchanged() {
-    keys alt+w
-    wait_screen frmWar
-    shot warranty-loaded
-    keys alt+c
     wait_screen frmAddUpDel
+    go frmWar alt+w
+    shot warranty-loaded
+    go frmAddUpDel alt+c # amounts of the same form on both sides: nothing is asked
 }
 
 printed() {
@@ -89,14 +70,12 @@ back_to_results() {
     step "back to the results, with a question"
     click frmAddUpDel cmdCancel
     answer leave-asset Return
-    wait_screen frmSearchResults
-    shot results-after-update
+    see frmSearchResults results-after-update
 }
 
 deleted() {
     step "deleted"
     click frmSearchResults 'txtMore(0)'
-    wait_screen frmAddUpDel
     click frmAddUpDel cmdDelete
     answer delete-question Escape
     expect "select count(*) from Inventory" 2

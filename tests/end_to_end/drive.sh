@@ -56,6 +56,17 @@ use_home() {
     mkdir -p "$HOME"
 }
 
+# household NAME [STATEMENTS]: a home with a household that has been introduced, and what else the statements put there.
+household() {
+    use_home "$Place/$1"
+    lay_database
+    sqlcipher_with_key "$Database" "update Personal_Info set [Introduced] = '1'; ${2:-}"
+}
+
+# assets QUERY: the statement that adds assets without a warranty; the query gives what stands from the area to how it
+# was purchased.
+assets() { printf "insert into Inventory select null, *%s from (%s);" "$(printf ", 'None'%.0s" {1..13})" "$1"; }
+
 open_display() {
     Xvfb -displayfd 3 -screen 0 "${KESTRILL_DISPLAY:-1280x1024}x24" -wr -nolisten tcp 3>"$Place/display" 2>"$Place/xvfb.log" &
     until_true "the virtual display" test -s "$Place/display"
@@ -95,6 +106,16 @@ start_program() {
 
 lay_database() { [ "$Build" = /usr ] || "$Here/../../scripts/lay-database" "$Build/data/KTL.db"; }
 
+start_at_menu() {
+    start_program
+    wait_screen frmMain
+}
+
+tell_to_end() {
+    kill -TERM "$Program"
+    ends_with 0
+}
+
 has_ended() { ! kill -0 "$1" 2>/dev/null; }
 
 # ends_with STATUS [PROCESS]
@@ -109,8 +130,10 @@ ends_with() {
 
 active_window() { xprop -root _NET_ACTIVE_WINDOW 2>/dev/null | sed -n 's/.*# \(0x[0-9a-f]*\).*/\1/p'; }
 
+role_of() { xprop -id "$1" WM_WINDOW_ROLE 2>/dev/null | sed -n 's/.*"\(.*\)"/\1/p'; }
+
 # The name of the screen in front; "MsgBox" for a message box.
-screen_in_front() { xprop -id "$(active_window)" WM_WINDOW_ROLE 2>/dev/null | sed -n 's/.*"\(.*\)"/\1/p'; }
+screen_in_front() { role_of "$(active_window)"; }
 
 is_in_front() { [ "$(screen_in_front)" = "$1" ]; }
 
@@ -165,6 +188,12 @@ hear() {
     "$Here/screen_reader.py" walk >>"$Pictures/heard.txt" || fail "a screen reader can't use $kind"
 }
 
+# see SCREEN NAME: waits for a screen and takes its picture.
+see() {
+    wait_screen "$1"
+    shot "$2"
+}
+
 # ---- hands
 
 keys() { xdotool key --delay 15 "$@"; }
@@ -184,7 +213,23 @@ keys_seen() {
     until_true "the display to stand still" is_still
 }
 
-text() { xdotool type --delay 15 "$1"; }
+text() { [ -z "$1" ] || xdotool type --delay 15 "$1"; }
+
+# texts TEXT...: types into the boxes that follow each other.
+texts() {
+    local each
+    text "$1"
+    for each in "${@:2}"; do
+        keys Tab
+        text "$each"
+    done
+}
+
+# go SCREEN KEYS...: presses keys that lead to a screen.
+go() {
+    keys "${@:2}"
+    wait_screen "$1"
+}
 
 click_at() { xdotool mousemove "$1" "$2" click 1; }
 
@@ -204,14 +249,19 @@ click() {
     click_at $((X + W / 2)) $((Y + H / 2))
 }
 
+# enter SCREEN CONTROL TEXT: clicks a box and types.
+enter() {
+    click "$1" "$2"
+    text "$3"
+}
+
 # answer NAME KEYS...: takes a picture of the message box in front and answers it.
 answer() {
-    local name=$1 window
-    shift
+    local window
     wait_screen MsgBox
     window=$(active_window)
-    shot "$name"
-    keys "$@"
+    shot "$1"
+    keys "${@:2}"
     until_true "the message box to close" is_gone "$window"
 }
 
@@ -279,9 +329,7 @@ type_household() {
 front() {
     local window
     for window in $(windows); do
-        if [ "$(xprop -id "$window" WM_WINDOW_ROLE | sed -n 's/.*"\(.*\)"/\1/p')" = "$1" ]; then
-            xdotool windowactivate "$window"
-        fi
+        [ "$(role_of "$window")" != "$1" ] || xdotool windowactivate "$window"
     done
     wait_screen "$1"
 }
@@ -302,22 +350,21 @@ save_as() {
 holds() {
     local file=$1 read wanted
     read=$(pdftotext -layout "$file" - | tr -s ' \n' ' ')
-    shift
-    for wanted in "$@"; do
+    for wanted in "${@:2}"; do
         [[ $read == *"$wanted"* ]] || fail "$file does not hold \"$wanted\": $read"
     done
 }
 
 # shown_and_saved NAME TEXT...: the asset report in front, saved beside the pictures, and closed.
-shown_and_saved() {
-    local name=$1
-    shift
-    wait_screen AssetReport
-    shot "$name"
+shown_and_saved() { report_saved AssetReport "$@"; }
+
+report_saved() {
+    local report=$1 name=$2
+    see "$report" "$name"
     save_as "$Pictures/$name.pdf"
-    holds "$Pictures/$name.pdf" "$@"
+    holds "$Pictures/$name.pdf" "${@:3}"
     keys Escape
-    until_true "the report to close" has_left AssetReport
+    until_true "the report to close" has_left "$report"
 }
 
 has_left() { ! is_in_front "$1"; }

@@ -2,70 +2,50 @@
 # shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
 # Ends that the program doesn't choose: what was confirmed stays, and nothing is made that was not there.
 
-started_at_menu() {
-    start_program
-    wait_screen frmMain
-}
-
-a_home() {
-    use_home "$Place/$1"
-    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
-    sqlcipher_with_key "$Database" "update Personal_Info set [Introduced] = '1'"
+# types CITY: into the personal information.
+types() {
+    go frmGenInfo alt+r
+    enter frmGenInfo 'txtInfo(4)' "$1"
 }
 
 killed() {
     step "killed in the middle of an entry, and started again"
-    a_home killed
-    started_at_menu
-    keys alt+r
-    wait_screen frmGenInfo
-    click frmGenInfo 'txtInfo(4)'
-    text Saved
-    keys alt+s
-    wait_screen frmMain
-    keys alt+r
-    wait_screen frmGenInfo
-    click frmGenInfo 'txtInfo(4)'
-    text Typed
+    household killed
+    start_at_menu
+    types Saved
+    go frmMain alt+s
+    types Typed
     kill -9 "$Program"
     ends_with 137
     same "$(sql "$Database" "pragma integrity_check")" ok "the database is damaged"
-    started_at_menu
+    start_at_menu
     expect "select City from Personal_Info" Saved
-    kill -TERM "$Program"
-    ends_with 0
+    tell_to_end
 }
 
 told_to_end() {
     step "told to end by the system: at the menu, and with a message box open"
-    a_home told
+    household told
     local before
     before=$(dump "$Database")
-    started_at_menu
-    kill -TERM "$Program"
-    ends_with 0
-    started_at_menu
-    keys alt+x
-    wait_screen MsgBox
-    kill -TERM "$Program"
-    ends_with 0
+    start_at_menu
+    tell_to_end
+    start_at_menu
+    go MsgBox alt+x
+    tell_to_end
     same "$(dump "$Database")" "$before" "the database has changed"
     [ ! -e "$Backup" ] || fail "a backup was made"
 }
 
 moved_away() {
     step "the database is moved away under the program: the next write says so"
-    a_home moved
-    started_at_menu
-    keys alt+r
-    wait_screen frmGenInfo
-    click frmGenInfo 'txtInfo(4)'
-    text Lost
+    household moved
+    start_at_menu
+    types Lost
     mv "$Database" "$Place/elsewhere.db"
     keys alt+s
     until_true "the reason on the error output" grep -q 'KTL.db was moved' "$Log"
-    until_true "the report in front" is_in_front ""
-    shot moved-away
+    see "" moved-away # the report
     keys Return
     ends_with 1
     same "$(sql "$Place/elsewhere.db" "select City from Personal_Info")" None "a row went into the file moved away"
@@ -85,7 +65,7 @@ laid_only_once() {
     step "a data folder that is there is left alone"
     use_home "$Place/kept"
     mkdir -p "$(dirname "$Database")"
-    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    lay_database
     [ ! -e "$Database" ] || fail "a database was laid into a folder that was there"
 }
 
@@ -95,7 +75,7 @@ far_below() {
     part=$(printf '%0200d' 0)
     use_home "$Place/$part/$part/$part"
     export XDG_DATA_HOME=data
-    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    lay_database
     start_program
     wait_screen frmIntroduction
     keys alt+F4

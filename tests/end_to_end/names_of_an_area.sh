@@ -1,22 +1,16 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
+# shellcheck shell=bash disable=SC2016,SC2034,SC2154 # amounts have a "$"; the files of this folder share their variables
 # The names of an area: added, changed with the assets that carry them, deleted; and a change that is killed.
 
 Names="select Location, Category, Type from Indoor_Items where Standard = 0"
 Carried="select Location, Category, count(*) from Inventory group by 1, 2"
 
-a_household() {
-    use_home "$Place/$1"
-    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
-    local others
-    mapfile -t others < <(sqlcipher_with_key "$Database" "pragma table_info(Inventory)" | awk -F'|' '
-        $2 !~ /^(ID|Area|Location|Category)$/ { print $2 }')
-    sqlcipher_with_key "$Database" "update Personal_Info set [Introduced] = '1';
-        with recursive n(i) as (select 1 union all select i + 1 from n where i < $2)
-        insert into Inventory (Area, Location, Category$(printf ', [%s]' "${others[@]}"))
-        select 'Indoor', '$3', '$4'$(printf ", '1'%.0s" "${others[@]}") from n"
+# at_an_asset HOME COUNT LOCATION CATEGORY: a household with assets of these names, before an asset is added.
+at_an_asset() {
+    household "$1" "with recursive n(i) as (select 1 union all select i + 1 from n where i < $2)
+        $(assets "select 'Indoor', '$3', '$4', 'Clock', '2001', 'A', 'B', 'C', '1/2/2020', '\$1.00', 'No', 'None', 'None',
+            'New' from n")"
     start_program
-    wait_screen frmMain
     click frmMain cmdIn
     click frmAuto 'cmdAdd(0)'
     wait_screen frmAddUpDel
@@ -28,21 +22,31 @@ marker() {
     click_at $((X + W - H / 2)) $((Y + H / 2))
     until_true "the list of $1" open_list
     shot "names-list-$1"
-    keys Home Return
-    wait_screen frmEditCmbBoxes
+    go frmEditCmbBoxes Home Return
 }
 
-# option KEY EDITOR: an option of the menu, by the keyboard.
-option() {
-    keys "alt+$1" alt+o
-    wait_screen "$2"
+# by_mouse BOX OPTION: to an editor.
+by_mouse() {
+    marker "$1"
+    click frmEditCmbBoxes "optEdit($2)"
+    click frmEditCmbBoxes cmdUpdate
 }
 
-added_by_keys() {
-    step "two locations are added, by keys"
+# change_by_keys NAME NEW: from the editor's second box.
+change_by_keys() {
+    marker cmbLoc
+    go frmUpdate alt+h alt+o
+    keys shift+Tab shift+Tab
+    texts "$1" "$2"
+    shot names-change
+    keys alt+h
+}
+
+added() {
+    step "two locations are added, by keys; a category, by mouse, and refused when it is added again"
     marker cmbLoc
     shot names-menu
-    option a frmAddField
+    go frmAddField alt+a alt+o
     shot names-add
     text 'Belfry'
     keys alt+a
@@ -53,17 +57,9 @@ added_by_keys() {
     answer names-added-again Return
     keys alt+c
     answer names-leave-add Return
-    wait_screen frmAddUpDel
     expect "$Names" $'Belfry|0|0\nPantry 2|0|0'
-}
-
-added_by_mouse() {
-    step "a category is added, by mouse; added again, it is refused"
-    marker cmbCat
-    click frmEditCmbBoxes 'optEdit(0)'
-    click frmEditCmbBoxes cmdUpdate
-    click frmAddField txtAdd
-    text Trains
+    by_mouse cmbCat 0
+    enter frmAddField txtAdd Trains
     click frmAddField cmdUpdate
     answer names-category-added Return
     click frmAddField cmdUpdate
@@ -71,56 +67,32 @@ added_by_mouse() {
     shot names-refused-colour
     click frmAddField cmdCancel
     answer names-leave-category Return
-    wait_screen frmAddUpDel
 }
 
 changed() {
     step "the location is changed by keys, the category by mouse"
-    marker cmbLoc
-    option h frmUpdate
-    keys shift+Tab shift+Tab
-    text 'Belfry'
-    keys Tab
-    text Vault
-    shot names-change
-    keys alt+h
+    change_by_keys Belfry Vault
     answer names-changed Return
-    wait_screen frmAddUpDel
-    shot names-changed-asset
+    see frmAddUpDel names-changed-asset
     expect "$Names" $'Pantry 2|0|0\n0|Trains|0\nVault|0|0'
     expect "$Carried" 'Vault|Trains|2'
-    marker cmbCat
-    click frmEditCmbBoxes 'optEdit(1)'
-    click frmEditCmbBoxes cmdUpdate
-    click frmUpdate cmbCat
-    text Trains
-    click frmUpdate txtNew
-    text Railway
+    by_mouse cmbCat 1
+    enter frmUpdate cmbCat Trains
+    enter frmUpdate txtNew Railway
     click frmUpdate cmdUpdate
     answer names-category-changed Return
     expect "$Carried" 'Vault|Railway|2'
 }
 
 deleted() {
-    step "a location that no asset carries is deleted by keys; a category in use is refused"
+    step "a location that no asset carries is deleted"
     marker cmbLoc
-    option d frmDelField
+    go frmDelField alt+d alt+o
     text 'Pantry 2'
     shot names-delete
     keys alt+d
     answer names-delete-question Return
     answer names-deleted Return
-    wait_screen frmAddUpDel
-    marker cmbCat
-    click frmEditCmbBoxes 'optEdit(2)'
-    click frmEditCmbBoxes cmdUpdate
-    click frmDelField cmbCat
-    text Railway
-    click frmDelField cmdUpdate
-    answer names-delete-category Return
-    answer names-in-use Return
-    click frmDelField cmdCancel
-    answer names-leave-delete Return
     wait_screen frmAddUpDel
     expect "$Names" $'0|0|0\nVault|0|0\n0|Railway|0'
 }
@@ -143,14 +115,8 @@ some_are_changed() {
 
 killed_in_a_change() {
     step "killed in the midst of a change: whole rows, and the program starts again"
-    a_household killed-change 20000 Tower Bells
-    marker cmbLoc
-    option h frmUpdate
-    keys shift+Tab shift+Tab
-    text Tower
-    keys Tab
-    text Spire
-    keys alt+h
+    at_an_asset killed-change 20000 Tower Bells
+    change_by_keys Tower Spire
     until_true "the first assets to change" some_are_changed
     shot names-changing
     kill -9 "$Program"
@@ -159,15 +125,12 @@ killed_in_a_change() {
     [ "$(sql "$Database" "select count(*) from Inventory where Location = 'Tower'")" -gt 0 ] || fail "it was not in the midst"
     expect "select count(*) from Inventory where Location in ('Tower', 'Spire') and Category = 'Bells'" 20000
     expect "$Names" 'Spire|0|0' # the name is changed before the assets
-    start_program
-    wait_screen frmMain
-    kill -TERM "$Program"
-    ends_with 0
+    start_at_menu
+    tell_to_end
 }
 
-a_household names 2 'Belfry' Trains
-added_by_keys
-added_by_mouse
+at_an_asset names 2 Belfry Trains
+added
 changed
 deleted
 closed

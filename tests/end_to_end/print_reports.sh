@@ -16,14 +16,11 @@ print_it() {
 
 an_area() {
     step "an area: looked at, guarded, printed, saved"
-    start_program
-    wait_screen frmMain
-    keys alt+p
-    wait_screen frmPrint
+    start_at_menu
+    go frmPrint alt+p
     shot print-menu
     keys alt+i
-    wait_screen AssetReport
-    shot asset-report
+    see AssetReport asset-report
     keys ctrl+0 ctrl+Next
     shot asset-report-whole-page
     front frmPrint
@@ -33,38 +30,26 @@ an_area() {
     print_it print-dialogue
     until_true "the printed report" test -s "$Printed"
     holds "$Printed" "Asset Report" "Total Pages: 2" "Brass Kestrel" "\$1,234.56" "chipped near the hinge"
-    save_as "$Pictures/asset-report.pdf"
-    holds "$Pictures/asset-report.pdf" "Page: 2" "Camcorder"
     save_as "$Pictures/asset-report.csv"
     grep -q 'Indoor,Attic,Art,Brass Kestrel,1931,.*,80.00,None' "$Pictures/asset-report.csv" ||
         fail "the table: $(cat "$Pictures/asset-report.csv")"
-    shot asset-report-saved
-    keys Escape
-    wait_screen frmPrint
+    shown_and_saved asset-report-saved "Page: 2" "Camcorder"
 }
 
 cover_sheet_and_form() {
     step "the cover sheet and the form"
+    front frmPrint
     keys alt+s
-    wait_screen CoverSheet
-    shot cover-sheet
-    save_as "$Pictures/cover-sheet.pdf"
-    holds "$Pictures/cover-sheet.pdf" "Fairbanks" "Tidewater Mutual" "\$7,834.29"
-    keys Escape
-    wait_screen frmPrint
+    report_saved CoverSheet cover-sheet "Fairbanks" "Tidewater Mutual" "\$7,834.29"
+    front frmPrint
     keys alt+f
-    wait_screen FillOutForm
-    shot form
-    save_as "$Pictures/asset-information-form.pdf"
-    holds "$Pictures/asset-information-form.pdf" "Year Asset Was Made =>" "(Select One)"
-    keys Escape
-    wait_screen frmPrint
+    report_saved FillOutForm form "Year Asset Was Made =>" "(Select One)"
 }
 
 troubled_printing() {
     step "a queue that is stopped, one that refuses, and no print service at all"
-    keys alt+a
-    wait_screen AssetReport
+    front frmPrint
+    go AssetReport alt+a
     cupsdisable Paper
     print_it
     until_true "the job that waits" job_waits
@@ -86,8 +71,7 @@ job_waits() { [ -n "$(lpstat -o)" ]; }
 closed_meanwhile() {
     step "closed while the report is open"
     front frmPrint
-    keys alt+c
-    wait_screen frmMain
+    go frmMain alt+c
     keys alt+x
     answer print-exit Return
     ends_with 0

@@ -24,17 +24,14 @@ pick_name() {
 
 first_start() {
     step "first start: lay the database, splash, introduction"
-    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    lay_database
     expect_mode "$(dirname "$Database")" 700
     expect_mode "$Database" 600
     expect "select count(*) from Inventory" 0
     start_program
-    wait_screen frmBW_Splash
-    shot splash
-    wait_screen frmIntroduction
-    shot introduction
-    keys Return
-    wait_screen frmKeyboard
+    see frmBW_Splash splash
+    see frmIntroduction introduction
+    go frmKeyboard Return
     shot keyboard
     keys Return
 }
@@ -67,21 +64,16 @@ second_start() {
 personal_information_again() {
     step "personal information: loaded, cancelled, saved"
     click frmMain cmdPersonal
-    wait_screen frmGenInfo
-    shot personal-loaded
-    click frmGenInfo 'txtInfo(4)'
-    text Troy
+    see frmGenInfo personal-loaded
+    enter frmGenInfo 'txtInfo(4)' Troy
     click frmGenInfo 'cmdBack(0)'
     answer personal-cancel-question alt+n
-    wait_screen frmGenInfo
     click frmGenInfo 'cmdBack(0)'
     answer personal-cancel-yes Return
     wait_screen frmMain
     expect "$HouseholdRow" "$Household"
-    keys alt+r
-    wait_screen frmGenInfo
-    click frmGenInfo 'txtInfo(4)'
-    text Utica
+    go frmGenInfo alt+r
+    enter frmGenInfo 'txtInfo(4)' Utica
     shot personal-changed
     click frmGenInfo 'cmdContinue(0)'
     wait_screen frmMain
@@ -92,11 +84,9 @@ personal_information_again() {
 refused_without_location() {
     step "indoor, add: refused without a location"
     click frmMain cmdIn
-    wait_screen frmAuto
-    shot indoor-menu
+    see frmAuto indoor-menu
     click frmAuto 'cmdAdd(0)'
-    wait_screen frmAddUpDel
-    shot asset-empty
+    see frmAddUpDel asset-empty
     click frmAddUpDel cmdAdd
     answer refused-location Return
     expect "select count(*) from Inventory" 0
@@ -107,34 +97,26 @@ asset_by_mouse() {
     pick_name cmbLoc Location 'Family Room' location-list
     pick_name cmbCat Category Cameras category-list
     pick_name cmbType Type Camcorder item-list "and Category = 'Cameras'"
-    click frmAddUpDel cmbYear
-    text 2019
-    click frmAddUpDel txtMake
-    text Northlight
-    click frmAddUpDel txtMod
-    text 'V-300 "Pro"'
-    click frmAddUpDel txtSerial
-    text 'SN 0042/7'
+    enter frmAddUpDel cmbYear 2019
+    enter frmAddUpDel txtMake Northlight
+    enter frmAddUpDel txtMod 'V-300 "Pro"'
+    enter frmAddUpDel txtSerial 'SN 0042/7'
     click frmAddUpDel 'optPurNewUsed(1)'
     click frmAddUpDel picDate
-    wait_screen frmCalendar
-    shot calendar
+    see frmCalendar calendar
     click_day 1 "$Month" "$Year"
-    wait_screen frmAddUpDel
     click frmAddUpDel cmdAdd
     answer refused-price Return
     expect "select count(*) from Inventory" 0
     price_grows
     click frmAddUpDel 'optRecOnFile(0)'
     text 'Fire safe, folder 3'
-    click frmAddUpDel txtDescription
-    text "With case & 2 batteries; it's Ann's."
+    enter frmAddUpDel txtDescription "With case & 2 batteries; it's Ann's."
     shot asset-complete
 }
 
 price_grows() {
-    click frmAddUpDel txtPPrice
-    text 1
+    enter frmAddUpDel txtPPrice 1
     shot price-first-digit
     text 234.567 # the third decimal is refused
     shot price-typed
@@ -143,12 +125,10 @@ price_grows() {
 added() {
     click frmAddUpDel cmdAdd
     answer asset-added Return
-    expect "select count(*) from Inventory" 1
     expect "select * from Inventory" "1|Indoor|Family Room|Cameras|Camcorder|2019|Northlight|V-300 \"Pro\"|SN 0042/7\
 |$Month/1/$Year|\$1234.56|Yes|Fire safe, folder 3|With case & 2 batteries; it's Ann's.|Used|$NoWarranty"
     expect "select AssetValue from Personal_Info" 12345600
-    wait_screen frmAddUpDel
-    shot asset-cleared
+    see frmAddUpDel asset-cleared
 }
 
 asset_by_keys() {
@@ -157,19 +137,13 @@ asset_by_keys() {
     before=$(sql "$Database" "select count(*) from Indoor_Items")
     keys alt+Down Down Return Tab # the list opens on its first row, which leads to the list editors
     pick_name cmbCat Category Art category-list-2
-    keys Tab
-    text 'Brass Kestrel'
-    keys Tab
-    text '1931'
-    keys Tab Tab Tab Tab Tab space
-    wait_screen frmCalendar
-    keys Left Prior
-    dated=$(month_before "$(date -d yesterday +%F)")
+    texts '' 'Brass Kestrel' 1931
+    go frmCalendar Tab Tab Tab Tab Tab space
+    keys Prior Home
+    dated=$(date -d "$(date +%Y-%m-01) - 1 month" +%-m/1/%Y)
     shot calendar-by-keys
-    keys Return
-    wait_screen frmAddUpDel
-    keys Tab
-    text 80
+    go frmAddUpDel Return
+    texts '' 80
     keys alt+a
     answer asset-added-by-keys Return
     expect "select Area, Location, Category, Type, Year, Make, Model, [Serial/ VIN / ID], [Date Purchased], Amount, Receipt,
@@ -179,25 +153,14 @@ asset_by_keys() {
     expect "select Location, Category, Type, Standard from Indoor_Items where rowid > $before" 'Attic|Art|Brass Kestrel|0'
 }
 
-# The same day a month before, or that month's last.
-month_before() {
-    local first day last
-    first=$(date -d "$(date -d "$1" +%Y-%m-01) - 1 month" +%F)
-    day=$(date -d "$1" +%-d)
-    last=$(date -d "$first + 1 month - 1 day" +%-d)
-    date -d "$first + $(((day < last ? day : last) - 1)) days" +%-m/%-d/%Y
-}
-
 back_to_menu() {
     step "back to the menu, with questions"
     click frmAddUpDel cmdCancel
     answer asset-cancel-question Escape
-    wait_screen frmAddUpDel
     click frmAddUpDel cmdCancel
     answer asset-cancel-yes Return
     wait_screen frmAuto
-    keys alt+m
-    wait_screen frmMain
+    go frmMain alt+m
 }
 
 close_with_backup() {
@@ -209,8 +172,7 @@ close_with_backup() {
     before=$(dump "$Database")
     keys alt+x
     answer exit-yes Return
-    wait_screen frmExit
-    shot goodbye
+    see frmExit goodbye
     ends_with 0
     same "$(dump "$Database")" "$before" "the close has changed the database"
     same "$(dump "$Backup")" "$before" "the backup differs from the database"

@@ -5,16 +5,26 @@
 #include "household/frmGenInfo.h"
 #include "support/harness.h"
 
+inline constexpr int yesNoQuestion = forms::box::Question + forms::box::YesNo;
+
+/// The personal information as the main menu opens it.
+inline frmGenInfo& openFromMenu()
+{
+    forms::screen<frmMain>().show();
+    click(forms::screen<frmMain>().cmdPersonal);
+    return forms::screen<frmGenInfo>();
+}
+
+inline QString focused()
+{
+    const forms::Control* control = forms::activeForm()->activeControl();
+    return control ? control->name() : QString();
+}
+
 /// A test with the personal information, reached as a user reaches it.
 class HouseholdTest : public ScreenTest {
 protected:
     static frmGenInfo& personal() { return forms::screen<frmGenInfo>(); }
-
-    static void openFromMenu()
-    {
-        forms::screen<frmMain>().show();
-        click(forms::screen<frmMain>().cmdPersonal);
-    }
 
     /// What the file holds of the household's row, Last to EMail, and what the screen shows of it.
     static QStringList stored()
@@ -37,6 +47,4 @@ protected:
             Data1.rsGeneral.Fields(i) = text;
         Data1.rsGeneral.Update();
     }
-
-    static QString focused() { return forms::activeForm()->activeControl()->name(); }
 };
