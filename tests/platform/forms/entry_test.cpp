@@ -140,6 +140,7 @@ TEST_F(Entry, ALengthCapLetsTheLastCharacterInAndNoMore)
 {
     form.line.setText("ab");
     forms::behaviours::lengthCap(form.line, 3);
+    click(form.line);
     type("xyz");
     EXPECT_EQ(form.line.text(), "abx");
     press(Qt::Key_Backspace);
