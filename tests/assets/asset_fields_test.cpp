@@ -64,7 +64,7 @@ TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
     EXPECT_EQ(asset().cmbType.text(), "Elephant's Foot");
     pick(asset().cmbLoc, "< Add/Edit Location >");
     EXPECT_EQ(editor().SavedLocation, "Linen Closet"); // the last real name
-    EXPECT_EQ(editor().SavedCategory, "Antiques");
+    EXPECT_EQ(editor().SavedCategory, "Appliances");
     EXPECT_EQ(asset().ListInEdit, "Location");
 }
 
