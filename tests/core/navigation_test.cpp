@@ -63,9 +63,9 @@ TEST_F(Navigation, AsksBeforeTheProgramClosesByEveryWayOut)
 
 TEST_F(Navigation, HidesTheScreenWhoseNumberIsKept)
 {
-    const std::pair<int, forms::Form&> screens[] = {{1, screen<frmGenInfo>()}, {2, menu},
-        {7, screen<frmBank>()}, {10, screen<frmAddUpDel>()}, {13, area}, {15, screen<frmEditBankBoxes>()},
-        {17, screen<frmIntroduction>()}, {18, screen<frmKeyboard>()}};
+    const std::pair<int, forms::Form&> screens[] = {{1, screen<frmGenInfo>()}, {2, menu}, {7, screen<frmBank>()},
+        {10, screen<frmAddUpDel>()}, {13, area}, {15, screen<frmEditBankBoxes>()}, {17, screen<frmIntroduction>()},
+        {18, screen<frmKeyboard>()}};
     for (const auto& [number, form] : screens) {
         form.show();
         for (const int other : {0, 19, 20, number == 1 ? 2 : 1}) {
