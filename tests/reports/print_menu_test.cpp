@@ -122,12 +122,12 @@ TEST_F(PrintMenu, OpensTheCoverSheetAndTheForm)
     EXPECT_TRUE(reports::CoverSheet().isVisible());
     EXPECT_EQ(title(), "Cover Sheet - Kestrill by Brindlewick Software");
     closeReport();
+    press(Qt::Key_F1);
+    EXPECT_EQ(openedHelp(), 2001);
     accessKey('f');
     EXPECT_TRUE(reports::FillOutForm().isVisible());
     EXPECT_EQ(menu().activeControl(), &menu().cmdFillOutForm[0]);
     EXPECT_TRUE(menu().cmdFillOutForm[0].isDefault());
-    press(Qt::Key_F1);
-    EXPECT_EQ(openedHelp(), 2001);
     for (int times = 0; times < 2; ++times)
         expectToStay([] { closeBox(menu()); });
     EXPECT_TRUE(reports::FillOutForm().isVisible());
