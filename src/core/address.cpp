@@ -4,6 +4,8 @@
 #include "platform/forms/look.h"
 #include "platform/values/text.h"
 
+#include <QWidget>
+
 namespace behaviours = forms::behaviours;
 
 namespace {

@@ -72,6 +72,7 @@ void thinByDate(const QDateTime& now)
 {
     const std::vector<KeptFile> files = withoutPutAside(all());
     std::vector<QDateTime> made;
+    made.reserve(files.size());
     for (const KeptFile& file : files)
         made.push_back(file.made);
     const std::vector<bool> kept = thinning::isKept(made, now);
