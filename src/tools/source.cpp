@@ -11,9 +11,9 @@
 QString sourceFile(const QString& named)
 {
     const bool isPath = named.contains(u'/') || QFileInfo(named).isFile();
-    const QString file = named.isEmpty() ? places::databaseFile()
-        : isPath                         ? named
-                                         : backups::find(backups::all(), named).file;
+    QString file = named.isEmpty() ? places::databaseFile()
+        : isPath                   ? named
+                                   : backups::find(backups::all(), named).file;
     if (storage::isInUse(file))
         throw Refusal(exit_code::InUse,
             QStringLiteral("%1 is in use: close Kestrill first. A backup can be read at any time.").arg(file));

@@ -31,7 +31,7 @@ QString chooseFolder(const QString& title, const QString& start)
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Choose"));
     const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    const QString chosen = isChosen ? dialog.selectedFiles().first() : QString();
+    QString chosen = isChosen ? dialog.selectedFiles().first() : QString();
     if (front && front->isVisible())
         stage.bringForward(*front);
     return chosen;
