@@ -50,9 +50,10 @@ void address::StateBox::hop()
 void address::addPhone(forms::look::FieldRows& rows, const Phone& phone)
 {
     const auto& [label, frames, pieces] = phone;
-    const char* const signs[] = {"(", ")", "-"};
+    frames[0]->setCaption("(");
+    frames[1]->setCaption(")");
+    frames[2]->setCaption("-");
     for (std::size_t at = 0; at < pieces.size(); ++at) {
-        frames[at]->setCaption(signs[at]);
         pieces[at]->setAlignment(forms::Alignment::Centre);
         pieces[at]->setWidthInCharacters(pieces[at]->maxLength() + 2);
         behaviours::digitsOnly(*pieces[at]);
