@@ -2,6 +2,7 @@
 #include "tools/windows.h"
 
 #include "core/conventions.h"
+#include "core/manual.h"
 #include "core/program_name.h"
 #include "tools/frmExport.h"
 #include "tools/frmRestore.h"
@@ -19,6 +20,7 @@ int run(int& argc, char* argv[])
     name_Program();
     forms::prepare(application);
     forms::setReportWords(conventions::Title, [] { return QStringLiteral("Nothing was lost."); });
+    forms::setHelpDoor(manual::open);
     forms::runAsHandler("main", [] { forms::screen<First>().show(); });
     return QApplication::exec();
 }
