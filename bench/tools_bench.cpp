@@ -6,6 +6,8 @@
 #include "tools/checking.h"
 #include "tools/exporting.h"
 #include "tools/report_files.h"
+#include "tools/table_texts.h"
+#include "tools/text_file.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -51,6 +53,26 @@ void checkHousehold(benchmark::State& state)
     }
 }
 
+/// The rows of all tables, in both forms, without the reports.
+void writeRows(benchmark::State& state)
+{
+    const QString path = sampleHousehold(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto round : state) {
+        const Household household(path);
+        const QTemporaryDir folder;
+        TextFile csv(folder.filePath("csv"));
+        TextFile json(folder.filePath("json"));
+        for (const storage::Snapshot& table : household.tables()) {
+            for (int row = 0; row < table.rowCount(); ++row) {
+                csv.write(table_texts::csvRow(table, row));
+                json.write(table_texts::jsonRow(table, row));
+            }
+        }
+        csv.finish();
+        json.finish();
+    }
+}
+
 void writeReports(benchmark::State& state)
 {
     const Household household(sampleHousehold(static_cast<int>(state.range(0))));
@@ -74,5 +96,6 @@ void exportHousehold(benchmark::State& state)
 
 BENCHMARK(readBare)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(checkHousehold)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(writeRows)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(writeReports)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(exportHousehold)->Arg(32000)->UseRealTime()->Unit(benchmark::kMillisecond);

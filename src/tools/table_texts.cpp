@@ -4,7 +4,9 @@
 #include <QString>
 #include <QUtf8StringView>
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <optional>
 
 using storage::Column;
@@ -36,21 +38,31 @@ std::string decimalOf(std::string_view tenThousandths)
     return (isNegative ? "-" : "") + digits;
 }
 
-std::string cellOf(const Snapshot& table, int row, int column)
+void appendCsv(std::string& line, std::string_view text)
 {
-    const std::string_view bytes = table.utf8(row, column);
-    const bool isAmount = table.definition().columns[static_cast<std::size_t>(column)].type == ColumnType::Currency;
-    return isAmount ? decimalOf(bytes) : std::string(bytes);
+    if (text.find_first_of("\",\r\n") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' ')) {
+        line.append(text);
+        return;
+    }
+    line += '"';
+    for (const char byte : text)
+        line.append(byte == '"' ? 2 : 1, byte);
+    line += '"';
 }
 
-std::string csvField(std::string_view text)
+// Of an amount, its decimal, which is laid into the room.
+std::string_view cellOf(const Snapshot& table, int row, int column, std::string& room)
 {
-    if (text.find_first_of("\",\r\n") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' '))
-        return std::string(text);
-    std::string quoted = "\"";
-    for (const char byte : text)
-        quoted.append(byte == '"' ? 2 : 1, byte);
-    return quoted += '"';
+    const std::string_view bytes = table.utf8(row, column);
+    if (table.definition().columns[static_cast<std::size_t>(column)].type != ColumnType::Currency)
+        return bytes;
+    room = decimalOf(bytes);
+    return room;
+}
+
+bool needsEscape(char byte)
+{
+    return byte == '"' || byte == '\\' || static_cast<unsigned char>(byte) < 0x20;
 }
 
 void appendEscaped(std::string& text, char byte)
@@ -58,18 +70,35 @@ void appendEscaped(std::string& text, char byte)
     constexpr char digits[] = "0123456789abcdef";
     if (byte == '"' || byte == '\\')
         text.append(1, '\\').append(1, byte);
-    else if (static_cast<unsigned char>(byte) < 0x20)
-        text.append("\\u00").append(1, digits[byte >> 4]).append(1, digits[byte & 15]);
     else
-        text.append(1, byte);
+        text.append("\\u00").append(1, digits[byte >> 4]).append(1, digits[byte & 15]);
 }
 
-std::string jsonCell(const Snapshot& table, int row, int column)
+void appendJson(std::string& json, std::string_view text)
 {
-    const std::string cell = cellOf(table, row, column);
+    const QUtf8StringView bytes(text.data(), static_cast<qsizetype>(text.size()));
+    if (!bytes.isValidUtf8())
+        return appendJson(json, bytes.toString().toStdString());
+    json += '"';
+    auto from = text.begin();
+    for (auto to = std::find_if(from, text.end(), needsEscape); to != text.end();
+         to = std::find_if(from, text.end(), needsEscape)) {
+        json.append(from, to);
+        appendEscaped(json, *to);
+        from = std::next(to);
+    }
+    json.append(from, text.end()) += '"';
+}
+
+void appendJsonCell(std::string& json, const Snapshot& table, int row, int column, std::string& room)
+{
+    const std::string_view cell = cellOf(table, row, column, room);
     const ColumnType type = table.definition().columns[static_cast<std::size_t>(column)].type;
     const bool isNumber = (type == ColumnType::Integer || type == ColumnType::Identity) && numberIn(cell);
-    return isNumber ? cell : jsonText(cell);
+    if (isNumber)
+        json.append(cell);
+    else
+        appendJson(json, cell);
 }
 
 const char* schemaOf(ColumnType type)
@@ -109,37 +138,35 @@ std::string csvHeadings(const storage::TableDefinition& table)
 {
     std::string line;
     for (const Column& column : table.columns)
-        line.append(line.empty() ? "" : ",").append(csvField(column.name));
+        appendCsv(line.append(line.empty() ? "" : ","), column.name);
     return line += "\r\n";
 }
 
 std::string csvRow(const Snapshot& table, int row)
 {
     std::string line;
+    std::string room;
     const int columns = static_cast<int>(table.definition().columns.size());
     for (int column = 0; column < columns; ++column)
-        line.append(column == 0 ? "" : ",").append(csvField(cellOf(table, row, column)));
+        appendCsv(line.append(column == 0 ? "" : ","), cellOf(table, row, column, room));
     return line += "\r\n";
 }
 
 std::string jsonText(std::string_view text)
 {
-    const QUtf8StringView bytes(text.data(), static_cast<qsizetype>(text.size()));
-    if (!bytes.isValidUtf8())
-        return jsonText(bytes.toString().toStdString());
-    std::string quoted = "\"";
-    for (const char byte : text)
-        appendEscaped(quoted, byte);
-    return quoted += '"';
+    std::string json;
+    appendJson(json, text);
+    return json;
 }
 
 std::string jsonRow(const Snapshot& table, int row)
 {
     std::string object = "{";
+    std::string room;
     int column = 0;
     for (const Column& each : table.definition().columns) {
-        object.append(column == 0 ? "" : ", ").append(jsonText(each.name)).append(": ");
-        object.append(jsonCell(table, row, column++));
+        object.append(column == 0 ? "\"" : ", \"").append(each.name).append("\": "); // plain letters, all of them
+        appendJsonCell(object, table, row, column++, room);
     }
     return object += '}';
 }
