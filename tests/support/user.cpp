@@ -122,7 +122,8 @@ void typeCharacter(char32_t character)
     stroke(Qt::Key(unit.toUpper().unicode()), text, unit.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
 }
 
-// Right-clicks and does something in the menu that opens, if one does. It has an event loop of its own, inside the click.
+// Right-clicks and does something in the menu that opens, if one does. It has an event loop of its own, inside the
+// click.
 bool inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script)
 {
     bool opened = false;
@@ -219,14 +220,12 @@ void closeBox(forms::Form& form)
 void visitAnotherProgram()
 {
     QWindow& own = frontWindow();
-    {
-        QWindow other; // a window that belongs to no screen
-        other.show();
-        other.requestActivate();
+    QWindow other; // belongs to no screen
+    other.show();
+    for (QWindow* window : {&other, &own}) {
+        window->requestActivate();
         settle();
     }
-    own.requestActivate();
-    settle();
 }
 
 // ---- the keyboard, and other ways in which text gets into a box
@@ -366,7 +365,6 @@ void pasteByMenu(forms::Control& control, const QString& text)
             if (!action->isEnabled() || !action->text().startsWith(QLatin1String("&Paste")))
                 continue;
             const QPoint middle = menu.actionGeometry(action).center();
-            QTest::mouseMove(menu.windowHandle(), middle);
             return QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, middle);
         }
         menu.close(); // as a user leaves it who finds the command grey
