@@ -19,17 +19,16 @@ double attribute(const QXmlStreamReader& xml, const char* name)
     return xml.attributes().value(QLatin1String(name)).toDouble() * twipsPerPoint;
 }
 
-} // namespace
-
 QString output(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.start(program, arguments);
     if (!process.waitForFinished() || process.exitCode() != 0)
-        throw std::runtime_error(
-            (program + QStringLiteral(" failed: ") + process.readAllStandardError()).toStdString());
+        throw std::runtime_error((program + " failed: " + process.readAllStandardError()).toStdString());
     return QString::fromUtf8(process.readAllStandardOutput());
 }
+
+} // namespace
 
 std::vector<Page> read(const QString& path)
 {

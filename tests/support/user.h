@@ -8,9 +8,8 @@
 
 class QWidget;
 
-/// What a user does. Everything goes through the windows as real events, the way of the hardware: a screen behind a
-/// modal one gets nothing, as in life. What a user can't do (click a hidden control, pick an item that isn't in the
-/// list) fails the test and says what there is.
+/// What a user does, through the windows as real events: a screen behind a modal one gets nothing, as in life. What a
+/// user can't do (click a hidden control, pick an item that isn't in the list) fails the test.
 namespace user {
 
 /// A control of a screen by its name.
@@ -33,7 +32,6 @@ void clickAgain();
 /// True when a menu opens; it is left without a choice.
 bool rightClick(forms::Control& control);
 
-/// Other parts of a control than its middle.
 void clickArrow(forms::ComboBox& box);
 void clickScrollBar(forms::MemoBox& box);
 
@@ -82,7 +80,6 @@ void setByAssistant(forms::Control& control, const QString& text);
 void pick(forms::ComboBox& box, const QString& item);
 bool isListOpen();
 
-/// What the list of a box holds.
 QStringList itemsOf(const forms::ComboBox& box);
 
 /// Clicks a button of the real message box that is up.

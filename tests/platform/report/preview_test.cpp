@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/trial_form.h"
 #include "platform/report/preview.h"
-#include "support/files.h"
-#include "support/pdf_text.h"
 #include "trial_report.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -28,7 +23,7 @@ protected:
     // Four pages on Letter and on A4.
     void open()
     {
-        preview_ = new report::Preview("Trial", trial::document(trial::rows(24)), [this] { ++errors_; });
+        preview_ = new report::Preview("Trial", trial::document(trial::rows(24)), [] {});
         preview_->open();
         settle();
     }
@@ -66,25 +61,7 @@ protected:
         return all;
     }
 
-    /// Types a name into the dialog that Ctrl+S opens, and accepts it; the path, and what the dialog has suggested.
-    QString saveAs(const QString& name)
-    {
-        const QString path = folder_.filePath(name);
-        whileModal([this, path] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            suggested_ = dialog->selectedFiles().value(0).section(u'/', -1);
-            auto* line = dialog->findChild<QLineEdit*>("fileNameEdit");
-            line->setText(path);
-            QTest::keyClick(line, Qt::Key_Return);
-        });
-        key(Qt::Key_S, Qt::ControlModifier);
-        return path;
-    }
-
     QPointer<report::Preview> preview_;
-    QTemporaryDir folder_;
-    int errors_ = 0;
-    QString suggested_;
 };
 
 TEST_F(ReportPreview, TurnsPagesByKeysButtonsNumberAndWheel)
@@ -137,8 +114,6 @@ TEST_F(ReportPreview, ZoomsAndRemembersZoomAndPaper)
     open();
     EXPECT_EQ(part<QComboBox>("paper")->currentText(), other);
     EXPECT_EQ(view().factor(), 2);
-    key(Qt::Key_1, Qt::ControlModifier);
-    EXPECT_TRUE(pdf::info(saveAs("other.pdf"), "Page size").contains(other, Qt::CaseInsensitive));
 }
 
 TEST_F(ReportPreview, IsNoScreenOfTheProgram)
@@ -152,20 +127,6 @@ TEST_F(ReportPreview, IsNoScreenOfTheProgram)
     key(Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(preview_);
     EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus ok.Click");
-}
-
-TEST_F(ReportPreview, SavesAsDocumentAndAsTableAndTellsThatNoPrinterIsThere)
-{
-    const QString document = saveAs("noending") + ".pdf";
-    EXPECT_EQ(suggested_, "Trial 2026-11-24.pdf");
-    EXPECT_EQ(pdf::read(document).size(), 4);
-    EXPECT_TRUE(part<QLabel>("status")->text().contains(document));
-    EXPECT_EQ(bytesOf(saveAs("a.csv")).count('\n'), 25);
-    EXPECT_EQ(errors_, 0);
-    qputenv("CUPS_SERVER", folder_.filePath("none").toLocal8Bit());
-    click("print");
-    EXPECT_EQ(errors_, 1);
-    EXPECT_EQ(part<QLabel>("status")->text(), "");
 }
 
 } // namespace
