@@ -103,7 +103,7 @@ protected:
     std::optional<help::Viewer> viewer_;
 };
 
-TEST_F(HelpViewer, LeadsByTopicsLinksContentsAndSearch)
+TEST_F(HelpViewer, LeadsByTopicsLinksContentsFindingAndSearch)
 {
     const std::pair<std::function<void()>, QString> steps[] = {
         {[this] { open("9"); }, "Welcome, page, no back, no forward"},
@@ -113,10 +113,12 @@ TEST_F(HelpViewer, LeadsByTopicsLinksContentsAndSearch)
         {[this] { key(Qt::Key_F6); }, "Backup, contents, no forward"},
         {[this] { key(Qt::Key_Up, {}, "\r"); }, "Lists, contents, no forward"},
         {[this] { key(Qt::Key_F1); }, "Welcome, contents, no forward"},
+        {[this] { key(Qt::Key_F, Qt::ControlModifier, "RECEIPT"); }, "Welcome, findWords [receipt], no forward"},
+        {[this] { key(Qt::Key_Escape); }, "Welcome, page [receipt], no forward"},
         {[this] { key(Qt::Key_K, Qt::ControlModifier, "nowhere"); },
-            "Welcome, sought: Nothing was found about \"nowhere\". Try another word., no forward"},
+            "Welcome, sought [receipt]: Nothing was found about \"nowhere\". Try another word., no forward"},
         {[this] { key(Qt::Key_A, Qt::ControlModifier, "receipts"); },
-            "Welcome, sought: 2 topics were found, the best first:, no forward"},
+            "Welcome, sought [receipt]: 2 topics were found, the best first:, no forward"},
         {[this] { key(Qt::Key_Down, {}, "\r"); },
             "Lists, found [Receipts]: 2 topics were found, the best first:, no forward"},
     };
@@ -128,28 +130,6 @@ TEST_F(HelpViewer, LeadsByTopicsLinksContentsAndSearch)
     EXPECT_GT(text().verticalScrollBar()->value(), text().viewport()->height()) << "not at the place of the topic";
     const auto hits = help::WordIndex(help::Book(folder_.path())).find("back up");
     EXPECT_TRUE(hits.at(0).title == "Backup" && hits.at(1).excerpt.contains("has its backup in a drawer"));
-}
-
-TEST_F(HelpViewer, FindsOnThePage)
-{
-    open("2001");
-    key(Qt::Key_F, Qt::ControlModifier, "receipt");
-    const int first = text().textCursor().selectionStart();
-    const std::tuple<std::function<void()>, const char*, bool> steps[] = {
-        {[this] { key(Qt::Key_F3); }, "", false},
-        {[this] { key(Qt::Key_F3, Qt::ShiftModifier); }, "", true},
-        {[this] { click("findPrevious"); }, "From the bottom again.", false},
-        {[this] { key(Qt::Key_F3); }, "From the top again.", true},
-        {[this] { key(Qt::Key_F, Qt::ControlModifier, "zebra"); }, "Not found on this page.", true},
-    };
-    for (const auto& [step, told, isAtTheFirst] : steps) {
-        step();
-        EXPECT_EQ(part<QLabel>("findState").text(), told);
-        EXPECT_EQ(text().textCursor().selectionStart() == first, isAtTheFirst) << told;
-    }
-    key(Qt::Key_Escape);
-    EXPECT_EQ(state(), "Lists, page, no back, no forward");
-    EXPECT_TRUE(viewer_->isVisible());
 }
 
 TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
