@@ -54,7 +54,10 @@ public:
     void happened(const QString& event)
     {
         const auto answer = answers.find(event);
-        answer == answers.end() ? note(event) : answer->second();
+        if (answer == answers.end())
+            note(event);
+        else
+            answer->second();
     }
 
     void note(const QString& event) { journal_.note(event); }

@@ -12,10 +12,12 @@ protected:
     // The word of the current row, or where the view stands that has none.
     QString standing()
     {
-        QString word;
-        if (failureOf([&] { word = wordsView.Fields(words::Word).text(); }) == FailureKind::NoCurrentRecord)
-            return wordsView.atBOF() ? "before" : wordsView.atEOF() ? "behind" : "deleted";
-        return wordsView.atBOF() || wordsView.atEOF() ? word + " and an end" : word;
+        QString word = "deleted";
+        const auto failure = failureOf([&] { word = wordsView.Fields(words::Word).text(); });
+        if (wordsView.atBOF() || wordsView.atEOF())
+            word = wordsView.atBOF() ? "before" : "behind";
+        EXPECT_EQ(failure == FailureKind::NoCurrentRecord, QStringList({"before", "behind", "deleted"}).contains(word));
+        return word;
     }
 
     storage::Field field(int column) { return thingsView.Fields(column); }

@@ -27,10 +27,13 @@ std::map<std::string, std::string> treeOf(const QString& folder)
 {
     std::map<std::string, std::string> tree;
     const std::filesystem::path top = folder.toStdString();
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(top))
-        tree[entry.path().lexically_relative(top)] = entry.is_symlink() ? "-> " + read_symlink(entry).string()
-            : entry.is_directory()                                      ? "(folder)"
-                                   : bytesOf(QString::fromStdString(entry.path())).toStdString();
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(top)) {
+        std::string& contents = tree[entry.path().lexically_relative(top)];
+        if (entry.is_symlink())
+            contents = "-> " + read_symlink(entry).string();
+        else
+            contents = entry.is_directory() ? "(folder)" : bytesOf(entry.path().c_str()).toStdString();
+    }
     return tree;
 }
 
