@@ -3,7 +3,6 @@
 #include "platform/report/preview.h"
 #include "trial_report.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>

@@ -48,6 +48,22 @@ TEST_F(FailedWriteTest, AFullDiskLeavesViewAndFileAsTheyWereAndTheNextWriteWorks
     EXPECT_EQ(wordsInFile(), QStringList({"a", "b"}));
 }
 
+TEST_F(FailedWriteTest, AFolderThatTakesNoNewFileIsToldAsOne)
+{
+    QFile::setPermissions(path(), QFile::Permissions(0x6666));
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x5555));
+    QFile::setPermissions(place.path(), QFile::Permissions(0x5555));
+    const uid_t user = geteuid();
+    ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0) << "nothing is forbidden to root";
+    wordsView.Open();
+    EXPECT_THAT([this] { addWord(wordsView, "a"); },
+        testing::ThrowsMessage<values::RuntimeFailure>(testing::HasSubstr("(Permission denied)")));
+    wordsView.Close();
+    ASSERT_EQ(seteuid(user), 0);
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x7700));
+    QFile::setPermissions(place.path(), QFile::Permissions(0x7700));
+}
+
 // How a session can end whose last save has failed. An end that settles the file does it or tells that it couldn't.
 struct End {
     const char* name;

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -38,8 +37,7 @@ TEST(Processes, AreListedUnderTheirWholeNamesAlsoWhenTheFileIsGone)
     ASSERT_TRUE(child.waitForStarted());
     QFile::remove(program);
     const auto processes = sys::runningProcesses();
-    const auto found = std::find_if(
-        processes.begin(), processes.end(), [&child](const auto& each) { return each.pid == child.processId(); });
+    const auto found = std::ranges::find(processes, child.processId(), &sys::Process::pid);
     ASSERT_NE(found, processes.end());
     EXPECT_EQ(found->name, "a program with a long name");
     EXPECT_EQ(found->executable, program);
