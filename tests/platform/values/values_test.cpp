@@ -3,6 +3,7 @@
 #include "platform/values/date.h"
 #include "platform/values/failure.h"
 #include "platform/values/integer.h"
+#include "platform/values/text.h"
 #include "support/print.h"
 
 #include <QLocale>
@@ -119,6 +120,16 @@ TEST(Integer, OverflowIsAFailureAndLeavesTheNumberAsItWas)
         EXPECT_EQ(failureOf(step), "Overflow");
     EXPECT_EQ(top, 32767);
     EXPECT_EQ(bottom, -32768);
+}
+
+TEST(EqualUpper, AgreesWithComparingTheUpperCasedTexts)
+{
+    const QString texts[] = {"", "s", "SS", "ß", "ẞ", "ſ", "ſs", "sß", "ßs", "SSS", "[", "{", "@", "`", "é", "e\u0301",
+        "E\u0301", "i", "I", "İ", "ı", "az", "AZ", "fi", "ﬁ", "𐐨", "𐐀", "KITCHEN ", "Kitchen ", "Straße", "STRASSE"};
+    for (const QString& a : texts)
+        for (const QString& b : texts)
+            EXPECT_EQ(equalUpper(a, b), a.toUpper() == b.toUpper()) << qPrintable(a + " and " + b);
+    EXPECT_EQ(upper("title ı ß"), "TITLE I SS");
 }
 
 } // namespace
