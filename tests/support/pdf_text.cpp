@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -18,29 +19,16 @@ double attribute(const QXmlStreamReader& xml, const char* name)
     return xml.attributes().value(QLatin1String(name)).toDouble() * twipsPerPoint;
 }
 
-bool stand(const Page& page, std::size_t at, const QStringList& words)
-{
-    const double sameLine = page.words[at].place.top();
-    for (qsizetype word = 0; word < words.size(); ++word) {
-        const std::size_t here = at + static_cast<std::size_t>(word);
-        if (here >= page.words.size() || page.words[here].text != words[word]
-            || std::abs(page.words[here].place.top() - sameLine) > twipsPerPoint)
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
 QString output(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.start(program, arguments);
     if (!process.waitForFinished() || process.exitCode() != 0)
-        throw std::runtime_error(
-            (program + QStringLiteral(" failed: ") + process.readAllStandardError()).toStdString());
+        throw std::runtime_error((program + " failed: " + process.readAllStandardError()).toStdString());
     return QString::fromUtf8(process.readAllStandardOutput());
 }
+
+} // namespace
 
 std::vector<Page> read(const QString& path)
 {
@@ -70,15 +58,17 @@ QString Page::text() const
 
 std::vector<QRectF> placesOf(const Page& page, const QString& text)
 {
-    const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
+    const QStringList sought = text.split(u' ', Qt::SkipEmptyParts);
+    const auto isSame = [](const Word& word, const QString& other) { return word.text == other; };
     std::vector<QRectF> places;
-    for (std::size_t at = 0; at < page.words.size(); ++at) {
-        if (!stand(page, at, words))
-            continue;
-        const std::size_t last = at + static_cast<std::size_t>(words.size()) - 1;
-        places.push_back(page.words[at].place.united(page.words[last].place));
+    for (auto at = page.words.begin();; ++at) {
+        at = std::search(at, page.words.end(), sought.begin(), sought.end(), isSame);
+        if (at == page.words.end())
+            return places;
+        const QRectF last = at[sought.size() - 1].place;
+        if (std::abs(last.top() - at->place.top()) <= twipsPerPoint)
+            places.push_back(at->place.united(last));
     }
-    return places;
 }
 
 QString info(const QString& path, const QString& name)

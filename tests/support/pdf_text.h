@@ -29,8 +29,7 @@ std::vector<Page> read(const QString& path);
 /// Where the words of a text stand side by side, wherever on the page.
 std::vector<QRectF> placesOf(const Page& page, const QString& text);
 
-/// A line of pdfinfo, by its name; and all that pdffonts and others print.
+/// A line of pdfinfo, by its name.
 QString info(const QString& path, const QString& name);
-QString output(const QString& program, const QStringList& arguments);
 
 } // namespace pdf

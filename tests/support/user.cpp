@@ -57,14 +57,25 @@ Spot spotOf(forms::Control& control, QPoint position)
     return spot;
 }
 
-struct Click {
-    QPoint where; // on the display
-    int when = 0;
-} lastClick;
+QPoint lastPlace; // of a click, on the display
+int lastTime = 0;
 
 Spot middleOf(forms::Control& control)
 {
     return spotOf(control, control.widget()->rect().center());
+}
+
+QWindow& frontWindow()
+{
+    QWidget* front = QApplication::activePopupWidget();
+    if (!front)
+        front = QApplication::activeModalWidget();
+    if (!front && forms::activeForm())
+        front = forms::activeForm()->window();
+    QWindow* window = front ? front->windowHandle() : QGuiApplication::focusWindow();
+    if (!window)
+        throw std::logic_error("No window is in front to take a key");
+    return *window;
 }
 
 QString textOf(Qt::Key key, Qt::KeyboardModifiers modifiers)
@@ -111,24 +122,23 @@ void typeCharacter(char32_t character)
     stroke(Qt::Key(unit.toUpper().unicode()), text, unit.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
 }
 
-QAbstractItemView& openedList(forms::ComboBox& box)
+// Right-clicks and does something in the menu that opens, if one does. It has an event loop of its own, inside the
+// click.
+bool inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script)
 {
-    clickArrow(box);
-    QWidget* popup = QApplication::activePopupWidget();
-    auto* view = popup ? popup->findChild<QAbstractItemView*>() : nullptr;
-    if (!view)
-        throw std::logic_error("The list of " + box.name().toStdString() + " doesn't open");
-    return *view;
-}
-
-QModelIndex itemIn(const QAbstractItemView& view, const QString& item, const forms::ComboBox& box)
-{
-    const auto row = itemsOf(box).indexOf(item);
-    if (row < 0)
-        throw std::out_of_range(QStringLiteral("%1 has no item \"%2\". There are: %3")
-                                    .arg(box.name(), item, itemsOf(box).join(u'|'))
-                                    .toStdString());
-    return view.model()->index(static_cast<int>(row), 0);
+    bool opened = false;
+    QTimer inMenu;
+    QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            inMenu.stop();
+            opened = true;
+            script(*menu);
+        }
+    });
+    inMenu.start(0);
+    const Spot spot = middleOf(control);
+    QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
+    return opened;
 }
 
 } // namespace
@@ -137,29 +147,26 @@ QModelIndex itemIn(const QAbstractItemView& view, const QString& item, const for
 
 forms::Control& control(forms::Form& form, const QString& name)
 {
-    QString names;
-    for (forms::Control* each : form.controls()) {
+    for (forms::Control* each : form.controls())
         if (each->name() == name)
             return *each;
-        names += QLatin1Char(' ') + each->name();
-    }
-    throw std::out_of_range(
-        QStringLiteral("%1 has no control %2. There are:%3").arg(form.name(), name, names).toStdString());
+    throw std::out_of_range((form.name() + " has no control " + name).toStdString());
 }
 
 void clickAt(forms::Control& control, QPoint position)
 {
     const Spot spot = spotOf(control, position);
-    lastClick = {spot.window->mapToGlobal(spot.position), QTest::lastMouseTimestamp};
+    lastPlace = spot.window->mapToGlobal(spot.position);
+    lastTime = QTest::lastMouseTimestamp;
     QTest::mouseClick(spot.window, Qt::LeftButton, {}, spot.position);
 }
 
 void clickAgain()
 {
     constexpr int betweenMilliseconds = 100;
-    QTest::lastMouseTimestamp = lastClick.when + betweenMilliseconds;
+    QTest::lastMouseTimestamp = lastTime + betweenMilliseconds;
     QWindow& window = frontWindow();
-    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(lastClick.where));
+    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(lastPlace));
 }
 
 void clickScrollBar(forms::MemoBox& box)
@@ -181,27 +188,7 @@ void wheel(QWidget& widget, int eighths)
 
 bool rightClick(forms::Control& control)
 {
-    bool opened = false;
-    inMenuOf(control, [&opened](QMenu& menu) {
-        opened = true;
-        menu.close();
-    });
-    return opened;
-}
-
-void inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script)
-{
-    // The menu has an event loop of its own, inside the click.
-    QTimer inMenu;
-    QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&inMenu, &script] {
-        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-            inMenu.stop();
-            script(*menu);
-        }
-    });
-    inMenu.start(0);
-    const Spot spot = middleOf(control);
-    QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
+    return inMenuOf(control, [](QMenu& menu) { menu.close(); });
 }
 
 bool drop(forms::Control& control, const QString& text)
@@ -221,13 +208,6 @@ bool drop(forms::Control& control, const QString& text)
     return copies;
 }
 
-void clickWindow(forms::Form& form)
-{
-    QWindow& window = *form.window()->windowHandle();
-    window.requestActivate();
-    QTest::mouseClick(&window, Qt::LeftButton, {}, {1, 1});
-}
-
 void closeBox(forms::Form& form)
 {
     settle();
@@ -240,30 +220,15 @@ void closeBox(forms::Form& form)
 void visitAnotherProgram()
 {
     QWindow& own = frontWindow();
-    {
-        QWindow other; // a window that belongs to no screen
-        other.show();
-        other.requestActivate();
+    QWindow other; // belongs to no screen
+    other.show();
+    for (QWindow* window : {&other, &own}) {
+        window->requestActivate();
         settle();
     }
-    own.requestActivate();
-    settle();
 }
 
 // ---- the keyboard, and other ways in which text gets into a box
-
-QWindow& frontWindow()
-{
-    QWidget* front = QApplication::activePopupWidget();
-    if (!front)
-        front = QApplication::activeModalWidget();
-    if (!front && forms::activeForm())
-        front = forms::activeForm()->window();
-    QWindow* window = front ? front->windowHandle() : QGuiApplication::focusWindow();
-    if (!window)
-        throw std::logic_error("No window is in front to take a key");
-    return *window;
-}
 
 void settle()
 {
@@ -320,27 +285,18 @@ void accessKey(char letter)
     press(QTest::asciiToKey(letter), Qt::AltModifier);
 }
 
-void paste(const QString& text)
+void paste(const QString& text, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QGuiApplication::clipboard()->setText(text);
-    press(Qt::Key_V, Qt::ControlModifier);
-}
-
-void pasteByShiftInsert(const QString& text)
-{
-    QGuiApplication::clipboard()->setText(text);
-    press(Qt::Key_Insert, Qt::ShiftModifier);
+    press(key, modifiers);
 }
 
 void commit(const QString& text)
 {
     settle();
-    QObject* target = QGuiApplication::focusObject();
-    if (!target)
-        throw std::logic_error("Nothing has the focus to take a composed text");
     QInputMethodEvent event;
     event.setCommitString(text);
-    QCoreApplication::sendEvent(target, &event);
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
     settle();
 }
 
@@ -386,28 +342,29 @@ void clickInBox(const QString& caption)
 
 void pick(forms::ComboBox& box, const QString& item)
 {
-    QAbstractItemView& view = openedList(box);
-    const QModelIndex index = itemIn(view, item, box);
-    view.scrollTo(index);
-    QWidget& popup = *view.window();
-    const QPoint middle = view.viewport()->mapTo(&popup, view.visualRect(index).center());
+    clickArrow(box);
+    QWidget* popup = QApplication::activePopupWidget();
+    auto* view = popup ? popup->findChild<QAbstractItemView*>() : nullptr;
+    const auto row = static_cast<int>(itemsOf(box).indexOf(item));
+    if (!view || row < 0)
+        throw std::out_of_range((box.name() + " opens no list with " + item).toStdString());
+    const QModelIndex index = view->model()->index(row, 0);
+    view->scrollTo(index);
+    const QPoint middle = view->viewport()->mapTo(popup, view->visualRect(index).center());
     // The pointer travels to the item: a release where the press was is taken for the end of the opening click.
-    QTest::mouseMove(popup.windowHandle(), {1, 1});
-    QTest::mouseMove(popup.windowHandle(), middle);
-    QTest::mouseClick(popup.windowHandle(), Qt::LeftButton, {}, middle);
+    QTest::mouseMove(popup->windowHandle(), {1, 1});
+    QTest::mouseMove(popup->windowHandle(), middle);
+    QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, {}, middle);
 }
 
 void pasteByMenu(forms::Control& control, const QString& text)
 {
     QGuiApplication::clipboard()->setText(text);
-    bool opened = false;
-    inMenuOf(control, [&opened](QMenu& menu) {
-        opened = true;
+    const bool opened = inMenuOf(control, [](QMenu& menu) {
         for (QAction* action : menu.actions()) {
             if (!action->isEnabled() || !action->text().startsWith(QLatin1String("&Paste")))
                 continue;
             const QPoint middle = menu.actionGeometry(action).center();
-            QTest::mouseMove(menu.windowHandle(), middle);
             return QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, middle);
         }
         menu.close(); // as a user leaves it who finds the command grey

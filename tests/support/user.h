@@ -6,18 +6,13 @@
 #include <QPoint>
 #include <QString>
 
-#include <functional>
-
-class QMenu;
 class QWidget;
-class QWindow;
 
-/// What a user does. Everything goes through the windows as real events, the way of the hardware: a screen behind a
-/// modal one gets nothing, as in life. What a user can't do (click a hidden control, pick an item that isn't in the
-/// list) fails the test and says what there is.
+/// What a user does, through the windows as real events: a screen behind a modal one gets nothing, as in life. What a
+/// user can't do (click a hidden control, pick an item that isn't in the list) fails the test.
 namespace user {
 
-/// A control of a screen by its name; throws with a list of all names where there is none.
+/// A control of a screen by its name.
 forms::Control& control(forms::Form& form, const QString& name);
 
 template <class Kind>
@@ -37,7 +32,6 @@ void clickAgain();
 /// True when a menu opens; it is left without a choice.
 bool rightClick(forms::Control& control);
 
-/// Other parts of a control than its middle.
 void clickArrow(forms::ComboBox& box);
 void clickScrollBar(forms::MemoBox& box);
 
@@ -67,9 +61,8 @@ void accessKey(char letter);
 
 // ---- other ways in which text gets into a box
 
-/// Copies elsewhere and pastes with Ctrl+V.
-void paste(const QString& text);
-void pasteByShiftInsert(const QString& text);
+/// Copies elsewhere and pastes.
+void paste(const QString& text, Qt::Key key = Qt::Key_V, Qt::KeyboardModifiers modifiers = Qt::ControlModifier);
 void pasteByMenu(forms::Control& control, const QString& text);
 
 /// Drags a text in from a program that would rather move it; true when the answer is a copy all along.
@@ -87,7 +80,6 @@ void setByAssistant(forms::Control& control, const QString& text);
 void pick(forms::ComboBox& box, const QString& item);
 bool isListOpen();
 
-/// What the list of a box holds.
 QStringList itemsOf(const forms::ComboBox& box);
 
 /// Clicks a button of the real message box that is up.
@@ -96,19 +88,8 @@ void clickInBox(const QString& caption);
 /// Presses the close box in the title bar.
 void closeBox(forms::Form& form);
 
-/// Clicks on the window of a screen that stands behind another one.
-void clickWindow(forms::Form& form);
-
 /// Turns to another program and comes back.
 void visitAnotherProgram();
-
-// ---- for the harness itself
-
-/// The window that gets the keys.
-QWindow& frontWindow();
-
-/// Right-clicks and does something in the menu that opens.
-void inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script);
 
 /// Lets the program do what it has put off.
 void settle();

@@ -3,33 +3,21 @@
 
 namespace {
 
-using Focus = FormInFront<TwoBoxes>;
-
-TEST_F(Focus, LeavesOneControlBeforeItComesToTheOther)
-{
-    tab();
-    EXPECT_EQ(journal.taken(), "one.LostFocus two.GotFocus");
-    backTab();
-    EXPECT_EQ(journal.taken(), "two.LostFocus one.GotFocus");
-    click(form.two);
-    EXPECT_EQ(journal.taken(), "one.LostFocus two.GotFocus two.Click");
-    click(form.ok);
-    EXPECT_EQ(journal.taken(), "two.LostFocus ok.GotFocus ok.Click");
-}
+class Focus : public FormInFront<TwoBoxes> {
+protected:
+    TwoBoxes other{journal, "Other"};
+};
 
 TEST_F(Focus, SetOnAFormThatIsNotInFrontIsTakenWhenItComes)
 {
-    TwoBoxes other(journal, "Other");
-    other.two.setFocus();
-    EXPECT_EQ(journal.taken(), "");
+    EXPECT_EQ(after([this] { other.two.setFocus(); }), "");
     EXPECT_FALSE(other.two.hasFocus());
     EXPECT_EQ(other.activeControl(), &other.two);
-    other.show();
-    EXPECT_EQ(journal.taken(), "Form.Deactivate Other.Activate two.GotFocus");
-    form.two.setFocus();
-    EXPECT_EQ(journal.taken(), "");
-    form.show();
-    EXPECT_EQ(journal.taken(), "Other.Deactivate Form.Activate one.LostFocus two.GotFocus");
+    EXPECT_EQ(after([this] { other.show(); }), "Form.Deactivate Other.Activate two.GotFocus");
+    EXPECT_EQ(after([this] { form.two.setFocus(); }), "");
+    EXPECT_EQ(after([this] { form.show(); }), "Other.Deactivate Form.Activate one.LostFocus two.GotFocus");
+    EXPECT_EQ(after([this] { other.hide(); }), "") << "a screen behind goes without an event";
+    EXPECT_FALSE(other.isVisible());
 }
 
 TEST_F(Focus, AndActivationDoNotStirForABoxAMenuOrAnotherProgram)
@@ -39,49 +27,34 @@ TEST_F(Focus, AndActivationDoNotStirForABoxAMenuOrAnotherProgram)
     form.ok.setDefault(true);
     for (const auto& [key, answer] : {std::pair(Qt::Key_Return, "Yes"), std::pair(Qt::Key_Escape, "No")}) {
         whileModal([pressed = key] { press(pressed); });
-        press(Qt::Key_Return);
-        EXPECT_EQ(journal.taken(), answer);
+        EXPECT_EQ(after([] { press(Qt::Key_Return); }), answer);
         type("x");
     }
     pasteByMenu(form.one, "y");
     visitAnotherProgram();
-    EXPECT_EQ(journal.taken(), "");
     type("z");
+    EXPECT_EQ(journal.taken(), "");
     EXPECT_EQ(form.one.text(), "xxyz");
 }
 
-class Activation : public FormInFront<TwoBoxes> {
-protected:
-    TwoBoxes second{journal, "Second"};
-};
-
-TEST_F(Activation, OfOneScreenFollowsTheDeactivationOfTheOther)
-{
-    second.show();
-    EXPECT_EQ(journal.taken(), "Form.Deactivate Second.Activate one.GotFocus");
-    form.hide();
-    EXPECT_EQ(journal.taken(), "") << "a screen behind goes without an event";
-    EXPECT_FALSE(form.isVisible());
-}
-
-TEST_F(Activation, OfAModalScreenAndBackOfItsOwner)
+TEST_F(Focus, OfAModalScreenAndBackOfItsOwner)
 {
     form.answers["ok.Click"] = [this] {
-        second.show_Modal(form);
+        other.show_Modal(form);
         journal.note("returned");
     };
-    second.answers["ok.Click"] = [this] {
-        second.hide();
-        second.show_Modal(form); // an event in between: the first call hasn't returned yet
+    other.answers["ok.Click"] = [this] {
+        other.hide();
+        other.show_Modal(form); // an event in between: the first call hasn't returned yet
     };
     whileModal([this] {
-        EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Form.Deactivate Second.Activate one.GotFocus");
+        EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Form.Deactivate Other.Activate one.GotFocus");
         type("x");
-        click(second.ok);
+        click(other.ok);
     });
     click(form.ok);
-    EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Second.Deactivate Form.Activate returned");
-    EXPECT_EQ(second.one.text(), "x");
+    EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Other.Deactivate Form.Activate returned");
+    EXPECT_EQ(other.one.text(), "x");
     EXPECT_TRUE(form.ok.hasFocus());
 }
 

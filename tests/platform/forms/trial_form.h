@@ -3,7 +3,7 @@
 
 #include "support/forms_test.h"
 
-#include <QString>
+#include <QStringList>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -15,13 +15,13 @@ using namespace user; // tests speak as a user all the time
 /// What has happened, in order: "box.LostFocus ok.Click".
 class Journal {
 public:
-    void note(const QString& event) { events_ += events_.isEmpty() ? event : QLatin1Char(' ') + event; }
+    void note(const QString& event) { events_ += event; }
 
     /// Everything since the last question.
-    QString taken() { return std::exchange(events_, {}); }
+    QString taken() { return std::exchange(events_, {}).join(' '); }
 
 private:
-    QString events_;
+    QStringList events_;
 };
 
 /// A form whose events are noted and can be answered by the test.
@@ -38,21 +38,13 @@ public:
     /// What happens instead of a note of the event: answers["ok.Click"].
     std::map<QString, std::function<void()>> answers;
 
-    /// Puts controls below each other; the order is that of the Tab key, too.
-    void layOut(std::initializer_list<forms::Control*> order)
+    /// Puts all controls below each other, in the order of the Tab key, and notes their focus and clicks.
+    void layOut()
     {
         auto* column = new QVBoxLayout(canvas());
-        int place = 0;
-        for (forms::Control* each : order) {
-            each->setTabIndex(place++);
-            column->addWidget(each->widget());
-        }
-    }
-
-    /// Notes the focus and the clicks of all controls.
-    void watchFocusAndClicks()
-    {
         for (forms::Control* each : controls()) {
+            each->setTabIndex(column->count());
+            column->addWidget(each->widget());
             each->GotFocus = [this, each] { happened(each->name() + ".GotFocus"); };
             each->LostFocus = [this, each] { happened(each->name() + ".LostFocus"); };
             each->Click = [this, each] { happened(each->name() + ".Click"); };
@@ -99,8 +91,7 @@ public:
         : TrialForm(name, journal)
     {
         ok.setCaption("&OK");
-        layOut({&one, &two, &ok});
-        watchFocusAndClicks();
+        layOut();
     }
 
     forms::TextBox one{*this, "one"};
@@ -121,8 +112,7 @@ public:
         for (forms::ComboBox* each : {&combo, &locked, &choice})
             each->addItems({"alpha", "beta", "gamma"});
         locked.setLocked(true);
-        layOut({&line, &empty, &combo, &locked, &choice, &memo, &check, &house, &garage, &other, &ok});
-        watchFocusAndClicks();
+        layOut();
     }
 
     forms::TextEntry& entry(const QString& name) { return control<forms::TextEntry>(*this, name); }
@@ -140,7 +130,7 @@ public:
     forms::CommandButton ok{*this, "ok"};
 };
 
-/// A test with a form that is in front; the journal begins then.
+/// A test with a form that is in front, since when the journal is kept.
 template <class TestedForm>
 class FormInFront : public FormsTest {
 protected:
@@ -155,6 +145,13 @@ protected:
     {
         control.setFocus();
         journal.taken();
+    }
+
+    /// What happens at a step of the user or of the code.
+    QString after(const std::function<void()>& step)
+    {
+        step();
+        return journal.taken();
     }
 
     Journal journal;

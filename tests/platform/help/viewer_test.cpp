@@ -1,314 +1,182 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/trial_form.h"
 #include "platform/help/viewer.h"
 #include "platform/help/word_index.h"
-#include "support/forms_test.h"
+#include "support/files.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QImage>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
-#include <QTreeWidget>
-#include <QVBoxLayout>
 
 namespace {
 
-using help::Book;
-using help::Viewer;
-
-/// A screen of the program, which notes what happens to it.
-class TrialScreen : public forms::Form {
-public:
-    explicit TrialScreen(const QString& name)
-        : forms::Form(name)
-    {
-        auto* column = new QVBoxLayout(canvas());
-        for (forms::Control* control : {static_cast<forms::Control*>(&box), static_cast<forms::Control*>(&button)}) {
-            column->addWidget(control->widget());
-            control->setTabIndex(column->count());
-            control->GotFocus = [this] { ++events; };
-            control->LostFocus = [this] { ++events; };
-        }
-        setHelpNumber(2001);
-    }
-
-    forms::TextBox box{*this, "box"};
-    forms::CommandButton button{*this, "button"};
-    int events = 0;
-
-private:
-    void Form_Activate() override { ++events; }
-    void Form_Deactivate() override { ++events; }
-};
-
-class HelpViewer : public FormsTest {
+/// The viewer of a small book, beside a screen that is in front, and one to be shown over it.
+class HelpViewer : public FormInFront<TwoBoxes> {
 protected:
-    void SetUp() override
+    HelpViewer()
     {
-        FormsTest::SetUp();
-        write("contents.csv",
+        put("contents.csv",
             "level,title,page\n1,Welcome,index.html\n2,\"Lists, long and short\",lists.html#short\n"
             "1,Backup,backup.html\n");
-        write("topics.csv", "number,page,anchor\n1001,index.html,\n2001,lists.html,short\ntrial,backup.html,\n");
-        write("index.html",
-            page("Welcome",
-                "<p>Each receipt has its backup in a drawer.</p><p><a href='backup.html'>"
-                "More</a></p><p><img src='wide.png' width='9'></p>"));
-        write("lists.html",
-            page("Lists",
-                QStringLiteral("<p>Line</p>").repeated(80) + "<h2 id='short'>Short</h2>"
-                    + QStringLiteral("<p>Receipts, Line</p>").repeated(80)));
-        write("backup.html", page("Backup", "<p>A copy of all.</p>"));
-        QImage picture(400, 100, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        picture.save(folder_.filePath("wide.png"));
-        viewer_ = std::make_unique<Viewer>(Book(folder_.path()), "Help");
+        put("topics.csv", "number,page,anchor\n1001,index.html,\n2001,lists.html,short\ntrial,backup.html,\n");
+        putPage("index.html", "Welcome",
+            "<p>Each receipt has its backup in a drawer.</p><p><a href='backup.html'>More</a></p>"
+            "<p><img src='wide.png' width='9'></p>");
+        putPage("lists.html", "Lists",
+            QByteArray("<p>Line</p>").repeated(80) + "<h2 id='short'>Short</h2>"
+                + QByteArray("<p>Receipts, Line</p>").repeated(80));
+        putPage("backup.html", "Backup", "<p>A copy of all.</p>");
+        QImage(400, 100, QImage::Format_RGB32).save(folder_.filePath("wide.png"));
+        viewer_.emplace(help::Book(folder_.path()), "Help");
         forms::setHelpDoor([this](int number, const QString&) { viewer_->open(QString::number(number)); });
-        screen_.show();
-        user::settle();
-        screen_.events = 0;
+        form.setHelpNumber(2001);
+        modal.setHelpNumber(2001);
     }
 
-    void TearDown() override
-    {
-        viewer_.reset();
-        FormsTest::TearDown();
-    }
+    void put(const char* name, const QByteArray& text) { putFile(folder_.filePath(name), text); }
 
-    static QString page(const QString& title, const QString& body)
+    void putPage(const char* name, const QByteArray& title, const QByteArray& body)
     {
-        return "<html><head><title>" + title + "</title></head><body><h1>" + title + "</h1>" + body + "</body></html>";
-    }
-
-    void write(const QString& name, const QString& text)
-    {
-        QFile file(folder_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
+        put(name,
+            "<html><head><title>" + title + "</title></head><body><h1>" + title + "</h1>" + body + "</body></html>");
     }
 
     void open(const QString& topic)
     {
         viewer_->open(topic);
-        user::settle();
+        settle();
     }
 
     template <class Widget>
     Widget& part(const char* name)
     {
-        auto* found = viewer_->findChild<Widget*>(name);
-        if (!found)
-            throw std::runtime_error(std::string("There is no ") + name);
-        return *found;
+        return *viewer_->findChild<Widget*>(name);
     }
 
     QTextBrowser& text() { return part<QTextBrowser>("page"); }
-    QString title() { return viewer_->windowTitle(); }
-    QString findState() { return part<QLabel>("findState").text(); }
 
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    /// The page, the part that has the focus, what is selected, what the search says, which ways are shut.
+    QString state()
     {
-        QTest::keyClick(viewer_->windowHandle(), key, modifiers);
-        user::settle();
+        QString all = viewer_->windowTitle().remove(" - Help") + ", " + QApplication::focusWidget()->objectName();
+        if (text().textCursor().hasSelection())
+            all += " [" + text().textCursor().selectedText() + ']';
+        if (part<QLabel>("searchState").isVisible())
+            all += ": " + part<QLabel>("searchState").text();
+        for (const char* way : {"back", "forward"})
+            all += part<QPushButton>(way).isEnabled() ? QString() : QString(", no ") + way;
+        return all;
     }
 
-    void typeWords(const QString& words)
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString& thenTyped = {})
     {
-        QTest::keyClicks(QApplication::focusWidget(), words);
-        user::settle();
+        QTest::keyClick(viewer_->windowHandle(), key, modifiers);
+        settle();
+        QTest::keyClicks(QApplication::focusWidget(), thenTyped);
+        settle();
     }
 
     void click(const char* button) { QTest::mouseClick(&part<QPushButton>(button), Qt::LeftButton); }
 
-    bool isEnabled(const char* button) { return part<QPushButton>(button).isEnabled(); }
-
-    /// F1, and what a reader does: reads on, seeks, goes back, changes the type, closes.
+    /// F1, a search and Esc.
     void read(const char* where)
     {
-        user::press(Qt::Key_F1);
-        user::settle();
-        EXPECT_TRUE(viewer_->isActiveWindow()) << where;
-        EXPECT_EQ(title(), "Lists - Help") << where;
-        key(Qt::Key_K, Qt::ControlModifier);
-        typeWords("backup");
-        key(Qt::Key_Return);
-        EXPECT_EQ(title(), "Backup - Help");
-        click("back");
-        EXPECT_EQ(title(), "Lists - Help");
+        SCOPED_TRACE(where);
+        press(Qt::Key_F1);
+        settle();
+        EXPECT_TRUE(viewer_->isActiveWindow());
+        EXPECT_TRUE(state().startsWith("Lists, page"));
+        key(Qt::Key_K, Qt::ControlModifier, "backup\r");
+        EXPECT_TRUE(state().startsWith("Backup"));
         key(Qt::Key_Escape);
         EXPECT_FALSE(viewer_->isVisible());
-        user::settle();
+        settle();
     }
 
     QTemporaryDir folder_;
-    TrialScreen screen_{"Trial"};
-    std::unique_ptr<Viewer> viewer_;
+    TwoBoxes modal{journal, "Modal"};
+    std::optional<help::Viewer> viewer_;
 };
 
-TEST_F(HelpViewer, OpensTopicsAtTheirPlacesAndUnknownOnesAtTheFirstChapter)
+TEST_F(HelpViewer, LeadsByTopicsLinksContentsFindingAndSearch)
 {
+    const std::pair<std::function<void()>, QString> steps[] = {
+        {[this] { open("9"); }, "Welcome, page, no back, no forward"},
+        {[this] { key(Qt::Key_Tab, {}, "\r"); }, "Backup, page, no forward"},
+        {[this] { key(Qt::Key_Left, Qt::AltModifier); }, "Welcome, page [More], no back"},
+        {[this] { click("forward"); }, "Backup, toContents, no forward"},
+        {[this] { key(Qt::Key_F6); }, "Backup, contents, no forward"},
+        {[this] { key(Qt::Key_Up, {}, "\r"); }, "Lists, contents, no forward"},
+        {[this] { key(Qt::Key_F1); }, "Welcome, contents, no forward"},
+        {[this] { key(Qt::Key_F, Qt::ControlModifier, "RECEIPT"); }, "Welcome, findWords [receipt], no forward"},
+        {[this] { key(Qt::Key_Escape); }, "Welcome, page [receipt], no forward"},
+        {[this] { key(Qt::Key_K, Qt::ControlModifier, "nowhere"); },
+            "Welcome, sought [receipt]: Nothing was found about \"nowhere\". Try another word., no forward"},
+        {[this] { key(Qt::Key_A, Qt::ControlModifier, "receipts"); },
+            "Welcome, sought [receipt]: 2 topics were found, the best first:, no forward"},
+        {[this] { key(Qt::Key_Down, {}, "\r"); },
+            "Lists, found [Receipts]: 2 topics were found, the best first:, no forward"},
+    };
+    for (const auto& [step, leadsTo] : steps) {
+        step();
+        EXPECT_EQ(state(), leadsTo);
+    }
     open("2001");
-    EXPECT_GT(text().verticalScrollBar()->value(), text().viewport()->height());
-    EXPECT_EQ(part<QTreeWidget>("contents").currentItem()->text(0), "Lists, long and short");
-    open("trial");
-    EXPECT_EQ(title(), "Backup - Help");
-    EXPECT_EQ(text().accessibleName(), "Backup");
-    open("9");
-    EXPECT_EQ(title(), "Welcome - Help");
-    EXPECT_TRUE(text().hasFocus());
+    EXPECT_GT(text().verticalScrollBar()->value(), text().viewport()->height()) << "not at the place of the topic";
+    const auto hits = help::WordIndex(help::Book(folder_.path())).find("back up");
+    EXPECT_TRUE(hits.at(0).title == "Backup" && hits.at(1).excerpt.contains("has its backup in a drawer"));
 }
 
-TEST_F(HelpViewer, GoesBackForwardAndByTheContents)
-{
-    open("1001");
-    EXPECT_FALSE(isEnabled("back"));
-    key(Qt::Key_Tab); // to the link
-    key(Qt::Key_Return);
-    EXPECT_EQ(title(), "Backup - Help");
-    key(Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(title(), "Welcome - Help");
-    EXPECT_TRUE(isEnabled("forward"));
-    click("forward");
-    EXPECT_EQ(title(), "Backup - Help");
-    EXPECT_FALSE(isEnabled("forward"));
-    key(Qt::Key_F6);
-    key(Qt::Key_Up);
-    key(Qt::Key_Return);
-    EXPECT_EQ(title(), "Lists - Help");
-    key(Qt::Key_F1);
-    EXPECT_EQ(title(), "Welcome - Help");
-}
-
-TEST_F(HelpViewer, FindsOnThePageAndTellsWhatIsNotThere)
-{
-    open("2001");
-    key(Qt::Key_F, Qt::ControlModifier);
-    typeWords("receipt");
-    EXPECT_EQ(text().textCursor().selectedText(), "Receipt");
-    const int first = text().textCursor().position();
-    key(Qt::Key_F3);
-    EXPECT_GT(text().textCursor().position(), first);
-    key(Qt::Key_F3, Qt::ShiftModifier);
-    EXPECT_EQ(text().textCursor().position(), first);
-    EXPECT_EQ(findState(), "");
-    click("findPrevious");
-    EXPECT_EQ(findState(), "From the bottom again.");
-    key(Qt::Key_F3);
-    EXPECT_EQ(findState(), "From the top again.");
-    EXPECT_EQ(text().textCursor().position(), first);
-    key(Qt::Key_F, Qt::ControlModifier);
-    typeWords("zebra");
-    EXPECT_EQ(findState(), "Not found on this page.");
-    EXPECT_EQ(text().textCursor().selectionStart(), first - 7);
-    key(Qt::Key_Escape);
-    EXPECT_FALSE(part<QLineEdit>("findWords").isVisible());
-    EXPECT_TRUE(viewer_->isVisible());
-}
-
-TEST_F(HelpViewer, SearchesAllTopicsTheBestFirst)
-{
-    const help::WordIndex index{Book(folder_.path())};
-    const auto hits = index.find("back up");
-    ASSERT_EQ(hits.size(), 2U);
-    EXPECT_EQ(hits[0].title, "Backup");
-    EXPECT_TRUE(hits[1].excerpt.contains("has its backup in a drawer"));
-    EXPECT_EQ(index.find("receipt drawer").at(0).page, "index.html"); // has both, if once
-    EXPECT_EQ(index.find("RECEIPT").size(), 2U); // the plural of another page, too
-
-    open("1001");
-    key(Qt::Key_K, Qt::ControlModifier);
-    typeWords("nowhere");
-    EXPECT_EQ(part<QLabel>("searchState").text(), "Nothing was found about \"nowhere\". Try another word.");
-    part<QLineEdit>("sought").clear();
-    EXPECT_TRUE(part<QTreeWidget>("contents").isVisible());
-    typeWords("receipts");
-    EXPECT_EQ(part<QLabel>("searchState").text(), "2 topics were found, the best first:");
-    key(Qt::Key_Down);
-    EXPECT_TRUE(part<QListWidget>("found").hasFocus());
-    key(Qt::Key_Return);
-    EXPECT_EQ(title(), "Lists - Help");
-    EXPECT_EQ(text().textCursor().selectedText(), "Receipts");
-}
-
-TEST_F(HelpViewer, ChangesTheTypeForAsLongAsItLivesAndFitsPictures)
+TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
 {
     open("1001");
     const double size = text().font().pointSizeF();
-    const auto pictureWidth = [this] {
-        return text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png")).value<QImage>().width();
-    };
-    const int natural = pictureWidth();
-    EXPECT_GE(natural, 400); // whatever the page says
-    for (int steps = 0; steps < 20 && isEnabled("larger"); ++steps)
+    for (int steps = 0; steps < 20; ++steps)
         key(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_GE(text().font().pointSizeF(), 2 * size);
-    EXPECT_GT(pictureWidth(), natural);
     viewer_->resize(viewer_->minimumSizeHint());
-    user::settle();
-    EXPECT_LT(pictureWidth(), text().viewport()->width());
     viewer_->close();
-    open("2001");
+    open("1001");
     EXPECT_GE(text().font().pointSizeF(), 2 * size);
-    click("smaller");
-    EXPECT_TRUE(isEnabled("larger"));
+    const QVariant picture = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
+    EXPECT_LT(picture.value<QImage>().width(), text().viewport()->width());
     key(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(text().font().pointSizeF(), size);
 }
 
 TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
 {
-    read("screen");
-    EXPECT_EQ(screen_.events, 0);
-    EXPECT_EQ(forms::activeForm(), &screen_);
-    EXPECT_TRUE(screen_.button.hasFocus() || screen_.box.hasFocus());
-
-    TrialScreen modal("Modal");
+    read("beside a screen");
+    EXPECT_TRUE(form.one.hasFocus());
+    EXPECT_EQ(journal.taken(), "");
     whileModal([&] {
-        user::settle();
-        modal.events = screen_.events = 0;
-        read("modal");
+        settle();
+        journal.taken();
+        read("beside a modal screen");
         useRealBoxes();
-        whileModal([&] { // a box on top of the modal screen
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(box);
-            read("box");
-            user::press(Qt::Key_F1); // stays open behind the box
-            box->activateWindow();
-            user::settle();
-            user::clickInBox("OK");
+        whileModal([&] {
+            QWidget& box = *QApplication::activeModalWidget();
+            read("beside a box on the modal screen");
+            press(Qt::Key_F1); // stays open behind the box
+            box.activateWindow();
+            settle();
+            clickInBox("OK");
         });
         forms::MsgBox("Text", forms::box::Information, "Title");
         EXPECT_TRUE(viewer_->isVisible());
         viewer_->activateWindow();
-        user::settle();
-        key(Qt::Key_Escape);
+        settle();
+        key(Qt::Key_W, Qt::ControlModifier);
         EXPECT_FALSE(viewer_->isVisible());
-        EXPECT_EQ(modal.events + screen_.events, 0);
+        EXPECT_EQ(journal.taken(), "");
         EXPECT_EQ(forms::activeForm(), &modal);
         modal.hide();
     });
-    modal.show_Modal(screen_);
-    screen_.events = 0;
-    user::press(Qt::Key_F1);
-    key(Qt::Key_F1);
-    EXPECT_EQ(title(), "Welcome - Help");
-    key(Qt::Key_W, Qt::ControlModifier);
-    EXPECT_EQ(screen_.events, 0);
-}
-
-TEST_F(HelpViewer, TellsThatNothingCanBePrintedWithoutAPrinter)
-{
-    qputenv("CUPS_SERVER", folder_.filePath("none").toLocal8Bit());
-    open("1001");
-    click("print");
-    EXPECT_TRUE(part<QLabel>("status").text().contains("could not be printed"));
+    modal.show_Modal(form);
 }
 
 } // namespace

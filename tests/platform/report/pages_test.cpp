@@ -18,13 +18,10 @@ protected:
     std::vector<pdf::Page> printed(const std::vector<QStringList>& rows, const report::Paper& paper = trial::letter())
     {
         const Pages pages(trial::document(rows), paper);
-        EXPECT_EQ(report::savePdf(pages, path()), report::Outcome::Done);
-        const std::vector<pdf::Page> read = pdf::read(path());
-        EXPECT_EQ(read.size(), static_cast<std::size_t>(pages.count()));
-        return read;
+        const QString path = folder_.filePath("report.pdf");
+        EXPECT_EQ(report::savePdf(pages, path), report::Outcome::Done);
+        return pdf::read(path);
     }
-
-    QString path() const { return folder_.filePath("report.pdf"); }
 
     static QString wordsOf(const std::vector<pdf::Page>& pages)
     {
@@ -46,8 +43,7 @@ TEST_F(ReportPages, HoldAsManyWholeRowsAsFitAndTellTheirNumber)
     const std::vector<pdf::Page> pages = printed(trial::rows(13));
     ASSERT_EQ(pages.size(), 3);
     for (std::size_t page = 0; page < pages.size(); ++page) {
-        EXPECT_EQ(placesOf(pages[page], QString("Page %1 of 3").arg(page + 1)).size(), 1)
-            << pages[page].text().toStdString();
+        EXPECT_EQ(placesOf(pages[page], QString("Page %1 of 3").arg(page + 1)).size(), 1);
         EXPECT_EQ(placesOf(pages[page], QString("row%1").arg(6 * page)).size(), 1);
         EXPECT_TRUE(placesOf(pages[page], QString("row%1").arg(6 * page + 6)).empty());
     }
@@ -93,16 +89,12 @@ TEST_F(ReportPages, SplitOnlyARowThatIsHigherThanAPage)
 
 TEST_F(ReportPages, WrapEveryScriptWithinTheField)
 {
-    const QString latin = QString("W").repeated(254);
-    const QString sentences = "Bought at the auction on the hill, twenty-three pieces, one of which is chipped. ";
-    const QString mixed = QString::fromUtf8("\u05E9\u05DC\u05D5\u05DD \U0001F98A \u0E01\u0E32\u0E23 ").repeated(30);
-    const QString ideographs = QString(QChar(0x5BB6)).repeated(254);
     const double right = 6120 - 4500 + trial::Left + trial::NoteWidth;
-    for (const QString& note : {latin, sentences.repeated(3), mixed, ideographs}) {
-        const std::vector<QStringView> lines = report::linesOf(note, {9}, trial::NoteWidth);
-        EXPECT_GT(lines.size(), 2);
+    for (const char* pattern : {"W", "Twenty-three pieces, one of which is chipped. ", "\u5BB6",
+             "\u05E9\u05DC\u05D5\u05DD \U0001F98A \u0E01\u0E32\u0E23 "}) {
+        const QString note = QString(pattern).repeated(120);
         QString joined;
-        for (const QStringView line : lines)
+        for (const QStringView line : report::linesOf(note, {9}, trial::NoteWidth))
             joined += line;
         EXPECT_EQ(joined, note);
         const double top = 700 + trial::HeaderHeight + trial::NoteTop - 50;
@@ -110,36 +102,28 @@ TEST_F(ReportPages, WrapEveryScriptWithinTheField)
         for (const pdf::Word& word : pages.at(0).words)
             EXPECT_TRUE(word.place.top() < top || word.place.right() <= right + 10) << word.text.toStdString();
     }
-    const QString text = printed(trial::rows(1, sentences.repeated(3))).at(0).text().remove(u' ');
-    EXPECT_TRUE(text.contains(sentences.repeated(3).remove(u' '))) << text.toStdString();
-    // A line is full before it breaks.
-    const double full = report::widthOf(report::linesOf(latin, {9}, trial::NoteWidth).at(0).toString(), {9});
-    EXPECT_GT(full, trial::NoteWidth * 0.95);
 }
 
 TEST_F(ReportPages, SetALongValueSmallerAndThenCutIt)
 {
-    const QString fits = "Attic", smaller = "Conservatory 2", cut = "The conservatory behind the house";
-    EXPECT_EQ(report::fit(fits, {9}, 1000).type.points, 9);
-    const report::Fitted set = report::fit(smaller, {9}, 1000);
-    EXPECT_EQ(set.text, smaller);
-    EXPECT_LT(set.type.points, 9);
-    EXPECT_GT(set.type.points, 6);
+    EXPECT_EQ(report::fit("Attic", {9}, 1000).type.points, 9);
+    const report::Fitted set = report::fit("Conservatory 2", {9}, 1000);
+    EXPECT_EQ(set.text, "Conservatory 2");
+    EXPECT_TRUE(set.type.points < 9 && set.type.points > 6);
     EXPECT_LE(report::widthOf(set.text, set.type), 1000);
     EXPECT_GT(report::widthOf(set.text, {set.type.points + 0.25}), 1000);
-    const report::Fitted ends = report::fit(cut, {9, true}, 1000);
+    const report::Fitted ends = report::fit("The conservatory behind the house", {9, true}, 1000);
     EXPECT_EQ(ends.type, (report::Type{6, true}));
     EXPECT_TRUE(ends.text.startsWith("The cons") && ends.text.endsWith(QChar(0x2026))) << ends.text.toStdString();
     EXPECT_LE(report::widthOf(ends.text, ends.type), 1000);
     EXPECT_EQ(report::fit("two\nlines", {9}, 1000).text, "two lines");
 }
 
-TEST_F(ReportPages, PrintAmountsAndDatesOfTheReport)
+TEST_F(ReportPages, PrintAmountsInOneForm)
 {
-    const QString text = wordsOf(
-        printed({{"a", "1234.5", ""}, {"b", "-$15.00", ""}, {"c", "None", ""}, {"d", "($1,000.00)", ""}}, trial::a4()));
-    for (const char* amount : {"a $1,234.50 ", "b -$15.00 ", "c None ", "d -$1,000.00 "})
-        EXPECT_TRUE(text.contains(amount)) << text.toStdString();
+    const auto pages =
+        printed({{"a", "1234.5", ""}, {"b", "-$15.00", ""}, {"c", "None", ""}, {"d", "($1,000.00)", ""}});
+    EXPECT_TRUE(wordsOf(pages).endsWith("a $1,234.50 b -$15.00 c None d -$1,000.00 ")) << wordsOf(pages).toStdString();
 }
 
 // A printer that can't reach the edges, and paper that is too small, get the page smaller as a whole.

@@ -6,7 +6,6 @@
 #include "support/print.h"
 #include "trial_report.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -25,24 +24,17 @@ protected:
     QTemporaryDir folder_;
 };
 
-TEST_F(SavedReport, IsADocumentWithItsNamesAndFonts)
+TEST_F(SavedReport, IsADocumentWithItsNamesOfAllOrSomePages)
 {
     ASSERT_EQ(report::savePdf(pages_, path("a.pdf")), Outcome::Done);
-    EXPECT_EQ(pdf::info(path("a.pdf"), "Title"), "Trial");
-    EXPECT_EQ(pdf::info(path("a.pdf"), "Author"), "A. Author");
-    EXPECT_EQ(pdf::info(path("a.pdf"), "Pages"), "4");
-    EXPECT_EQ(pdf::info(path("a.pdf"), "Page size"), "612 x 792 pts (letter)");
-    const QStringList fonts = pdf::output("pdffonts", {path("a.pdf")}).split(u'\n', Qt::SkipEmptyParts).mid(2);
-    ASSERT_FALSE(fonts.empty());
-    for (const QString& font : fonts)
-        // Embedded, with a map to Unicode.
-        EXPECT_TRUE(font.contains(QRegularExpression("Identity-H +yes +\\w+ +yes"))) << font.toStdString();
-
+    QStringList told;
+    for (const char* name : {"Title", "Author", "Pages", "Page size"})
+        told += pdf::info(path("a.pdf"), name);
+    EXPECT_EQ(told, QStringList({"Trial", "A. Author", "4", "612 x 792 pts (letter)"}));
     ASSERT_EQ(report::savePdf(pages_, {3, 1}, path("some.pdf")), Outcome::Done);
     const std::vector<pdf::Page> some = pdf::read(path("some.pdf"));
     ASSERT_EQ(some.size(), 2);
-    EXPECT_EQ(placesOf(some[0], "Page 4 of 4").size(), 1);
-    EXPECT_EQ(placesOf(some[1], "Page 2 of 4").size(), 1);
+    EXPECT_TRUE(some[0].text().contains("Page 4 of 4") && some[1].text().contains("Page 2 of 4"));
 }
 
 TEST_F(SavedReport, LeavesAnOlderFileUntilItIsWhole)
@@ -52,22 +44,17 @@ TEST_F(SavedReport, LeavesAnOlderFileUntilItIsWhole)
     const auto cancelled = report::savePdf(pages_, path("old.pdf"), [&told](int done) { return (told = done) < 2; });
     EXPECT_EQ(cancelled, Outcome::Cancelled);
     EXPECT_EQ(told, 2);
+    EXPECT_EQ(report::savePdf(pages_, path("no such folder/a.pdf")), Outcome::Failed);
+    EXPECT_FALSE(report::saveCsv(*pages_.document(), path("no such folder/a.csv")));
+    {
+        const FullDisk full(1024);
+        EXPECT_EQ(report::savePdf(pages_, path("old.pdf")), Outcome::Failed);
+        EXPECT_FALSE(report::saveCsv(*trial::document(trial::rows(500)), path("a.csv")));
+    }
     EXPECT_EQ(bytesOf(path("old.pdf")), "older");
     EXPECT_EQ(files(), QStringList("old.pdf"));
     EXPECT_EQ(report::savePdf(pages_, path("old.pdf")), Outcome::Done);
     EXPECT_TRUE(bytesOf(path("old.pdf")).startsWith("%PDF"));
-    EXPECT_EQ(files(), QStringList("old.pdf"));
-}
-
-TEST_F(SavedReport, IsRefusedWhereTheSystemRefuses)
-{
-    EXPECT_EQ(report::savePdf(pages_, path("no such folder/a.pdf")), Outcome::Failed);
-    EXPECT_FALSE(report::saveCsv(*pages_.document(), path("no such folder/a.csv")));
-    putFile(path("old.pdf"), "older");
-    const FullDisk full(1024);
-    EXPECT_EQ(report::savePdf(pages_, path("old.pdf")), Outcome::Failed);
-    EXPECT_FALSE(report::saveCsv(*trial::document(trial::rows(500)), path("a.csv")));
-    EXPECT_EQ(bytesOf(path("old.pdf")), "older");
     EXPECT_EQ(files(), QStringList("old.pdf"));
 }
 

@@ -31,9 +31,10 @@ inline constexpr double NoteTop = 1000;
 inline constexpr double NoteWidth = 6000;
 inline constexpr double Left = 1000;
 
-inline report::Layout layout()
+inline std::shared_ptr<report::Document> document(std::vector<QStringList> rows)
 {
-    report::Layout layout{};
+    auto document = std::make_shared<report::Document>();
+    report::Layout& layout = document->layout;
     layout.axis = 4500;
     layout.margin = 700;
     layout.pageHeader.height = HeaderHeight;
@@ -44,13 +45,6 @@ inline report::Layout layout()
         {1, "Amount", {5000, 100, 2000, 300}, {9}, report::Align::Left, report::Format::Amount}};
     layout.detail.growing = report::Field{2, "Note", {Left, NoteTop, NoteWidth, 300}, {9}};
     layout.detail.rules = {{{Left, 1800, 7000, 0}}};
-    return layout;
-}
-
-inline std::shared_ptr<report::Document> document(std::vector<QStringList> rows)
-{
-    auto document = std::make_shared<report::Document>();
-    document->layout = layout();
     document->rows = std::make_shared<Table>(std::move(rows));
     document->names = {"Trial - Window", "Trial", "A. Author", "Trial 2026-11-24"};
     document->moment = {"11/24/2026", "9:05:00 AM"};
@@ -68,10 +62,6 @@ inline std::vector<QStringList> rows(int count, const QString& note = "short")
 inline report::Paper letter()
 {
     return {QPageSize(QPageSize::Letter)};
-}
-inline report::Paper a4()
-{
-    return {QPageSize(QPageSize::A4)};
 }
 
 } // namespace trial

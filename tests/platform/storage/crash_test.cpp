@@ -2,99 +2,61 @@
 #include "storage_test.h"
 
 #include <csignal>
-#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
-/// A process of its own that does `work` and is killed once it has reported so many times, and `meanwhile` has run.
-void runAndKill(
-    int reports, const std::function<void(std::function<void()>)>& work, const std::function<void()>& meanwhile = [] {})
-{
-    int ends[2];
-    ASSERT_EQ(pipe(ends), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        work([&ends] { [[maybe_unused]] const auto written = write(ends[1], "x", 1); });
-        pause();
-        _exit(0);
-    }
-    close(ends[1]);
-    char report = 0;
-    for (int i = 0; i < reports; ++i)
-        ASSERT_EQ(read(ends[0], &report, 1), 1);
-    meanwhile();
-    kill(child, SIGKILL);
-    waitpid(child, nullptr, 0);
-    close(ends[0]);
-}
-
 class CrashTest : public StorageTest {
 protected:
-    void keepAWord()
+    CrashTest()
     {
-        wordsView.Open();
-        addWord(wordsView, "kept");
+        openWith({"kept"});
         wordsView.Close();
     }
 
     // A session that stores a word and is killed in the middle of a large write: its journal is left.
     void breakOff()
     {
-        const auto halfWrite = [this](const std::function<void()>& report) {
-            wordsView.Open();
-            addWord(wordsView, "later");
-            storage::Transaction transaction(home.handle());
+        int ends[2];
+        ASSERT_EQ(pipe(ends), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            openWith({"later"});
+            const storage::Transaction transaction(home.handle());
             wordsView.Fields(words::Word) = "lost";
             for (int i = 0; i < 200; ++i)
                 addWord(wordsView, QString(50'000, 'x'));
-            report();
+            [[maybe_unused]] const auto told = write(ends[1], "x", 1);
             pause();
-        };
-        runAndKill(1, halfWrite, [this] {
-            const auto before = files().value("data.db-journal");
-            EXPECT_EQ(failureOf([this] { wordsInFile(); }), values::FailureKind::Database) << "in use";
-            EXPECT_TRUE(!before.isEmpty() && files().value("data.db-journal") == before);
-        });
+        }
+        close(ends[1]);
+        char told = 0;
+        ASSERT_EQ(read(ends[0], &told, 1), 1);
+        close(ends[0]);
+        const auto before = files();
+        EXPECT_EQ(failureOf([this] { wordsInFile(); }), values::FailureKind::Database) << "in use";
+        EXPECT_TRUE(!before.value("data?.db-journal").isEmpty() && files() == before);
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
     }
 };
 
 } // namespace
 
-TEST_F(CrashTest, AKilledProcessLosesNoRowThatWasStored)
-{
-    constexpr int confirmed = 25;
-    runAndKill(confirmed, [this](const std::function<void()>& report) {
-        wordsView.Open();
-        for (int i = 0;; ++i) {
-            addWord(wordsView, QString::number(i));
-            report();
-        }
-    });
-    const QStringList found = wordsInFile();
-    ASSERT_GE(found.size(), confirmed);
-    for (int i = 0; i < found.size(); ++i)
-        EXPECT_EQ(found[i], QString::number(i));
-}
-
 TEST_F(CrashTest, WhatAKilledProcessHadHalfWrittenIsTakenBackAtTheNextOpening)
 {
-    keepAWord();
     breakOff();
     EXPECT_EQ(wordsInFile(), QStringList({"kept", "later"}));
-    EXPECT_EQ(files().keys(), QStringList({"data.db"}));
+    EXPECT_EQ(files().keys(), QStringList({"data?.db"}));
 }
 
 TEST_F(CrashTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalThatTheSessionLeft)
 {
-    keepAWord();
-    const QByteArray backup = files().value("data.db");
+    const QByteArray backup = bytesOf(path());
     breakOff();
-    const QByteArray journal = files().value("data.db-journal");
+    const QByteArray journal = bytesOf(path() + "-journal");
     putFile(path(), backup);
     EXPECT_EQ(wordsInFile(), QStringList({"kept"}));
-    EXPECT_EQ(files().value("data.db"), backup);
-    EXPECT_EQ(files().value("data.db-foreign-journal"), journal);
-    EXPECT_EQ(files().size(), 2);
+    EXPECT_EQ(files(), (QMap<QString, QByteArray>{{"data?.db", backup}, {"data?.db-foreign-journal", journal}}));
 }

@@ -12,13 +12,9 @@ namespace {
 
 using FailedWriteTest = StorageTest;
 
-} // namespace
-
 TEST_F(FailedWriteTest, AChangeThatIsRefusedIsDropped)
 {
-    wordsView.Open();
-    addWord(wordsView, "a");
-    addWord(wordsView, "b");
+    openWith({"a", "b"});
     const std::pair<const char*, std::function<void()>> changes[] = {
         {"UPDATE",
             [this] {
@@ -41,13 +37,10 @@ TEST_F(FailedWriteTest, AChangeThatIsRefusedIsDropped)
 
 TEST_F(FailedWriteTest, AFullDiskLeavesViewAndFileAsTheyWereAndTheNextWriteWorks)
 {
-    wordsView.Open();
-    addWord(wordsView, "a");
-    wordsView.AddNew();
-    wordsView.Fields(words::Word) = QString(200'000, 'x');
+    openWith({"a"});
     {
         const FullDisk full(16'384);
-        EXPECT_EQ(failureOf([this] { wordsView.Update(); }), FailureKind::Database);
+        EXPECT_EQ(failureOf([this] { addWord(wordsView, QString(200'000, 'x')); }), FailureKind::Database);
     }
     EXPECT_EQ(walk(wordsView), QStringList({"a"}));
     addWord(wordsView, "b");
@@ -59,23 +52,17 @@ TEST_F(FailedWriteTest, AFolderThatTakesNoNewFileIsToldAsOne)
 {
     QFile::setPermissions(path(), QFile::Permissions(0x6666));
     QFile::setPermissions(folder.path(), QFile::Permissions(0x5555));
+    QFile::setPermissions(place.path(), QFile::Permissions(0x5555));
     const uid_t user = geteuid();
-    ASSERT_EQ(seteuid(user == 0 ? 65534 : user),
-        0); // nothing is forbidden to root
+    ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0) << "nothing is forbidden to root";
     wordsView.Open();
-    std::string words;
-    try {
-        addWord(wordsView, "a");
-    } catch (const values::RuntimeFailure& failure) {
-        words = failure.what();
-    }
+    EXPECT_THAT([this] { addWord(wordsView, "a"); },
+        testing::ThrowsMessage<values::RuntimeFailure>(testing::HasSubstr("(Permission denied)")));
     wordsView.Close();
     ASSERT_EQ(seteuid(user), 0);
     QFile::setPermissions(folder.path(), QFile::Permissions(0x7700));
-    EXPECT_THAT(words, testing::HasSubstr("(Permission denied)"));
+    QFile::setPermissions(place.path(), QFile::Permissions(0x7700));
 }
-
-namespace {
 
 // How a session can end whose last save has failed. An end that settles the file does it or tells that it couldn't.
 struct End {
@@ -103,7 +90,7 @@ enum Outcome { Saved = 1, FaultMet = 2, CloseTold = 4 };
 class FailingSave : public StorageTest {
 protected:
     // A session of its own, so that an end that forgets something can't be mended by this process.
-    Outcome saveAndEnd(int changes, const End& end) const
+    int saveAndEnd(int changes, const End& end) const
     {
         const pid_t child = fork();
         if (child == 0)
@@ -111,50 +98,39 @@ protected:
         int status = 0;
         waitpid(child, &status, 0);
         EXPECT_TRUE(WIFEXITED(status));
-        return static_cast<Outcome>(WEXITSTATUS(status));
+        return WEXITSTATUS(status);
     }
 
     int session(int changes, const End& end) const
     {
-        int outcome = 0;
         const FailingDisk disk;
         storage::Connection session;
         session.setFile(path(), key);
         storage::TableView view(session, words::table);
         view.Open();
         FailingDisk::failFrom(changes);
-        if (!failureOf([&] { addWord(view, QString(3000, 'c')); }))
-            outcome |= Saved;
-        if (FailingDisk::hasFailed())
-            outcome |= FaultMet;
-        if (failureOf([&] { end.run(session, view, outcome); }))
-            outcome |= CloseTold;
-        return outcome;
+        const bool isSaved = !failureOf([&] { addWord(view, QString(3000, 'c')); });
+        const int outcome = (isSaved ? Saved : 0) | (FailingDisk::hasFailed() ? FaultMet : 0);
+        return outcome | (failureOf([&] { end.run(session, view, outcome); }) ? CloseTold : 0);
     }
-
-    bool journalIsLeft() const { return !files().value("data.db-journal").isEmpty(); }
 };
-
-} // namespace
 
 // From the first change on that a save makes to the disk all changes fail, those of its roll-back too; from the second
 // on; and so forth.
 TEST_F(FailingSave, LosesNoStoredRowWhereverItBreaksOffAndHoweverTheSessionEnds)
 {
-    wordsView.Open();
-    addWord(wordsView, "a");
-    addWord(wordsView, QString(5000, 'b'));
+    openWith({"a", QString(5000, 'b')});
     wordsView.Close();
-    const QByteArray before = files().value("data.db");
+    const QByteArray before = bytesOf(path());
     int journalsLeft = 0;
     int changes = 0;
     for (bool faultMet = true; faultMet; ++changes) {
         faultMet = false;
         for (const End& end : ends) {
             SCOPED_TRACE(testing::Message() << "from change " << changes + 1 << " on, " << end.name);
-            const Outcome outcome = saveAndEnd(changes, end);
+            const int outcome = saveAndEnd(changes, end);
             faultMet |= (outcome & FaultMet) != 0;
-            journalsLeft += journalIsLeft();
+            journalsLeft += QFileInfo(path() + "-journal").size() > 0;
             if (end.settles && !(outcome & CloseTold))
                 QFile::remove(path() + "-journal"); // the file is said to be whole without it
             EXPECT_FALSE(end.onWorkingDisk && (outcome & CloseTold));
@@ -170,3 +146,5 @@ TEST_F(FailingSave, LosesNoStoredRowWhereverItBreaksOffAndHoweverTheSessionEnds)
     EXPECT_GT(changes, 5);
     EXPECT_GT(journalsLeft, 5);
 }
+
+} // namespace

@@ -28,10 +28,8 @@ public:
         failFrom(never);
     }
 
-    /// So many changes succeed from now on.
+    /// So many changes succeed from now on; and whether one has failed since.
     static void failFrom(int changes) { left_ = changes; }
-
-    /// Whether a change has failed since.
     static bool hasFailed() { return left_ < 0; }
 
 private:

@@ -35,32 +35,25 @@ enum Column { Word, Kind };
 
 inline constexpr storage::Column columns[] = {{"Word"}, {"Kind"}};
 inline constexpr storage::TableDefinition table{"Words", columns};
+inline constexpr storage::TableDefinition stage{"Stage", columns, true};
 
 } // namespace words
 
-namespace stage {
-
-enum Column { Name };
-
-inline constexpr storage::Column columns[] = {{"Name"}};
-inline constexpr storage::TableDefinition table{"Stage", columns, true};
-
-} // namespace stage
-
-/// A database of three tables in a folder of its own, not opened.
+/// A database of three tables, not opened, in a folder of its own, whose path is longer than the engine takes.
 class StorageTest : public testing::Test {
 protected:
     static constexpr auto key =
         "x'000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f'"; // quick: no phrase
-    static constexpr const storage::TableDefinition* tables[] = {&things::table, &words::table, &stage::table};
+    static constexpr const storage::TableDefinition* tables[] = {&things::table, &words::table, &words::stage};
 
     StorageTest()
     {
+        EXPECT_TRUE(QDir().mkpath(folder.path()));
         storage::createDatabase(path(), key, tables);
         home.setFile(path(), key);
     }
 
-    QString path() const { return folder.filePath(QStringLiteral("data.db")); }
+    QString path() const { return folder.filePath("data?.db"); }
 
     /// Runs a statement on the file, past the views.
     void runOnFile(const QByteArray& sql)
@@ -72,27 +65,35 @@ protected:
     QMap<QString, QByteArray> files() const
     {
         QMap<QString, QByteArray> contents;
-        for (const QString& name : QDir(folder.path()).entryList(QDir::Files))
+        for (const QString& name : folder.entryList(QDir::Files))
             contents[name] = bytesOf(folder.filePath(name));
         return contents;
     }
 
-    static void addWord(storage::TableView& view, const QString& word, const QString& kind = {})
+    static void addWord(storage::TableView& view, const QString& word)
     {
         view.AddNew();
         view.Fields(words::Word) = word;
-        view.Fields(words::Kind) = kind;
         view.Update();
     }
 
+    /// Opens the table of words and stores some; the first row is current then.
+    void openWith(const QStringList& texts)
+    {
+        wordsView.Open();
+        for (const QString& text : texts)
+            addWord(wordsView, text);
+        wordsView.MoveFirst();
+    }
+
     /// The words from the first row to the last, as a walk finds them; the view is behind its last row then.
-    static QStringList walk(storage::TableView& view, int column = words::Word)
+    static QStringList walk(storage::TableView& view)
     {
         QStringList found;
         if (view.RecordCount() == 0)
             return found;
         for (view.MoveFirst(); !view.atEOF(); view.MoveNext())
-            found += view.Fields(column).text();
+            found += view.Fields(words::Word).text();
         return found;
     }
 
@@ -119,9 +120,10 @@ protected:
         }
     }
 
-    QTemporaryDir folder;
+    QTemporaryDir place;
+    const QDir folder{place.path() + ('/' + QString(200, 'x')).repeated(3)};
     storage::Connection home;
     storage::TableView thingsView{home, things::table};
     storage::TableView wordsView{home, words::table};
-    storage::TableView stageView{home, stage::table};
+    storage::TableView stageView{home, words::stage};
 };

@@ -12,18 +12,10 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <optional>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
-
-std::optional<sys::Process> find(const std::vector<sys::Process>& processes, qint64 pid)
-{
-    const auto found = std::find_if(processes.begin(), processes.end(), [pid](const auto& p) { return p.pid == pid; });
-    return found == processes.end() ? std::nullopt : std::optional(*found);
-}
 
 // Lets the event loop answer what has arrived.
 void runLoop()
@@ -44,8 +36,9 @@ TEST(Processes, AreListedUnderTheirWholeNamesAlsoWhenTheFileIsGone)
     child.start(program, {"600"});
     ASSERT_TRUE(child.waitForStarted());
     QFile::remove(program);
-    const auto found = find(sys::runningProcesses(), child.processId());
-    ASSERT_TRUE(found);
+    const auto processes = sys::runningProcesses();
+    const auto found = std::ranges::find(processes, child.processId(), &sys::Process::pid);
+    ASSERT_NE(found, processes.end());
     EXPECT_EQ(found->name, "a program with a long name");
     EXPECT_EQ(found->executable, program);
     EXPECT_EQ(found->user, getuid());
@@ -58,28 +51,22 @@ TEST(Processes, AreListedUnderTheirWholeNamesAlsoWhenTheFileIsGone)
 TEST(Processes, ThatAreEndingAreLeftOut)
 {
     QTemporaryDir place;
-    const auto addProcess = [&place](qint64 pid, bool isEnding) {
-        const QString folder = place.filePath(QString::number(pid));
+    const QString own = place.filePath(QString::number(getpid()));
+    for (const QString& folder : {own, place.filePath("1")})
         putFile(folder + "/stat", "1 (Name (of it)) R" + QByteArray(" 7").repeated(30));
-        if (!isEnding)
-            QFile::link("/bin/name (deleted)", folder + "/exe");
-    };
-    addProcess(getpid(), false);
-    addProcess(1, true);
+    QFile::link("/bin/name (deleted)", own + "/exe");
     const auto processes = sys::runningProcesses(place.path());
     ASSERT_EQ(processes.size(), 1U);
     EXPECT_EQ(processes[0].executable, "/bin/name");
     EXPECT_EQ(processes[0].started, 7U);
-    QDir(place.filePath(QString::number(getpid()))).removeRecursively();
+    QDir(own).removeRecursively();
     EXPECT_THROW(sys::runningProcesses(place.path()), values::RuntimeFailure) << "a list without this process";
 }
 
 TEST(Processes, OfTwoStartsAtOnceExactlyOneIsTheYounger)
 {
     const sys::Process self{100, "p", "/bin/p", 7, 5000};
-    const sys::Process laterPid{101, "p", "/bin/p", 7, 5000};
-    const sys::Process laterStart{3, "p", "/bin/p", 7, 5001};
-    for (const auto& younger : {laterPid, laterStart}) {
+    for (const auto& younger : {sys::Process{101, "p", "/bin/p", 7, 5000}, sys::Process{3, "p", "/bin/p", 7, 5001}}) {
         EXPECT_TRUE(sys::isYoungerTwin(younger, self));
         EXPECT_FALSE(sys::isYoungerTwin(self, younger));
     }
@@ -107,19 +94,16 @@ TEST(Termination, RunsTheCallbackOnceFromTheEventLoopAndSparesIgnoredSignals)
     std::signal(SIGHUP, SIG_IGN);
     int calls = 0;
     sys::onTermination([&calls] {
-        if (++calls > 1)
-            return;
-        std::raise(SIGTERM);
-        runLoop();
+        if (++calls == 1)
+            std::raise(SIGTERM);
     });
     std::raise(SIGHUP);
     runLoop();
     EXPECT_EQ(calls, 0) << "called for an ignored signal";
     std::raise(SIGTERM);
     EXPECT_EQ(calls, 0) << "called from the signal handler";
-    runLoop();
-    std::raise(SIGTERM);
-    runLoop();
+    for (int times = 0; times < 2; ++times)
+        runLoop();
     EXPECT_EQ(calls, 1);
     sys::onTermination({});
     EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);
