@@ -44,10 +44,8 @@ protected:
 
     static QStringList kept()
     {
-        QStringList rows;
-        for (inFile(Data1.rsBank, {}); !Data1.rsBank.atEOF(); Data1.rsBank.MoveNext())
-            rows += cellsOf(Data1.rsBank, Bank::FinancialInstitution, Bank::State).join('|');
-        return rows;
+        inFile(Data1.rsBank, {});
+        return rowsOf(Data1.rsBank, Bank::FinancialInstitution, Bank::State);
     }
 
     static void open(Mode mode, const QStringList& rows = {})
