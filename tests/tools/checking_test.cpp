@@ -69,20 +69,16 @@ TEST_F(CheckingTest, TheCommandsTellByTheirStatusWhatTheyFound)
     EXPECT_THAT(said(Done, commands::restore, {"--list"}), testing::EndsWith("\tLast close\t1\t$10.00\tIn order\n"));
 
     const QString out = below("out");
-    const struct {
-        int status;
-        Command command;
-        QStringList arguments;
-    } runs[] = {
-        {Usage, commands::check, {"a", "b"}}, {Usage, commands::check, {"--no-such"}},
-        {Unreadable, commands::check, {"/no/where"}}, {Unreadable, commands::check, {}},
-        {Done, commands::check, {"last"}}, {Done, commands::check, {backupFile()}}, {Usage, commands::exportAll, {}},
-        {Unreadable, commands::exportAll, {out}}, {Done, commands::exportAll, {out, "--from", "last"}},
+    const std::tuple<int, Command, QStringList> runs[] = {{Usage, commands::check, {"a", "b"}},
+        {Usage, commands::check, {"--no-such"}}, {Unreadable, commands::check, {"/no/where"}},
+        {Unreadable, commands::check, {}}, {Done, commands::check, {"last"}}, {Done, commands::check, {backupFile()}},
+        {Usage, commands::exportAll, {}}, {Unreadable, commands::exportAll, {out}},
+        {Failed, commands::exportAll, {"/no/where", "--from", "last"}},
+        {Done, commands::exportAll, {out, "--from", "last"}},
         {Declined, commands::exportAll, {out, "--from", "last"}}, // there is one
         {Done, commands::exportAll, {out, "--from", "last", "--force"}}, {Usage, commands::restore, {}},
         {Usage, commands::restore, {"--restore", "1999"}},
-        {Declined, commands::restore, {"--restore", "last"}}, // nobody is asked
-    };
+        {Declined, commands::restore, {"--restore", "last"}}}; // nobody is asked
     for (const auto& [status, command, arguments] : runs)
         said(status, command, arguments);
     EXPECT_NE(bytesOf(today()), good);
