@@ -47,54 +47,34 @@ TEST_F(FirstRun, ComesAgainWhenTheIntroductionIsClosed)
     EXPECT_FALSE(introduced());
 }
 
-class PersonalEntries : public HouseholdTest {
-protected:
-    PersonalEntries() { openFromMenu(); }
+using PersonalEntries = HouseholdTest;
 
-    // What an entry holds, and what has the focus by then.
-    static QString after(const forms::TextEntry& entry, const std::function<void()>& act)
-    {
-        act();
-        return entry.text() + " @ " + scene().remove("1 frmGenInfo: ");
-    }
-};
-
-TEST_F(PersonalEntries, HopFromAFullBoxToTheNextWithItsTextSelected)
+TEST_F(PersonalEntries, LetInWhatTheyTakeHoweverItComesAndHopWhenTheyAreFull)
 {
-    const auto& area = personal().txtInfo[7];
-    personal().txtInfo[8].setText("555");
-    click(personal().txtInfo[7]);
-    EXPECT_EQ(after(area, [] { type("20"); }), "20 @ txtInfo(7)");
-    EXPECT_EQ(after(area, [] { type("7"); }), "207 @ txtInfo(8) [555]");
-    backTab();
-    press(Qt::Key_End);
-    EXPECT_EQ(after(area, [] { press(Qt::Key_Backspace); }), "20 @ txtInfo(7)") << "deleting doesn't hop";
-    EXPECT_EQ(after(area, [] { type("8"); }), "208 @ txtInfo(8) [555]") << "retyping does";
-}
-
-TEST_F(PersonalEntries, OfPhonesLetNothingInButDigitsHoweverItComes)
-{
-    click(personal().txtInfo[12]);
-    type("a(-+ é٣½1");
-    EXPECT_EQ(after(personal().txtInfo[12], [] { paste("b(-+ é٣½2"); }), "12 @ txtInfo(12)");
-}
-
-TEST_F(PersonalEntries, OfTheStateHopOnTheSecondLetterAndBeginANewCodeWithTheThird)
-{
+    openFromMenu();
     auto& state = personal().cmbState;
-    click(state);
-    EXPECT_EQ(after(state, [] { type("n1 -éЖ"); }), "n @ cmbState");
-    EXPECT_EQ(after(state, [] { type("y"); }), "NY @ txtInfo(6)");
-    EXPECT_EQ(after(state, backTab), "NY @ cmbState [NY]");
-    press(Qt::Key_End);
-    type("ca");
-    EXPECT_EQ(after(state, backTab), "CA @ cmbState [CA]");
-    press(Qt::Key_End);
-    EXPECT_EQ(after(state, [] { press(Qt::Key_Backspace); }), " @ cmbState");
-    EXPECT_EQ(after(state, [] { paste("1t-x"); }), "TX @ txtInfo(6)");
-    state.setText("me"); // as an older row may have it
-    click(state);
-    EXPECT_EQ(after(state, [] { click(personal().txtInfo[4]); }), "ME @ txtInfo(4)") << "put in order, not typed";
+    auto& area = personal().txtInfo[7];
+    auto& phone = personal().txtInfo[12];
+    const auto erase = [] {
+        press(Qt::Key_End);
+        press(Qt::Key_Backspace);
+    };
+    const std::tuple<std::function<void()>, const forms::TextEntry&, QString> steps[] = {
+        {[&] { type(area, "20"); }, area, "20 @ txtInfo(7)"}, {[] { type("7555"); }, area, "207 @ txtInfo(9)"},
+        {[&] { click(area), erase(); }, area, "20 @ txtInfo(7)"}, // deleting doesn't hop
+        {[] { type("8"); }, area, "208 @ txtInfo(8) [555]"}, // retyping does
+        {[&] { type(phone, "a(-+ é٣½1"), paste("b(-+ é٣½2"); }, phone, "12 @ txtInfo(12)"},
+        {[&] { type(state, "n1 -éЖ"); }, state, "n @ cmbState"}, {[] { type("y"); }, state, "NY @ txtInfo(6)"},
+        {backTab, state, "NY @ cmbState [NY]"},
+        {[] { press(Qt::Key_End), type("ca"), backTab(); }, state, "CA @ cmbState [CA]"}, // a third begins anew
+        {erase, state, " @ cmbState"}, {[] { paste("1t-x"); }, state, "TX @ txtInfo(6)"},
+        {[&] { state.setText("me"), click(state), click(area); }, state,
+            "ME @ txtInfo(7) [208]"}, // put in order, not typed
+    };
+    for (const auto& [act, entry, after] : steps) {
+        act();
+        EXPECT_EQ(entry.text() + " @ " + scene().remove("1 frmGenInfo: "), after);
+    }
 }
 
 class PersonalRecord : public HouseholdTest {
