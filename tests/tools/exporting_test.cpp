@@ -148,3 +148,19 @@ TEST_F(ExportingTest, TakesThePlaceOfNothingButAnExportThatIsGivenUp)
     EXPECT_EQ(everything(), before);
     EXPECT_EQ(before.filter(".kestrill").size(), 0);
 }
+
+TEST_F(ExportingTest, ClearsWhatKilledOnesHaveLeftAndNothingElse)
+{
+    QDir().mkdir(below(".kestrill-export-of-mine"));
+    const QStringList before = everything();
+    inProcess([this] { write(Former::Kept, [](int, int) -> bool { _exit(1); }); });
+    EXPECT_EQ(everything().filter(".kestrill-export-").filter("kestrill.json").size(), 1);
+    bool isFirst = true;
+    write(Former::Kept, [&](int, int) {
+        if (std::exchange(isFirst, false))
+            exporting::write(*household_, below("another"), Former::Kept); // this one's folder stays
+        return true;
+    });
+    EXPECT_EQ(everything().filter(".kestrill-export-"), before.filter(".kestrill-export-"));
+    EXPECT_EQ(QDir(folder_).count(), exporting::fileNames().size() + 2); // with "." and ".."
+}
