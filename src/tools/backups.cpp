@@ -3,7 +3,6 @@
 
 #include "core/earlier_backups.h"
 #include "core/places.h"
-#include "platform/system/files.h"
 #include "tools/exit_codes.h"
 #include "tools/household.h"
 
@@ -44,7 +43,7 @@ std::vector<Backup> all()
     addLast(list);
     for (const earlier::KeptFile& kept : earlier::all()) {
         // A close that broke off has kept the backup that is still the last one.
-        if (sys::isSameFile(kept.file, lastBackupFile()))
+        if (earlier::isOf(kept, lastBackupFile()))
             continue;
         const QString kind = kept.isPutAside ? QStringLiteral("Put aside") : QStringLiteral("Earlier close");
         list.push_back({kept.name, kept.made, kind, kept.file, {}, {}, 0, {}});

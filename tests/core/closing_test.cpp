@@ -161,6 +161,20 @@ TEST_F(EarlierBackups, AreKeptByALinkOfWhatTheCloseReplaces)
     EXPECT_THAT(names(), testing::UnorderedElementsAre(nameOf(yesterday), nameOf(yesterday) + "_2"));
 }
 
+TEST_F(EarlierBackups, AreCopiedOnceWhereTheBackupLiesOnAnotherFileSystem)
+{
+    const QTemporaryDir memory("/dev/shm/backup-XXXXXX");
+    places::setFolders(places::databaseFolder(), memory.path());
+    putBackup("of yesterday", yesterday);
+    earlier::keep_Backup(); // a close that broke off
+    EXPECT_TRUE(earlier::isOf(earlier::all().at(0), backupFile()));
+    closeProgram();
+    ASSERT_EQ(names(), QStringList(nameOf(yesterday)));
+    EXPECT_FALSE(earlier::isOf(earlier::all().at(0), backupFile()));
+    EXPECT_EQ(bytesOf(earlier::all().at(0).file), "of yesterday");
+    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
+}
+
 TEST_F(EarlierBackups, AreThinnedAndLeaveWhatIsNotTheirs)
 {
     for (int close = 0; close < 14; ++close) {
