@@ -19,12 +19,15 @@ QString lastBackupFile()
     return places::backupFolder() + u'/' + QFileInfo(places::databaseFile()).fileName();
 }
 
+// What lies in a folder without rights isn't seen, and still is there.
 void addLast(std::vector<Backup>& list)
 {
     const QFileInfo file(lastBackupFile());
-    if (!file.isFile())
+    const QFileInfo folder(file.path());
+    const bool isHidden = folder.isDir() && !folder.isExecutable();
+    if (!file.isFile() && !isHidden)
         return;
-    const QDateTime made = file.lastModified();
+    const QDateTime made = (isHidden ? folder : file).lastModified();
     list.push_back({made.toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss")), made, QStringLiteral("Last close"),
         file.filePath(), {}, {}, 0, {}});
 }

@@ -64,10 +64,16 @@ forms::Form& toAdd()
     return screen<frmAddUpDel>();
 }
 
-forms::Form& toUpdate()
+forms::Form& results()
 {
     shown<frmSearch>();
     type("Acme\n");
+    return screen<frmSearchResults>();
+}
+
+forms::Form& toUpdate()
+{
+    results();
     click(screen<frmSearchResults>().txtMore[0]);
     return screen<frmAddUpDel>();
 }
@@ -81,13 +87,6 @@ forms::Form& search()
     pick(screen<frmSearch>().cmbLocation, "Attic");
     click(screen<frmSearch>().txtKey);
     return screen<frmSearch>();
-}
-
-forms::Form& results()
-{
-    shown<frmSearch>();
-    type("Acme\n");
-    return screen<frmSearchResults>();
 }
 
 forms::Form& warranty()
