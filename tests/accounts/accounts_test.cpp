@@ -71,8 +71,8 @@ protected:
             + QString::number(account().cmdNext.helpNumber()) + ' ' + QString::number(account().txtRoute.helpNumber());
     }
 
-    void expectClick(
-        forms::CommandButton& button, const QString& text, int flags, Answer answer, const QString& leadsTo)
+    void expectClick(forms::CommandButton& button, const QString& text, int flags, const QString& leadsTo,
+        Answer answer = Answer::OK)
     {
         clickTold(button, text, flags, answer);
         EXPECT_EQ(scene(), leadsTo);
@@ -132,7 +132,7 @@ TEST_F(Accounts, AreChosenByAMenuThatFallsBackToAdd)
         EXPECT_EQ(contents(menu()) + account().cmdState.caption(), "optEdit(0) on&Add New Account");
     }
     menu().AccountMode = 3;
-    expectClick(menu().cmdUpdate, "You Must Select An Option Before Continuing!", Exclamation, Answer::OK,
+    expectClick(menu().cmdUpdate, "You Must Select An Option Before Continuing!", Exclamation,
         "15 frmEditBankBoxes: cmdUpdate");
     click(menu().optEdit[Delete]);
     click(menu().cmdCancel);
@@ -188,7 +188,7 @@ TEST_F(Accounts, AreRefusedWithoutNameAndNumberAndWithANumberThatIsThere)
     open(Add, {First, Bare});
     type(account().txtAccount, "A-1");
     expectClick(account().cmdState, "An Account With The Account Number You Have Listed Is Already Available",
-        Exclamation, Answer::OK, "7 frmBank: cmdState");
+        Exclamation, "7 frmBank: cmdState");
     account().txtAccount.setText("A-1 "); // in another spelling it is another number
     account().txtName.setFocus();
     refuses(account().txtName, "Name"); // of which nothing is left
@@ -199,7 +199,7 @@ TEST_F(Accounts, AreRefusedWithoutNameAndNumberAndWithANumberThatIsThere)
     }
     EXPECT_FALSE(account().txtName.backColour().isValid());
     paste(QString("1b").repeated(200));
-    expectClick(account().cmdState, Added, Information, Answer::OK, Personal);
+    expectClick(account().cmdState, Added, Information, Personal);
     EXPECT_EQ(kept(),
         QStringList({First, Bare,
             "Bank|None|None|None|None|" + QString("1b").repeated(127) + "|None|None|11/24/2026|Checking|None|None"}));
@@ -259,12 +259,12 @@ TEST_F(Accounts, AreDeletedUntilNoneIsLeft)
     EXPECT_EQ(contents(account()), QString(FirstForm).replace(" locked", "").replace(", lbl", ", picDate off, lbl"));
     open(Delete);
     click(account().cmdNext);
-    expectClick(account().cmdState, DeleteQuestion, YesNoQuestion, Answer::No, "7 frmBank: cmdState");
-    expectClick(account().cmdState, DeleteQuestion, YesNoQuestion, Answer::Yes, Personal);
+    expectClick(account().cmdState, DeleteQuestion, YesNoQuestion, "7 frmBank: cmdState", Answer::No);
+    expectClick(account().cmdState, DeleteQuestion, YesNoQuestion, Personal, Answer::Yes);
     EXPECT_EQ(kept(), QStringList(First));
     open(Delete);
     EXPECT_FALSE(account().cmdNext.isEnabled() || account().cmdPrevious.isEnabled());
-    expectClick(account().cmdState, DeleteQuestion, YesNoQuestion, Answer::Yes, Personal);
+    expectClick(account().cmdState, DeleteQuestion, YesNoQuestion, Personal, Answer::Yes);
     EXPECT_EQ(kept(), QStringList());
     open(Add);
     EXPECT_EQ(contents(account()), QString(EmptyForm).replace(" hidden", " off hidden"));
