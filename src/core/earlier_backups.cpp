@@ -7,6 +7,7 @@
 #include "platform/values/failure.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -27,9 +28,18 @@ QString databaseIn(const QString& folder)
     return folder + u'/' + QFileInfo(places::databaseFile()).fileName();
 }
 
+// Where the file system has no links, a backup that is kept is a copy.
+bool haveSameContents(const QString& one, const QString& other)
+{
+    QFile first(one);
+    QFile second(other);
+    return QFileInfo(one).size() == QFileInfo(other).size() && first.open(QIODevice::ReadOnly)
+        && second.open(QIODevice::ReadOnly) && first.readAll() == second.readAll();
+}
+
 bool holdsBackup(const QString& folder, const QString& backup)
 {
-    return sys::isSameFile(databaseIn(folder), backup);
+    return sys::isSameFile(databaseIn(folder), backup) || haveSameContents(databaseIn(folder), backup);
 }
 
 // The name is taken only by a folder with another file: a close that broke off may have left the rest.
@@ -104,6 +114,13 @@ void thinByRoom()
 }
 
 } // namespace
+
+bool isOf(const KeptFile& kept, const QString& backup)
+{
+    const bool isOfThatMoment =
+        !kept.isPutAside && kept.name.startsWith(QFileInfo(backup).lastModified().toString(NameFormat));
+    return sys::isSameFile(kept.file, backup) || (isOfThatMoment && haveSameContents(kept.file, backup));
+}
 
 std::vector<KeptFile> all()
 {

@@ -19,6 +19,9 @@ struct KeptFile {
 /// All of them, the newest first.
 std::vector<KeptFile> all();
 
+/// Whether a kept file is this backup itself, since the close that kept it broke off before it made another.
+bool isOf(const KeptFile& kept, const QString& backup);
+
 /// A folder for the database of that moment, whose name no other one has. Nothing is made.
 QString folderFor(const QDateTime& made, bool isPutAside);
 

@@ -3,7 +3,6 @@
 
 #include "core/earlier_backups.h"
 #include "core/places.h"
-#include "platform/system/files.h"
 #include "tools/exit_codes.h"
 #include "tools/household.h"
 
@@ -20,12 +19,15 @@ QString lastBackupFile()
     return places::backupFolder() + u'/' + QFileInfo(places::databaseFile()).fileName();
 }
 
+// What lies in a folder without rights isn't seen, and still is there.
 void addLast(std::vector<Backup>& list)
 {
     const QFileInfo file(lastBackupFile());
-    if (!file.isFile())
+    const QFileInfo folder(file.path());
+    const bool isHidden = folder.isDir() && !folder.isExecutable();
+    if (!file.isFile() && !isHidden)
         return;
-    const QDateTime made = file.lastModified();
+    const QDateTime made = (isHidden ? folder : file).lastModified();
     list.push_back({made.toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss")), made, QStringLiteral("Last close"),
         file.filePath(), {}, {}, 0, {}});
 }
@@ -44,7 +46,7 @@ std::vector<Backup> all()
     addLast(list);
     for (const earlier::KeptFile& kept : earlier::all()) {
         // A close that broke off has kept the backup that is still the last one.
-        if (sys::isSameFile(kept.file, lastBackupFile()))
+        if (earlier::isOf(kept, lastBackupFile()))
             continue;
         const QString kind = kept.isPutAside ? QStringLiteral("Put aside") : QStringLiteral("Earlier close");
         list.push_back({kept.name, kept.made, kind, kept.file, {}, {}, 0, {}});

@@ -11,6 +11,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -149,13 +150,31 @@ void putInPlace(QTemporaryDir& written, const QString& folder)
     written.setAutoRemove(false);
 }
 
+// What an export that was killed has left. The folder of a living one is locked.
+void clearLeftovers(const QString& above)
+{
+    static const QRegularExpression name(QStringLiteral("^\\.kestrill-export-[A-Za-z]{6}$"));
+    const auto folders = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot;
+    for (const QString& leftover : QDir(above).entryList(folders).filter(name)) {
+        try {
+            const sys::RunLock alone(above + u'/' + leftover, sys::RunLock::On::Folder);
+            if (alone.isHeld())
+                QDir(above + u'/' + leftover).removeRecursively();
+        } catch (const values::RuntimeFailure&) {
+            // Somebody else's: it is in nobody's way.
+        }
+    }
+}
+
 void writeWhole(const Household& household, const QString& folder, const Progress& progress)
 {
     const QString above = QFileInfo(folder).path();
+    clearLeftovers(above);
     QTemporaryDir written(above + QStringLiteral("/.kestrill-export-XXXXXX"));
     if (!written.isValid())
         throw Refusal(
             exit_code::Failed, QStringLiteral("Nothing can be written in %1: %2.").arg(above, written.errorString()));
+    const sys::RunLock isUnderWay(written.path(), sys::RunLock::On::Folder);
     Export(household, written.path(), progress).run();
     putInPlace(written, folder);
     sys::syncFolder(above);

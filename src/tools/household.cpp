@@ -28,7 +28,8 @@ auto orUnreadable(const QString& state, Step step)
 FileReader openedReader(const QString& file, FileReader::Locks locks)
 {
     const QFileInfo found(file);
-    if (!found.exists())
+    const QFileInfo folder(found.path());
+    if (!found.exists() && (!folder.isDir() || folder.isExecutable()))
         throw UnreadableHousehold(QStringLiteral("Missing"), file + QStringLiteral(" does not exist"));
     if (!found.isReadable())
         throw UnreadableHousehold(QStringLiteral("No right to read"), file + QStringLiteral(" can't be read"));

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/earlier_backups.h"
 #include "core/ending.h"
 #include "core/frmExit.h"
 #include "core/frmMain.h"
 #include "core/frmProgress.h"
 #include "core/places.h"
-#include "platform/storage/schema.h"
+#include "platform/system/files.h"
 #include "support/files.h"
 #include "support/harness.h"
-
-#include <QDir>
-
-#include <gmock/gmock.h>
 
 using forms::screen;
 using testing::AllOf;
@@ -20,27 +17,40 @@ using testing::StartsWith;
 
 namespace {
 
+const std::string AllSafe = "Everything that you saved is safe.";
+
 class Closing : public ScreenTest {
 protected:
     Closing() { screen<frmMain>().show(); }
 
     void closeProgram() { clickTold(screen<frmMain>().cmdLeave, CloseKestrill, YesNoQuestion, forms::Answer::Yes); }
 
-    static qint64 rowsInBackup(const QString& table)
+    /// A close that fails and leaves this backup; the run-time report tells this.
+    void failToClose(const QByteArray& backup, const testing::Matcher<std::string>& known)
     {
-        for (const storage::TableCount& count : storage::checkDatabase(backupFile(), databaseKey()))
-            if (count.table == table)
-                return count.rows;
-        return -1;
+        closeProgram();
+        EXPECT_TRUE(reportedFailure());
+        EXPECT_FALSE(Data1.Home.isOpen()) << "the views are closed before the copy is made";
+        EXPECT_EQ(bytesOf(backupFile()), backup);
+        EXPECT_THAT(this->known(), known);
     }
 
+    static QString file() { return places::databaseFile(); }
     static QString backupFile() { return places::backupFolder() + "/KTL.db"; }
     static std::string known() { return ending::what_Is_Known().toStdString(); }
 };
 
-TEST_F(Closing, ShowsTheGoodbyeAndEndsTheProcessWithSuccess)
+TEST_F(Closing, OverwritesTheLastBackupLeavesWhatIsNotItsOwnAndEndsWithTheGoodbye)
 {
+    putFile(backupFile(), "an older copy");
+    putFile(places::backupFolder() + "/letter.txt", "not ours");
+    putFile(file() + "-foreign-journal", "put aside");
     closeProgram();
+    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
+    EXPECT_EQ(QFile::permissions(backupFile()), QFile::Permissions(0x6600));
+    EXPECT_EQ(QDir(places::backupFolder()).entryList(QDir::Files), QStringList({"KTL.db", "letter.txt"}));
+    EXPECT_EQ(bytesOf(places::backupFolder() + "/letter.txt"), "not ours");
+    EXPECT_EQ(known(), AllSafe);
     closeBox(screen<frmExit>()); // refuses
     EXPECT_EQ(scene(), "2 frmExit");
     EXPECT_FALSE(Data1.Home.isOpen());
@@ -51,11 +61,9 @@ TEST_F(Closing, ShowsTheGoodbyeAndEndsTheProcessWithSuccess)
 
 TEST_F(Closing, RemovesTheDeadRowsOfEachNameTableAndNoOthers)
 {
-    const std::pair<storage::TableView*, const char*> tables[] = {
-        {&Data1.rsIndoor, "Indoor_Items"}, {&Data1.rsOutdoor, "Outdoor_Items"}, {&Data1.rsMobile, "Mobile_Items"}};
-    std::map<QString, qint64> before;
-    for (const auto& [view, table] : tables) {
-        before[table] = view->RecordCount();
+    std::map<storage::TableView*, int> wanted;
+    for (storage::TableView* view : {&Data1.rsIndoor, &Data1.rsOutdoor, &Data1.rsMobile}) {
+        wanted[view] = view->RecordCount() + 5;
         for (const QStringList& names : {QStringList{"0", "0", "0"}, {"Attic", "0", "0"}, {"0", "Tools", "0"},
                  {"0", "0", "Lamp"}, {"", "0", "0"}, {"0", "0", "0"}})
             addNames(*view, names);
@@ -63,71 +71,159 @@ TEST_F(Closing, RemovesTheDeadRowsOfEachNameTableAndNoOthers)
     }
     closeProgram();
     const auto& bar = screen<frmProgress>().pbSave;
-    EXPECT_EQ(bar.value(), before["Mobile_Items"] + 7) << "each table fills the bar anew";
+    EXPECT_EQ(bar.value(), wanted[&Data1.rsMobile] + 2) << "each table fills the bar anew";
     EXPECT_EQ(bar.max(), bar.value());
-    for (const auto& [table, rows] : before)
-        EXPECT_EQ(rowsInBackup(table), rows + 5) << table.toStdString();
-}
-
-TEST_F(Closing, OverwritesTheLastBackupAndLeavesWhatIsNotItsOwn)
-{
-    putFile(backupFile(), "an older copy");
-    putFile(places::backupFolder() + "/letter.txt", "not ours");
-    putFile(places::databaseFile() + "-foreign-journal", "put aside");
-    closeProgram();
-    EXPECT_EQ(bytesOf(backupFile()), bytesOf(places::databaseFile()));
-    EXPECT_EQ(QFile::permissions(backupFile()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
-    EXPECT_EQ(QDir(places::backupFolder()).entryList(QDir::Files), QStringList({"KTL.db", "letter.txt"}));
-    EXPECT_EQ(bytesOf(places::backupFolder() + "/letter.txt"), "not ours");
-    EXPECT_EQ(known(), "Everything that you saved is safe.");
+    openData();
+    for (const auto& [view, rows] : wanted)
+        EXPECT_EQ(view->RecordCount(), rows);
 }
 
 TEST_F(Closing, ReportsADatabaseThatDoesNotReadThroughAndKeepsTheOldBackup)
 {
     putFile(backupFile(), "the last good copy");
-    QByteArray damaged = bytesOf(places::databaseFile());
+    QByteArray damaged = bytesOf(file());
     damaged.replace(damaged.size() - 512, 256, QByteArray(256, 'x')); // in the last page, which no view reads again
-    putFile(places::databaseFile(), damaged);
-    closeProgram();
-    EXPECT_TRUE(reportedFailure());
-    EXPECT_FALSE(Data1.Home.isOpen()) << "the views are closed before the copy is made";
-    EXPECT_EQ(bytesOf(backupFile()), "the last good copy");
-    EXPECT_THAT(known(),
-        AllOf(StartsWith("Your data may not be whole. Database"), HasSubstr(places::databaseFile().toStdString()),
+    putFile(file(), damaged);
+    failToClose("the last good copy",
+        AllOf(StartsWith("Your data may not be whole. Database"), HasSubstr(file().toStdString()),
             EndsWith("The backup of the last normal close: " + backupFile().toStdString())));
 }
 
 TEST_F(Closing, ReportsADatabaseThatWasMovedAwayAndMakesNoBackup)
 {
-    ASSERT_TRUE(QFile::rename(places::databaseFile(), places::databaseFile() + ".moved"));
-    closeProgram();
-    EXPECT_TRUE(reportedFailure());
+    ASSERT_TRUE(QFile::rename(file(), file() + ".moved"));
+    failToClose("(missing)", AllOf(HasSubstr("KTL.db was moved"), EndsWith("There is no backup yet.")));
     EXPECT_FALSE(QFile::exists(places::backupFolder()));
-    EXPECT_THAT(known(), AllOf(HasSubstr("KTL.db was moved"), EndsWith("There is no backup yet.")));
 }
 
 TEST_F(Closing, ReportsABackupThatIsOnlyALinkToTheDatabase)
 {
     closeData();
     const QString elsewhere = places::databaseFolder() + "/../elsewhere.db";
-    ASSERT_TRUE(QFile::rename(places::databaseFile(), elsewhere) && QFile::link(elsewhere, places::databaseFile()));
+    ASSERT_TRUE(QFile::rename(file(), elsewhere) && QFile::link(elsewhere, file()));
     openData();
-    closeProgram();
-    EXPECT_TRUE(reportedFailure());
-    EXPECT_EQ(known(), "Everything that you saved is safe.");
+    failToClose(bytesOf(elsewhere), AllSafe);
 }
 
 // The rows are counted when the store is closed, and again in the file.
 TEST_F(Closing, OfAFailedRunTellsOfRowsThatTheFileDoesNotHold)
 {
     addNames(Data1.rsIndoor, {"Attic", "0", "0"});
-    const QByteArray before = bytesOf(places::databaseFile());
+    const QByteArray before = bytesOf(file());
     addNames(Data1.rsIndoor, {"Cellar", "0", "0"});
     EXPECT_TRUE(ending::close_Store());
-    putFile(places::databaseFile(), before);
+    putFile(file(), before);
     EXPECT_THAT(known(), HasSubstr("Indoor_Items doesn't hold its"));
-    putFile(places::databaseFile() + "-journal", QByteArray(2000, 'j'));
+    putFile(file() + "-journal", QByteArray(2000, 'j'));
     EXPECT_THAT(known(), HasSubstr("Leave KTL.db-journal beside it"));
+}
+
+class EarlierBackups : public Closing {
+protected:
+    // In place of the one that is there, whose contents may have another name.
+    static void putBackup(const QByteArray& contents, const QDateTime& made, qint64 size = -1)
+    {
+        QFile::remove(backupFile());
+        putFile(backupFile(), contents);
+        QFile backup(backupFile());
+        ASSERT_TRUE(backup.open(QIODevice::ReadWrite) && (size < 0 || backup.resize(size)));
+        ASSERT_TRUE(backup.setFileTime(made, QFileDevice::FileModificationTime));
+    }
+
+    // Today's file, which only its user gives up.
+    void putAside() const
+    {
+        const QString aside = earlier::folderFor(now.addYears(-9), true);
+        sys::makePrivateFolder(aside);
+        sys::keepFile(backupFile(), aside + "/KTL.db");
+    }
+
+    static QStringList names()
+    {
+        QStringList names;
+        for (const earlier::KeptFile& kept : earlier::all())
+            names.append(kept.name);
+        return names;
+    }
+
+    static QString nameOf(const QDateTime& made) { return made.toString("yyyy-MM-dd_HH-mm-ss"); }
+
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime yesterday = now.addDays(-1);
+};
+
+TEST_F(EarlierBackups, AreKeptByALinkOfWhatTheCloseReplaces)
+{
+    putBackup("of yesterday", yesterday);
+    earlier::keep_Backup(); // a close that broke off
+    EXPECT_TRUE(sys::isSameFile(earlier::all().at(0).file, backupFile())) << "costs nothing";
+    closeProgram();
+    ASSERT_EQ(names(), QStringList(nameOf(yesterday))) << "once, though two have tried";
+    const QFileInfo kept(earlier::all().at(0).file);
+    EXPECT_EQ(bytesOf(kept.filePath()), "of yesterday");
+    EXPECT_EQ(QFile::permissions(kept.path()), QFile::Permissions(0x7700)) << "its user alone";
+    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
+
+    putBackup("another of that second", yesterday);
+    earlier::keep_Backup();
+    EXPECT_THAT(names(), testing::UnorderedElementsAre(nameOf(yesterday), nameOf(yesterday) + "_2"));
+}
+
+TEST_F(EarlierBackups, AreCopiedOnceWhereTheBackupLiesOnAnotherFileSystem)
+{
+    const QTemporaryDir memory("/dev/shm/backup-XXXXXX");
+    places::setFolders(places::databaseFolder(), memory.path());
+    putBackup("of yesterday", yesterday);
+    earlier::keep_Backup(); // a close that broke off
+    EXPECT_TRUE(earlier::isOf(earlier::all().at(0), backupFile()));
+    closeProgram();
+    ASSERT_EQ(names(), QStringList(nameOf(yesterday)));
+    EXPECT_FALSE(earlier::isOf(earlier::all().at(0), backupFile()));
+    EXPECT_EQ(bytesOf(earlier::all().at(0).file), "of yesterday");
+    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
+}
+
+TEST_F(EarlierBackups, AreThinnedAndLeaveWhatIsNotTheirs)
+{
+    for (int close = 0; close < 14; ++close) {
+        putBackup("x", now.addDays(-1000 - close));
+        earlier::keep_Backup();
+    }
+    EXPECT_EQ(names().size(), 10) << "too old, but the last ten";
+    putAside();
+    QDir(places::earlierBackupsFolder()).mkdir("notes");
+    for (int close = 0; close < 10; ++close) {
+        putBackup("y", now.addSecs(-60 * close));
+        earlier::keep_Backup();
+    }
+    EXPECT_EQ(names().size(), 11);
+    EXPECT_TRUE(names().last().endsWith("_put-aside"));
+    EXPECT_EQ(QDir(places::earlierBackupsFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 12);
+}
+
+// Files without contents seem large and take no room.
+TEST_F(EarlierBackups, TakeNoMoreThanATenthOfTheFreeDisk)
+{
+    const qint64 third = sys::freeSpace(places::databaseFolder()) / 30;
+    putBackup({}, now, third / 100 * 99);
+    putAside();
+    for (int minute = 10; minute > 6; --minute) {
+        putBackup({}, now.addSecs(-60 * minute), third / 100 * 99);
+        earlier::keep_Backup();
+    }
+    ASSERT_EQ(names().size(), 3);
+    EXPECT_EQ(names().at(1), nameOf(now.addSecs(-480))) << "the oldest have gone";
+    EXPECT_TRUE(names().last().endsWith("_put-aside"));
+}
+
+TEST_F(EarlierBackups, ThatCantBeKeptEndangerNeitherTheCloseNorTheBackup)
+{
+    putBackup("of yesterday", yesterday);
+    putFile(places::earlierBackupsFolder(), "in the way");
+    testing::internal::CaptureStderr();
+    closeProgram();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("Earlier backups: File failure"));
+    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
 }
 
 } // namespace

@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounts/frmBank.h"
 #include "accounts/frmEditBankBoxes.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
 #include "assets/frmWar.h"
+#include "core/frmCalendar.h"
 #include "core/frmMain.h"
 #include "household/frmGenInfo.h"
 #include "household/frmInsInfo.h"
 #include "household/frmIntroduction.h"
 #include "household/frmKeyboard.h"
 #include "household/frmTotals.h"
+#include "lists/editing.h"
 #include "lists/frmAddField.h"
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
 #include "platform/forms/look.h"
+#include "platform/help/book.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearch.h"
 #include "search/frmSearchResults.h"
@@ -21,40 +25,28 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QScreen>
 #include <QShortcutEvent>
-#include <QStringList>
-#include <QWidget>
 
 #include <algorithm>
 
-namespace {
-
 using forms::screen;
 
-/// Notes what an access key reaches, and keeps it from acting.
+namespace {
+
+/// Notes what access keys reach, and keeps them from acting.
 class AccessKeys : public QObject {
 public:
     AccessKeys() { qApp->installEventFilter(this); }
 
-    QString reached(char letter)
-    {
-        reached_.clear();
-        accessKey(letter);
-        return reached_;
-    }
+    QStringList reached;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() != QEvent::Shortcut)
-            return false;
-        reached_ += watched->objectName();
-        return true;
+        if (event->type() == QEvent::Shortcut)
+            reached += watched->objectName();
+        return event->type() == QEvent::Shortcut;
     }
-
-private:
-    QString reached_;
 };
 
 template <class Screen>
@@ -72,10 +64,16 @@ forms::Form& toAdd()
     return screen<frmAddUpDel>();
 }
 
-forms::Form& toUpdate()
+forms::Form& results()
 {
     shown<frmSearch>();
     type("Acme\n");
+    return screen<frmSearchResults>();
+}
+
+forms::Form& toUpdate()
+{
+    results();
     click(screen<frmSearchResults>().txtMore[0]);
     return screen<frmAddUpDel>();
 }
@@ -89,13 +87,6 @@ forms::Form& search()
     pick(screen<frmSearch>().cmbLocation, "Attic");
     click(screen<frmSearch>().txtKey);
     return screen<frmSearch>();
-}
-
-forms::Form& results()
-{
-    shown<frmSearch>();
-    type("Acme\n");
-    return screen<frmSearchResults>();
 }
 
 forms::Form& warranty()
@@ -153,75 +144,141 @@ constexpr Walk walks[] = {
 
 class AllScreens : public ScreenTest {
 protected:
-    void SetUp() override
+    AllScreens()
     {
-        ScreenTest::SetUp();
         for (int count = 0; count < 11; ++count) {
-            Data1.rsInventory.AddNew();
-            for (int column = Inventory::Area; column <= Inventory::WarrantyDescription; ++column)
-                Data1.rsInventory.Fields(column) = column == Inventory::Amount ? "$12.50" : "None";
-            Data1.rsInventory.Fields(Inventory::Area) = "Indoor";
-            Data1.rsInventory.Fields(Inventory::Make) = "Acme";
+            addAssetRow({"Indoor", "None", "None", "None", "None", "Acme"});
             // Without a month its day asks for one.
-            for (const auto month : {Inventory::PartsMonth, Inventory::LaborMonth})
-                Data1.rsInventory.Fields(month) = "Jan";
-            Data1.rsInventory.Update();
+            put(Data1.rsInventory, {{Inventory::PartsMonth, "Jan"}, {Inventory::LaborMonth, "Jan"}});
         }
     }
 
-    static QStringList ring(const forms::Form& form, const std::function<void()>& step)
+    static QString ring(const forms::Form& form)
     {
         constexpr int most = 40;
         QStringList names;
         do {
             names += form.activeControl()->name();
-            step();
+            tab();
         } while (form.activeControl()->name() != names.first() && names.size() < most);
-        return names;
+        return names.join(' ');
     }
 
     static void expectAccessKeys(const forms::Form& form)
     {
         AccessKeys keys;
+        QStringList marked;
         for (forms::Control* control : form.controls()) {
             const auto* button = dynamic_cast<forms::Button*>(control);
-            if (!button || !button->canTakeFocus())
+            const QString caption = button && button->canTakeFocus() ? button->caption().remove("&&") : QString();
+            if (!caption.contains('&'))
                 continue;
-            const QString caption = button->caption().remove("&&");
-            if (const auto mark = caption.indexOf(u'&'); mark >= 0) {
-                EXPECT_EQ(keys.reached(caption.at(mark + 1).toLatin1()), button->name());
-            }
+            marked += button->name();
+            accessKey(caption.section('&', 1).at(0).toLatin1());
         }
+        EXPECT_EQ(keys.reached, marked);
     }
 };
 
-TEST_F(AllScreens, AreGoneThroughByTabAndEachAccessKeyReachesItsButton)
-{
-    for (const Walk& walk : walks) {
-        const forms::Form& form = walk.open();
-        SCOPED_TRACE(form.name().toStdString());
-        ASSERT_EQ(forms::activeForm(), &form);
-        expectAccessKeys(form);
-        EXPECT_EQ(ring(form, tab).join(' '), walk.ring);
-        forms::destroyScreens();
-    }
-}
-
-TEST_F(AllScreens, FitOnASmallDesktopInOneSizeAndHaveNamesOfTheirOwn)
+TEST_F(AllScreens, AreGoneThroughByKeysFitOnASmallDesktopAndHaveNamesOfTheirOwn)
 {
     QStringList names;
     for (const Walk& walk : walks) {
         const forms::Form& form = walk.open();
         SCOPED_TRACE(form.name().toStdString());
-        EXPECT_LE(form.canvas()->sizeHint().width(), 1024);
-        EXPECT_LE(form.canvas()->sizeHint().width(), forms::look::leastWindow().width());
+        ASSERT_EQ(forms::activeForm(), &form);
+        expectAccessKeys(form);
+        EXPECT_EQ(ring(form), walk.ring);
+        EXPECT_LE(form.canvas()->sizeHint().width(), std::min(1024, forms::look::leastWindow().width()));
         const QAccessibleInterface* window = QAccessible::queryAccessibleInterface(form.window());
         EXPECT_EQ(window->role(), QAccessible::Window);
-        EXPECT_FALSE(names.contains(window->text(QAccessible::Name)));
-        names.append(window->text(QAccessible::Name));
+        names += window->text(QAccessible::Name);
         forms::destroyScreens();
     }
     EXPECT_TRUE(names.contains("Welcome To Kestrill Main Menu"));
+    EXPECT_EQ(names.removeDuplicates(), 0);
+}
+
+/// Presses F1 on all that takes the focus, and notes the topics that it asks for.
+class HelpOnF1 : public ScreenTest {
+protected:
+    HelpOnF1()
+    {
+        forms::setMessageDoor([](const forms::Message&) { return forms::Answer::No; }); // of what a focus says
+        forms::setHelpDoor(
+            [this](int number, const QString& window) { asked_ += number > 0 ? QString::number(number) : window; });
+    }
+
+    void pressOnAll(forms::Form& form)
+    {
+        form.show();
+        for (forms::Control* control : form.controls()) {
+            if (!control->canTakeFocus())
+                continue;
+            if (control->name() == "txtDate") // opens the calendar
+                whileModal([] { press(Qt::Key_Return); });
+            control->setFocus();
+            const auto before = asked_.size();
+            press(Qt::Key_F1);
+            if (asked_.size() == before)
+                silent_ += form.name() + '.' + control->name();
+        }
+        form.hide();
+    }
+
+    template <class... Screens>
+    void pressOnScreens()
+    {
+        (pressOnAll(screen<Screens>()), ...);
+    }
+
+    void pressOnAreaScreens(const QString& menuTitle)
+    {
+        screen<frmAuto>().lblHead1[0].setCaption(menuTitle);
+        screen<frmAuto>().load_It();
+        screen<frmAddUpDel>().check_Form_Type();
+        pressOnScreens<frmAuto, frmAddUpDel>();
+        for (const editing::Kind* kind : {&editing::locations(), &editing::categories()}) {
+            const editing::List& list = editing::listOf(areas::ofMenuTitle(menuTitle), *kind);
+            screen<frmEditCmbBoxes>().lblHead.setCaption(list.text(editing::MenuHeading));
+            screen<frmEditCmbBoxes>().MenuHelpNumber = list.menuHelp;
+            screen<frmEditCmbBoxes>().load_Help();
+            pressOnScreens<frmEditCmbBoxes, frmAddField>();
+            screen<frmUpdate>().lblHead4.setCaption(list.text(editing::ChangeHeading));
+            screen<frmDelField>().lblHead.setCaption(list.text(editing::DeleteHeading));
+            pressOnScreens<frmUpdate, frmDelField>();
+        }
+    }
+
+    QStringList asked_;
+    QStringList silent_;
+};
+
+// The splash, the closing and the goodbye have nothing that takes the focus.
+TEST_F(HelpOnF1, OpensATopicOfTheBookOnEachControlOfEachScreen)
+{
+    pressOnScreens<frmMain, frmPrint, frmTotals, frmSearch, frmSearchResults, frmWar, frmGenInfo, frmInsInfo,
+        frmIntroduction, frmKeyboard, frmCalendar, frmEditBankBoxes>();
+    for (const char* title : {"Indoor Asset Management", "Outdoor Asset Management", "Mobile Asset Management"})
+        pressOnAreaScreens(title);
+    addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).trimmed().split(' '));
+    for (const int mode : {frmEditBankBoxes::Add, frmEditBankBoxes::Update, frmEditBankBoxes::Delete}) {
+        screen<frmEditBankBoxes>().AccountMode = mode;
+        screen<frmBank>().ReturnFromCalendar = false;
+        pressOnAll(screen<frmBank>());
+    }
+    silent_.removeDuplicates();
+    EXPECT_EQ(silent_.join(' '),
+        "frmWar.cmbPMonth frmWar.cmbPDay frmWar.cmbPYear frmWar.cmbLMonth frmWar.cmbLDay frmWar.cmbLYear "
+        "frmAddUpDel.cmbCat")
+        << "what refuses all keys";
+    const help::Book book(":/help");
+    for (const QString& topic : asked_)
+        EXPECT_TRUE(book.knows(topic)) << topic.toStdString();
+    QStringList unasked;
+    for (int number = 1001; number <= 43001; number += 1000)
+        unasked += asked_.contains(QString::number(number)) ? QStringList() : QStringList(QString::number(number));
+    EXPECT_EQ(unasked, QStringList({"15001", "16001"})) << "an asset from the results, and no screen";
 }
 
 } // namespace

@@ -10,7 +10,7 @@ using forms::screen;
 
 namespace {
 
-// The program before its start: no view is open, no screen made.
+// The program before its start: no view is open, no screen made. Today is 24 November 2026.
 class StartUp : public ScreenTest {
 protected:
     StartUp()
@@ -22,15 +22,9 @@ protected:
     // Puts values into the household's row and closes the database again.
     static void store(const Cells& values)
     {
-        if (!Data1.rsGeneral.isOpen())
-            Data1.rsGeneral.Open();
+        inFile(Data1.rsGeneral, {});
         put(Data1.rsGeneral, values);
         closeData();
-    }
-
-    static void storePolicy(const char* notify, const char* expiration)
-    {
-        store({{General::PolicyNotify, notify}, {General::PolicyExpiration, expiration}});
     }
 
     static void running(const QStringList& names)
@@ -41,37 +35,23 @@ protected:
         frmStartup::list_Processes = [processes] { return processes; };
     }
 
-    // As the program starts: the splash screen stands until its timer fires.
-    static void start()
-    {
-        screen<frmBW_Splash>().show();
-        screen<frmBW_Splash>().tmrLoad.elapse();
-    }
-
+    // As the program starts: the splash screen stands until its timer fires. No start changes the file.
     static void expectStart(const QString& leadsTo)
     {
-        start();
+        const QByteArray before = bytesOf(places::databaseFile());
+        screen<frmBW_Splash>().show();
+        screen<frmBW_Splash>().tmrLoad.elapse();
         EXPECT_EQ(scene(), leadsTo);
-        endRun();
-    }
-
-    static void endRun()
-    {
         forms::destroyScreens();
         closeData();
+        EXPECT_EQ(bytesOf(places::databaseFile()), before) << "the file has been made or changed";
     }
-
-    static QByteArray databaseContents() { return bytesOf(places::databaseFile()); }
 
     void expectRefusal(const QString& text, int flags)
     {
-        const QByteArray before = databaseContents();
-        expectBox(text, flags, forms::Answer::OK);
-        start();
-        EXPECT_EQ(endStatus(), flags == forms::box::Stop ? 3 : 1) << "the launcher offers a restore after a 3";
-        EXPECT_EQ(databaseContents(), before) << "the file has been made or changed";
-        EXPECT_EQ(forms::activeForm(), nullptr) << "a screen has been shown";
-        endRun();
+        expectBox(text, flags);
+        expectStart("20 nothing");
+        EXPECT_EQ(endStatus(), flags == Stop ? 3 : 1) << "the launcher offers a restore after a 3";
     }
 
     void expectLoadFailure() { expectRefusal("Unable To Load Database...Closing Program!", Stop); }
@@ -93,56 +73,50 @@ TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
 
 TEST_F(StartUp, OfAFirstRunLeadsToTheIntroductionWithoutAnAlert)
 {
-    storePolicy("Yes", "1/1/2020");
     for (const char* introduced : {"None", "", "0", "01", " 1"}) {
         SCOPED_TRACE(introduced);
-        store({{General::Introduced, introduced}});
+        store({{General::Introduced, introduced}, {General::PolicyNotify, "Yes"},
+            {General::PolicyExpiration, "1/1/2020"}});
         expectStart("17 frmIntroduction: cmdOK");
     }
 }
 
-// Today is 24 November 2026.
-TEST_F(StartUp, SaysWhenThePolicyExpiresAndGoesOnToTheMenu)
+TEST_F(StartUp, SaysWhenThePolicyExpiresAndBlamesTheDatabaseForADateThatIsNoneOrTooFarAway)
 {
-    const char* const expired = "Your Insurance Policy Has Expired...Please Renew Your Insurance Policy So You Can "
-                                "Ensure Coverage In The Event Of Theft Or Disaster!";
-    const char* const today = "    Your Insurance Policy Expires Today! ";
-    const char* const none = nullptr;
-    const std::tuple<const char*, const char*, const char*> alerts[] = {{"Yes", "11/25/1950", expired},
+    const QString expired = "Your Insurance Policy Has Expired...Please Renew Your Insurance Policy So You Can "
+                            "Ensure Coverage In The Event Of Theft Or Disaster!";
+    const QString today = "    Your Insurance Policy Expires Today! ";
+    const QString failure = "failure";
+    const std::tuple<const char*, const char*, QString> alerts[] = {{"Yes", "11/25/1950", expired},
         {"Yes", "11/23/2026", expired}, {"Yes", "11/24/2026", today}, {"yes", "11/24/2026", today},
-        {"YES", "11/24/2026", today}, {"Yes ", "11/24/2026", none}, {"No", "11/24/2026", none}, {"No", "None", none},
+        {"YES", "11/24/2026", today}, {"Yes ", "11/24/2026", {}}, {"No", "11/24/2026", {}}, {"No", "None", {}},
         {"Yes", "11/25/2026", "   Your Insurance Policy Expires In 1 Day!"},
         {"Yes", "11/26/2026", "Your Insurance Policy Expires In 2 Days!"},
-        {"Yes", "12/24/2026", "Your Insurance Policy Expires In 30 Days!"}, {"Yes", "12/25/2026", none}};
+        {"Yes", "12/24/2026", "Your Insurance Policy Expires In 30 Days!"}, {"Yes", "12/25/2026", {}},
+        {"Yes", "None", failure}, {"Yes", "", failure}, {"Yes", "2/30/2027", failure}, {"Yes", "1/1/2200", failure}};
     for (const auto& [notify, expiration, text] : alerts) {
         SCOPED_TRACE(testing::Message() << notify << ", " << expiration);
-        storePolicy(notify, expiration);
-        if (text)
+        store({{General::PolicyNotify, notify}, {General::PolicyExpiration, expiration}});
+        if (text == failure) {
+            expectLoadFailure();
+            continue;
+        }
+        if (!text.isEmpty())
             expectBox(text, Information);
         expectStart("2 frmMain: cmdIn");
     }
 }
 
-TEST_F(StartUp, RefusesToRunBesideAnotherInstanceWhoseNameHoldsThePhraseInThisCase)
+TEST_F(StartUp, RefusesAFileThatIsNoneAMissingOneAndBeforeBothAnotherInstanceWhoseNameHoldsThePhrase)
 {
-    running({"Kestrill", "kestrill", "KESTRILL", "kestrel"});
+    running({"Kestrill", "kestrill", "KESTRILL", "kestrel"}); // the case counts
     expectStart("2 frmMain: cmdIn");
-    QFile::remove(places::databaseFile());
-    running({"Kestrill", "MyKestrillViewer.exe"});
-    expectRefusal("Kestrill Is Already Running!", Exclamation);
-}
-
-TEST_F(StartUp, BlamesTheDatabaseForADateThatIsNoneOrTooFarAwayAFileThatIsNoneAndAMissingOne)
-{
-    for (const char* expiration : {"None", "", "2/30/2027", "1/1/2200"}) {
-        SCOPED_TRACE(expiration);
-        storePolicy("Yes", expiration);
-        expectLoadFailure();
-    }
     putFile(places::databaseFile(), QByteArray(8192, 'x'));
     expectLoadFailure();
     QFile::remove(places::databaseFile());
     expectLoadFailure();
+    running({"Kestrill", "MyKestrillViewer.exe"});
+    expectRefusal("Kestrill Is Already Running!", Exclamation);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "data/shipped_database.h"
 #include "data/standard_names.h"
 #include "support/print.h"
+#include "support/rows.h"
 
 #include <QTemporaryDir>
 
@@ -11,35 +12,21 @@
 TEST(ShippedDatabase, HoldsTheNamesOfEachAreaTheHouseholdsMarkersAndNothingElse)
 {
     QTemporaryDir folder;
-    const QString path = folder.filePath("KTL.db");
-    createShippedDatabase(
-        path, {{{"Attic", "Art", "Frame"}}, {{"Garden", "Tools", "Rake"}}, {{"Car", "Parts", "Jack"}}});
+    createShippedDatabase(folder.filePath("KTL.db"),
+        {{{"Attic", "Art", "Frame"}}, {{"Garden", "Tools", "Rake"}}, {{"Car", "Parts", "Jack"}}});
     DataStore store;
-    store.Home.setFile(path, databaseKey());
-
-    const std::pair<storage::TableView*, const char*> areas[] = {
-        {&store.rsIndoor, "Attic"}, {&store.rsOutdoor, "Garden"}, {&store.rsMobile, "Car"}};
-    for (const auto& [view, location] : areas) {
+    store.Home.setFile(folder.filePath("KTL.db"), databaseKey());
+    for (storage::TableView* view : {&store.rsIndoor, &store.rsOutdoor, &store.rsMobile, &store.rsGeneral,
+             &store.rsInventory, &store.rsPrint, &store.rsBank})
         view->Open();
-        ASSERT_EQ(view->RecordCount(), 2);
-        EXPECT_EQ(view->Fields(Names::Location), "< Add/Edit Location >");
-        EXPECT_EQ(view->Fields(Names::Category), "< Add/Edit Category >");
-        EXPECT_EQ(view->Fields(Names::Type), "< Add/Edit Item >");
-        view->MoveNext();
-        EXPECT_EQ(view->Fields(Names::Location), location);
-        EXPECT_EQ(view->Fields(Names::Standard), 1);
-    }
-    storage::TableView& household = store.rsGeneral;
-    household.Open();
-    ASSERT_EQ(household.RecordCount(), 1);
-    EXPECT_EQ(household.Fields(General::Last), "None");
-    EXPECT_EQ(household.Fields(General::CellPhone3), "----");
-    EXPECT_EQ(household.Fields(General::PolicyCoverage), "$0.00");
-    EXPECT_EQ(household.Fields(General::ClearCheck), "Checked");
-    for (storage::TableView* view : {&store.rsInventory, &store.rsPrint, &store.rsBank}) {
-        view->Open();
-        EXPECT_EQ(view->RecordCount(), 0);
-    }
+    const QString leading = "< Add/Edit Location >|< Add/Edit Category >|< Add/Edit Item >|1";
+    EXPECT_EQ(rowsOf(store.rsIndoor, 0, Names::Standard), QStringList({leading, "Attic|Art|Frame|1"}));
+    EXPECT_EQ(rowsOf(store.rsOutdoor, 0, Names::Standard), QStringList({leading, "Garden|Tools|Rake|1"}));
+    EXPECT_EQ(rowsOf(store.rsMobile, 0, Names::Standard), QStringList({leading, "Car|Parts|Jack|1"}));
+    EXPECT_EQ(rowsOf(store.rsGeneral, 0, General::AssetValue),
+        QStringList("None|None|None|None|None|None|None|---|---|----|---|---|----|---|---|----|None|None||None|None|"
+                    "$0.00|No|Unchecked|None|None|None|None|None|None|None|Checked|$0.00"));
+    EXPECT_EQ(store.rsInventory.RecordCount() + store.rsPrint.RecordCount() + store.rsBank.RecordCount(), 0);
 }
 
 TEST(StandardNames, EachFaultIsTold)

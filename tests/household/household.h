@@ -5,20 +5,12 @@
 #include "household/frmGenInfo.h"
 #include "support/harness.h"
 
-inline constexpr int yesNoQuestion = forms::box::Question + forms::box::YesNo;
-
 /// The personal information as the main menu opens it.
 inline frmGenInfo& openFromMenu()
 {
     forms::screen<frmMain>().show();
     click(forms::screen<frmMain>().cmdPersonal);
     return forms::screen<frmGenInfo>();
-}
-
-inline QString focused()
-{
-    const forms::Control* control = forms::activeForm()->activeControl();
-    return control ? control->name() : QString();
 }
 
 /// A test with the personal information, reached as a user reaches it.
@@ -44,7 +36,6 @@ protected:
     static void store(const QString& text)
     {
         for (int i = General::Last; i <= General::EMail; ++i)
-            Data1.rsGeneral.Fields(i) = text;
-        Data1.rsGeneral.Update();
+            put(Data1.rsGeneral, {{i, text}});
     }
 };

@@ -29,11 +29,15 @@ protected:
             .join('|');
     }
 
+    /// The same of the screen, with a "!" where the date is marked as wrong, and what stands before the user.
     static QString shownPolicy()
     {
-        return QStringList({policy().txtCompany.text(), policy().txtPolicyNum.text(), policy().txtPolicyExpire.text(),
-                               policy().txtCoverageAmt.text(), policy().chkNotify.value() == 1 ? "Yes" : "No"})
-            .join('|');
+        const bool isTinted = policy().txtPolicyExpire.backColour() == forms::look::colours().error;
+        return QStringList({policy().txtCompany.text(), policy().txtPolicyNum.text(),
+                               policy().txtPolicyExpire.text() + (isTinted ? "!" : ""), policy().txtCoverageAmt.text(),
+                               policy().chkNotify.value() == 1 ? "Yes" : "No"})
+                   .join('|')
+            + " @ " + scene();
     }
 
     // Opens a policy, and changes its company.
@@ -49,11 +53,7 @@ protected:
         type("Other");
     }
 
-    static bool isTinted() { return policy().txtPolicyExpire.backColour() == forms::look::colours().error; }
-
-    void expectRefusal() { expectBox(Refused, Exclamation); }
-
-    static void expectBack() { EXPECT_EQ(scene(), "1 frmGenInfo: cmdInsInfo"); }
+    const QString Back = "1 frmGenInfo: cmdInsInfo";
 };
 
 TEST_F(Policy, IsTypedSavedAndShownAgain)
@@ -61,25 +61,17 @@ TEST_F(Policy, IsTypedSavedAndShownAgain)
     openFromMenu();
     type(personal().txtInfo[General::City], "Utica");
     click(personal().cmdInsInfo);
-    EXPECT_EQ(stored()[General::City],
-        "Utica"); // what was typed on the way is kept
-    EXPECT_EQ(shownPolicy(), "None|None|None|$0.00|No");
-    EXPECT_EQ(scene(), "8 frmInsInfo: txtCompany [None]");
-    type("Mutual\t");
-    EXPECT_EQ(scene(), "8 frmInsInfo: txtPolicyNum [None]");
-    type("P-1");
-    whileModal([] {
-        press(Qt::Key_Right);
-        press(Qt::Key_Return);
-    });
+    EXPECT_EQ(stored()[General::City], "Utica") << "what was typed on the way is kept";
+    EXPECT_EQ(shownPolicy(), "None|None|None|$0.00|No @ 8 frmInsInfo: txtCompany [None]");
+    type("Mutual\tP-1");
+    whileModal([] { type("\n"); });
     click(policy().picDate);
     type(policy().txtCoverageAmt, "1234.5");
     expectBox(Updated, Information);
     accessKey('u');
-    expectBack();
-    EXPECT_EQ(kept(), "Mutual|P-1|11/25/2026|$1,234.50|No");
+    EXPECT_EQ(kept() + " @ " + scene(), "Mutual|P-1|11/24/2026|$1,234.50|No @ " + Back);
     click(personal().cmdInsInfo);
-    EXPECT_EQ(shownPolicy(), kept());
+    EXPECT_EQ(shownPolicy(), kept() + " @ 8 frmInsInfo: cmdUpdate");
 }
 
 TEST_F(Policy, SavesAtOnceWhenTheBoxIsWorkedOnADateThatHasNotPassed)
@@ -88,7 +80,7 @@ TEST_F(Policy, SavesAtOnceWhenTheBoxIsWorkedOnADateThatHasNotPassed)
     click(policy().chkNotify); // today has not passed
     EXPECT_EQ(kept(), "Other|P-1|11/24/2026|$5.00|Yes");
     click(policy().cmdCancel); // nothing differs, nothing is asked
-    expectBack();
+    EXPECT_EQ(scene(), Back);
     click(personal().cmdInsInfo);
     policy().chkNotify.setFocus();
     press(Qt::Key_Space);
@@ -100,45 +92,25 @@ TEST_F(Policy, RefusesTheBoxOnAPastDateAndOnNone)
     openAndChange("11/23/2026", "No");
     const QString before = kept();
     clickTold(policy().chkNotify, Refused, Exclamation);
-    EXPECT_EQ(shownPolicy(), "Other|P-1|11/23/2026|$5.00|No");
-    EXPECT_TRUE(isTinted());
-    EXPECT_EQ(focused(), "txtPolicyExpire");
-    EXPECT_EQ(kept(), before); // nothing is written
+    EXPECT_EQ(shownPolicy(), "Other|P-1|11/23/2026!|$5.00|No @ 8 frmInsInfo: txtPolicyExpire [11/23/2026]");
+    EXPECT_EQ(kept(), before);
     tab(); // the tint goes with the focus
-    EXPECT_FALSE(isTinted());
-
     click(policy().cmdClear);
-    EXPECT_EQ(shownPolicy(), "None|None|None|$0.00|No");
+    EXPECT_EQ(shownPolicy(), "None|None|None|$0.00|No @ 8 frmInsInfo: cmdClear");
     policy().txtCoverageAmt.setFocus();
-    expectRefusal(); // at the release of the very Tab that enters
+    expectBox(Refused, Exclamation); // at the release of the very Tab that enters
     tab();
-    EXPECT_EQ(focused(), "txtPolicyExpire");
+    EXPECT_EQ(shownPolicy(), "None|None|None!|$0.00|No @ 8 frmInsInfo: txtPolicyExpire [None]");
     expectToStay([] { click(policy().cmdCancel); }, LoseQuestion);
-    EXPECT_FALSE(isTinted());
+    EXPECT_EQ(shownPolicy(), "None|None|None|$0.00|No @ 8 frmInsInfo: cmdCancel");
     expectBox(LoseQuestion, YesNoQuestion, Answer::Yes);
     accessKey('c');
-    expectBack();
-    EXPECT_EQ(kept(), before);
+    EXPECT_EQ(kept() + scene(), before + Back);
 }
 
-TEST_F(Policy, ResetsTheBoxWhenAPastDateIsPickedAndKeepsTheRest)
+TEST_F(Policy, TakesItsDateFromTheCalendarAloneAndResetsTheBoxOnAPastOne)
 {
-    openAndChange("11/25/2026", "Yes");
-    EXPECT_EQ(policy().chkNotify.value(), 1);
-    whileModal([] {
-        press(Qt::Key_Left);
-        press(Qt::Key_Left);
-        press(Qt::Key_Return);
-    });
-    clickTold(
-        policy().txtPolicyExpire, "Date Is Not A Future Date...Resetting The Notification Checkbox!", Exclamation);
-    EXPECT_EQ(kept(), "Other|P-1|11/23/2026|$5.00|No");
-    EXPECT_TRUE(policy().isEnabled());
-}
-
-TEST_F(Policy, TakesItsDateFromTheCalendarAlone)
-{
-    openAndChange("12/25/2026", "No");
+    openAndChange("12/25/2026", "Yes");
     const auto leaveCalendar = [this] {
         EXPECT_EQ(screen<frmCalendar>().calDate.Day(), 25);
         expectBox("Are You Sure You Want To Close The Calendar?", YesNoQuestion, Answer::Yes);
@@ -153,49 +125,49 @@ TEST_F(Policy, TakesItsDateFromTheCalendarAlone)
     press(Qt::Key_X, Qt::ControlModifier);
     whileModal(leaveCalendar);
     paste("1/1/2030");
-    EXPECT_EQ(policy().txtPolicyExpire.text(), "12/25/2026");
+    EXPECT_EQ(shownPolicy(), "Other|P-1|12/25/2026|$5.00|Yes @ 8 frmInsInfo: txtPolicyExpire");
+    whileModal([] {
+        press(Qt::Key_PageUp);
+        press(Qt::Key_PageUp);
+        press(Qt::Key_Return);
+    });
+    clickTold(
+        policy().txtPolicyExpire, "Date Is Not A Future Date...Resetting The Notification Checkbox!", Exclamation);
+    EXPECT_EQ(kept(), "Other|P-1|10/25/2026|$5.00|No");
+    EXPECT_TRUE(policy().isEnabled());
 }
 
-TEST_F(Policy, TellsAnAmountThatIsNoneAndStoresNothingOfIt)
+TEST_F(Policy, TellsAnAmountThatIsNoneAndAFileThatRefusesAndKeepsTheRowWhole)
 {
     openAndChange("12/25/2026", "Yes");
-    type(policy().txtCoverageAmt, "1/2");
-    clickTold(policy().cmdUpdate, BadExpiration, Exclamation);
-    EXPECT_EQ(scene(), "8 frmInsInfo: txtPolicyExpire [12/25/2026]");
-    EXPECT_EQ(Data1.rsGeneral.Fields(General::PolicyCompany),
-        "Mutual"); // nor left over for the next save
-    clickTold(policy().chkNotify, Refused,
-        Exclamation); // the same in the other save
-    EXPECT_EQ(kept(), "Mutual|P-1|12/25/2026|$5.00|Yes");
-}
-
-TEST_F(Policy, TellsASaveThatTheFileRefusesAndKeepsTheRowWhole)
-{
-    openAndChange("12/25/2026", "No");
-    refuseWrites("UPDATE", "Personal_Info");
-    clickTold(policy().chkNotify, Refused, Exclamation);
-    EXPECT_EQ(policy().chkNotify.value(), 0);
-    clickTold(policy().cmdUpdate, BadExpiration, Exclamation);
-    EXPECT_TRUE(policy().isVisible());
+    for (const bool isFull : {false, true}) {
+        if (isFull)
+            refuseWrites("UPDATE", "Personal_Info");
+        type(policy().txtCoverageAmt, isFull ? "7" : "1/2");
+        clickTold(policy().cmdUpdate, BadExpiration, Exclamation);
+        EXPECT_EQ(scene(), "8 frmInsInfo: txtPolicyExpire [12/25/2026]");
+        EXPECT_EQ(Data1.rsGeneral.Fields(General::PolicyCompany), "Mutual") << "nor left over for the next save";
+        clickTold(policy().chkNotify, Refused, Exclamation); // the same in the other save
+        EXPECT_EQ(policy().chkNotify.value(), 0);
+        EXPECT_EQ(kept(), "Mutual|P-1|12/25/2026|$5.00|Yes");
+        policy().txtCoverageAmt.setText({});
+    }
     makeRoom("Personal_Info");
-    EXPECT_EQ(kept(), "Mutual|P-1|12/25/2026|$5.00|No");
     clickTold(policy().cmdUpdate, Updated, Information);
-    EXPECT_EQ(kept(), "Other|P-1|12/25/2026|$5.00|No");
+    EXPECT_EQ(kept(), "Other|P-1|12/25/2026|None|No");
 }
 
 TEST_F(Policy, EndsAtItsCloseBoxWithoutAQuestionAndBeginsAnew)
 {
-    openAndChange("None", "yes");
-    EXPECT_EQ(policy().chkNotify.value(), 0); // the exact case counts here
+    openAndChange("None", "yes"); // the exact case counts here
     policy().txtPolicyNum.setFocus();
     press(Qt::Key_Delete);
     tab();
-    EXPECT_EQ(policy().txtPolicyNum.text(), "None");
+    EXPECT_EQ(shownPolicy(), "Other|None|None|$5.00|No @ 8 frmInsInfo: txtPolicyExpire [None]");
     closeBox(policy());
-    expectBack();
-    EXPECT_EQ(kept(), "Mutual|P-1|None|$5.00|yes");
+    EXPECT_EQ(kept() + scene(), "Mutual|P-1|None|$5.00|yes" + Back);
     click(personal().cmdInsInfo);
-    EXPECT_EQ(shownPolicy(), "Mutual|P-1|None|$5.00|No");
+    EXPECT_EQ(shownPolicy(), "Mutual|P-1|None|$5.00|No @ 8 frmInsInfo: txtCompany [Mutual]");
 }
 
 } // namespace

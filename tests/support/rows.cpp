@@ -63,11 +63,20 @@ void removeRows(storage::TableView& table)
         table.Delete();
 }
 
+QStringList rowsOf(const storage::TableView& table, int first, int last)
+{
+    QStringList rows;
+    const storage::Snapshot all = table.snapshot();
+    for (int row = 0; row < all.rowCount(); ++row) {
+        QStringList texts;
+        for (int column = first; column <= last; ++column)
+            texts.append(all.text(row, column));
+        rows.append(texts.join('|'));
+    }
+    return rows;
+}
+
 QStringList columnOf(const storage::TableView& table, int column)
 {
-    QStringList texts;
-    const storage::Snapshot rows = table.snapshot();
-    for (int row = 0; row < rows.rowCount(); ++row)
-        texts.append(rows.text(row, column));
-    return texts;
+    return rowsOf(table, column, column);
 }

@@ -32,5 +32,6 @@ void addNames(storage::TableView& table, const QStringList& names, int standard 
 
 void removeRows(storage::TableView& table);
 
-/// A column of all rows, in the order of the view, which stays where it stands.
+/// Columns of all rows with "|" between them, or one column, in the order of the view, which stays where it stands.
+QStringList rowsOf(const storage::TableView& table, int first, int last);
 QStringList columnOf(const storage::TableView& table, int column);

@@ -4,26 +4,25 @@
 #include "tools/checking.h"
 #include "tools/commands.h"
 
+using testing::HasSubstr;
+
 namespace {
 
 class CheckingTest : public ToolsTest {
 protected:
-    static QStringList odd() { return checking::odd_Entries(Household(places::databaseFile())); }
+    using Command = int (*)(const QStringList&);
 
-    struct Said {
-        int status;
-        QString output;
-        QString complaint;
-    };
+    static QStringList odd() { return checking::odd_Entries(Household(today())); }
 
-    static Said run(int (*command)(const QStringList&), const QStringList& arguments)
+    /// Runs a command, whose status has to be this one; gives what it prints.
+    static std::string said(int status, Command command, const QStringList& arguments)
     {
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        const int status = command(QStringList("command") + arguments);
+        EXPECT_EQ(command(QStringList("command") + arguments), status) << arguments.join(' ').toStdString();
         std::fflush(nullptr);
-        return {status, QString::fromStdString(testing::internal::GetCapturedStdout()),
-            QString::fromStdString(testing::internal::GetCapturedStderr())};
+        testing::internal::GetCapturedStderr();
+        return testing::internal::GetCapturedStdout();
     }
 };
 
@@ -34,32 +33,16 @@ TEST_F(CheckingTest, FindsNothingInAFreshHouseholdAndEachOddCell)
     EXPECT_EQ(odd(), QStringList());
     addAsset("Lamp", "$10.00");
     EXPECT_EQ(odd(), QStringList());
-    {
-        DataStore store;
-        store.Home.open(places::databaseFile(), databaseKey());
-        store.rsInventory.Open();
-        store.rsInventory.Fields(Inventory::Area) = "Cellar";
-        store.rsInventory.Fields(Inventory::DatePurchased) = "2/30/2006";
-        store.rsInventory.Fields(Inventory::Amount) = "$12.00";
-        store.rsInventory.Fields(Inventory::Receipt) = "yes";
-        store.rsInventory.Fields(Inventory::Purchased) = "\x1b[2J";
-        store.rsInventory.Fields(Inventory::LaborAmount) = "ten";
-        store.rsInventory.Fields(Inventory::Make) = "";
-        store.rsInventory.Update();
-        store.rsGeneral.Open();
-        store.rsGeneral.Fields(General::PolicyExpiration) = "soon";
-        store.rsGeneral.Fields(General::PolicyCoverage) = "much";
-        store.rsGeneral.Update();
-        store.rsMobile.Open();
-        for (; store.rsMobile.Fields(Names::Type) != "< Add/Edit Item >"; store.rsMobile.MoveNext()) { }
-        store.rsMobile.Delete();
-        store.rsBank.Open();
-        store.rsBank.AddNew();
-        for (int column = Bank::FinancialInstitution; column <= Bank::State; ++column)
-            store.rsBank.Fields(column) = "None";
-        store.rsBank.Fields(Bank::AsOf) = "1/1";
-        store.rsBank.Update();
-    }
+    openData();
+    put(Data1.rsInventory,
+        {{Inventory::Area, "Cellar"}, {Inventory::DatePurchased, "2/30/2006"}, {Inventory::Amount, "$12.00"},
+            {Inventory::Receipt, "yes"}, {Inventory::Purchased, "\x1b[2J"}, {Inventory::LaborAmount, "ten"},
+            {Inventory::Make, ""}});
+    put(Data1.rsGeneral, {{General::PolicyExpiration, "soon"}, {General::PolicyCoverage, "much"}});
+    removeRows(Data1.rsMobile);
+    addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).split(' ').mid(0, 12));
+    put(Data1.rsBank, {{Bank::AsOf, "1/1"}});
+    closeData();
     EXPECT_EQ(odd(),
         QStringList({"The running total is $10.00, the sum of the amounts $12.00",
             "Personal_Info 1, Policy Expiration: \"soon\" is no date",
@@ -73,37 +56,33 @@ TEST_F(CheckingTest, FindsNothingInAFreshHouseholdAndEachOddCell)
 
 TEST_F(CheckingTest, TheCommandsTellByTheirStatusWhatTheyFound)
 {
+    using namespace exit_code;
     addAsset("Lamp", "$10.00");
-    const QByteArray before = contentsOf(places::databaseFile());
-    Said said = run(commands::check, {});
-    EXPECT_EQ(said.status, exit_code::Done) << said.complaint.toStdString();
-    EXPECT_TRUE(said.output.contains("Inventory: 1\n") && said.output.contains("Running total: $10.00\n"));
-    EXPECT_EQ(contentsOf(places::databaseFile()), before);
-    EXPECT_EQ(run(commands::check, {"a", "b"}).status, exit_code::Usage);
-    EXPECT_EQ(run(commands::check, {"--no-such"}).status, exit_code::Usage);
-    EXPECT_EQ(run(commands::check, {"/no/where"}).status, exit_code::Unreadable);
-    EXPECT_TRUE(run(commands::check, {"--help"}).output.contains("Changes nothing."));
-    EXPECT_EQ(run(commands::restore, {"--list"}).output, "");
+    const QByteArray good = bytesOf(today());
+    EXPECT_THAT(said(Done, commands::check, {}),
+        testing::AllOf(HasSubstr("Inventory: 1\n"), HasSubstr("Running total: $10.00\n")));
+    EXPECT_EQ(bytesOf(today()), good);
+    EXPECT_THAT(said(Done, commands::check, {"--help"}), HasSubstr("Changes nothing."));
+    EXPECT_EQ(said(Done, commands::restore, {"--list"}), "");
     backUp();
-    damage(places::databaseFile());
-    EXPECT_EQ(run(commands::check, {}).status, exit_code::Unreadable);
-    EXPECT_EQ(run(commands::check, {"last"}).status, exit_code::Done);
-    EXPECT_EQ(run(commands::check, {backupFile()}).status, exit_code::Done);
-    EXPECT_TRUE(run(commands::restore, {"--list"}).output.endsWith("\tLast close\t1\t$10.00\tIn order\n"));
+    damage(today());
+    EXPECT_THAT(said(Done, commands::restore, {"--list"}), testing::EndsWith("\tLast close\t1\t$10.00\tIn order\n"));
 
-    const QString out = places::databaseFolder() + "/../out";
-    EXPECT_EQ(run(commands::exportAll, {}).status, exit_code::Usage);
-    EXPECT_EQ(run(commands::exportAll, {out}).status, exit_code::Unreadable);
-    EXPECT_EQ(run(commands::exportAll, {out, "--from", "last"}).status, exit_code::Done);
-    EXPECT_EQ(run(commands::exportAll, {out, "--from", "last"}).status, exit_code::Declined) << "there is one";
-    EXPECT_EQ(run(commands::exportAll, {out, "--from", "last", "--force"}).status, exit_code::Done);
-
-    EXPECT_EQ(run(commands::restore, {}).status, exit_code::Usage);
-    EXPECT_EQ(run(commands::restore, {"--restore", "1999"}).status, exit_code::Usage);
-    EXPECT_EQ(run(commands::restore, {"--restore", "last"}).status, exit_code::Declined) << "nobody is asked";
-    EXPECT_NE(contentsOf(places::databaseFile()), before);
-    said = run(commands::restore, {"--restore", "last", "--yes"});
-    EXPECT_EQ(said.status, exit_code::Done) << said.complaint.toStdString();
-    EXPECT_TRUE(said.output.startsWith("Restored: 1 asset, $10.00\nTo go back: kestrill-restore --restore 2"));
-    EXPECT_EQ(contentsOf(places::databaseFile()), before);
+    const QString out = below("out");
+    const std::tuple<int, Command, QStringList> runs[] = {{Usage, commands::check, {"a", "b"}},
+        {Usage, commands::check, {"--no-such"}}, {Unreadable, commands::check, {"/no/where"}},
+        {Unreadable, commands::check, {}}, {Done, commands::check, {"last"}}, {Done, commands::check, {backupFile()}},
+        {Usage, commands::exportAll, {}}, {Unreadable, commands::exportAll, {out}},
+        {Failed, commands::exportAll, {"/no/where", "--from", "last"}},
+        {Done, commands::exportAll, {out, "--from", "last"}},
+        {Declined, commands::exportAll, {out, "--from", "last"}}, // there is one
+        {Done, commands::exportAll, {out, "--from", "last", "--force"}}, {Usage, commands::restore, {}},
+        {Usage, commands::restore, {"--restore", "1999"}},
+        {Declined, commands::restore, {"--restore", "last"}}}; // nobody is asked
+    for (const auto& [status, command, arguments] : runs)
+        said(status, command, arguments);
+    EXPECT_NE(bytesOf(today()), good);
+    EXPECT_THAT(said(Done, commands::restore, {"--restore", "last", "--yes"}),
+        testing::StartsWith("Restored: 1 asset, $10.00\nTo go back: kestrill-restore --restore 2"));
+    EXPECT_EQ(bytesOf(today()), good);
 }

@@ -44,15 +44,24 @@ std::vector<std::vector<QByteArray>> readCsv(const QByteArray& text)
 
 class ExportingTest : public ToolsTest {
 protected:
-    void SetUp() override
+    ExportingTest()
     {
-        ToolsTest::SetUp();
         for (const QString& text : hostileTexts)
             addAsset(text, "$1,234.50", text);
-        folder_ = places::databaseFolder() + "/../out";
+        household_.emplace(today());
     }
 
-    QByteArray file(const QString& name) const { return contentsOf(folder_ + '/' + name); }
+    void write(Former former = Former::Kept, const exporting::Progress& progress = {}) const
+    {
+        exporting::write(*household_, folder_, former, progress);
+    }
+
+    std::optional<int> refused(Former former = Former::Kept, const exporting::Progress& progress = {}) const
+    {
+        return refusal([&] { write(former, progress); });
+    }
+
+    QByteArray file(const QString& name) const { return bytesOf(folder_ + '/' + name); }
 
     std::string textOf(const QString& name) const
     {
@@ -62,32 +71,27 @@ protected:
         return text.toStdString();
     }
 
-    static QStringList beside()
-    {
-        return QDir(places::databaseFolder() + "/..").entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
-
-    QString folder_;
+    QString folder_ = below("out");
+    std::optional<Household> household_;
 };
 
 } // namespace
 
-TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJson)
+TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJsonAndTheReportsForTheHouseholdAlone)
 {
-    const QByteArray before = contentsOf(places::databaseFile());
-    const Household household(places::databaseFile());
-    exporting::write(household, folder_, Former::Kept);
-    EXPECT_EQ(contentsOf(places::databaseFile()), before);
-    const QJsonObject data = QJsonDocument::fromJson(file("kestrill.json")).object();
+    const QByteArray before = bytesOf(today());
+    write();
+    EXPECT_EQ(bytesOf(today()), before);
+    const QJsonObject data = QJsonDocument::fromJson(file("kestrill.json")).object()["tables"].toObject();
     const QJsonObject schema = QJsonDocument::fromJson(file("kestrill.schema.json")).object();
     const QJsonObject tables = schema["properties"]["tables"]["properties"].toObject();
-    EXPECT_EQ(tables.keys(), data["tables"].toObject().keys());
-    for (const storage::Snapshot& table : household.tables()) {
+    EXPECT_EQ(tables.keys(), data.keys());
+    for (const storage::Snapshot& table : household_->tables()) {
         const auto& columns = table.definition().columns;
         const QString name = table.definition().name;
         SCOPED_TRACE(name.toStdString());
         const auto csv = readCsv(file(name + ".csv"));
-        const QJsonArray rows = data["tables"][name].toArray();
+        const QJsonArray rows = data[name].toArray();
         ASSERT_EQ(csv.size(), static_cast<std::size_t>(table.rowCount()) + 1);
         ASSERT_EQ(rows.size(), table.rowCount());
         EXPECT_EQ(tables[name]["items"]["required"].toArray().size(), static_cast<qsizetype>(columns.size()));
@@ -97,66 +101,66 @@ TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJson)
             for (int row = 0; row < table.rowCount() && !isAmount; ++row) {
                 const std::string_view wanted = table.utf8(row, static_cast<int>(column));
                 EXPECT_EQ(csv[static_cast<std::size_t>(row) + 1][column].toStdString(), wanted);
-                const QJsonValue value = rows[row].toObject()[columns[column].name];
-                EXPECT_EQ(
-                    value.isString() ? value.toString().toStdString() : std::to_string(value.toInteger()), wanted);
+                EXPECT_EQ(rows[row].toObject()[columns[column].name].toVariant().toString().toStdString(), wanted);
             }
         }
     }
-    EXPECT_EQ(data["tables"]["Personal_Info"].toArray().at(0)["AssetValue"].toString(), "12345.0000");
-}
-
-TEST_F(ExportingTest, WritesTheReportsForTheHouseholdAlone)
-{
-    exporting::write(Household(places::databaseFile()), folder_, Former::Kept);
+    EXPECT_EQ(data["Personal_Info"].toArray().at(0)["AssetValue"].toString(), "12345.0000");
     EXPECT_THAT(textOf("Asset Report.pdf"), HasSubstr("Item: =HYPERLINK(\"http://x\") Description"));
     EXPECT_THAT(textOf("Cover Sheet.pdf"), HasSubstr("$12,345.00"));
+
     EXPECT_EQ(QFile::permissions(folder_), QFile::Permissions(0x7700));
-    QStringList wanted = exporting::fileNames();
-    wanted.sort();
-    QStringList found = QDir(folder_).entryList(QDir::Files | QDir::Hidden);
-    found.sort();
-    EXPECT_EQ(found, wanted);
+    const QStringList found = QDir(folder_).entryList(QDir::Files | QDir::Hidden);
+    EXPECT_THAT(exporting::fileNames(), testing::UnorderedElementsAreArray(found));
     for (const QString& name : found)
         EXPECT_EQ(QFile::permissions(folder_ + '/' + name), QFile::Permissions(0x6600)) << name.toStdString();
 }
 
 TEST_F(ExportingTest, IsWholeOrNotThere)
 {
-    const Household household(places::databaseFile());
-    const QStringList before = beside();
-    std::vector<int> told;
-    const auto cancelAt = [&told](int step) {
-        return [&told, step](int done, int all) {
-            told.push_back(all);
-            return done < step * all / 10;
-        };
-    };
+    const QStringList before = everything();
     for (int step = 0; step <= 9; ++step)
         EXPECT_EQ(
-            refusal([&] { exporting::write(household, folder_, Former::Kept, cancelAt(step)); }), exit_code::Declined);
-    for (const rlim_t bytes : {1000, 40'000, 100'000}) {
+            refused(Former::Kept, [step](int done, int all) { return done < step * all / 10; }), exit_code::Declined);
+    for (const qint64 bytes : {1000, 40'000, 100'000}) {
         const FullDisk full(bytes);
-        EXPECT_EQ(refusal([&] { exporting::write(household, folder_, Former::Kept); }), exit_code::Failed);
+        EXPECT_EQ(refused(), exit_code::Failed);
     }
-    EXPECT_EQ(refusal([&] { exporting::write(household, folder_ + "/no/where", Former::Kept); }), exit_code::Failed);
-    EXPECT_EQ(beside(), before);
+    folder_ += "/no/where";
+    EXPECT_EQ(refused(), exit_code::Failed);
+    EXPECT_EQ(everything(), before);
 }
 
 TEST_F(ExportingTest, TakesThePlaceOfNothingButAnExportThatIsGivenUp)
 {
-    const Household household(places::databaseFile());
     QDir().mkdir(folder_);
-    exporting::write(household, folder_, Former::Kept); // an empty folder is free
-    put(folder_ + "/Inventory.csv", "former");
-    EXPECT_EQ(refusal([&] { exporting::write(household, folder_, Former::Kept); }), exit_code::Failed);
+    write(); // an empty folder is free
+    putFile(folder_ + "/Inventory.csv", "former");
+    EXPECT_EQ(refused(), exit_code::Failed);
     EXPECT_EQ(file("Inventory.csv"), "former");
-    exporting::write(household, folder_, Former::Replaced);
+    write(Former::Replaced);
     EXPECT_NE(file("Inventory.csv"), "former");
-    put(folder_ + "/letter.txt", "not ours");
-    EXPECT_EQ(refusal([&] { exporting::write(household, folder_, Former::Replaced); }), exit_code::Failed);
-    EXPECT_EQ(
-        refusal([&] { exporting::write(household, folder_ + "/letter.txt", Former::Replaced); }), exit_code::Failed);
-    EXPECT_EQ(file("letter.txt"), "not ours");
-    EXPECT_EQ(beside().filter("kestrill").size(), 0);
+    putFile(folder_ + "/letter.txt", "not ours");
+    const QStringList before = everything();
+    EXPECT_EQ(refused(Former::Replaced), exit_code::Failed);
+    folder_ += "/letter.txt";
+    EXPECT_EQ(refused(Former::Replaced), exit_code::Failed);
+    EXPECT_EQ(everything(), before);
+    EXPECT_EQ(before.filter(".kestrill").size(), 0);
+}
+
+TEST_F(ExportingTest, ClearsWhatKilledOnesHaveLeftAndNothingElse)
+{
+    QDir().mkdir(below(".kestrill-export-of-mine"));
+    const QStringList before = everything();
+    inProcess([this] { write(Former::Kept, [](int, int) -> bool { _exit(1); }); });
+    EXPECT_EQ(everything().filter(".kestrill-export-").filter("kestrill.json").size(), 1);
+    bool isFirst = true;
+    write(Former::Kept, [&](int, int) {
+        if (std::exchange(isFirst, false))
+            exporting::write(*household_, below("another"), Former::Kept); // this one's folder stays
+        return true;
+    });
+    EXPECT_EQ(everything().filter(".kestrill-export-"), before.filter(".kestrill-export-"));
+    EXPECT_EQ(QDir(folder_).count(), exporting::fileNames().size() + 2); // with "." and ".."
 }

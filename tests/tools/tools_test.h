@@ -3,88 +3,77 @@
 
 #include "core/data_store.h"
 #include "core/places.h"
+#include "data/shipped_database.h"
+#include "platform/storage/engine.h"
 #include "platform/system/files.h"
+#include "support/files.h"
 #include "support/harness.h"
 #include "tools/backups.h"
 #include "tools/exit_codes.h"
 #include "tools/restoring.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include <QCryptographicHash>
+#include <QDirIterator>
 
-#include <csignal>
-#include <functional>
 #include <optional>
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 /// A household whose file is closed, with a backup folder beside it; the program doesn't run.
 class ToolsTest : public ScreenTest {
 protected:
-    void SetUp() override
+    ToolsTest()
     {
-        ScreenTest::SetUp();
+        // To take a key from its words is slow on purpose, and a tool opens many files many times.
+        setRounds("10");
         closeData();
+        QFile::remove(databaseFile());
+        createShippedDatabase(databaseFile(), {{{"Attic", "Art", "Frame"}}, {}, {}});
         restoring::list_Processes = [] { return std::vector{sys::thisProcess()}; };
     }
+    ~ToolsTest() override { setRounds("64000"); }
 
     /// Stores an asset as the program does, and counts it in the running total.
     static void addAsset(const QString& item, const QString& amount, const QString& description = "None")
     {
-        DataStore store;
-        store.Home.open(places::databaseFile(), databaseKey());
-        store.rsInventory.Open();
-        store.rsGeneral.Open();
-        store.rsInventory.AddNew();
-        for (int column = Inventory::Area; column <= Inventory::WarrantyDescription; ++column)
-            if (column != Inventory::Amount)
-                store.rsInventory.Fields(column) = "None";
-        store.rsInventory.Fields(Inventory::Area) = "Indoor";
-        store.rsInventory.Fields(Inventory::Type) = item;
-        store.rsInventory.Fields(Inventory::DatePurchased) = "7/4/2006";
-        store.rsInventory.Fields(Inventory::Amount) = amount;
-        store.rsInventory.Fields(Inventory::Receipt) = "No";
-        store.rsInventory.Fields(Inventory::Purchased) = "New";
-        store.rsInventory.Fields(Inventory::Description) = description;
-        store.rsInventory.Update();
-        store.rsGeneral.Fields(General::AssetValue) =
-            store.rsGeneral.Fields(General::AssetValue).currency() + values::Currency::parse(amount);
-        store.rsGeneral.Update();
+        openData();
+        addAssetRow({"Indoor", "None", "None", item});
+        put(Data1.rsInventory,
+            {{Inventory::DatePurchased, "7/4/2006"}, {Inventory::Amount, amount}, {Inventory::Receipt, "No"},
+                {Inventory::Purchased, "New"}, {Inventory::Description, description}});
+        const values::Currency before = Data1.rsGeneral.Fields(General::AssetValue).currency();
+        put(Data1.rsGeneral, {{General::AssetValue, (before + values::Currency::parse(amount)).toText()}});
+        closeData();
     }
 
+    static QString today() { return places::databaseFile(); }
     static QString backupFile() { return places::backupFolder() + "/KTL.db"; }
+    static QString below(const QString& name) { return QFileInfo(places::databaseFolder()).path() + '/' + name; }
 
     /// What a close leaves, without the rest of it.
-    static void backUp()
-    {
-        QDir().mkpath(places::backupFolder());
-        QFile::remove(backupFile());
-        ASSERT_TRUE(QFile::copy(places::databaseFile(), backupFile()));
-    }
-
-    static QByteArray contentsOf(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
-
-    static void put(const QString& path, const QByteArray& contents)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
-        file.write(contents);
-    }
+    static void backUp() { putFile(backupFile(), bytesOf(today())); }
 
     /// Overwrites a piece of every page from one on, by its number from 0.
     static void damage(const QString& path, int from = 1)
     {
-        QByteArray contents = contentsOf(path);
+        QByteArray contents = bytesOf(path);
         for (qsizetype page = from * qsizetype{1024}; page < contents.size(); page += 1024)
             contents.replace(page + 100, 16, QByteArray(16, 'x'));
-        put(path, contents);
+        putFile(path, contents);
+    }
+
+    /// All files and folders, with what they hold, as one state: what a refusal leaves as it was.
+    static QStringList everything()
+    {
+        QStringList all;
+        const auto entries = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        for (QDirIterator each(below({}), entries, QDirIterator::Subdirectories); each.hasNext();) {
+            const QString path = each.next();
+            all += path + ' ' + QCryptographicHash::hash(bytesOf(path), QCryptographicHash::Sha1).toHex();
+        }
+        all.sort();
+        return all;
     }
 
     /// The exit code with which something is refused; nothing where it is not.
@@ -111,21 +100,11 @@ protected:
         return WEXITSTATUS(status);
     }
 
-    /// No file of this process grows beyond so many bytes, as on a full disk.
-    class FullDisk {
-    public:
-        explicit FullDisk(rlim_t bytes)
-        {
-            std::signal(SIGXFSZ, SIG_IGN);
-            getrlimit(RLIMIT_FSIZE, &before_);
-            const rlimit limit{bytes, before_.rlim_max};
-            setrlimit(RLIMIT_FSIZE, &limit);
-        }
-        FullDisk(const FullDisk&) = delete;
-        FullDisk& operator=(const FullDisk&) = delete;
-        ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+private:
+    void setRounds(const QByteArray& rounds)
+    {
+        storage::execute(engine_.get(), "PRAGMA cipher_default_kdf_iter = " + rounds);
+    }
 
-    private:
-        rlimit before_{};
-    };
+    storage::Handle engine_ = storage::openFile(databaseFile(), databaseKey(), storage::Access::AsItLies);
 };

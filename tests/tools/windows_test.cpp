@@ -15,11 +15,20 @@ namespace {
 
 class WindowsTest : public ToolsTest {
 protected:
-    static void readAll()
+    ~WindowsTest() override { forms::setFolderDoor({}); }
+
+    static frmRestore& restore() { return screen<frmRestore>(); }
+
+    static void showAndReadAll()
     {
-        while (screen<frmRestore>().tmRead.isEnabled())
-            screen<frmRestore>().tmRead.elapse();
+        restore().show();
+        EXPECT_EQ(scene(), "20 frmRestore: lstBackups");
+        while (restore().tmRead.isEnabled())
+            restore().tmRead.elapse();
     }
+
+    /// Of today's file, and of the backup that is picked.
+    static QString told() { return restore().lblToday.caption() + ", " + restore().lblState.caption(); }
 };
 
 } // namespace
@@ -28,42 +37,34 @@ TEST_F(WindowsTest, ADamagedHouseholdIsBroughtBackByKeys)
 {
     addAsset("Lamp", "$10.00");
     backUp();
-    const QByteArray good = contentsOf(backupFile());
-    const QString earlier = places::earlierBackupsFolder() + "/2020-11-20_08-00-00";
-    sys::makePrivateFolder(earlier);
-    put(earlier + "/KTL.db", "no household");
-    damage(places::databaseFile());
+    const QByteArray good = bytesOf(backupFile());
+    putFile(places::earlierBackupsFolder() + "/2020-11-20_08-00-00/KTL.db", "no household");
+    damage(today());
 
-    auto& restore = screen<frmRestore>();
-    restore.show();
-    EXPECT_EQ(scene(), "20 frmRestore: lstBackups");
-    readAll();
-    EXPECT_FALSE(restore.pbRestore.isVisible());
-    EXPECT_EQ(restore.lblToday.caption(), "Today's file: damaged or foreign");
-    ASSERT_EQ(restore.lstBackups.recordCount(), 2);
-    EXPECT_EQ(restore.lblState.caption(), "This backup can be read to its last page.");
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(restore.lstBackups.widget())->text(QAccessible::Name),
+    showAndReadAll();
+    EXPECT_EQ(contents(restore()), "pbRestore hidden");
+    ASSERT_EQ(restore().lstBackups.recordCount(), 2);
+    EXPECT_EQ(told(), "Today's file: damaged or foreign, This backup can be read to its last page.");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(restore().lstBackups.widget())->text(QAccessible::Name),
         "Backups, the newest first");
 
     press(Qt::Key_Down);
-    EXPECT_EQ(restore.lstBackups.record(1)[4], "Damaged or foreign");
-    EXPECT_TRUE(restore.lblState.caption().startsWith("This backup can't be restored: file is "));
-    const QString refused = restore.lblState.caption();
-    expectBox(refused, forms::box::Stop);
+    EXPECT_EQ(restore().lstBackups.record(1)[4], "Damaged or foreign");
+    EXPECT_TRUE(restore().lblState.caption().startsWith("This backup can't be restored: file is "));
+    expectBox(restore().lblState.caption(), Stop);
     press(Qt::Key_Return);
     press(Qt::Key_Home);
-    EXPECT_EQ(restore.lstBackups.picked(), 0);
 
-    const QString question = "Go back to the backup of " + restore.lstBackups.record(0)[0]
+    const QString question = "Go back to the backup of " + restore().lstBackups.record(0)[0]
         + "?\n\nThe backup: 1 asset, $10.00\nToday's file can't be read: database disk image is malformed\n\nToday's "
           "file is put aside and can be brought back in the same way.";
     expectBox(question, 52, Answer::No);
     accessKey('r');
-    EXPECT_NE(contentsOf(places::databaseFile()), good);
+    EXPECT_NE(bytesOf(today()), good);
     expectBox(question, 52, Answer::Yes);
     press(Qt::Key_Return);
     EXPECT_EQ(scene(), "20 frmRestored: cmdClose");
-    EXPECT_EQ(contentsOf(places::databaseFile()), good);
+    EXPECT_EQ(bytesOf(today()), good);
     EXPECT_TRUE(screen<frmRestored>().lblTell[2].caption().endsWith("_put-aside"));
     press(Qt::Key_Return);
     EXPECT_EQ(endStatus(), 0);
@@ -71,22 +72,18 @@ TEST_F(WindowsTest, ADamagedHouseholdIsBroughtBackByKeys)
 
 TEST_F(WindowsTest, WithoutABackupOrWhileTheProgramRunsNothingIsRestored)
 {
-    screen<frmRestore>().show();
-    readAll();
-    EXPECT_EQ(scene(), "20 frmRestore: lstBackups");
-    EXPECT_FALSE(screen<frmRestore>().cmdRestore.isEnabled());
-    EXPECT_EQ(screen<frmRestore>().lblToday.caption(), "Today's file: 0 assets, $0.00");
-    EXPECT_TRUE(screen<frmRestore>().lblState.caption().startsWith("There is no backup yet"));
+    showAndReadAll();
+    EXPECT_EQ(contents(restore()), "pbRestore hidden, cmdRestore off");
+    EXPECT_TRUE(told().startsWith("Today's file: 0 assets, $0.00, There is no backup yet"));
     press(Qt::Key_Return);
-    closeBox(screen<frmRestore>());
+    closeBox(restore());
     EXPECT_EQ(endStatus(), 0);
 
     forms::destroyScreens();
     backUp();
-    screen<frmRestore>().show(); // chosen before it has been read
+    restore().show(); // chosen before it has been read
     restoring::list_Processes = [] { return std::vector{sys::thisProcess(), sys::Process{1, "Kestrill", {}, 7, 1}}; };
-    expectBox("Kestrill is running. Close it first.", forms::box::Stop);
-    click(screen<frmRestore>().cmdRestore);
+    clickTold(restore().cmdRestore, "Kestrill is running. Close it first.", Stop);
     accessKey('c');
     EXPECT_EQ(endStatus(), 0);
 }
@@ -94,8 +91,6 @@ TEST_F(WindowsTest, WithoutABackupOrWhileTheProgramRunsNothingIsRestored)
 TEST_F(WindowsTest, TheExportAsksForAFolderAndSaysWhatItWrote)
 {
     addAsset("Lamp", "$10.00");
-    const QString chosen = QFileInfo(places::databaseFolder()).path() + "/chosen";
-    QDir().mkdir(chosen);
     QString answer;
     forms::setFolderDoor([&answer] { return answer; });
     auto& window = screen<frmExport>();
@@ -103,24 +98,20 @@ TEST_F(WindowsTest, TheExportAsksForAFolderAndSaysWhatItWrote)
     window.tmStart.elapse(); // and the user chooses none
     EXPECT_EQ(window.lblResult.caption(), "");
     EXPECT_FALSE(window.tmStart.isEnabled());
-    answer = chosen;
+    answer = below("chosen");
+    QDir().mkdir(answer);
     accessKey('f');
     click(window.cmdChoose);
-    const QStringList made = QDir(chosen).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     const QString name = "Kestrill " + QDate::currentDate().toString(Qt::ISODate);
-    EXPECT_EQ(made, QStringList({name, name + " (2)"}));
-    EXPECT_EQ(window.lblResult.caption(), "Written: 1 asset, $10.00, in the folder\n" + chosen + '/' + name + " (2)");
+    EXPECT_EQ(QDir(answer).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QStringList({name, name + " (2)"}));
+    EXPECT_EQ(window.lblResult.caption(), "Written: 1 asset, $10.00, in the folder\n" + answer + '/' + name + " (2)");
     EXPECT_EQ(scene(), "20 frmExport: cmdClose");
 
-    answer = chosen + "/none";
-    expectBox("Nothing can be written in " + answer + ": No such file or directory.", forms::box::Stop);
-    click(window.cmdChoose);
-    damage(places::databaseFile());
-    answer = chosen;
-    expectBox("database disk image is malformed", forms::box::Stop);
-    click(window.cmdChoose);
-    EXPECT_EQ(QDir(chosen).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), made);
-    forms::setFolderDoor({});
+    damage(today());
+    const QStringList before = everything();
+    clickTold(window.cmdChoose, "database disk image is malformed", Stop);
+    EXPECT_EQ(everything(), before);
     closeBox(window);
     EXPECT_EQ(endStatus(), 0);
 }

@@ -75,6 +75,13 @@ struct Identity {
     bool isThere;
 };
 
+int openedToLock(const fs::path& path, RunLock::On what)
+{
+    if (what == RunLock::On::Folder)
+        return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    return ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+}
+
 Identity identityOf(const QString& path)
 {
     struct ::stat found { };
@@ -156,8 +163,8 @@ qint64 freeSpace(const QString& folder)
     return static_cast<qint64>(found.f_bavail) * static_cast<qint64>(found.f_frsize);
 }
 
-RunLock::RunLock(const QString& path)
-    : file_(::open(pathOf(path).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR))
+RunLock::RunLock(const QString& path, On what)
+    : file_(openedToLock(pathOf(path), what))
     , isHeld_(file_ >= 0 && ::flock(file_, LOCK_EX | LOCK_NB) == 0)
 {
     if (file_ < 0)

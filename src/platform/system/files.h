@@ -41,10 +41,12 @@ bool isSameFile(const QString& one, const QString& other);
 qint64 freeSpace(const QString& folder);
 
 /// Keeps other runs out while it lives, those of other programs too that know the file, which is made where it is
-/// missing and stays. The end of the process gives it up in any case.
+/// missing and stays; or a folder, which is there. The end of the process gives it up in any case.
 class RunLock {
 public:
-    explicit RunLock(const QString& path);
+    enum class On { File, Folder };
+
+    explicit RunLock(const QString& path, On what = On::File);
     RunLock(const RunLock&) = delete;
     RunLock& operator=(const RunLock&) = delete;
     ~RunLock();
