@@ -37,6 +37,7 @@ PageBrowser::PageBrowser(QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // pictures are fitted into what it leaves
     document()->setDocumentMargin(forms::look::grid(2));
 }
 
@@ -106,13 +107,20 @@ void PageBrowser::resizeEvent(QResizeEvent* event)
         loadAgain();
 }
 
-// What stands at the top stays there.
+// What stands at the top stays there, and what is selected stays so.
 void PageBrowser::loadAgain()
 {
     const int top = cursorForPosition(QPoint(0, 0)).position();
+    const QTextCursor selected = textCursor();
+    const int anchor = selected.anchor();
+    const int end = selected.position();
     reload();
+    const int last = document()->characterCount() - 1;
     QTextCursor cursor(document());
-    cursor.setPosition(std::min(top, document()->characterCount() - 1));
+    cursor.setPosition(std::min(anchor, last));
+    cursor.setPosition(std::min(end, last), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    cursor.setPosition(std::min(top, last));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(cursor).top());
 }
 

@@ -206,11 +206,22 @@ void Viewer::layOut()
     column->addWidget(status_);
 }
 
+// The pictures and the tool tips say it as well, the access keys stay.
+void Viewer::dropCaptions()
+{
+    for (const parts::ButtonLook& look : buttons) {
+        button(look.name)->setText({});
+        button(look.name)->setShortcut(QKeySequence::mnemonic(look.caption));
+    }
+}
+
 // At the right edge of the desktop, so that something of the screen in its middle stays in sight.
 void Viewer::placeBesideScreens()
 {
     const QRect desktop = screen()->availableGeometry();
     const QSize room = desktop.size() * shareOfDesktop;
+    if (minimumSizeHint().width() > room.width())
+        dropCaptions();
     resize(QSize(forms::look::grid(116), forms::look::grid(88)).boundedTo(room));
     move(desktop.right() - width() - forms::look::grid(1), desktop.top() + (desktop.height() - height()) / 2);
 }

@@ -29,6 +29,7 @@ private:
     QPushButton* button(const char* name);
     void react();
     void layOut();
+    void dropCaptions();
     void placeBesideScreens();
 
     void go(const QString& place);
