@@ -13,8 +13,6 @@ TEST_F(AssetFields, YearSelectsAsMuchAsTheMakeIsLong)
     asset().txtMake.setText("AB");
     asset().cmbYear.setFocus();
     EXPECT_EQ(scene(), "10 frmAddUpDel: cmbYear [20]");
-    type("19");
-    EXPECT_EQ(asset().cmbYear.text(), "1926");
 }
 
 TEST_F(AssetFields, TakeTheirDefaultBackWhenTheyAreLeftEmpty)
@@ -34,37 +32,37 @@ TEST_F(AssetFields, TakeTheirDefaultBackWhenTheyAreLeftEmpty)
 
 TEST_F(AssetFields, ReceiptLocationIsEmptiedByTheFocusAndUnlockedByTheFirstKey)
 {
+    const auto receipt = [] { return contents(asset()).section(", ", 11, 12); };
     click(asset().optRecOnFile[1]);
-    EXPECT_THAT(contents(asset()).toStdString(), testing::HasSubstr("optRecOnFile(1) on, txtLoc=None locked"));
+    EXPECT_EQ(receipt(), "optRecOnFile(1) on, txtLoc=None locked");
     tab();
-    EXPECT_THAT(contents(asset()).toStdString(), testing::HasSubstr("optRecOnFile(0) on, txtLoc= locked"));
+    EXPECT_EQ(receipt(), "optRecOnFile(0) on, txtLoc= locked");
     type("D");
-    EXPECT_THAT(contents(asset()).toStdString(), testing::HasSubstr("txtLoc=D, "));
+    EXPECT_EQ(receipt(), "optRecOnFile(0) on, txtLoc=D");
 }
 
 TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
 {
+    const auto names = [] { return asset().cmbLoc.text() + ", " + asset().cmbCat.text(); };
     pick(asset().cmbLoc, "Library");
     type("xyz");
     press(Qt::Key_Delete);
     paste("Attic");
-    EXPECT_EQ(asset().cmbLoc.text(), "Library");
+    EXPECT_EQ(names(), "Library, ");
     press(Qt::Key_Down);
-    EXPECT_EQ(asset().cmbLoc.text(), "Linen Closet");
-
     pick(asset().cmbCat, "Antiques");
     press(Qt::Key_Down); // refused
-    EXPECT_EQ(asset().cmbCat.text(), "Antiques");
+    EXPECT_EQ(names(), "Linen Closet, Antiques");
     press(Qt::Key_Down, Qt::AltModifier); // the list opens all the same
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    EXPECT_EQ(asset().cmbCat.text(), "Appliances");
+    EXPECT_EQ(names(), "Linen Closet, Appliances");
     tab();
     type("Elephant's Foot");
     EXPECT_EQ(asset().cmbType.text(), "Elephant's Foot");
     pick(asset().cmbLoc, "< Add/Edit Location >");
-    EXPECT_EQ(editor().SavedLocation, "Linen Closet"); // the last real name
-    EXPECT_EQ(editor().SavedCategory, "Appliances");
+    const auto& editor = forms::screen<frmAddField>();
+    EXPECT_EQ(editor.SavedLocation + ", " + editor.SavedCategory, "Linen Closet, Appliances"); // the last real names
     EXPECT_EQ(asset().ListInEdit, "Location");
 }
 

@@ -30,6 +30,10 @@ protected:
     static void refuseWrites(const QByteArray& statement, const QByteArray& table);
     static void makeRoom(const QByteArray& table);
 
+    /// The window of the report that is open, or none; the key that closes it, with the screen behind it in front again.
+    static QWidget* reportWindow();
+    static void closeReport();
+
     QString databaseFile() const { return folder_.filePath(QStringLiteral("C_db/KTL.db")); }
     QString backupFolder() const { return folder_.filePath(QStringLiteral("Backup")); }
 
