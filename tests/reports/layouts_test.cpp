@@ -7,6 +7,8 @@
 #include "support/harness.h"
 #include "support/pdf_text.h"
 
+#include <QDir>
+#include <QProgressDialog>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -92,18 +94,27 @@ std::vector<Placed> together(std::span<const Placed> texts, std::span<const Pair
 
 class ReportLayouts : public ScreenTest {
 protected:
-    pdf::Page printed(const report::Layout& layout, const storage::TableView& view, QPageSize::PageSizeId paper)
+    static report::Pages pagesOf(
+        const report::Layout& layout, const storage::TableView& view, QPageSize::PageSizeId paper)
     {
         auto document = std::make_shared<report::Document>();
         document->layout = layout;
         document->rows = std::make_shared<SnapshotRows>(view.snapshot());
         document->moment = {"11/24/2026", "9:05:00 AM"};
-        const QString path = folder_.filePath("report.pdf");
-        const report::Pages pages(document, {QPageSize(paper)});
-        EXPECT_EQ(report::savePdf(pages, path), report::Outcome::Done);
-        const std::vector<pdf::Page> read = pdf::read(path);
-        EXPECT_EQ(read.size(), 1);
-        return read.at(0);
+        return {document, {QPageSize(paper)}};
+    }
+
+    std::vector<pdf::Page> printed(const report::Pages& pages)
+    {
+        EXPECT_EQ(report::savePdf(pages, path_), report::Outcome::Done);
+        std::vector<pdf::Page> read = pdf::read(path_);
+        EXPECT_EQ(static_cast<int>(read.size()), pages.count());
+        return read;
+    }
+
+    pdf::Page printed(const report::Layout& layout, const storage::TableView& view, QPageSize::PageSizeId paper)
+    {
+        return printed(pagesOf(layout, view, paper)).at(0);
     }
 
     static double edgeOf(const QRectF& place, Side side)
@@ -138,7 +149,8 @@ protected:
 
     static double middleOf(QPageSize::PageSizeId paper) { return report::Paper{QPageSize(paper)}.size().width() / 2; }
 
-    QTemporaryDir folder_;
+    const QTemporaryDir folder_;
+    const QString path_ = folder_.filePath("report.pdf");
 };
 
 TEST_F(ReportLayouts, AssetReportStandsAsPrescribed)
@@ -205,6 +217,47 @@ TEST_F(ReportLayouts, LongValuesStayInTheirFields)
                 << word.text.toStdString();
         }
     EXPECT_EQ(placesOf(page, "$123,456,789.00").size(), 1);
+}
+
+// The file holds the letters of such a script one by one, in the forms that they have beside each other.
+TEST_F(ReportLayouts, ScriptsFromRightToLeftStandWholeInTheirFields)
+{
+    const std::tuple<QString, double, double> values[] = {
+        {QString::fromUtf8("שלוםעולם"), 1770, detail + 405}, {QString::fromUtf8("خزانة"), 4845, detail + 690}};
+    addRow(Data1.rsPrint, {{Print::Location, QString::fromUtf8("שלום עולם")}, {Print::Model, std::get<0>(values[1])}});
+    const pdf::Page page = printed(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
+    for (const auto& [text, left, top] : values) {
+        const QRectF field(middleOf(QPageSize::Letter) - 5445 + left, 720 + top, 2100, 285);
+        std::map<double, QString> fromTheRight;
+        for (const pdf::Word& word : page.words)
+            if (field.contains(word.place.center()))
+                fromTheRight[-word.place.left()] = word.text;
+        QString read;
+        for (const auto& [place, letters] : fromTheRight)
+            read += letters.normalized(QString::NormalizationForm_KC);
+        EXPECT_EQ(read, text);
+    }
+}
+
+TEST_F(ReportLayouts, AThousandAssetsAreCountedOnEachPageAndLeaveNoFileWhenTheUserCancels)
+{
+    for (int number = 1; number <= 1000; ++number)
+        addRow(Data1.rsPrint, Print::ID, {QString::number(number), "Indoor", "Attic", "Art", "Vase"});
+    const report::Pages pages = pagesOf(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
+    QWidget window;
+    report::ProgressWindow dialog("Saving...", pages.count(), &window);
+    const auto cancelled = report::savePdf(pages, path_, [&, progress = dialog.progress()](int done) {
+        if (done == 100)
+            window.findChild<QProgressDialog*>()->cancel();
+        return progress(done);
+    });
+    EXPECT_EQ(cancelled, report::Outcome::Cancelled);
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+
+    const std::vector<pdf::Page> read = printed(pages);
+    ASSERT_EQ(read.size(), 167); // of six assets
+    for (std::size_t page = 0; page < read.size(); ++page)
+        EXPECT_TRUE(read[page].text().contains(QString("Page: %1 Total Pages: 167 ").arg(page + 1))) << page;
 }
 
 } // namespace

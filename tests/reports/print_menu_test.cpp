@@ -7,9 +7,6 @@
 #include "search/frmSearch.h"
 #include "support/harness.h"
 
-#include <QApplication>
-#include <QTest>
-
 using forms::screen;
 
 namespace {
@@ -23,44 +20,22 @@ protected:
         EXPECT_EQ(scene().section(':', 0, 0), "3 frmPrint");
     }
 
-    void TearDown() override
-    {
-        closeReport();
-        ScreenTest::TearDown();
-    }
-
     static frmPrint& menu() { return screen<frmPrint>(); }
-
-    static QWidget* reportWindow()
-    {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (QStringList({"AssetReport", "CoverSheet", "FillOutForm"}).contains(window->objectName())
-                && window->isVisible())
-                return window;
-        return nullptr;
-    }
-
     static QString title() { return reportWindow() ? reportWindow()->windowTitle() : QString(); }
 
-    static void closeReport()
-    {
-        if (QWidget* window = reportWindow()) {
-            window->activateWindow();
-            settle();
-            QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
-        }
-        settle();
-        forms::activeForm()->window()->activateWindow(); // as a window manager does
-        settle();
-        EXPECT_FALSE(reports::AssetReport().isVisible());
-    }
-
-    // The rows that are staged, and the boxes of a run.
+    // The rows that are staged, and the window in which they are shown.
     static void expectStaged(const QString& types, bool custom)
     {
         EXPECT_EQ(columnOf(Data1.rsPrint, Print::Type).join(' '), types);
         EXPECT_EQ(reports::AssetReport().isVisible(), !types.isEmpty());
         EXPECT_EQ(menu().CustomPrint, custom);
+    }
+
+    static void expectFocus(const forms::Control& button, bool progress)
+    {
+        EXPECT_EQ(menu().activeControl(), &button);
+        EXPECT_EQ(screen<frmSearch>().pbSearch.isVisible(), progress);
+        EXPECT_EQ(screen<frmSearch>().lblHead[3].isVisible(), !progress);
     }
 };
 
@@ -87,28 +62,25 @@ TEST_F(PrintMenu, StagesTheAssetsOfAnAreaAndOpensTheReport)
 
     click(menu().cmdOutPrint[2]);
     expectStaged("Rake", true);
-    EXPECT_EQ(menu().activeControl(), &menu().cmdOutPrint[2]);
-    EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
-    EXPECT_TRUE(screen<frmSearch>().lblHead[3].isVisible());
+    expectFocus(menu().cmdOutPrint[2], false);
     closeReport();
 
     clickTold(menu().cmdAutoPrint[1], "           No Assets Found To Print!", Exclamation);
     expectStaged("", false);
-    EXPECT_EQ(menu().activeControl(), &menu().cmdAutoPrint[1]);
+    expectFocus(menu().cmdAutoPrint[1], false);
 }
 
 TEST_F(PrintMenu, StagesAllInTheOrderOfTheInventory)
 {
     clickTold(menu().cmdAllPrint[3], "             No Assets Found To Print!", Exclamation);
-    EXPECT_TRUE(screen<frmSearch>().pbSearch.isVisible()); // until the next run
     expectStaged("", false);
+    expectFocus(menu().cmdAllPrint[3], true); // until the next run
     addAssetRow({"Mobile", "", "", "Kayak"});
     addAssetRow({"Indoor", "", "", "Desk"});
     Data1.rsInventory.Sort("Type");
     accessKey('a');
     expectStaged("Desk Kayak", true);
-    EXPECT_EQ(menu().activeControl(), &menu().cmdAllPrint[3]);
-    EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
+    expectFocus(menu().cmdAllPrint[3], false);
 
     click(menu().cmdBack[0]);
     expectStaged("Desk Kayak", false); // a window of its own
@@ -144,19 +116,28 @@ TEST_F(PrintMenu, SearchesForACustomPrintout)
     EXPECT_EQ(screen<frmSearch>().lblHead[0].caption(), "Search For Assets To Print");
 }
 
-// A failed opening is told by each button but All, where it is uncaught.
+// A run that fails is told by each button but All, where it is uncaught, and opens no report.
 TEST_F(PrintMenu, TellsWhatFails)
 {
-    addAssetRow({"Indoor"});
-    Data1.rsGeneral.Delete(); // the household whose reports they are
-    for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdCover[0], &menu().cmdFillOutForm[0]}) {
-        clickTold(*button, "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", Stop);
-        EXPECT_FALSE(reportedFailure());
-    }
+    const char* const error = "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!";
+    for (const char* area : {"Indoor", "Outdoor", "Mobile"})
+        addAssetRow({area});
+    refuseWrites("INSERT", "Print");
+    for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdOutPrint[2], &menu().cmdAutoPrint[1]})
+        clickTold(*button, error, Stop);
     EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
     click(menu().cmdAllPrint[3]);
+    EXPECT_EQ(failedHandler(), "frmPrint.cmdAllPrint(3)_Click");
+    EXPECT_EQ(Data1.rsPrint.RecordCount(), 0);
+    makeRoom("Print");
+
+    Data1.rsGeneral.Delete(); // the household whose reports they are
+    for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdCover[0], &menu().cmdFillOutForm[0]})
+        clickTold(*button, error, Stop);
+    click(menu().cmdAllPrint[3]);
     EXPECT_TRUE(reportedFailure());
-    EXPECT_FALSE(reports::AssetReport().isVisible());
+    EXPECT_FALSE(reportWindow());
+    EXPECT_EQ(Data1.rsInventory.RecordCount(), 3);
 }
 
 } // namespace
