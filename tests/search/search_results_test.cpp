@@ -19,10 +19,8 @@ protected:
             + (results().cmdPrevious.isEnabled() ? " previous" : "") + (results().cmdNext.isEnabled() ? " next" : "");
     }
 
-    static void expectFocus(const forms::Control& control)
-    {
-        EXPECT_EQ(results().activeControl(), &control) << qPrintable(results().activeControl()->name());
-    }
+    // And with the control that has the focus.
+    static QString place() { return page() + ", " + results().activeControl()->name(); }
 
     // As the asset screen does when it is left.
     static void comeBack()
@@ -41,8 +39,7 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
     addAssetRow({"Outdoor", "Barn", "Art", "Gnome", "2001", "Bolt", "M3"});
     find("2020");
     EXPECT_EQ(scene(), "5 frmSearchResults: cmdBack");
-    EXPECT_EQ(results().lblRecsFound.caption(), "2 Assets Found!");
-    EXPECT_EQ(page(), "Page 1 of 1: 1-2");
+    EXPECT_EQ(results().lblRecsFound.caption() + page(), "2 Assets Found!Page 1 of 1: 1-2");
     const std::pair<const frmSearchResults::ResultColumn&, QString> columns[] = {{results().txtMore, "Update"},
         {results().txtItem, "2"}, {results().txtArea, "Indoor"}, {results().txtLocation, "Attic"},
         {results().txtType, "Item 2"}, {results().txtYear, "2020"}, {results().txtMake, make},
@@ -60,7 +57,7 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
 
     click(results().cmdBack);
     type("bolt\n");
-    EXPECT_EQ(results().txtMake[0].text(), "Bolt");
+    EXPECT_EQ(results().txtMake[0].text() + results().lblRecsFound.caption(), "Bolt1 Asset Found!");
     for (const auto& [boxes, text] : columns) {
         EXPECT_EQ(boxes[1].text(), "");
         EXPECT_EQ(boxes[1].isVisible(), &boxes != &results().txtMore) << text.toStdString();
@@ -78,23 +75,21 @@ TEST_F(SearchResults, TurnsPagesForwardAndBack)
 
     addAssets(11);
     findAll();
-    EXPECT_EQ(page(), "Page 1 of 3: 1-10 next");
-    results().cmdNext.setFocus();
-    press(Qt::Key_Space);
-    EXPECT_EQ(page(), "Page 2 of 3: 11-20 previous next");
-    EXPECT_EQ(results().txtType[0].text(), "Item 1");
-    press(Qt::Key_Space);
-    EXPECT_EQ(page(), "Page 3 of 3: 21-21 previous");
-    EXPECT_EQ(results().txtYear[1].text(), "");
-    expectFocus(results().cmdPrevious); // the next press does not leave the screen
-    accessKey('v');
-    EXPECT_EQ(page(), "Page 2 of 3: 11-20 previous next");
-    press(Qt::Key_Return);
-    EXPECT_EQ(page(), "Page 1 of 3: 1-10 next");
-    expectFocus(results().cmdNext);
-    click(results().cmdNext);
-    click(results().lblSubHead[5]);
-    EXPECT_EQ(page(), "Page 1 of 3: 1-10 next");
+    // A button that is off has handed the focus on, so that the next press does not leave the screen.
+    const std::pair<std::function<void()>, QString> steps[] = {
+        {[] { results().cmdNext.setFocus(); }, "Page 1 of 3: 1-10 next, cmdNext"},
+        {[] { press(Qt::Key_Space); }, "Page 2 of 3: 11-20 previous next, cmdNext"},
+        {[] { press(Qt::Key_Space); }, "Page 3 of 3: 21-21 previous, cmdPrevious"},
+        {[] { accessKey('v'); }, "Page 2 of 3: 11-20 previous next, cmdPrevious"},
+        {[] { press(Qt::Key_Return); }, "Page 1 of 3: 1-10 next, cmdNext"},
+        {[] { click(results().cmdNext); }, "Page 2 of 3: 11-20 previous next, cmdNext"},
+        {[] { click(results().lblSubHead[5]); }, "Page 1 of 3: 1-10 next, cmdNext"},
+    };
+    for (const auto& [step, expected] : steps) {
+        step();
+        EXPECT_EQ(place(), expected);
+    }
+    EXPECT_EQ(results().txtType[9].text() + results().txtYear[9].text(), "Item 102020");
     click(results().cmdMain);
 
     Data1.rsInventory.MoveFirst();
@@ -107,38 +102,31 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
 {
     addAssets(13);
     findAll();
-    expectFocus(results().cmdNext);
-    press(Qt::Key_Up);
-    expectFocus(results().txtMore[9]);
-    press(Qt::Key_Down);
-    expectFocus(results().txtMore[9]);
-    press(Qt::Key_PageUp); // there is none before the first
-    press(Qt::Key_PageDown);
-    EXPECT_EQ(page(), "Page 2 of 2: 11-13 previous");
-    press(Qt::Key_Down);
-    expectFocus(results().txtMore[0]);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    expectFocus(results().txtMore[2]);
-    press(Qt::Key_Up);
+    const std::pair<std::vector<Qt::Key>, QString> steps[] = {
+        {{}, "Page 1 of 2: 1-10 next, cmdNext"},
+        {{Qt::Key_Up}, "Page 1 of 2: 1-10 next, txtMore(9)"},
+        {{Qt::Key_Down}, "Page 1 of 2: 1-10 next, txtMore(9)"},
+        {{Qt::Key_PageUp, Qt::Key_PageDown}, "Page 2 of 2: 11-13 previous, cmdPrevious"},
+        {{Qt::Key_Down}, "Page 2 of 2: 11-13 previous, txtMore(0)"},
+        {{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}, "Page 2 of 2: 11-13 previous, txtMore(2)"},
+        {{Qt::Key_Up, Qt::Key_PageUp}, "Page 1 of 2: 1-10 next, txtMore(1)"},
+        {{Qt::Key_Space, Qt::Key_X}, "Page 1 of 2: 1-10 next, txtMore(1)"},
+    };
+    for (const auto& [keys, expected] : steps) {
+        for (const Qt::Key key : keys)
+            press(key);
+        EXPECT_EQ(place(), expected);
+    }
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 5001);
-    press(Qt::Key_PageUp);
-    EXPECT_EQ(page(), "Page 1 of 2: 1-10 next");
-    expectFocus(results().txtMore[1]);
-    press(Qt::Key_Space);
-    type("x");
-    EXPECT_EQ(forms::activeForm(), &results());
     press(Qt::Key_Right);
     press(Qt::Key_Right);
     EXPECT_EQ(results().SortColumn, 2);
     press(Qt::Key_Left);
     press(Qt::Key_Left); // there is none before the first
     EXPECT_EQ(results().SortColumn, 1);
-    expectFocus(results().txtMore[1]);
+    EXPECT_EQ(place(), "Page 1 of 2: 1-10 next, txtMore(1)");
     tab();
-    expectFocus(results().cmdNext);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_EQ(forms::activeForm(), &screen<frmAddUpDel>());
@@ -176,15 +164,38 @@ TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPa
 
     click(results().cmdBack);
     type("item 11\n");
-    EXPECT_EQ(results().lblRecsFound.caption(), "1 Asset Found!");
     click(results().txtMore[0]);
     put(Data1.rsInventory, {{Inventory::Type, "Gone"}});
     comeBack();
     EXPECT_EQ(shown(results().txtItem), QStringList());
     EXPECT_EQ(results().lblRecsFound.caption() + results().lblPage.caption(), "1 Asset Found!Page 1 of 1");
-    EXPECT_FALSE(search().pbSearch.isVisible());
+    EXPECT_FALSE(isProgressShown());
     press(Qt::Key_Down);
     EXPECT_EQ(forms::activeForm(), &results());
+}
+
+// A search is no report, and goes on behind the one that is open.
+TEST_F(SearchResults, ArePrintedAsTheyAreSortedWhileNoOtherReportIsOpen)
+{
+    addAssets(3);
+    findAll();
+    const auto refuse = [this](const QString& text, int flags) { clickTold(results().cmdPrint, text, flags); };
+    click(results().lblSubHead[3]);
+    click(results().cmdPrint);
+    const QWidget* const report = reportWindow();
+    click(results().cmdBack);
+    type("item 2\n");
+    EXPECT_EQ(scene().section(':', 0, 0) + staged(Print::Type).join(' '), "5 frmSearchResultsItem 2");
+    refuse("Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
+    EXPECT_TRUE(report && report == reportWindow());
+    closeReport();
+    EXPECT_EQ(staged(Print::Type), QStringList("Item 2"));
+    click(results().cmdPrint);
+    EXPECT_TRUE(reportWindow());
+    closeReport();
+    Data1.rsGeneral.Delete(); // the household whose report it is
+    refuse("Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", Stop);
+    EXPECT_FALSE(reportWindow());
 }
 
 } // namespace

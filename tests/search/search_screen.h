@@ -73,9 +73,9 @@ protected:
         return texts;
     }
 
-    static void expectProgressHidden()
+    static bool isProgressShown()
     {
-        EXPECT_FALSE(search().pbSearch.isVisible());
-        EXPECT_TRUE(search().lblHead[3].isVisible());
+        EXPECT_EQ(search().lblHead[3].isVisible(), !search().pbSearch.isVisible());
+        return search().pbSearch.isVisible();
     }
 };
