@@ -56,10 +56,10 @@ void ScreenTest::openData()
         view->Open();
 }
 
-void ScreenTest::refuseWrites(const QByteArray& statement, const QByteArray& table)
+void ScreenTest::refuseWrites(const QByteArray& statement, const QByteArray& table, const QByteArray& rows)
 {
     storage::execute(Data1.Home.handle(),
-        "CREATE TEMP TRIGGER Refuse" + table + " BEFORE " + statement + " ON " + table
+        "CREATE TEMP TRIGGER Refuse" + table + " BEFORE " + statement + " ON " + table + " WHEN " + rows
             + " BEGIN SELECT RAISE(ABORT, 'no room'); END");
 }
 
