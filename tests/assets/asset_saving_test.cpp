@@ -83,36 +83,29 @@ TEST_F(AssetSaving, IndoorAloneIsClearedBeforeTheUserIsToldOfAnAssetWithANewName
 
 TEST_F(AssetSaving, SettlesTheReceiptLocation)
 {
-    const auto yes = [] { click(asset().optRecOnFile[0]); };
-    const auto no = [] { click(asset().optRecOnFile[1]); };
-    const auto noThenLocation = [] {
-        click(asset().optRecOnFile[1]);
-        click(asset().txtLoc);
-    };
-    const auto enter = [] { press(Qt::Key_Return); }; // in the box itself: it has not been left
-    const auto button = [] { click(asset().cmdAdd); };
-    const struct {
-        std::function<void()> choose;
-        const char* typed;
-        std::function<void()> save;
-        const char* stored;
-    } cases[] = {
-        {yes, "nOnE", button, "Yes None"},
-        {yes, "Desk", button, "Yes Desk"},
-        {yes, "", button, "Yes Unknown"}, // left empty
-        {no, "", button, "No None"},
-        {noThenLocation, "Desk", button, "Yes Not Specified"}, // "No" was stepped on last
-        {yes, "", enter, "Yes Not Specified"},
-        {noThenLocation, "", enter, "Yes None"},
+    enum Choice { Yes, No, NoThenLocation };
+    const std::tuple<Choice, const char*, bool, const char*> cases[] = {
+        {Yes, "nOnE", false, "Yes None"},
+        {Yes, "Desk", false, "Yes Desk"},
+        {Yes, "", false, "Yes Unknown"}, // left empty
+        {No, "", false, "No None"},
+        {NoThenLocation, "Desk", false, "Yes Not Specified"}, // "No" was stepped on last
+        {Yes, "", true, "Yes Not Specified"}, // by Enter in the box itself: it has not been left
+        {NoThenLocation, "", true, "Yes None"},
     };
     openToAdd();
     setClearBox(false);
     fillIn();
-    for (const auto& [choose, typed, save, location] : cases) {
-        choose();
+    for (const auto& [choice, typed, byEnter, location] : cases) {
+        click(asset().optRecOnFile[choice == Yes ? 0 : 1]);
+        if (choice == NoThenLocation)
+            click(asset().txtLoc);
         type(typed);
         expectBox(Added, Information);
-        save();
+        if (byEnter)
+            press(Qt::Key_Return);
+        else
+            click(asset().cmdAdd);
         EXPECT_EQ(stored(Inventory::Receipt) + " " + stored(Inventory::ReceiptLocation), location) << typed;
     }
 }
