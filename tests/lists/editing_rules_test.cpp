@@ -10,8 +10,7 @@ namespace {
 using ListEditors = ListEditorsTest;
 
 constexpr const char* LocationChanged = "Your Indoor Location Has Been Changed!";
-constexpr const char* LocationAdded = " Your Indoor Location Has Been Added!";
-constexpr const char* CategoryAdded = " Your Indoor Category Has Been Added!";
+const QString NameAdded = " Your Indoor %1 Has Been Added!";
 
 TEST_F(ListEditors, MenuWantsAnOptionEachTimeAndHasResetTheEditorsByThen)
 {
@@ -55,7 +54,7 @@ TEST_F(ListEditors, CancelledMenuListsTheNameOfAnAddOnceMore)
     const auto addAndCancelTheMenu = [this](const QString& kind, const QString& name) {
         open(Add, "Indoor", kind);
         type(name);
-        add(" Your Indoor " + kind + " Has Been Added!");
+        add(NameAdded.arg(kind));
         clickTold(adding().cmdCancel, LeaveEditor, YesNoQuestion, Answer::Yes);
         pickMarker(kind);
         click(menu().cmdCancel);
@@ -71,6 +70,10 @@ TEST_F(ListEditors, CancelledMenuListsTheNameOfAnAddOnceMore)
 
 TEST_F(ListEditors, AHeadingOfNoListCountsAsItemsWhichNoEditorTouches)
 {
+    const auto openAgain = [](Option option) {
+        menu().show();
+        choose(option);
+    };
     openToAdd();
     pickMarker("Location");
     menu().lblHead.setCaption("Add/Edit Outdoor Location"); // not of the asset's area
@@ -78,29 +81,17 @@ TEST_F(ListEditors, AHeadingOfNoListCountsAsItemsWhichNoEditorTouches)
     EXPECT_EQ(adding().lblHead.caption(), "Add Indoor Item");
     type("Bell");
     click(adding().cmdUpdate);
-    asset().ListInEdit = "Item";
     asset().cmbType.addItem("BELL");
-    menu().lblHead.setCaption("Add/Edit Indoor Item");
-    menu().show();
-    click(menu().cmdCancel);
-    EXPECT_EQ(itemsOf(asset().cmbType), QStringList({"BELL", "Bell"}));
-    menu().show();
-    choose(Delete);
+    openAgain(Delete);
     EXPECT_EQ(deleting().lblChoice.caption(), "Item");
     deleting().cmbCat.setText("Bell");
     click(deleting().cmdUpdate); // doesn't ask
-    EXPECT_EQ(deleting().cmbCat.text(), "");
-    menu().show();
-    choose(Change);
-    EXPECT_EQ(itemsOf(changing().cmbCat), QStringList({"BELL", "Bell"}));
-    changing().cmbCat.setText("Bells");
+    openAgain(Change);
+    changing().cmbCat.setText("Bell");
     type(changing().txtNew, "Chimes");
     click(changing().cmdUpdate);
     EXPECT_EQ(usersRows(), QStringList());
-    addNames(Data1.rsIndoor, {"0", "Bells", "Handbell"});
-    addNames(Data1.rsIndoor, {"0", "BELLS", "Doorbell"});
-    changing().reload_Combo_Boxes();
-    EXPECT_EQ(itemsOf(asset().cmbType), QStringList({"< Add/Edit Item >", "Handbell"}));
+    EXPECT_EQ(itemsOf(asset().cmbType), QStringList("BELL"));
 }
 
 TEST_F(ListEditors, AddRefusesWhatIsEmptyOrBlankInOtherRows)
@@ -113,7 +104,7 @@ TEST_F(ListEditors, AddRefusesWhatIsEmptyOrBlankInOtherRows)
         adding().txtAdd.setFocus();
         adding().txtAdd.selectAll();
         paste(name);
-        add(LocationAdded);
+        add(NameAdded.arg("Location"));
         EXPECT_EQ(adding().txtAdd.backColour(), forms::look::colours().field);
     }
     EXPECT_EQ(usersRows().join('\n'), names.join("|0|0\n") + "|0|0");
@@ -127,7 +118,7 @@ TEST_F(ListEditors, AddRefusesWhatIsEmptyOrBlankInOtherRows)
     adding().txtAdd.setFocus();
     paste(QString(300, 'x'));
     removeRows(Data1.rsIndoor);
-    add(CategoryAdded);
+    add(NameAdded.arg("Category"));
     EXPECT_EQ(usersRows(), QStringList("0|" + QString(254, 'x') + "|0"));
 }
 
@@ -182,12 +173,6 @@ TEST_F(ListEditors, ChangeLearnsNothingInATableWithoutRowsAndChangesTheAssets)
     EXPECT_EQ(Data1.rsIndoor.RecordCount(), 0);
     EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Location), QStringList("Spire"));
     EXPECT_EQ(itemsOf(asset().cmbLoc), QStringList("< Add/Edit Location >"));
-
-    addNames(Data1.rsIndoor, {"Spire", "0", "0"}); // the only row goes before the name is looked for
-    pickMarker("Location");
-    choose(Change);
-    change("Spire", "Tower", LocationChanged);
-    EXPECT_EQ(usersRows(), QStringList("Tower|0|0"));
 }
 
 TEST_F(ListEditors, DeleteRefusesAStandardNameThatAUserAndAnAssetHaveToo)
@@ -195,16 +180,13 @@ TEST_F(ListEditors, DeleteRefusesAStandardNameThatAUserAndAnAssetHaveToo)
     addNames(Data1.rsIndoor, {"Library", "0", "0"});
     addAsset("Indoor", "Library", "Antiques");
     open(Delete);
-    deleting().cmbCat.setFocus();
-    paste(QString(300, 'x'));
-    EXPECT_EQ(deleting().cmbCat.text().size(), 255);
     remove("Indoor Location", "Library",
         "Location Can Not Be Deleted...You Can Only Delete A Location That You Have Added!");
+    deleting().cmbCat.setFocus();
+    deleting().cmbCat.selectAll();
+    paste(QString(300, 'x'));
+    EXPECT_EQ(deleting().cmbCat.text(), QString(255, 'x'));
     expectToStay([] { closeBox(deleting()); }, LeaveEditor);
-    removeRows(Data1.rsIndoor);
-    removeRows(Data1.rsInventory);
-    remove("Indoor Location", "Library", "Your Indoor Location Has Been Deleted!");
-    EXPECT_EQ(forms::activeForm(), &asset());
 }
 
 TEST_F(ListEditors, AFullDiskInTheMidstOfAChangeLeavesWholeRows)
