@@ -58,10 +58,8 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
     click(results().cmdBack);
     type("bolt\n");
     EXPECT_EQ(results().txtMake[0].text() + results().lblRecsFound.caption(), "Bolt1 Asset Found!");
-    for (const auto& [boxes, text] : columns) {
-        EXPECT_EQ(boxes[1].text(), "");
-        EXPECT_EQ(boxes[1].isVisible(), &boxes != &results().txtMore) << text.toStdString();
-    }
+    for (const auto& [boxes, text] : columns)
+        EXPECT_TRUE(boxes[1].text().isEmpty() && boxes[1].isVisible() == (text != "Update")) << text.toStdString();
 }
 
 TEST_F(SearchResults, TurnsPagesForwardAndBack)
@@ -117,15 +115,15 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
             press(key);
         EXPECT_EQ(place(), expected);
     }
+    const std::pair<Qt::Key, int> sorts[] = {
+        {Qt::Key_Right, 1}, {Qt::Key_Right, 2}, {Qt::Key_Left, 1}, {Qt::Key_Left, 1}}; // there is none before the first
+    for (const auto& [key, column] : sorts) {
+        press(key);
+        EXPECT_EQ(results().SortColumn, column);
+    }
+    EXPECT_EQ(place(), "Page 1 of 2: 1-10 next, txtMore(1)");
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 5001);
-    press(Qt::Key_Right);
-    press(Qt::Key_Right);
-    EXPECT_EQ(results().SortColumn, 2);
-    press(Qt::Key_Left);
-    press(Qt::Key_Left); // there is none before the first
-    EXPECT_EQ(results().SortColumn, 1);
-    EXPECT_EQ(place(), "Page 1 of 2: 1-10 next, txtMore(1)");
     tab();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
@@ -145,11 +143,8 @@ TEST_F(SearchResults, OpensTheAssetOfItsRowForUpdateUnlessItsIdIsOfMoreThan16Bit
     EXPECT_EQ(Data1.rsInventory.RecordCount(), 3);
     click(results().txtMore[1]);
     const auto& asset = screen<frmAddUpDel>();
-    EXPECT_EQ(scene(), "10 frmAddUpDel: cmbArea");
-    EXPECT_EQ(results().SelectedAsset + asset.cmbType.text(), "32767Item 1");
-    EXPECT_EQ(asset.AssetKey, 32767);
-    EXPECT_EQ(asset.defaultButton(), &asset.cmdUpdate);
-    EXPECT_TRUE(menu().FromResults);
+    EXPECT_EQ(scene() + asset.cmbType.text() + results().SelectedAsset, "10 frmAddUpDel: cmbAreaItem 132767");
+    EXPECT_TRUE(asset.AssetKey == 32767 && asset.defaultButton() == &asset.cmdUpdate && menu().FromResults);
 }
 
 TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPage)

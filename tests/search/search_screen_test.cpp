@@ -10,12 +10,13 @@ namespace {
 
 class SearchWays : public SearchScreenTest {
 protected:
+    SearchWays() { addAssets(1); }
+
     static void leaveTo(const forms::Form& form)
     {
         accessKey('c');
         EXPECT_EQ(forms::activeForm(), &form);
-        EXPECT_FALSE(search().isVisible());
-        EXPECT_EQ(search().activeControl(), &search().cmdContinue);
+        EXPECT_TRUE(!search().isVisible() && search().activeControl() == &search().cmdContinue);
     }
 
     // An area that a menu has chosen is off.
@@ -28,18 +29,8 @@ protected:
     }
 };
 
-TEST_F(SearchWays, WithoutAssetsNothingIsSearchedAndNothingChanges)
-{
-    menu().FromMenu = false;
-    expectBox("There Are No Available Assets To Search...Please Add An Asset Before Continuing!", Information);
-    openFromMenu();
-    EXPECT_EQ(forms::activeForm(), &menu());
-    EXPECT_FALSE(menu().FromMenu);
-}
-
 TEST_F(SearchWays, EachMenuPreparesTheScreenAndGetsTheUserBack)
 {
-    addAssets(1);
     screen<frmPrint>().CustomPrint = true;
     openFromArea(&frmMain::cmdAuto);
     expectScreen("Search For Asset To Update", "Mobile off", "");
@@ -48,8 +39,7 @@ TEST_F(SearchWays, EachMenuPreparesTheScreenAndGetsTheUserBack)
     openFromMenu();
     expectScreen("Search For Assets", "Any", "");
     EXPECT_FALSE(menu().isVisible());
-    search().txtKey.setFocus();
-    type("lamp");
+    type(search().txtKey, "lamp");
     leaveTo(menu());
 
     menu().FromResults = true;
@@ -63,11 +53,16 @@ TEST_F(SearchWays, EachMenuPreparesTheScreenAndGetsTheUserBack)
     expectScreen("Search For Asset To Update", "Indoor off", "");
     EXPECT_TRUE(menu().FromResults);
     leaveTo(screen<frmAuto>());
+
+    removeRows(Data1.rsInventory);
+    expectBox("There Are No Available Assets To Search...Please Add An Asset Before Continuing!", Information);
+    openFromMenu();
+    EXPECT_EQ(forms::activeForm(), &menu());
+    EXPECT_FALSE(menu().FromMenu);
 }
 
 TEST_F(SearchWays, TabGoesThroughTheScreenF1ToItsHelpAndResetFreesTheArea)
 {
-    addAssets(1);
     openFromArea(&frmMain::cmdIn);
     search().txtKey.setFocus();
     paste(QString(300, u'x'));
@@ -76,12 +71,12 @@ TEST_F(SearchWays, TabGoesThroughTheScreenF1ToItsHelpAndResetFreesTheArea)
     EXPECT_EQ(scene(), "4 frmSearch: txtKey [" + QString(254, u'x') + "]");
     QStringList order;
     for (int stop = 0; stop < 7; ++stop) {
-        press(Qt::Key_F1);
-        EXPECT_EQ(openedHelp(), 4001);
         tab();
         order += search().activeControl()->name();
     }
     EXPECT_EQ(order.join(' '), "cmbLocation cmbCat cmbType cmdBack cmdClearForm cmdContinue txtKey");
+    press(Qt::Key_F1);
+    EXPECT_EQ(openedHelp(), 4001);
     click(search().cmdClearForm);
     expectScreen("Search For Asset To Update", "Any", "");
     EXPECT_EQ(scene(), "4 frmSearch: txtKey");
@@ -89,7 +84,6 @@ TEST_F(SearchWays, TabGoesThroughTheScreenF1ToItsHelpAndResetFreesTheArea)
 
 TEST_F(SearchWays, TheCloseBoxOfBothScreensAsksBeforeTheProgramCloses)
 {
-    addAssets(1);
     openFromMenu();
     expectToStay([] { closeBox(search()); });
     type("acme\n");
@@ -105,11 +99,10 @@ protected:
         storage::Transaction atOnce(Data1.Home.handle());
         for (storage::TableView* table : {&Data1.rsIndoor, &Data1.rsOutdoor, &Data1.rsMobile}) {
             removeRows(*table);
-            for (const QStringList& names :
-                {QStringList{"< Add/Edit Location >", "< Add/Edit Category >", "< Add/Edit Item >"}, {"shed", "0", "0"},
-                    {"Attic", "Art", "Vase"}, {"SHED", "tools", "Saw"}, {"2nd", "Tools", "saw"},
-                    {"0", "ART", "< Add/Edit Item >"}, {"0", "Art", "10th"}, {"0", "Art", "2nd"}})
-                addNames(*table, names);
+            for (const char* names :
+                {"< Add/Edit Location >|< Add/Edit Category >|< Add/Edit Item >", "shed|0|0", "Attic|Art|Vase",
+                    "SHED|tools|Saw", "2nd|Tools|saw", "0|ART|< Add/Edit Item >", "0|Art|10th", "0|Art|2nd"})
+                addNames(*table, QString(names).split('|'));
         }
         atOnce.commit();
         openFromMenu();
@@ -121,8 +114,7 @@ protected:
         search().txtKey.setFocus();
         expectBox(message, Exclamation);
         clickArrow(box);
-        EXPECT_FALSE(isListOpen());
-        EXPECT_EQ(search().activeControl(), &instead) << qPrintable(message);
+        EXPECT_TRUE(!isListOpen() && search().activeControl() == &instead) << qPrintable(message);
     }
 
     forms::ComboBox& area = search().cmbArea;
@@ -198,7 +190,6 @@ TEST_F(SearchLists, NothingCanBeTypedButTheAreaFallsBackToAny)
     type("x");
     EXPECT_EQ(area.text(), "Any");
     press(Qt::Key_Down);
-    EXPECT_EQ(area.text(), "Indoor");
     press(Qt::Key_Down); // locked until its list opens
     type("x");
     press(Qt::Key_Backspace);
