@@ -68,32 +68,6 @@ TEST_F(ListEditors, CancelledMenuListsTheNameOfAnAddOnceMore)
     EXPECT_EQ(usersRows(), QStringList({"Tower|0|0", "0|007|0", "0|Bells|0"}));
 }
 
-TEST_F(ListEditors, AHeadingOfNoListCountsAsItemsWhichNoEditorTouches)
-{
-    const auto openAgain = [](Option option) {
-        menu().show();
-        choose(option);
-    };
-    openToAdd();
-    pickMarker("Location");
-    menu().lblHead.setCaption("Add/Edit Outdoor Location"); // not of the asset's area
-    choose(Add);
-    EXPECT_EQ(adding().lblHead.caption(), "Add Indoor Item");
-    type("Bell");
-    click(adding().cmdUpdate);
-    asset().cmbType.addItem("BELL");
-    openAgain(Delete);
-    EXPECT_EQ(deleting().lblChoice.caption(), "Item");
-    deleting().cmbCat.setText("Bell");
-    click(deleting().cmdUpdate); // doesn't ask
-    openAgain(Change);
-    changing().cmbCat.setText("Bell");
-    type(changing().txtNew, "Chimes");
-    click(changing().cmdUpdate);
-    EXPECT_EQ(usersRows(), QStringList());
-    EXPECT_EQ(itemsOf(asset().cmbType), QStringList("BELL"));
-}
-
 TEST_F(ListEditors, AddRefusesWhatIsEmptyOrBlankInOtherRows)
 {
     open(Add);
@@ -162,31 +136,6 @@ TEST_F(ListEditors, ChangeRemovesTheUsersRowsWholeAndAddsTheNameUnlessAUsersRowH
             if (Data1.rsIndoor.Fields(Names::Standard) == 0)
                 Data1.rsIndoor.Delete();
     }
-}
-
-TEST_F(ListEditors, ChangeLearnsNothingInATableWithoutRowsAndChangesTheAssets)
-{
-    addAsset("Indoor", "Tower", "Bells");
-    open(Change);
-    removeRows(Data1.rsIndoor);
-    change("Tower", "Spire", LocationChanged);
-    EXPECT_EQ(Data1.rsIndoor.RecordCount(), 0);
-    EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Location), QStringList("Spire"));
-    EXPECT_EQ(itemsOf(asset().cmbLoc), QStringList("< Add/Edit Location >"));
-}
-
-TEST_F(ListEditors, DeleteRefusesAStandardNameThatAUserAndAnAssetHaveToo)
-{
-    addNames(Data1.rsIndoor, {"Library", "0", "0"});
-    addAsset("Indoor", "Library", "Antiques");
-    open(Delete);
-    remove("Indoor Location", "Library",
-        "Location Can Not Be Deleted...You Can Only Delete A Location That You Have Added!");
-    deleting().cmbCat.setFocus();
-    deleting().cmbCat.selectAll();
-    paste(QString(300, 'x'));
-    EXPECT_EQ(deleting().cmbCat.text(), QString(255, 'x'));
-    expectToStay([] { closeBox(deleting()); }, LeaveEditor);
 }
 
 TEST_F(ListEditors, AFullDiskInTheMidstOfAChangeLeavesWholeRows)

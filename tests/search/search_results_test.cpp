@@ -100,7 +100,7 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
 {
     addAssets(13);
     findAll();
-    const std::pair<std::vector<Qt::Key>, QString> steps[] = {
+    const std::pair<std::initializer_list<Qt::Key>, QString> steps[] = {
         {{}, "Page 1 of 2: 1-10 next, cmdNext"},
         {{Qt::Key_Up}, "Page 1 of 2: 1-10 next, txtMore(9)"},
         {{Qt::Key_Down}, "Page 1 of 2: 1-10 next, txtMore(9)"},
@@ -111,8 +111,7 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
         {{Qt::Key_Space, Qt::Key_X}, "Page 1 of 2: 1-10 next, txtMore(1)"},
     };
     for (const auto& [keys, expected] : steps) {
-        for (const Qt::Key key : keys)
-            press(key);
+        press(keys);
         EXPECT_EQ(place(), expected);
     }
     const std::pair<Qt::Key, int> sorts[] = {
@@ -124,9 +123,7 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
     EXPECT_EQ(place(), "Page 1 of 2: 1-10 next, txtMore(1)");
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 5001);
-    tab();
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
+    press({Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return});
     EXPECT_EQ(forms::activeForm(), &screen<frmAddUpDel>());
     EXPECT_EQ(results().SelectedAsset, "1");
 }
