@@ -92,19 +92,16 @@ TEST_F(Warranty, IsFilledInTabOrderAndComesBackWithAmountsAsMoney)
 
 TEST_F(Warranty, EmptyTypeIsStoredAsUnknownAndCountsAsAChangeEverAfter)
 {
-    const auto emptyTheType = [] {
-        click(warranty().cmbParts);
-        warranty().cmbParts.selectAll();
-        press(Qt::Key_Delete);
-    };
-    emptyTheType();
+    retype(warranty().cmbParts, {});
+    press(Qt::Key_Delete);
     type(warranty().txtPAmt, "1/2");
     expectBox(Saved, Information);
     press(Qt::Key_Return); // the amount has not been left, so it is stored as it stands
     EXPECT_EQ(terms().section('|', 0, 2), "Unknown|None|$1/2");
     open();
     EXPECT_EQ(warranty().txtPAmt.text(), "$1/2");
-    emptyTheType();
+    retype(warranty().cmbParts, {});
+    press(Qt::Key_Delete);
     expectBox(LoseQuestion, YesNoQuestion, Answer::Yes);
     closeBox(warranty());
     EXPECT_EQ(forms::activeForm(), &asset());
