@@ -51,8 +51,7 @@ TEST_F(AssetChange, UpdateWritesEveryColumnButTheWarrantyAndTeachesNoName)
     const QString henHouse = "Outdoor|Barn|Animal Care|Hen House|1890|Acme|M 2|S-3|11/24/2026|$25.50|%1|Limited";
     EXPECT_EQ(row(2), henHouse.arg("Yes|Desk drawer|Oak\nold|Used"));
     EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Area), QStringList({"Indoor", "Outdoor", "Indoor"}));
-    EXPECT_EQ(inventory(), "3: $65.50");
-    EXPECT_EQ(Data1.rsOutdoor.RecordCount(), known);
+    EXPECT_EQ(line(inventory(), Data1.rsOutdoor.RecordCount()), line("3: $65.50", known));
 
     click(asset().optPurNewUsed[0]);
     click(asset().optRecOnFile[1]);
@@ -60,8 +59,7 @@ TEST_F(AssetChange, UpdateWritesEveryColumnButTheWarrantyAndTeachesNoName)
     asset().cmbArea.setFocus();
     expectBox(Updated, Information);
     press(Qt::Key_Return); // the default button
-    EXPECT_EQ(row(2), henHouse.arg("No|None|None|New"));
-    EXPECT_EQ(inventory(), "3: $65.50") << "the same price moves the total once";
+    EXPECT_EQ(line(row(2), inventory()), line(henHouse.arg("No|None|None|New"), "3: $65.50")) << "moved once";
 }
 
 // The total moves before the check, with any price that is an amount.
@@ -76,20 +74,19 @@ TEST_F(AssetChange, ThatTheCheckRefusesLeavesTheRow)
         asset().txtPPrice.setText(price);
         asset().txtPur.setText(date);
         update(message, Exclamation);
-        EXPECT_EQ(row(2) + inventory(), desk20_ + total);
+        EXPECT_EQ(line(row(2), inventory()), line(desk20_, total)) << price;
         EXPECT_EQ(asset().activeControl(), &led) << price;
     }
     asset().txtPur.setText("2/28/2006");
     enterPrice("5");
     update();
-    EXPECT_EQ(stored(2, Inventory::Make) + stored(2, Inventory::Amount) + inventory(), "Acme$5.003: $45.00");
+    EXPECT_EQ(line(stored(2, Inventory::Make), stored(2, Inventory::Amount), inventory()), "Acme, $5.00, 3: $45.00");
 
     Data1.rsInventory.Delete(); // a row that is gone is silent
     asset().cmdPrint.setEnabled(false);
     click(asset().cmdUpdate);
     clickTold(asset().cmdDelete, DeleteQuestion, DeleteFlags, Answer::Yes);
-    EXPECT_EQ(scene() + inventory(), "10 frmAddUpDel: cmdDelete2: $45.00");
-    EXPECT_TRUE(asset().cmdPrint.isEnabled());
+    EXPECT_EQ(line(scene(), inventory(), asset().cmdPrint.isEnabled()), "10 frmAddUpDel: cmdDelete, 2: $45.00, true");
 }
 
 TEST_F(AssetChange, ThatTheFileRefusesIsToldAndTheStoredRowStays)
@@ -98,23 +95,23 @@ TEST_F(AssetChange, ThatTheFileRefusesIsToldAndTheStoredRowStays)
     enterPrice("25");
     refuseWrites("UPDATE", "Inventory");
     update(BadDate, Exclamation);
-    EXPECT_EQ(inventory(), "3: $65.00") << "the total went before";
-    EXPECT_EQ(scene(), "10 frmAddUpDel: txtPur [11/24/2026]");
-    EXPECT_EQ(asset().txtMake.text(), "Acme") << "what was typed isn't lost";
+    // The total went before, and what was typed isn't lost.
+    EXPECT_EQ(
+        line(scene(), inventory(), asset().txtMake.text()), "10 frmAddUpDel: txtPur [11/24/2026], 3: $65.00, Acme");
 
     refuseWrites("UPDATE", "Personal_Info");
     enterPrice("26");
     update(BadDate, Exclamation);
     openFound("2");
-    EXPECT_EQ(asset().txtMake.text() + asset().txtPPrice.text(), "Unknown$20.00");
+    EXPECT_EQ(line(asset().txtMake.text(), asset().txtPPrice.text()), "Unknown, $20.00");
     reopenData();
-    EXPECT_EQ(row(2) + inventory(), desk20_ + "3: $65.00");
+    EXPECT_EQ(line(row(2), inventory()), line(desk20_, "3: $65.00"));
 }
 
 TEST_F(AssetChange, DeleteAsksTellsAndTakesThePriceInTheBoxOffTheTotal)
 {
     clickTold(asset().cmdDelete, DeleteQuestion, DeleteFlags, Answer::No);
-    EXPECT_EQ(scene() + inventory(), "10 frmAddUpDel: cmdDelete3: $60.00");
+    EXPECT_EQ(line(scene(), inventory()), "10 frmAddUpDel: cmdDelete, 3: $60.00");
 
     screen<frmSearchResults>().FromSearchScreen = true;
     enterPrice("25"); // not updated
@@ -126,23 +123,22 @@ TEST_F(AssetChange, DeleteAsksTellsAndTakesThePriceInTheBoxOffTheTotal)
     click(asset().cmdDelete);
     EXPECT_EQ(told, QStringList({QString(DeleteQuestion) + " 3: $60.00", QString(Deleted) + " 3: $60.00"}))
         << "told before it is done";
-    EXPECT_EQ(scene() + inventory(), "2 frmMain: cmdIn2: $35.00");
-    EXPECT_FALSE(screen<frmSearchResults>().FromSearchScreen);
+    EXPECT_EQ(line(scene(), screen<frmSearchResults>().FromSearchScreen), "2 frmMain: cmdIn, false");
     reopenData();
-    EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Amount).join(' ') + inventory(), "$10.00 $30.002: $35.00");
+    EXPECT_EQ(line(columnOf(Data1.rsInventory, Inventory::Amount).join(' '), inventory()), "$10.00 $30.00, 2: $35.00");
 }
 
 TEST_F(AssetChange, ADeleteThatFailsIsReportedWithTheRowWholeOrGone)
 {
     enterPrice("1/2"); // the total can't follow, so the row is gone by then
     remove();
-    EXPECT_EQ(failedHandler() + inventory(), "frmAddUpDel.cmdDelete_Click2: $60.00");
+    EXPECT_EQ(line(failedHandler(), inventory()), "frmAddUpDel.cmdDelete_Click, 2: $60.00");
     openFound("3");
     refuseWrites("DELETE", "Inventory");
     remove();
     EXPECT_EQ(failedHandler(), "frmAddUpDel.cmdDelete_Click");
     reopenData();
-    EXPECT_EQ(stored(3, Inventory::Amount) + " of " + inventory(), "$30.00 of 2: $60.00");
+    EXPECT_EQ(line(stored(3, Inventory::Amount), inventory()), "$30.00, 2: $60.00");
 }
 
 TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndLeavesNoRowWhereItIsRefusedOrFails)
@@ -152,7 +148,7 @@ TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndLeavesNoRowWhereItIsRefus
     const QString onScreen = "1|Indoor|Library|Antiques|Antique Desk|2026|Acme|Unknown|Unknown|11/24/2026|$25.00|No";
     click(asset().cmdPrint);
     EXPECT_EQ(cellsOf(Data1.rsPrint, Print::ID, Print::Receipt).join('|'), onScreen);
-    EXPECT_EQ(row(2) + inventory(), desk20_ + "3: $60.00");
+    EXPECT_EQ(line(row(2), inventory()), line(desk20_, "3: $60.00"));
 
     asset().cmbType.setText({});
     clickTold(asset().cmdPrint, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
@@ -177,14 +173,12 @@ TEST_F(AssetChange, LeavesToTheResultsByCancelAndToTheMenuWithoutTouchingTheList
     expectToStay([] { click(asset().cmdCancel); }, LeaveQuestion);
     EXPECT_TRUE(results.FromSearchScreen);
     clickTold(asset().cmdCancel, LeaveQuestion, YesNoQuestion, Answer::Yes);
-    EXPECT_EQ(scene().section(':', 0, 0), "5 frmSearchResults");
-    EXPECT_TRUE(asset().isEnabled() && !results.FromSearchScreen);
+    EXPECT_EQ(line(front(), asset().isEnabled(), results.FromSearchScreen), "5 frmSearchResults, true, false");
     EXPECT_EQ(asset().cmbLoc.listCount() + asset().cmbCat.listCount() + asset().cmbType.listCount(), 0);
 
     openFound("2");
     leaveToMainMenu();
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
-    EXPECT_TRUE(asset().cmbLoc.listCount() > 0 && screen<frmMain>().FromResults);
+    EXPECT_EQ(line(front(), asset().cmbLoc.listCount() > 0, screen<frmMain>().FromResults), "2 frmMain, true, true");
 }
 
 } // namespace

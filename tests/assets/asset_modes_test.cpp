@@ -21,7 +21,7 @@ protected:
 
     void expectMode(const QString& focus, const QString& heading, const forms::CommandButton& standard, int help)
     {
-        EXPECT_EQ(scene() + ", " + asset().lblHead.caption(), "10 frmAddUpDel: " + focus + ", " + heading);
+        EXPECT_EQ(line(scene(), asset().lblHead.caption()), line("10 frmAddUpDel: " + focus, heading));
         EXPECT_EQ(asset().defaultButton(), &standard);
         press(Qt::Key_F1);
         EXPECT_EQ(openedHelp(), help);
@@ -68,10 +68,8 @@ TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
 
 TEST_F(AssetModes, RemembersBothBoxesAtOnceAndAcrossRuns)
 {
-    const auto boxes = [] {
-        return QStringList(
-            {asset().chkClear.value() ? "Checked" : "Unchecked", asset().chkWar.value() ? "Checked" : "Unchecked"});
-    };
+    const auto word = [](const forms::CheckBox& box) { return QString(box.value() ? "Checked" : "Unchecked"); };
+    const auto boxes = [&] { return QStringList({word(asset().chkClear), word(asset().chkWar)}); };
     openToAdd();
     const QStringList before = boxes();
     click(asset().chkClear);
@@ -90,12 +88,11 @@ TEST_F(AssetModes, AsksBeforeItLeaves)
     pick(asset().cmbLoc, "Library");
     expectToStay([] { closeBox(asset()); }, LeaveQuestion);
     leaveToMainMenu();
-    EXPECT_EQ(scene() + asset().cmbLoc.text(), "2 frmMain: cmdInLibrary"); // the lists stay
+    EXPECT_EQ(line(scene(), asset().cmbLoc.text()), "2 frmMain: cmdIn, Library"); // the lists stay
     openToAdd();
     expectBox(LeaveQuestion, YesNoQuestion, Answer::Yes);
     closeBox(asset());
-    EXPECT_EQ(scene(), "13 frmAuto: cmdAdd(0)");
-    EXPECT_EQ(asset().cmbLoc.listCount(), 0);
+    EXPECT_EQ(line(scene(), asset().cmbLoc.listCount()), "13 frmAuto: cmdAdd(0), 0");
 }
 
 TEST_F(AssetModes, ClearEmptiesTheFormAndLeavesNoReceiptOptionChosen)
@@ -104,7 +101,7 @@ TEST_F(AssetModes, ClearEmptiesTheFormAndLeavesNoReceiptOptionChosen)
     fillIn();
     fillInTheRest();
     clickTold(asset().cmdClear, LeaveQuestion, YesNoQuestion, Answer::Yes);
-    EXPECT_EQ(scene() + contents(asset()), "10 frmAddUpDel: cmbLoc" + empty("Indoor", "txtLoc=None"));
+    EXPECT_EQ(line(scene(), contents(asset())), line("10 frmAddUpDel: cmbLoc", empty("Indoor", "txtLoc=None")));
     EXPECT_EQ(screen<frmAddField>().SavedCategory + itemsOf(asset().cmbType).join('|'), "");
     fillIn();
     save();
@@ -149,7 +146,7 @@ TEST_F(AssetFields, ReceiptLocationIsEmptiedByTheFocusAndUnlockedByTheFirstKey)
 
 TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
 {
-    const auto names = [] { return asset().cmbLoc.text() + ", " + asset().cmbCat.text(); };
+    const auto names = [] { return line(asset().cmbLoc.text(), asset().cmbCat.text()); };
     pick(asset().cmbLoc, "Library");
     type("xyz");
     press(Qt::Key_Delete);
@@ -168,8 +165,8 @@ TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
     EXPECT_EQ(asset().cmbType.text(), "Elephant's Foot");
     pick(asset().cmbLoc, "< Add/Edit Location >");
     const auto& editor = screen<frmAddField>();
-    EXPECT_EQ(editor.SavedLocation + ", " + editor.SavedCategory, "Linen Closet, Appliances"); // the last real names
-    EXPECT_EQ(asset().ListInEdit, "Location");
+    EXPECT_EQ(line(asset().ListInEdit, editor.SavedLocation, editor.SavedCategory), // the last real names
+        "Location, Linen Closet, Appliances");
 }
 
 // ---- the menu of an area

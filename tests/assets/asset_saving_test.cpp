@@ -26,7 +26,7 @@ TEST_F(AssetSaving, WritesEveryColumnAsItWasTypedAndAddsThePriceToTheTotal)
     EXPECT_EQ(row(2),
         "Indoor|Library|Antiques|Antique Desk|1890|" + make + '|' + QString(49, u'ß') + '|' + serial
             + "|11/24/2026|$1234.50|Yes|Desk drawer|Oak\nold|Used|None");
-    EXPECT_EQ(stored(Inventory::WarrantyDescription) + inventory(), "None2: $1,244.50");
+    EXPECT_EQ(line(stored(Inventory::WarrantyDescription), inventory()), "None, 2: $1,244.50");
 }
 
 TEST_F(AssetSaving, KeepsTheScreenForASimilarAssetOrClearsItAndLearnsNewNamesWithTheOldOnesOfTheirRow)
@@ -36,10 +36,9 @@ TEST_F(AssetSaving, KeepsTheScreenForASimilarAssetOrClearsItAndLearnsNewNamesWit
     setClearBox(false);
     fillIn("Car", "Aircraft", "drone", "10"); // known in another spelling, in other rows
     save();
-    EXPECT_EQ(asset().cmbLoc.text() + asset().txtPPrice.text() + scene(), "Car$10.0010 frmAddUpDel: cmbLoc");
+    EXPECT_EQ(line(asset().cmbLoc.text(), asset().txtPPrice.text(), scene()), "Car, $10.00, 10 frmAddUpDel: cmbLoc");
     save();
-    EXPECT_EQ(inventory(), "2: $20.00");
-    EXPECT_EQ(Data1.rsMobile.RecordCount(), known);
+    EXPECT_EQ(line(inventory(), Data1.rsMobile.RecordCount()), line("2: $20.00", known));
     retype(asset().cmbType, "Zeppelin");
     setClearBox(true);
     save();
@@ -62,8 +61,7 @@ TEST_F(AssetSaving, IndoorAloneIsClearedBeforeTheUserIsToldOfAnAssetWithANewName
             return Answer::OK;
         });
         click(asset().cmdAdd);
-        EXPECT_EQ(whenTold, area == "Indoor" ? "" : "Never Seen") << area.toStdString();
-        EXPECT_EQ(asset().cmbType.text(), "");
+        EXPECT_EQ(line(whenTold, asset().cmbType.text()), area == "Indoor" ? ", " : "Never Seen, ");
         asset().hide();
     }
 }
@@ -117,7 +115,7 @@ protected:
         const auto& [field, wrong, message, left, right] = step;
         save(message, Exclamation);
         EXPECT_EQ(asset().activeControl(), &field) << message.toStdString();
-        EXPECT_EQ(field.text() + ", " + inventory(), left + ", 0: $0.00") << message.toStdString();
+        EXPECT_EQ(line(field.text(), inventory()), line(left, "0: $0.00")) << message.toStdString();
         field.setText(right);
     }
 
@@ -173,15 +171,14 @@ TEST_F(AssetRefusals, AnAmountThatIsNoneLeavesNothingBehindButWhatWasTyped)
 {
     enterPrice("1/2");
     expectRefused({asset().txtPur, "", BadDate, "11/24/2026", "11/24/2026"});
-    EXPECT_EQ(asset().txtPPrice.text() + asset().cmbType.text(), "$1/2.00Antique Desk");
+    EXPECT_EQ(line(asset().txtPPrice.text(), asset().cmbType.text()), "$1/2.00, Antique Desk");
     enterPrice("2");
     asset().optPurNewUsed[0].setValue(false);
     asset().txtDescription.setText({});
     expectBox("Please Indicate How The Asset Was Purchased...New or Used.", Exclamation);
     save(); // which the question doesn't stop
     reopenData();
-    EXPECT_EQ(inventory() + " " + stored(Inventory::Amount), "1: $2.00 $2.00");
-    EXPECT_EQ(stored(Inventory::Purchased) + stored(Inventory::Description), "Used");
+    EXPECT_EQ(line(inventory(), row(1).section('|', 9)), "1: $2.00, $2.00|No|None||Used|None");
 }
 
 } // namespace

@@ -82,7 +82,7 @@ TEST_F(Warranty, IsFilledInTabOrderAndComesBackWithAmountsAsMoney)
 
     open("1");
     open("2");
-    EXPECT_EQ(warranty().txtPAmt.text() + " " + laborDate(), "$12,345.00 cmbLMonth=Feb, cmbLDay=2, cmbLYear=2005");
+    EXPECT_EQ(line(warranty().txtPAmt.text(), laborDate()), "$12,345.00, cmbLMonth=Feb, cmbLDay=2, cmbLYear=2005");
     expectToStay([] { click(warranty().cmdCancel); }, LoseQuestion); // the amount is stored in another form
     saveWarranty();
     open();
@@ -104,8 +104,7 @@ TEST_F(Warranty, EmptyTypeIsStoredAsUnknownAndCountsAsAChangeEverAfter)
     press(Qt::Key_Delete);
     expectBox(LoseQuestion, YesNoQuestion, Answer::Yes);
     closeBox(warranty());
-    EXPECT_EQ(forms::activeForm(), &asset());
-    EXPECT_EQ(terms().section('|', 0, 0), "Unknown");
+    EXPECT_EQ(line(front(), terms().section('|', 0, 0)), "10 frmAddUpDel, Unknown");
 }
 
 TEST_F(Warranty, DaysFollowTheMonthAndAreNotPickedWithoutOne)
@@ -176,13 +175,12 @@ TEST_F(Warranty, CalendarFillsTheDateOfItsSideAndHoldsTheButtonsMeanwhile)
             press(keys);
         });
         click(picture);
-        EXPECT_EQ(scene().section(':', 0, 0), "9 frmWar");
-        EXPECT_TRUE(warranty().cmdSave.isEnabled() && warranty().cmdCancel.isEnabled());
+        EXPECT_EQ(
+            line(front(), warranty().cmdSave.isEnabled(), warranty().cmdCancel.isEnabled()), "9 frmWar, true, true");
     };
     pick(warranty().cmbPMonth, "Jan"); // incomplete: today
     visit(warranty().picPDate, "11/24/2026", {Qt::Key_Right, Qt::Key_Return});
-    EXPECT_EQ(partsDate(), "cmbPMonth=Nov, cmbPDay=25, cmbPYear=2026");
-    EXPECT_EQ(warranty().cmbPDay.listCount(), 30);
+    EXPECT_EQ(line(partsDate(), warranty().cmbPDay.listCount()), "cmbPMonth=Nov, cmbPDay=25, cmbPYear=2026, 30");
 
     pick(warranty().cmbPDay, "30");
     pick(warranty().cmbLMonth, "Feb");
@@ -211,7 +209,7 @@ TEST_F(Warranty, ThatTheFileRefusesIsReportedWithTheRowWholeAndOfARowThatIsGoneI
     click(warranty().cmdCancel); // asks nothing
     EXPECT_EQ(forms::activeForm(), &asset());
     open();
-    EXPECT_EQ(warranty().txtPCover.text() + terms(1), "50" + Nothing) << "what was shown stays";
+    EXPECT_EQ(line(warranty().txtPCover.text(), terms(1)), line("50", Nothing)) << "what was shown stays";
 }
 
 // Behind a save it opens on the new asset, and comes back to the next one.
@@ -224,18 +222,17 @@ TEST_F(AssetScreenTest, AWarrantyIsAskedForBehindASaveUnlessTheNumberIsBeyondSix
     fillIn();
     save();
     auto& warranty = screen<frmWar>();
-    EXPECT_EQ(scene() + warranty.txtName.text(), "9 frmWar: cmbPartsAntique Desk");
+    EXPECT_EQ(line(scene(), warranty.txtName.text()), "9 frmWar: cmbParts, Antique Desk");
     type(warranty.txtLCover, "80");
     clickTold(warranty.cmdSave, Saved, Information);
-    EXPECT_EQ(stored(Inventory::LaborCoverage), "80");
-    EXPECT_TRUE(forms::activeForm() == &asset() && asset().cmbLoc.text().isEmpty() && asset().cmdAdd.isEnabled());
+    EXPECT_EQ(line(stored(Inventory::LaborCoverage), front(), asset().cmbLoc.text(), asset().cmdAdd.isEnabled()),
+        "80, 10 frmAddUpDel, , true");
 
     storage::execute(Data1.Home.handle(), "UPDATE sqlite_sequence SET seq = 32767 WHERE name = 'Inventory'");
     fillIn();
     expectBox(Added, Information);
     save(BadDate, Exclamation);
-    EXPECT_EQ(forms::activeForm(), &asset());
-    EXPECT_EQ(stored(Inventory::ID) + " of " + inventory(), "32768 of 2: $2,469.00");
+    EXPECT_EQ(line(front(), stored(Inventory::ID), inventory()), "10 frmAddUpDel, 32768, 2: $2,469.00");
     click(asset().chkWar);
     fillIn();
     save();

@@ -21,8 +21,7 @@ TEST_F(ListEditors, MenuWantsAnOptionEachTimeAndHasResetTheEditorsByThen)
     adding().txtAdd.setText("Left from the last visit");
     pickMarker("Location");
     clickTold(menu().cmdUpdate, "You Must Select An Option Before Continuing!", Exclamation);
-    EXPECT_EQ(forms::activeForm(), &menu());
-    EXPECT_EQ(adding().txtAdd.text() + itemsOf(deleting().cmbCat).join('|'), "");
+    EXPECT_EQ(line(front(), adding().txtAdd.text(), deleting().cmbCat.listCount()), "12 frmEditCmbBoxes, , 0");
     EXPECT_EQ(deleting().cmbCat.backColour(), forms::look::colours().field);
     accessKey('H');
     EXPECT_TRUE(menu().optEdit[Change].value());
@@ -41,7 +40,7 @@ TEST_F(ListEditors, MenuPutsTheOldSelectionBack)
                 pick(boxOf(kind), chosen);
             pickMarker(kind);
             closeBox(menu());
-            EXPECT_EQ(scene().section(':', 0, 0) + boxOf(kind).text(), "10 frmAddUpDel" + chosen);
+            EXPECT_EQ(line(front(), boxOf(kind).text()), line("10 frmAddUpDel", chosen));
         }
     }
     pick(asset().cmbLoc, asset().cmbLoc.list(1));
@@ -64,8 +63,8 @@ TEST_F(ListEditors, CancelledMenuListsTheNameOfAnAddOnceMore)
     addAndCancelTheMenu("Category", "007");
     EXPECT_EQ(itemsOf(asset().cmbCat).filter("7"), QStringList({"007", "7"}));
     addAndCancelTheMenu("Category", "Bells"); // reads as no number, which ends the program
-    EXPECT_EQ(failedHandler(), "frmEditCmbBoxes.cmdCancel_Click");
-    EXPECT_EQ(usersRows(), QStringList({"Tower|0|0", "0|007|0", "0|Bells|0"}));
+    EXPECT_EQ(
+        line(failedHandler(), usersRows().join(' ')), "frmEditCmbBoxes.cmdCancel_Click, Tower|0|0 0|007|0 0|Bells|0");
 }
 
 TEST_F(ListEditors, AddRefusesWhatIsEmptyOrBlankInOtherRows)
@@ -107,8 +106,8 @@ TEST_F(ListEditors, ChangeRefusesInItsOrder)
     EXPECT_TRUE(isRefused(changing().txtNew));
     EXPECT_EQ(changing().cmbCat.backColour(), forms::look::colours().field);
     change("LIBRARY", "Study Room", "You Can Only Change Information That You Have Created!", Exclamation);
-    EXPECT_EQ(contents(changing()) + scene(), "cmbCat=LIBRARY, txtNew=14 frmUpdate: cmbCat");
-    EXPECT_EQ(usersRows(), QStringList("library|0|0"));
+    EXPECT_EQ(line(scene(), contents(changing()), usersRows().join(' ')),
+        "14 frmUpdate: cmbCat, cmbCat=LIBRARY, txtNew=, library|0|0");
     for (const auto& [current, name] : {std::pair("x", ""), std::pair("", "x")}) {
         changing().cmbCat.setText(current);
         changing().txtNew.setText(name);

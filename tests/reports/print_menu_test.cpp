@@ -16,7 +16,7 @@ protected:
     {
         screen<frmMain>().show();
         click(screen<frmMain>().cmdPrint);
-        EXPECT_EQ(scene().section(':', 0, 0), "3 frmPrint");
+        EXPECT_EQ(front(), "3 frmPrint");
     }
 
     static frmPrint& menu() { return screen<frmPrint>(); }
@@ -69,16 +69,15 @@ TEST_F(PrintMenu, StagesAllInTheOrderOfTheInventory)
     accessKey('a');
     EXPECT_EQ(state(), "Desk Kayak in AssetReport, cmdAllPrint(3), custom");
     click(menu().cmdBack[0]);
-    EXPECT_EQ(state(), "Desk Kayak in AssetReport, cmdAllPrint(3)"); // a window of its own
-    EXPECT_EQ(scene().section(':', 0, 0), "2 frmMain");
+    EXPECT_EQ(line(state(), front()), "Desk Kayak in AssetReport, cmdAllPrint(3), 2 frmMain"); // a window of its own
 }
 
 TEST_F(PrintMenu, OpensTheCoverSheetAndTheFormAndSearchesForACustomPrintout)
 {
     reportTitles().CoverSheet = "Cover Sheet - Kestrill by Brindlewick Software";
     accessKey('s');
-    EXPECT_EQ(state(), " in CoverSheet, cmdCover(0)");
-    EXPECT_EQ(reportWindow()->windowTitle(), "Cover Sheet - Kestrill by Brindlewick Software");
+    EXPECT_EQ(line(state(), reportWindow()->windowTitle()),
+        " in CoverSheet, cmdCover(0), Cover Sheet - Kestrill by Brindlewick Software");
     reportTitles() = {};
     closeReport();
     press(Qt::Key_F1);
@@ -93,8 +92,8 @@ TEST_F(PrintMenu, OpensTheCoverSheetAndTheFormAndSearchesForACustomPrintout)
 
     screen<frmMain>().FromMenu = true;
     click(menu().cmdCustom[4]);
-    EXPECT_TRUE(menu().CustomPrint && !screen<frmMain>().FromMenu);
-    EXPECT_EQ(scene() + screen<frmSearch>().lblHead[0].caption(), "4 frmSearch: txtKeySearch For Assets To Print");
+    EXPECT_EQ(line(scene(), screen<frmSearch>().lblHead[0].caption(), menu().CustomPrint, screen<frmMain>().FromMenu),
+        "4 frmSearch: txtKey, Search For Assets To Print, true, false");
 }
 
 // A run that fails is told by each button but All, where it is uncaught, and opens no report.
@@ -108,8 +107,7 @@ TEST_F(PrintMenu, TellsWhatFails)
         clickTold(*button, error, Stop);
     EXPECT_EQ(state(), " in nothing, cmdAutoPrint(1), custom");
     click(menu().cmdAllPrint[3]);
-    EXPECT_EQ(failedHandler(), "frmPrint.cmdAllPrint(3)_Click");
-    EXPECT_EQ(Data1.rsPrint.RecordCount(), 0);
+    EXPECT_EQ(line(failedHandler(), Data1.rsPrint.RecordCount()), "frmPrint.cmdAllPrint(3)_Click, 0");
     makeRoom("Print");
 
     Data1.rsGeneral.Delete(); // the household whose reports they are

@@ -71,11 +71,10 @@ TEST_F(SearchMatching, AllAssetsAreShownOnlyAfterAQuestion)
 {
     addThree();
     findAll(forms::Answer::No);
-    EXPECT_EQ(scene() + models(), "4 frmSearch: txtKey");
+    EXPECT_EQ(line(scene(), models()), "4 frmSearch: txtKey, ");
     findAll();
-    EXPECT_EQ(scene() + models(), "5 frmSearchResults: cmdBackM1 M2 M3");
-    EXPECT_EQ(results().lblRecsFound.caption(), "3 Assets Found!");
-    EXPECT_FALSE(isProgressShown());
+    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), isProgressShown()),
+        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, false");
 }
 
 TEST_F(SearchMatching, AHeaderSortsThisSearchAndAllLaterOnes)
@@ -108,18 +107,17 @@ TEST_F(SearchMatching, MoreMatchesThanCanBeCountedEndTheProgramWithNothingLost)
         atOnce.commit();
     }
     find("acme");
-    EXPECT_EQ(results().lblRecsFound.caption() + results().lblPage.caption(), "32767 Assets Found!Page 1 of 3277");
+    EXPECT_EQ(
+        line(results().lblRecsFound.caption(), results().lblPage.caption()), "32767 Assets Found!, Page 1 of 3277");
     results().PageOffset = 32'750; // the last page but one
     results().CurrentPage = 3276;
     press(Qt::Key_PageDown);
-    EXPECT_EQ(shown(results().txtItem).last(), "32767");
-    EXPECT_FALSE(results().cmdNext.isEnabled());
+    EXPECT_EQ(line(shown(results().txtItem).last(), results().cmdNext.isEnabled()), "32767, false");
 
     click(results().cmdMain);
     addAssets(1);
     find("acme");
-    EXPECT_EQ(failedHandler(), "frmSearch.cmdContinue_Click");
-    EXPECT_EQ(Data1.rsInventory.RecordCount(), 32'768);
+    EXPECT_EQ(line(failedHandler(), Data1.rsInventory.RecordCount()), "frmSearch.cmdContinue_Click, 32768");
 }
 
 TEST_F(SearchMatching, AStagingThatCannotBeWrittenIsReportedAndLeavesTheHousehold)

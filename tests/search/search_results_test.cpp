@@ -38,8 +38,8 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
     addAssets(2, make);
     addAssetRow({"Outdoor", "Barn", "Art", "Gnome", "2001", "Bolt", "M3"});
     find("2020");
-    EXPECT_EQ(scene(), "5 frmSearchResults: cmdBack");
-    EXPECT_EQ(results().lblRecsFound.caption() + page(), "2 Assets Found!Page 1 of 1: 1-2");
+    EXPECT_EQ(line(scene(), results().lblRecsFound.caption(), page()),
+        "5 frmSearchResults: cmdBack, 2 Assets Found!, Page 1 of 1: 1-2");
     const std::pair<const frmSearchResults::ResultColumn&, QString> columns[] = {{results().txtMore, "Update"},
         {results().txtItem, "2"}, {results().txtArea, "Indoor"}, {results().txtLocation, "Attic"},
         {results().txtType, "Item 2"}, {results().txtYear, "2020"}, {results().txtMake, make},
@@ -57,7 +57,7 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
 
     click(results().cmdBack);
     type("bolt\n");
-    EXPECT_EQ(results().txtMake[0].text() + results().lblRecsFound.caption(), "Bolt1 Asset Found!");
+    EXPECT_EQ(line(results().txtMake[0].text(), results().lblRecsFound.caption()), "Bolt, 1 Asset Found!");
     for (const auto& [boxes, text] : columns)
         EXPECT_TRUE(boxes[1].text().isEmpty() && boxes[1].isVisible() == (text != "Update")) << text.toStdString();
 }
@@ -68,8 +68,7 @@ TEST_F(SearchResults, TurnsPagesForwardAndBack)
     findAll();
     EXPECT_EQ(page(), "Page 1 of 1: 1-10");
     click(results().cmdMain);
-    EXPECT_EQ(forms::activeForm(), &menu());
-    EXPECT_FALSE(results().txtMore[0].isVisible());
+    EXPECT_EQ(line(front(), results().txtMore[0].isVisible()), "2 frmMain, false");
 
     addAssets(11);
     findAll();
@@ -87,7 +86,7 @@ TEST_F(SearchResults, TurnsPagesForwardAndBack)
         step();
         EXPECT_EQ(place(), expected);
     }
-    EXPECT_EQ(results().txtType[9].text() + results().txtYear[9].text(), "Item 102020");
+    EXPECT_EQ(line(results().txtType[9].text(), results().txtYear[9].text()), "Item 10, 2020");
     click(results().cmdMain);
 
     Data1.rsInventory.MoveFirst();
@@ -124,8 +123,7 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 5001);
     press({Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return});
-    EXPECT_EQ(forms::activeForm(), &screen<frmAddUpDel>());
-    EXPECT_EQ(results().SelectedAsset, "1");
+    EXPECT_EQ(line(front(), results().SelectedAsset), "10 frmAddUpDel, 1");
 }
 
 TEST_F(SearchResults, OpensTheAssetOfItsRowForUpdateUnlessItsIdIsOfMoreThan16Bits)
@@ -136,12 +134,12 @@ TEST_F(SearchResults, OpensTheAssetOfItsRowForUpdateUnlessItsIdIsOfMoreThan16Bit
     find("item");
     EXPECT_EQ(shown(results().txtIDNum).join(' '), "1 32767 32768");
     click(results().txtMore[2]);
-    EXPECT_EQ(failedHandler(), "frmSearchResults.txtMore(2)_Click");
-    EXPECT_EQ(Data1.rsInventory.RecordCount(), 3);
+    EXPECT_EQ(line(failedHandler(), Data1.rsInventory.RecordCount()), "frmSearchResults.txtMore(2)_Click, 3");
     click(results().txtMore[1]);
     const auto& asset = screen<frmAddUpDel>();
-    EXPECT_EQ(scene() + asset.cmbType.text() + results().SelectedAsset, "10 frmAddUpDel: cmbAreaItem 132767");
-    EXPECT_TRUE(asset.AssetKey == 32767 && asset.defaultButton() == &asset.cmdUpdate && menu().FromResults);
+    EXPECT_EQ(line(scene(), asset.cmbType.text(), results().SelectedAsset, int(asset.AssetKey), menu().FromResults),
+        "10 frmAddUpDel: cmbArea, Item 1, 32767, 32767, true");
+    EXPECT_EQ(asset.defaultButton(), &asset.cmdUpdate);
 }
 
 TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPage)
@@ -151,19 +149,17 @@ TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPa
     press(Qt::Key_PageDown);
     click(results().txtMore[0]);
     comeBack();
-    EXPECT_EQ(page(), "Page 1 of 2: 1-10 next");
-    EXPECT_EQ(forms::activeForm(), &results());
+    EXPECT_EQ(line(front(), page()), "5 frmSearchResults, Page 1 of 2: 1-10 next");
 
     click(results().cmdBack);
     type("item 11\n");
     click(results().txtMore[0]);
     put(Data1.rsInventory, {{Inventory::Type, "Gone"}});
     comeBack();
-    EXPECT_EQ(shown(results().txtItem), QStringList());
-    EXPECT_EQ(results().lblRecsFound.caption() + results().lblPage.caption(), "1 Asset Found!Page 1 of 1");
-    EXPECT_FALSE(isProgressShown());
     press(Qt::Key_Down);
-    EXPECT_EQ(forms::activeForm(), &results());
+    EXPECT_EQ(line(front(), results().lblRecsFound.caption(), results().lblPage.caption(), isProgressShown()),
+        "5 frmSearchResults, 1 Asset Found!, Page 1 of 1, false");
+    EXPECT_EQ(shown(results().txtItem), QStringList());
 }
 
 // A search is no report, and goes on behind the one that is open.
@@ -177,7 +173,7 @@ TEST_F(SearchResults, ArePrintedAsTheyAreSortedWhileNoOtherReportIsOpen)
     const QWidget* const report = reportWindow();
     click(results().cmdBack);
     type("item 2\n");
-    EXPECT_EQ(scene().section(':', 0, 0) + staged(Print::Type).join(' '), "5 frmSearchResultsItem 2");
+    EXPECT_EQ(line(front(), staged(Print::Type).join(' ')), "5 frmSearchResults, Item 2");
     refuse("Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
     EXPECT_TRUE(report && report == reportWindow());
     closeReport();

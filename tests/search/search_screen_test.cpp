@@ -56,8 +56,7 @@ TEST_F(SearchWays, EachMenuPreparesTheScreenAndGetsTheUserBack)
     removeRows(Data1.rsInventory);
     expectBox("There Are No Available Assets To Search...Please Add An Asset Before Continuing!", Information);
     openFromMenu();
-    EXPECT_EQ(forms::activeForm(), &menu());
-    EXPECT_FALSE(menu().FromMenu);
+    EXPECT_EQ(line(front(), menu().FromMenu), "2 frmMain, false");
 }
 
 TEST_F(SearchWays, ResetFreesTheAreaAndTheCloseBoxAsksBeforeTheProgramCloses)
@@ -68,8 +67,7 @@ TEST_F(SearchWays, ResetFreesTheAreaAndTheCloseBoxAsksBeforeTheProgramCloses)
     pick(search().cmbLocation, "Attic");
     search().txtKey.setFocus();
     press(Qt::Key_F1);
-    EXPECT_EQ(scene(), "4 frmSearch: txtKey [" + QString(254, u'x') + "]");
-    EXPECT_EQ(openedHelp(), 4001);
+    EXPECT_EQ(line(scene(), openedHelp().value()), "4 frmSearch: txtKey [" + QString(254, u'x') + "], 4001");
     click(search().cmdClearForm);
     expectScreen("Search For Asset To Update", "Any", "");
     EXPECT_EQ(scene(), "4 frmSearch: txtKey");
