@@ -14,8 +14,9 @@ protected:
     {
         const QStringList numbers = shown(results().txtItem);
         EXPECT_EQ(shown(results().txtIDNum), numbers);
-        EXPECT_EQ(numbers.last().toInt() - numbers.first().toInt() + 1, numbers.size());
-        return results().lblPage.caption() + ": " + numbers.first() + "-" + numbers.last()
+        const QString first = numbers.value(0), last = numbers.value(numbers.size() - 1);
+        EXPECT_EQ(last.toInt() - first.toInt() + 1, numbers.size());
+        return results().lblPage.caption() + ": " + first + "-" + last
             + (results().cmdPrevious.isEnabled() ? " previous" : "") + (results().cmdNext.isEnabled() ? " next" : "");
     }
 
