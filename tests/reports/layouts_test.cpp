@@ -183,12 +183,15 @@ TEST_F(ReportLayouts, LongValuesStayInTheirFields)
     EXPECT_EQ(placesOf(page, "$123,456,789.00").size(), 1);
 }
 
-// The file holds the letters of such a script one by one, in the forms that they have beside each other.
-TEST_F(ReportLayouts, ScriptsFromRightToLeftStandWholeInTheirFields)
+// The file holds the letters of such a script one by one, in the forms that they have beside each other, and an emoji
+// as a picture.
+TEST_F(ReportLayouts, ScriptsFromRightToLeftAndEmojiStandWholeInTheirFields)
 {
     const std::tuple<QString, double, double> values[] = {
         {QString::fromUtf8("שלוםעולם"), 1770, detail + 405}, {QString::fromUtf8("خزانة"), 4845, detail + 690}};
-    addRow(Data1.rsPrint, {{Print::Location, QString::fromUtf8("שלום עולם")}, {Print::Model, std::get<0>(values[1])}});
+    addRow(Data1.rsPrint,
+        {{Print::Location, QString::fromUtf8("שלום עולם")}, {Print::Model, std::get<0>(values[1])},
+            {Print::Type, QString::fromUtf8("Fox \U0001F98A red")}});
     const pdf::Page page = printed(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
     for (const auto& [text, left, top] : values) {
         const QRectF field(middleOf(QPageSize::Letter) - 5445 + left, 720 + top, 2100, 285);
@@ -201,6 +204,9 @@ TEST_F(ReportLayouts, ScriptsFromRightToLeftStandWholeInTheirFields)
             read += letters.normalized(QString::NormalizationForm_KC);
         EXPECT_EQ(read, text);
     }
+    const QStringList images = pdf::output("pdfimages", {"-list", path_}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_EQ(images.filter("smask").size(), 2) << "the logo and the emoji";
+    EXPECT_EQ(placesOf(page, "Fox").size() + placesOf(page, "red").size(), 2) << page.text().toStdString();
 }
 
 TEST_F(ReportLayouts, AThousandAssetsAreCountedOnEachPageAndLeaveNoFileWhenTheUserCancels)
