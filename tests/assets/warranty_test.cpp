@@ -167,7 +167,7 @@ TEST_F(Warranty, TextsHaveTheirLimitsAndAreSelectedByAClick)
 
 TEST_F(Warranty, CalendarFillsTheDateOfItsSideAndHoldsTheButtonsMeanwhile)
 {
-    const auto visit = [this](forms::Picture& picture, const QString& shown, std::initializer_list<Qt::Key> keys) {
+    const auto visit = [this](forms::Picture& picture, const QString& shown, const std::vector<Qt::Key>& keys) {
         whileModal([&] {
             const auto& date = screen<frmCalendar>().calDate;
             EXPECT_EQ(QString("%1/%2/%3").arg(date.Month()).arg(date.Day()).arg(date.Year()), shown);

@@ -100,7 +100,7 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
 {
     addAssets(13);
     findAll();
-    const std::pair<std::initializer_list<Qt::Key>, QString> steps[] = {
+    const std::pair<std::vector<Qt::Key>, QString> steps[] = {
         {{}, "Page 1 of 2: 1-10 next, cmdNext"},
         {{Qt::Key_Up}, "Page 1 of 2: 1-10 next, txtMore(9)"},
         {{Qt::Key_Down}, "Page 1 of 2: 1-10 next, txtMore(9)"},
@@ -114,12 +114,12 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
         press(keys);
         EXPECT_EQ(place(), expected);
     }
-    const std::pair<Qt::Key, int> sorts[] = {
-        {Qt::Key_Right, 1}, {Qt::Key_Right, 2}, {Qt::Key_Left, 1}, {Qt::Key_Left, 1}}; // there is none before the first
-    for (const auto& [key, column] : sorts) {
+    QStringList sorts;
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}) {
         press(key);
-        EXPECT_EQ(results().SortColumn, column);
+        sorts += QString::number(results().SortColumn);
     }
+    EXPECT_EQ(sorts.join(' '), "1 2 1 1"); // there is none before the first
     EXPECT_EQ(place(), "Page 1 of 2: 1-10 next, txtMore(1)");
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 5001);
@@ -164,26 +164,25 @@ TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPa
 }
 
 // A search is no report, and goes on behind the one that is open.
-TEST_F(SearchResults, ArePrintedAsTheyAreSortedWhileNoOtherReportIsOpen)
+TEST_F(SearchResults, ArePrintedWhileNoOtherReportIsOpen)
 {
     addAssets(3);
     findAll();
-    const auto refuse = [this](const QString& text, int flags) { clickTold(results().cmdPrint, text, flags); };
-    click(results().lblSubHead[3]);
     click(results().cmdPrint);
     const QWidget* const report = reportWindow();
+    EXPECT_TRUE(report);
     click(results().cmdBack);
     type("item 2\n");
     EXPECT_EQ(line(front(), staged(Print::Type).join(' ')), "5 frmSearchResults, Item 2");
-    refuse("Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
-    EXPECT_TRUE(report && report == reportWindow());
+    clickTold(results().cmdPrint, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
+    EXPECT_EQ(report, reportWindow());
     closeReport();
-    EXPECT_EQ(staged(Print::Type), QStringList("Item 2"));
     click(results().cmdPrint);
     EXPECT_TRUE(reportWindow());
     closeReport();
     Data1.rsGeneral.Delete(); // the household whose report it is
-    refuse("Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", Stop);
+    clickTold(
+        results().cmdPrint, "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", Stop);
     EXPECT_FALSE(reportWindow());
 }
 

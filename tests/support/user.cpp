@@ -288,7 +288,7 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     stroke(key, textOf(key, modifiers), modifiers);
 }
 
-void press(std::initializer_list<Qt::Key> keys)
+void press(const std::vector<Qt::Key>& keys)
 {
     for (const Qt::Key key : keys)
         press(key);

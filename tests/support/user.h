@@ -7,7 +7,7 @@
 #include <QString>
 
 #include <functional>
-#include <initializer_list>
+#include <vector>
 
 class QMenu;
 class QWidget;
@@ -54,7 +54,7 @@ void type(const QString& text);
 void type(forms::Control& control, const QString& text);
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-void press(std::initializer_list<Qt::Key> keys);
+void press(const std::vector<Qt::Key>& keys);
 
 /// Presses a key and keeps it down; what it repeats goes to whatever is in front by then.
 void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
