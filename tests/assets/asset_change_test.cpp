@@ -6,14 +6,11 @@ using forms::screen;
 
 namespace {
 
-constexpr int Warning = 52;
-
 const char* const Updated = "            Asset Has Been Updated!";
 const char* const Deleted = "            Asset Has Been Deleted!";
 const char* const DeleteQuestion = "Deleting This Asset Will Be Permanent...Continue?";
 const char* const PrintError = "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!";
-const char* const Desk20 =
-    "Indoor|Library|Antiques|Antique Desk|2026|Unknown|Unknown|Unknown|11/24/2026|$20.00|No|None|None|New|None";
+constexpr int DeleteFlags = forms::box::Exclamation + forms::box::YesNo;
 
 // Three assets at $10.00, $20.00 and $30.00; the second is open.
 class AssetChange : public AssetScreenTest {
@@ -31,9 +28,11 @@ protected:
 
     void remove()
     {
-        expectBox(DeleteQuestion, Warning, Answer::Yes);
+        expectBox(DeleteQuestion, DeleteFlags, Answer::Yes);
         clickTold(asset().cmdDelete, Deleted, Information);
     }
+
+    const QString desk20_ = QString(Desk).arg("$20.00");
 };
 
 TEST_F(AssetChange, UpdateWritesEveryColumnButTheWarrantyAndTeachesNoName)
@@ -49,11 +48,10 @@ TEST_F(AssetChange, UpdateWritesEveryColumnButTheWarrantyAndTeachesNoName)
     enterPrice("25.5");
     update();
     reopenData();
-    EXPECT_EQ(row(2),
-        "Outdoor|Barn|Animal Care|Hen House|1890|Acme|M 2|S-3|11/24/2026|$25.50|Yes|Desk drawer|Oak\nold|Used|Limited");
+    const QString henHouse = "Outdoor|Barn|Animal Care|Hen House|1890|Acme|M 2|S-3|11/24/2026|$25.50|%1|Limited";
+    EXPECT_EQ(row(2), henHouse.arg("Yes|Desk drawer|Oak\nold|Used"));
     EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Area), QStringList({"Indoor", "Outdoor", "Indoor"}));
-    EXPECT_EQ(inventory(), "3: $65.50");
-    EXPECT_EQ(Data1.rsOutdoor.RecordCount(), known);
+    EXPECT_EQ(line(inventory(), Data1.rsOutdoor.RecordCount()), line("3: $65.50", known));
 
     click(asset().optPurNewUsed[0]);
     click(asset().optRecOnFile[1]);
@@ -61,52 +59,34 @@ TEST_F(AssetChange, UpdateWritesEveryColumnButTheWarrantyAndTeachesNoName)
     asset().cmbArea.setFocus();
     expectBox(Updated, Information);
     press(Qt::Key_Return); // the default button
-    EXPECT_EQ(
-        row(2), "Outdoor|Barn|Animal Care|Hen House|1890|Acme|M 2|S-3|11/24/2026|$25.50|No|None|None|New|Limited");
-    EXPECT_EQ(inventory(), "3: $65.50") << "the same price moves the total once";
+    EXPECT_EQ(line(row(2), inventory()), line(henHouse.arg("No|None|None|New"), "3: $65.50")) << "moved once";
 }
 
-TEST_F(AssetChange, APriceThatTheCheckRefusesHasMovedTheTotalAlready)
+// The total moves before the check, with any price that is an amount.
+TEST_F(AssetChange, ThatTheCheckRefusesLeavesTheRow)
 {
-    enterPrice({});
-    press(Qt::Key_Delete); // the field makes "$.00" of it
-    update(NoPrice, Exclamation);
-    EXPECT_EQ(inventory(), "3: $40.00");
-    EXPECT_EQ(row(2), Desk20);
-    EXPECT_EQ(asset().activeControl(), &asset().txtPPrice);
+    const std::tuple<const char*, const char*, const char*, const char*, const forms::Control&> cases[] = {
+        {"$.00", "11/24/2026", NoPrice, "3: $40.00", asset().txtPPrice},
+        {"$1/2.00", "11/24/2026", BadDate, "3: $40.00", asset().txtPur},
+        {"$20.00", "2/30/2006", BadDate, "3: $60.00", asset().txtPur}};
+    asset().txtMake.setText("Acme");
+    for (const auto& [price, date, message, total, led] : cases) {
+        asset().txtPPrice.setText(price);
+        asset().txtPur.setText(date);
+        update(message, Exclamation);
+        EXPECT_EQ(line(row(2), inventory()), line(desk20_, total)) << price;
+        EXPECT_EQ(asset().activeControl(), &led) << price;
+    }
+    asset().txtPur.setText("2/28/2006");
     enterPrice("5");
     update();
-    EXPECT_EQ(inventory() + " " + stored(2, Inventory::Amount), "3: $45.00 $5.00");
-}
+    EXPECT_EQ(line(stored(2, Inventory::Make), stored(2, Inventory::Amount), inventory()), "Acme, $5.00, 3: $45.00");
 
-TEST_F(AssetChange, OfARowThatIsGoneIsSilent)
-{
-    stored(2, Inventory::ID);
-    Data1.rsInventory.Delete();
+    Data1.rsInventory.Delete(); // a row that is gone is silent
     asset().cmdPrint.setEnabled(false);
-    enterPrice("25");
     click(asset().cmdUpdate);
-    EXPECT_TRUE(asset().cmdPrint.isEnabled());
-    EXPECT_EQ(inventory(), "2: $65.00");
-    clickTold(asset().cmdDelete, DeleteQuestion, Warning, Answer::Yes);
-    EXPECT_TRUE(asset().isVisible());
-    EXPECT_EQ(inventory(), "2: $65.00");
-}
-
-TEST_F(AssetChange, OfATextThatIsNoneTellsOfTheDateAndLeavesRowAndTotal)
-{
-    enterPrice("1/2");
-    update(BadDate, Exclamation);
-    EXPECT_EQ(asset().activeControl(), &asset().txtPur);
-    enterPrice("20");
-    asset().txtPur.setText("2/30/2006");
-    asset().txtMake.setText("Acme");
-    update(BadDate, Exclamation);
-    EXPECT_EQ(row(2), Desk20);
-    asset().txtPur.setText("2/28/2006");
-    update();
-    EXPECT_EQ(stored(2, Inventory::Make), "Acme");
-    EXPECT_EQ(inventory(), "3: $60.00");
+    clickTold(asset().cmdDelete, DeleteQuestion, DeleteFlags, Answer::Yes);
+    EXPECT_EQ(line(scene(), inventory(), asset().cmdPrint.isEnabled()), "10 frmAddUpDel: cmdDelete, 2: $45.00, true");
 }
 
 TEST_F(AssetChange, ThatTheFileRefusesIsToldAndTheStoredRowStays)
@@ -115,25 +95,23 @@ TEST_F(AssetChange, ThatTheFileRefusesIsToldAndTheStoredRowStays)
     enterPrice("25");
     refuseWrites("UPDATE", "Inventory");
     update(BadDate, Exclamation);
-    EXPECT_EQ(inventory(), "3: $65.00") << "the total went before";
-    EXPECT_EQ(asset().activeControl(), &asset().txtPur);
-    EXPECT_EQ(asset().txtMake.text(), "Acme") << "what was typed isn't lost";
+    // The total went before, and what was typed isn't lost.
+    EXPECT_EQ(
+        line(scene(), inventory(), asset().txtMake.text()), "10 frmAddUpDel: txtPur [11/24/2026], 3: $65.00, Acme");
 
     refuseWrites("UPDATE", "Personal_Info");
     enterPrice("26");
     update(BadDate, Exclamation);
     openFound("2");
-    EXPECT_EQ(asset().txtMake.text() + asset().txtPPrice.text(), "Unknown$20.00");
+    EXPECT_EQ(line(asset().txtMake.text(), asset().txtPPrice.text()), "Unknown, $20.00");
     reopenData();
-    EXPECT_EQ(row(2), Desk20);
-    EXPECT_EQ(inventory(), "3: $65.00");
+    EXPECT_EQ(line(row(2), inventory()), line(desk20_, "3: $65.00"));
 }
 
 TEST_F(AssetChange, DeleteAsksTellsAndTakesThePriceInTheBoxOffTheTotal)
 {
-    clickTold(asset().cmdDelete, DeleteQuestion, Warning, Answer::No);
-    EXPECT_EQ(inventory(), "3: $60.00");
-    EXPECT_TRUE(asset().isVisible());
+    clickTold(asset().cmdDelete, DeleteQuestion, DeleteFlags, Answer::No);
+    EXPECT_EQ(line(scene(), inventory()), "10 frmAddUpDel: cmdDelete, 3: $60.00");
 
     screen<frmSearchResults>().FromSearchScreen = true;
     enterPrice("25"); // not updated
@@ -145,42 +123,37 @@ TEST_F(AssetChange, DeleteAsksTellsAndTakesThePriceInTheBoxOffTheTotal)
     click(asset().cmdDelete);
     EXPECT_EQ(told, QStringList({QString(DeleteQuestion) + " 3: $60.00", QString(Deleted) + " 3: $60.00"}))
         << "told before it is done";
-    EXPECT_FALSE(screen<frmSearchResults>().FromSearchScreen);
-    EXPECT_EQ(scene(), "2 frmMain: cmdIn");
+    EXPECT_EQ(line(scene(), screen<frmSearchResults>().FromSearchScreen), "2 frmMain: cmdIn, false");
     reopenData();
-    EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Amount), QStringList({"$10.00", "$30.00"}));
-    EXPECT_EQ(inventory(), "2: $35.00");
+    EXPECT_EQ(line(columnOf(Data1.rsInventory, Inventory::Amount).join(' '), inventory()), "$10.00 $30.00, 2: $35.00");
 }
 
 TEST_F(AssetChange, ADeleteThatFailsIsReportedWithTheRowWholeOrGone)
 {
     enterPrice("1/2"); // the total can't follow, so the row is gone by then
     remove();
-    EXPECT_EQ(failedHandler(), "frmAddUpDel.cmdDelete_Click");
-    EXPECT_EQ(inventory(), "2: $60.00");
+    EXPECT_EQ(line(failedHandler(), inventory()), "frmAddUpDel.cmdDelete_Click, 2: $60.00");
     openFound("3");
     refuseWrites("DELETE", "Inventory");
     remove();
     EXPECT_EQ(failedHandler(), "frmAddUpDel.cmdDelete_Click");
     reopenData();
-    EXPECT_EQ(stored(3, Inventory::Amount), "$30.00");
-    EXPECT_EQ(inventory(), "2: $60.00");
+    EXPECT_EQ(line(stored(3, Inventory::Amount), inventory()), "$30.00, 2: $60.00");
 }
 
-TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreen)
+TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndLeavesNoRowWhereItIsRefusedOrFails)
 {
     asset().txtMake.setText("Acme"); // not updated
     enterPrice("25");
+    const QString onScreen = "1|Indoor|Library|Antiques|Antique Desk|2026|Acme|Unknown|Unknown|11/24/2026|$25.00|No";
     click(asset().cmdPrint);
-    EXPECT_EQ(cellsOf(Data1.rsPrint, Print::ID, Print::Description).join('|'),
-        "1|Indoor|Library|Antiques|Antique Desk|2026|Acme|Unknown|Unknown|11/24/2026|$25.00|No|None|None");
-    EXPECT_EQ(row(2), Desk20);
-    EXPECT_EQ(inventory(), "3: $60.00");
-}
+    EXPECT_EQ(cellsOf(Data1.rsPrint, Print::ID, Print::Receipt).join('|'), onScreen);
+    EXPECT_EQ(line(row(2), inventory()), line(desk20_, "3: $60.00"));
 
-TEST_F(AssetChange, PrintOfWhatIsRefusedOrCannotBeStagedLeavesNoRow)
-{
     asset().cmbType.setText({});
+    clickTold(asset().cmdPrint, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
+    EXPECT_EQ(cellsOf(Data1.rsPrint, Print::ID, Print::Receipt).join('|'), onScreen) << "under the open report";
+    closeReport();
     clickTold(asset().cmdPrint, "An Item Must Be Selected Before Saving Asset!", Exclamation);
     asset().cmbType.setText("Antique Desk");
     enterPrice("1/2");
@@ -188,6 +161,7 @@ TEST_F(AssetChange, PrintOfWhatIsRefusedOrCannotBeStagedLeavesNoRow)
     enterPrice("2");
     refuseWrites("INSERT", "Print");
     clickTold(asset().cmdPrint, PrintError, Stop);
+    EXPECT_FALSE(reportWindow());
     reopenData();
     EXPECT_EQ(Data1.rsPrint.RecordCount(), 0);
 }
@@ -199,17 +173,12 @@ TEST_F(AssetChange, LeavesToTheResultsByCancelAndToTheMenuWithoutTouchingTheList
     expectToStay([] { click(asset().cmdCancel); }, LeaveQuestion);
     EXPECT_TRUE(results.FromSearchScreen);
     clickTold(asset().cmdCancel, LeaveQuestion, YesNoQuestion, Answer::Yes);
-    EXPECT_EQ(forms::activeForm(), &results);
-    EXPECT_FALSE(asset().isVisible());
-    EXPECT_TRUE(asset().isEnabled());
-    EXPECT_FALSE(results.FromSearchScreen);
+    EXPECT_EQ(line(front(), asset().isEnabled(), results.FromSearchScreen), "5 frmSearchResults, true, false");
     EXPECT_EQ(asset().cmbLoc.listCount() + asset().cmbCat.listCount() + asset().cmbType.listCount(), 0);
 
     openFound("2");
     leaveToMainMenu();
-    EXPECT_EQ(forms::activeForm(), &screen<frmMain>());
-    EXPECT_GT(asset().cmbLoc.listCount(), 0);
-    EXPECT_TRUE(screen<frmMain>().FromResults);
+    EXPECT_EQ(line(front(), asset().cmbLoc.listCount() > 0, screen<frmMain>().FromResults), "2 frmMain, true, true");
 }
 
 } // namespace

@@ -19,32 +19,24 @@ protected:
             + "cmdDelete off, cmdPrint off";
     }
 
-    void expectHelp(int number)
+    void expectMode(const QString& focus, const QString& heading, const forms::CommandButton& standard, int help)
     {
+        EXPECT_EQ(line(scene(), asset().lblHead.caption()), line("10 frmAddUpDel: " + focus, heading));
+        EXPECT_EQ(asset().defaultButton(), &standard);
         press(Qt::Key_F1);
-        EXPECT_EQ(openedHelp(), number);
+        EXPECT_EQ(openedHelp(), help);
     }
 };
 
 TEST_F(AssetModes, AddsInTheAreaThatTheMenuNames)
 {
-    const struct {
-        const char* area;
-        const char* heading;
-        const char* location;
-        int help;
-    } areas[] = {{"Indoor", "Add Indoor Asset To Inventory", "Library", 12001},
-        {"Outdoor", "Add Outdoor Asset To Inventory", "Barn", 13001},
-        {"Mobile", "Add Mobile Asset To Inventory", "Car", 14001}};
-    for (const auto& [area, heading, location, help] : areas) {
+    const std::tuple<QString, QString, int> areas[] = {
+        {"Indoor", "Library", 12001}, {"Outdoor", "Barn", 13001}, {"Mobile", "Car", 14001}};
+    for (const auto& [area, location, help] : areas) {
         openToAdd(area);
-        EXPECT_EQ(scene(), "10 frmAddUpDel: cmbLoc");
+        expectMode("cmbLoc", "Add " + area + " Asset To Inventory", asset().cmdAdd, help);
         EXPECT_EQ(contents(asset()), empty(area, "optRecOnFile(1) on, txtLoc=None locked"));
-        EXPECT_EQ(asset().lblHead.caption(), heading);
-        EXPECT_TRUE(itemsOf(asset().cmbLoc).contains(location)) << area;
-        EXPECT_EQ(asset().cmbType.listCount(), 0);
-        EXPECT_EQ(asset().defaultButton(), &asset().cmdAdd);
-        expectHelp(help);
+        EXPECT_TRUE(itemsOf(asset().cmbLoc).contains(location) && itemsOf(asset().cmbType).isEmpty());
         leaveToMainMenu();
     }
 }
@@ -56,19 +48,15 @@ TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
     openToAdd("Indoor");
     leaveToMainMenu();
     openFound("1");
-    EXPECT_EQ(scene(), "10 frmAddUpDel: cmbArea");
+    expectMode("cmbArea", "Update/Delete Asset From Inventory", asset().cmdUpdate, 15001);
     EXPECT_EQ(contents(asset()),
         "cmbArea=Outdoor, cmbLoc=Barn, cmbCat=Animal Care, cmbType=Dog House, cmbYear=2026, txtMake=Acme, "
         "txtMod=Unknown, txtSerial=Unknown, optPurNewUsed(1) on, txtPur=11/24/2026, txtPPrice=$1,234.50, "
         "optRecOnFile(0) on, txtLoc=Desk locked, txtDescription=None, chkWar off, chkClear on off, cmdAdd off, "
         "cmdClear off");
-    EXPECT_EQ(asset().lblHead.caption(), "Update/Delete Asset From Inventory");
     EXPECT_EQ(screen<frmAuto>().lblHead1[0].caption(), "Outdoor Asset Management");
-    EXPECT_EQ(asset().defaultButton(), &asset().cmdUpdate);
-    expectHelp(15001);
 
     // Another area has other names; the asset's category keeps its items.
-    asset().cmbArea.setFocus();
     pick(asset().cmbArea, "Mobile");
     EXPECT_TRUE(itemsOf(asset().cmbLoc).contains("Car") && !itemsOf(asset().cmbLoc).contains("Barn"));
     pick(asset().cmbCat, "Aircraft");
@@ -80,18 +68,18 @@ TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
 
 TEST_F(AssetModes, RemembersBothBoxesAtOnceAndAcrossRuns)
 {
+    const auto word = [](const forms::CheckBox& box) { return QString(box.value() ? "Checked" : "Unchecked"); };
+    const auto boxes = [&] { return QStringList({word(asset().chkClear), word(asset().chkWar)}); };
     openToAdd();
-    const int clear = asset().chkClear.value();
-    const int warranty = asset().chkWar.value();
+    const QStringList before = boxes();
     click(asset().chkClear);
     click(asset().chkWar);
-    EXPECT_EQ(inFile(Data1.rsGeneral, {General::ClearCheck, General::WarrantyCheck}),
-        QStringList({clear ? "Unchecked" : "Checked", warranty ? "Unchecked" : "Checked"}));
+    const QStringList turned = boxes();
+    EXPECT_TRUE(turned[0] != before[0] && turned[1] != before[1]);
+    EXPECT_EQ(inFile(Data1.rsGeneral, {General::ClearCheck, General::WarrantyCheck}), turned);
     forms::destroyScreens();
-    reopenData();
     openToAdd("Mobile");
-    EXPECT_EQ(asset().chkClear.value(), 1 - clear);
-    EXPECT_EQ(asset().chkWar.value(), 1 - warranty);
+    EXPECT_EQ(boxes(), turned);
 }
 
 TEST_F(AssetModes, AsksBeforeItLeaves)
@@ -99,15 +87,12 @@ TEST_F(AssetModes, AsksBeforeItLeaves)
     openToAdd();
     pick(asset().cmbLoc, "Library");
     expectToStay([] { closeBox(asset()); }, LeaveQuestion);
-    EXPECT_EQ(asset().cmbLoc.text(), "Library");
     leaveToMainMenu();
-    EXPECT_EQ(scene(), "2 frmMain: cmdIn");
-    EXPECT_EQ(asset().cmbLoc.text(), "Library"); // the lists stay
+    EXPECT_EQ(line(scene(), asset().cmbLoc.text()), "2 frmMain: cmdIn, Library"); // the lists stay
     openToAdd();
     expectBox(LeaveQuestion, YesNoQuestion, Answer::Yes);
     closeBox(asset());
-    EXPECT_EQ(scene(), "13 frmAuto: cmdAdd(0)");
-    EXPECT_EQ(asset().cmbLoc.listCount(), 0);
+    EXPECT_EQ(line(scene(), asset().cmbLoc.listCount()), "13 frmAuto: cmdAdd(0), 0");
 }
 
 TEST_F(AssetModes, ClearEmptiesTheFormAndLeavesNoReceiptOptionChosen)
@@ -116,51 +101,97 @@ TEST_F(AssetModes, ClearEmptiesTheFormAndLeavesNoReceiptOptionChosen)
     fillIn();
     fillInTheRest();
     clickTold(asset().cmdClear, LeaveQuestion, YesNoQuestion, Answer::Yes);
-    EXPECT_EQ(contents(asset()), empty("Indoor", "txtLoc=None"));
-    EXPECT_EQ(editor().SavedCategory, "");
-    EXPECT_EQ(asset().cmbType.listCount(), 0);
-    EXPECT_EQ(scene(), "10 frmAddUpDel: cmbLoc");
+    EXPECT_EQ(line(scene(), contents(asset())), line("10 frmAddUpDel: cmbLoc", empty("Indoor", "txtLoc=None")));
+    EXPECT_EQ(screen<frmAddField>().SavedCategory + itemsOf(asset().cmbType).join('|'), "");
     fillIn();
     save();
-    EXPECT_EQ(row(1),
-        "Indoor|Library|Antiques|Antique Desk|2026|Unknown|Unknown|Unknown|11/24/2026|$1234.50|No|None|None|New|None");
+    EXPECT_EQ(row(1), QString(Desk).arg("$1234.50"));
 }
 
-class AreaMenu : public ScreenTest {
-protected:
-    static frmAuto& menu() { return screen<frmAuto>(); }
+// ---- the fields, each by itself
 
-    static void open(const QString& title)
-    {
-        menu().lblHead1[0].setCaption(title);
-        menu().load_It();
-    }
+class AssetFields : public AssetScreenTest {
+protected:
+    AssetFields() { openToAdd(); }
 };
 
-TEST_F(AreaMenu, HasTheHelpOfItsAreaWhereAnyOtherTitleIsMobile)
+TEST_F(AssetFields, TakeTheirDefaultBackWhenTheyAreLeftEmpty)
 {
-    const std::pair<const char*, int> areas[] = {{"Indoor Asset Management", 9001}, {"Outdoor Asset Management", 10001},
-        {"Mobile Asset Management", 11001}, {"indoor asset management", 11001}};
+    asset().txtMake.setText("AB");
+    asset().cmbYear.setFocus();
+    EXPECT_EQ(scene(), "10 frmAddUpDel: cmbYear [20]") << "as much of the year is selected as the make is long";
+    const std::pair<forms::TextEntry*, const char*> fields[] = {{&asset().cmbYear, "2026"},
+        {&asset().txtMake, "Unknown"}, {&asset().txtMod, "Unknown"}, {&asset().txtSerial, "Unknown"},
+        {&asset().txtPur, "mm/dd/yyyy"}, {&asset().txtLoc, "Unknown"}, {&asset().txtPPrice, "$.00"},
+        {&asset().txtDescription, ""}};
+    for (const auto& [field, standard] : fields) {
+        retype(*field, {});
+        press(Qt::Key_Delete);
+        EXPECT_EQ(field->text(), "") << qPrintable(field->name());
+        tab();
+        EXPECT_EQ(field->text(), standard) << qPrintable(field->name());
+    }
+}
+
+TEST_F(AssetFields, ReceiptLocationIsEmptiedByTheFocusAndUnlockedByTheFirstKey)
+{
+    const auto receipt = [] { return contents(asset()).section(", ", 11, 12); };
+    click(asset().optRecOnFile[1]);
+    EXPECT_EQ(receipt(), "optRecOnFile(1) on, txtLoc=None locked");
+    tab();
+    EXPECT_EQ(receipt(), "optRecOnFile(0) on, txtLoc= locked");
+    type("D");
+    EXPECT_EQ(receipt(), "optRecOnFile(0) on, txtLoc=D");
+}
+
+TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
+{
+    const auto names = [] { return line(asset().cmbLoc.text(), asset().cmbCat.text()); };
+    pick(asset().cmbLoc, "Library");
+    type("xyz");
+    press(Qt::Key_Delete);
+    paste("Attic");
+    EXPECT_EQ(names(), "Library, ");
+    press(Qt::Key_Down);
+    pick(asset().cmbCat, "Antiques");
+    press(Qt::Key_Down); // refused
+    EXPECT_EQ(names(), "Linen Closet, Antiques");
+    press(Qt::Key_Down, Qt::AltModifier); // the list opens all the same
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(names(), "Linen Closet, Appliances");
+    tab();
+    type("Elephant's Foot");
+    EXPECT_EQ(asset().cmbType.text(), "Elephant's Foot");
+    pick(asset().cmbLoc, "< Add/Edit Location >");
+    const auto& editor = screen<frmAddField>();
+    EXPECT_EQ(line(asset().ListInEdit, editor.SavedLocation, editor.SavedCategory), // the last real names
+        "Location, Linen Closet, Appliances");
+}
+
+// ---- the menu of an area
+
+TEST_F(AssetModes, AreaMenuHasItsHelpAndTellsThatThereIsNothingToUpdateOrDelete)
+{
+    auto& menu = screen<frmAuto>();
+    const std::pair<const char*, int> areas[] = {{"Outdoor Asset Management", 10001},
+        {"Mobile Asset Management", 11001}, {"indoor asset management", 11001},
+        {"Indoor Asset Management", 9001}}; // any other title is of Mobile
     for (const auto& [title, help] : areas) {
-        open(title);
+        menu.lblHead1[0].setCaption(title);
+        menu.load_It();
         EXPECT_EQ(scene(), "13 frmAuto: cmdAdd(0)");
         press(Qt::Key_F1);
         EXPECT_EQ(openedHelp(), help);
         tab(); // the next opening is on Add again
     }
-}
-
-TEST_F(AreaMenu, TellsThatThereIsNothingToUpdateOrDelete)
-{
-    open("Indoor Asset Management");
-    clickTold(menu().cmdUpdate[1], "There Are No Available Assets To Update...Please Add An Asset Before Continuing!!",
-        Information);
-    expectBox("There Are No Available Assets To Delete...Please Add An Asset Before Continuing!!", Information);
+    const QString nothing = "There Are No Available Assets To %1...Please Add An Asset Before Continuing!!";
+    clickTold(menu.cmdUpdate[1], nothing.arg("Update"), Information);
+    expectBox(nothing.arg("Delete"), Information);
     accessKey('d');
-    EXPECT_TRUE(menu().isVisible());
-
+    EXPECT_TRUE(menu.isVisible());
     addAssetRow({"Outdoor"}); // of another area
-    click(menu().cmdUpdate[1]);
+    click(menu.cmdUpdate[1]);
     EXPECT_EQ(forms::activeForm(), &screen<frmSearch>());
 }
 

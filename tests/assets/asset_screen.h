@@ -11,16 +11,16 @@
 /// A test with the asset screen, reached as a user reaches it.
 class AssetScreenTest : public ScreenTest {
 protected:
-    static constexpr int Question = YesNoQuestion;
-
     static constexpr const char* Added = "Asset Has Been Added To Your Inventory!";
     static constexpr const char* BadDate =
         "Invalid Purchase Date...Be Sure The Format Is mm/dd/yyyy (Example: 12/25/2005)";
     static constexpr const char* NoPrice = "The Purchase Price Of The Asset Must Be Entered Before Saving!";
+    /// The row of an asset in which only what has to be was filled in, but for its price.
+    static constexpr const char* Desk =
+        "Indoor|Library|Antiques|Antique Desk|2026|Unknown|Unknown|Unknown|11/24/2026|%1|No|None|None|New|None";
     static constexpr const char* LeaveQuestion = "Any Unsaved Changes Will Be Lost...Continue?";
 
     static frmAddUpDel& asset() { return forms::screen<frmAddUpDel>(); }
-    static frmAddField& editor() { return forms::screen<frmAddField>(); }
 
     static void openToAdd(const QString& area = "Indoor")
     {
@@ -35,8 +35,7 @@ protected:
     {
         values::Currency total;
         for (const QString& price : prices) {
-            addAssetRow({"Indoor", "Library", "Antiques", "Antique Desk", "2026", "Unknown", "Unknown", "Unknown",
-                "11/24/2026", price, "No", "None", "None", "New"});
+            addAssetRow(QString(Desk).arg(price).split('|'));
             total += values::Currency::parse(price);
         }
         put(Data1.rsGeneral, {{General::AssetValue, total.toText()}});
@@ -73,7 +72,8 @@ protected:
         pick(asset().cmbLoc, location);
         pick(asset().cmbCat, category);
         retype(asset().cmbType, item);
-        pickToday();
+        whileModal([] { press(Qt::Key_Return); });
+        click(asset().picDate);
         enterPrice(price);
     }
 
@@ -89,12 +89,6 @@ protected:
         type("Desk drawer");
         asset().txtDescription.setFocus();
         type("Oak\nold");
-    }
-
-    void pickToday()
-    {
-        whileModal([] { press(Qt::Key_Return); });
-        click(asset().picDate);
     }
 
     static void setClearBox(bool ticked)
@@ -126,11 +120,10 @@ protected:
         return cellsOf(Data1.rsInventory, Inventory::Area, Inventory::PartsType).join('|');
     }
 
-    static values::Currency assetValue() { return Data1.rsGeneral.Fields(General::AssetValue).currency(); }
-
     /// How many assets there are, and what they are worth.
     static QString inventory()
     {
-        return QStringLiteral("%1: %2").arg(Data1.rsInventory.RecordCount()).arg(assetValue().toText());
+        const QString worth = Data1.rsGeneral.Fields(General::AssetValue).currency().toText();
+        return QStringLiteral("%1: %2").arg(Data1.rsInventory.RecordCount()).arg(worth);
     }
 };

@@ -2,6 +2,8 @@
 // The six lists, each on its way through the menu and the three editors.
 #include "lists/list_editors.h"
 
+#include <QRegularExpression>
+
 using forms::Answer;
 
 namespace {
@@ -10,9 +12,7 @@ struct EditedList {
     QString area;
     QString kind;
     int menuHelp;
-    int addHelp;
-    int changeHelp;
-    int deleteHelp;
+    int addHelp; // changing has its help 6,000 on, deleting 12,000
 
     QString name() const { return area + " " + kind; }
     storage::TableView& names() const { return areas::ofName(area).nameTable(); }
@@ -22,150 +22,121 @@ struct EditedList {
 
 class EachList : public ListEditorsTest, public testing::WithParamInterface<EditedList> {
 protected:
-    static QString name() { return GetParam().name(); }
-    static QString kind() { return GetParam().kind; }
-
-    static void expectScreen(forms::Form& screen, const char* heading, const QString& caption, int number, int help)
+    // "Add Indoor Location, 11 frmAddField: txtAdd, 23001"
+    QString seen(forms::Form& form, const char* heading)
     {
-        EXPECT_EQ(control<forms::Label>(screen, heading).caption(), caption);
-        EXPECT_EQ(forms::activeForm(), &screen);
-        EXPECT_EQ(frmStartup::CurrentScreen, number);
-        forms::screen<frmMain>().Hide_Screens();
-        EXPECT_FALSE(screen.isVisible()) << number;
-        screen.show();
-        for ([[maybe_unused]] const int stop : {1, 2, 3, 4}) {
-            EXPECT_EQ(screen.activeControl()->helpNumber(), help) << qPrintable(screen.activeControl()->name());
-            tab();
-        }
+        press(Qt::Key_F1);
+        return line(control<forms::Label>(form, heading).caption(), scene(), openedHelp().value_or(0));
     }
 
-    void expectSelection(const QString& text)
-    {
-        EXPECT_EQ(forms::activeForm(), &asset());
-        EXPECT_EQ(boxOf(kind()).text(), text);
-    }
+    const EditedList list_ = GetParam();
+    const QString name_ = list_.name();
+    forms::ComboBox& box_ = boxOf(list_.kind);
 };
 
 TEST_P(EachList, IsNamedOnEveryScreenAndHasItsHelp)
 {
-    const auto& [area, kind, menuHelp, addHelp, changeHelp, deleteHelp] = GetParam();
-    openToAdd(area);
-    const struct {
-        Option option;
-        forms::Form& editor;
-        const char* heading;
-        const char* word;
-        int number;
-        int help;
-    } editors[] = {{Add, adding(), "lblHead", "Add ", 11, addHelp},
-        {Change, changing(), "lblHead4", "Change ", 14, changeHelp},
-        {Delete, deleting(), "lblHead", "Delete ", 16, deleteHelp}};
-    for (const auto& [option, editor, heading, word, number, help] : editors) {
-        pickMarker(kind);
-        EXPECT_EQ(menu().activeControl(), &menu().cmdUpdate);
-        expectScreen(menu(), "lblHead", "Add/Edit " + name(), 12, menuHelp);
+    openToAdd(list_.area);
+    const std::tuple<Option, forms::Form&, const char*, QString, int> editors[] = {
+        {Add, adding(), "lblHead", "Add %1, 11 frmAddField: txtAdd, %2", list_.addHelp},
+        {Change, changing(), "lblHead4", "Change %1, 14 frmUpdate: cmdUpdate, %2", list_.addHelp + 6000},
+        {Delete, deleting(), "lblHead", "Delete %1, 16 frmDelField: cmbCat, %2", list_.addHelp + 12000}};
+    for (const auto& [option, editor, heading, expected, help] : editors) {
+        pickMarker(list_.kind);
+        EXPECT_EQ(seen(menu(), "lblHead"),
+            QString("Add/Edit %1, 12 frmEditCmbBoxes: cmdUpdate, %2").arg(name_).arg(list_.menuHelp));
         choose(option);
-        expectScreen(editor, heading, word + name(), number, help);
-        EXPECT_EQ(control<forms::Label>(editor, "lblChoice").caption(), option == Change ? "Current" : kind);
+        EXPECT_EQ(seen(editor, heading), expected.arg(name_).arg(help));
+        EXPECT_EQ(control<forms::Label>(editor, "lblChoice").caption(), option == Change ? "Current" : list_.kind);
         closeBox(editor);
         EXPECT_EQ(forms::activeForm(), &asset());
     }
-    EXPECT_EQ(itemsOf(changing().cmbCat),
-        itemsOf(boxOf(kind)).mid(1)); // without the marker
-    EXPECT_EQ(itemsOf(deleting().cmbCat), itemsOf(boxOf(kind)).mid(1));
+    const QStringList withoutMarker = itemsOf(box_).mid(1);
+    EXPECT_TRUE(itemsOf(changing().cmbCat) == withoutMarker && itemsOf(deleting().cmbCat) == withoutMarker);
 }
 
 TEST_P(EachList, TakesANewNameInAnySpellingOnce)
 {
-    openToAdd(GetParam().area);
-    const QString old = boxOf(kind()).list(1);
-    pick(boxOf(kind()), old);
-    pickMarker(kind());
+    const QString taken = "This " + name_ + " Is Already Available!";
+    openToAdd(list_.area);
+    const QString old = box_.list(1);
+    pick(box_, old);
+    pickMarker(list_.kind);
     choose(Add);
-    type("Tower ");
-    clickTold(adding().cmdUpdate, " Your " + name() + " Has Been Added!", Information);
-    EXPECT_EQ(usersRows(GetParam().names()), QStringList(GetParam().row("Tower ")));
-
-    type(adding().txtAdd,
-        "tOWER "); // the click has selected the name that stands there
-    clickTold(adding().cmdUpdate, "This " + name() + " Is Already Available!", Exclamation);
+    type("2nd Tower ");
+    add(" Your " + name_ + " Has Been Added!");
+    type(adding().txtAdd, "2ND tOWER "); // the click has selected the name that stands there
+    add(taken, Exclamation);
     EXPECT_TRUE(isRefused(adding().txtAdd));
-    EXPECT_EQ(adding().txtAdd.selectionLength(), 6);
     type(old); // the name of a standard row
-    clickTold(adding().cmdUpdate, "This " + name() + " Is Already Available!", Exclamation);
-    EXPECT_EQ(usersRows(GetParam().names()).size(), 1);
+    add(taken, Exclamation);
+    EXPECT_EQ(usersRows(list_.names()), QStringList(list_.row("2nd Tower ")));
 
     expectToStay([] { closeBox(adding()); }, LeaveEditor);
-    EXPECT_EQ(boxOf(kind()).text(), old); // behind the editor, already
-    clickTold(adding().cmdCancel, LeaveEditor, Question, Answer::Yes);
-    expectSelection(old);
-    EXPECT_EQ(itemsOf(boxOf(kind())).count("Tower "), 1);
+    EXPECT_EQ(box_.text(), old); // behind the editor, already
+    clickTold(adding().cmdCancel, LeaveEditor, YesNoQuestion, Answer::Yes);
+    EXPECT_EQ(line(front(), box_.text()), line("10 frmAddUpDel", old));
+    EXPECT_EQ(itemsOf(box_).first(3), QStringList({"< Add/Edit " + list_.kind + " >", "2nd Tower ", old}));
 }
 
 TEST_P(EachList, ChangesANameWithTheAssetsOfItsAreaThatCarryIt)
 {
-    const auto column = GetParam().ofLocations() ? Inventory::Location : Inventory::Category;
-    const auto other = GetParam().ofLocations() ? Inventory::Category : Inventory::Location;
-    addNames(GetParam().names(), GetParam().row("Tower").split('|'));
-    addNames(GetParam().names(), {"TOWER", "TOWER", "Bell"}); // goes whole
-    addAsset(GetParam().area, "Tower", "Tower");
-    addAsset(GetParam().area == "Indoor" ? "Mobile" : "Indoor", "Tower", "Tower");
-    addAsset(GetParam().area, "TOWER", "TOWER");
-    open(Change, GetParam().area, kind());
+    const auto column = list_.ofLocations() ? Inventory::Location : Inventory::Category;
+    const auto other = list_.ofLocations() ? Inventory::Category : Inventory::Location;
+    addNames(list_.names(), list_.row("Tower").split('|'));
+    addNames(list_.names(), {"TOWER", "TOWER", "Bell"}); // goes whole
+    addAsset(list_.area, "Tower", "Tower");
+    addAsset(list_.area == "Indoor" ? "Mobile" : "Indoor", "Tower", "Tower");
+    addAsset(list_.area, "TOWER", "TOWER");
+    open(Change, list_.area, list_.kind);
     pick(changing().cmbCat, "Tower");
     type(changing().txtNew, "Spire");
-    clickTold(changing().cmdUpdate, "Your " + name() + " Has Been Changed!", Information);
-    expectSelection("Spire");
-    EXPECT_EQ(itemsOf(boxOf(kind())).first(), "< Add/Edit " + kind() + " >");
-    EXPECT_EQ(itemsOf(boxOf(kind())).filter("Tower", Qt::CaseInsensitive).size(), 0);
-    EXPECT_EQ(adding().SavedCategory, "Spire"); // of a location too
+    clickTold(changing().cmdUpdate, "Your " + name_ + " Has Been Changed!", Information);
+    // The name is kept as a category's, of a location too.
+    EXPECT_EQ(line(front(), box_.text(), adding().SavedCategory), "10 frmAddUpDel, Spire, Spire");
+    EXPECT_EQ(itemsOf(box_).filter(QRegularExpression("^<|tower", QRegularExpression::CaseInsensitiveOption)),
+        QStringList("< Add/Edit " + list_.kind + " >"));
     reopenData();
-    EXPECT_EQ(usersRows(GetParam().names()), QStringList(GetParam().row("Spire")));
-    EXPECT_EQ(assetsIn(column), QStringList({"Spire", "Tower", "TOWER"}));
-    EXPECT_EQ(assetsIn(other), QStringList({"Tower", "Tower", "TOWER"}));
+    EXPECT_EQ(usersRows(list_.names()), QStringList(list_.row("Spire")));
+    EXPECT_EQ(columnOf(Data1.rsInventory, column), QStringList({"Spire", "Tower", "TOWER"}));
+    EXPECT_EQ(columnOf(Data1.rsInventory, other), QStringList({"Tower", "Tower", "TOWER"}));
 }
 
 TEST_P(EachList, LosesANameThatNoAssetCarries)
 {
-    addNames(GetParam().names(), {"Tower", "Tower", "Bell"});
-    addNames(GetParam().names(), {"TOWER", "TOWER", "Bell"});
-    addNames(GetParam().names(), {"Tower", "Tower", "Clock"}); // the last row has no next one to move to
-    const QStringList before = usersRows(GetParam().names());
-    addAsset(GetParam().area == "Mobile" ? "Outdoor" : "Mobile", "Tower", "Tower");
-    open(Delete, GetParam().area, kind());
-    const auto remove = [&](const QString& text, Answer answer, const QString& message = {}, int flags = Information) {
-        deleting().cmbCat.setText(text);
-        expectBox("Are You Sure You Want To Delete This " + name() + "?", Question, answer);
-        if (answer == Answer::Yes)
-            expectBox(message, flags);
-        click(deleting().cmdUpdate);
-    };
-    remove(deleting().cmbCat.list(1), Answer::Yes,
-        kind() + " Can Not Be Deleted...You Can Only Delete A " + kind() + " That You Have Added!");
-    remove("Tower", Answer::No);
-    remove("Tower", Answer::Yes,
-        "Assets Are Using This " + kind() + "...Please Relocate Or Remove Asset(s) Before Deleting!", Stop);
-    EXPECT_EQ(deleting().cmbCat.text(), "Tower");
-    EXPECT_EQ(usersRows(GetParam().names()), before);
+    addNames(list_.names(), {"Tower", "Tower", "Bell"});
+    addNames(list_.names(), {"TOWER", "TOWER", "Bell"});
+    addNames(list_.names(), {"Tower", "Tower", "Clock"}); // the last row has no next one to move to
+    open(Delete, list_.area, list_.kind);
+    const QString standard = deleting().cmbCat.list(1);
+    addNames(list_.names(), {standard, standard, "0"}); // a user and an asset have it too
+    addAsset(list_.area, standard, standard);
+    addAsset(list_.area == "Mobile" ? "Outdoor" : "Mobile", "Tower", "Tower");
+    const QStringList before = usersRows(list_.names());
+    remove(name_, standard,
+        QString("%1 Can Not Be Deleted...You Can Only Delete A %1 That You Have Added!").arg(list_.kind));
+    deleting().cmbCat.setText("Tower");
+    clickTold(deleting().cmdUpdate, "Are You Sure You Want To Delete This " + name_ + "?", YesNoQuestion, Answer::No);
+    remove(name_, "Tower",
+        "Assets Are Using This " + list_.kind + "...Please Relocate Or Remove Asset(s) Before Deleting!", Stop);
+    expectToStay([] { closeBox(deleting()); }, LeaveEditor);
+    EXPECT_EQ(usersRows(list_.names()), before);
 
     removeRows(Data1.rsInventory);
-    remove("Tower", Answer::Yes, "Your " + name() + " Has Been Deleted!");
-    expectSelection("");
-    EXPECT_FALSE(itemsOf(boxOf(kind())).contains("Tower"));
-    EXPECT_TRUE(itemsOf(boxOf(kind())).contains("TOWER")); // another name
+    remove(name_, "Tower", "Your " + name_ + " Has Been Deleted!");
+    EXPECT_EQ(line(front(), box_.text()), "10 frmAddUpDel, ");
+    EXPECT_EQ(itemsOf(box_).filter("Tower", Qt::CaseInsensitive), QStringList("TOWER")); // another name
     reopenData();
-    const QString bell = GetParam().ofLocations() ? "0|Tower|Bell" : "Tower|0|0";
-    const QString clock = GetParam().ofLocations() ? "0|Tower|Clock" : "Tower|0|0";
-    EXPECT_EQ(usersRows(GetParam().names()), QStringList({bell, "TOWER|TOWER|Bell", clock}));
+    const QString left = list_.ofLocations() ? "0|Tower|%1" : "Tower|0|0";
+    EXPECT_EQ(usersRows(list_.names()).join(' '),
+        QString(left).replace("%1", "Bell") + " TOWER|TOWER|Bell " + QString(left).replace("%1", "Clock") + " "
+            + before.last());
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, EachList,
-    testing::Values(EditedList{"Indoor", "Location", 17001, 23001, 29001, 35001},
-        EditedList{"Indoor", "Category", 20001, 24001, 30001, 36001},
-        EditedList{"Outdoor", "Location", 18001, 25001, 31001, 37001},
-        EditedList{"Outdoor", "Category", 21001, 26001, 32001, 38001},
-        EditedList{"Mobile", "Location", 19001, 27001, 33001, 39001},
-        EditedList{"Mobile", "Category", 22001, 28001, 34001, 40001}),
+    testing::Values(EditedList{"Indoor", "Location", 17001, 23001}, EditedList{"Indoor", "Category", 20001, 24001},
+        EditedList{"Outdoor", "Location", 18001, 25001}, EditedList{"Outdoor", "Category", 21001, 26001},
+        EditedList{"Mobile", "Location", 19001, 27001}, EditedList{"Mobile", "Category", 22001, 28001}),
     [](const auto& list) { return QString(list.param.name()).remove(' ').toStdString(); });
 
 } // namespace

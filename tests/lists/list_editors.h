@@ -3,7 +3,6 @@
 
 #include "assets/areas.h"
 #include "assets/asset_screen.h"
-#include "core/frmStartup.h"
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
@@ -38,6 +37,9 @@ protected:
         choose(option);
     }
 
+    /// Adds what stands in the box.
+    void add(const QString& message, int flags = Information) { clickTold(adding().cmdUpdate, message, flags); }
+
     void change(const QString& current, const QString& name, const QString& message, int flags = Information)
     {
         changing().cmbCat.setText(current);
@@ -45,13 +47,13 @@ protected:
         clickTold(changing().cmdUpdate, message, flags);
     }
 
-    /// Deletes a location, with Yes to the question.
-    void remove(const QString& name, const std::pair<QString, int>& message = {})
+    /// Deletes a name of a list, with Yes to the question; the other box comes where there is one.
+    void remove(const QString& list, const QString& name, const QString& message = {}, int flags = Information)
     {
         deleting().cmbCat.setText(name);
-        expectBox("Are You Sure You Want To Delete This Indoor Location?", Question, forms::Answer::Yes);
-        if (!message.first.isEmpty())
-            expectBox(message.first, message.second);
+        expectBox("Are You Sure You Want To Delete This " + list + "?", YesNoQuestion, forms::Answer::Yes);
+        if (!message.isEmpty())
+            expectBox(message, flags);
         click(deleting().cmdUpdate);
     }
 
@@ -67,12 +69,10 @@ protected:
         const storage::Snapshot rows = table.snapshot();
         for (int row = 0; row < rows.rowCount(); ++row)
             if (rows.text(row, Names::Standard) == "0")
-                users.append(rows.text(row, Names::Location) + "|" + rows.text(row, Names::Category) + "|"
-                    + rows.text(row, Names::Type));
+                users += rows.text(row, Names::Location) + '|' + rows.text(row, Names::Category) + '|'
+                    + rows.text(row, Names::Type);
         return users;
     }
-
-    static QStringList assetsIn(Inventory::Column column) { return columnOf(Data1.rsInventory, column); }
 
     static bool isRefused(const forms::Control& box)
     {

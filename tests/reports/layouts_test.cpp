@@ -7,11 +7,13 @@
 #include "support/harness.h"
 #include "support/pdf_text.h"
 
+#include <QDir>
+#include <QProgressDialog>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <cmath>
-#include <span>
+#include <map>
 
 namespace {
 
@@ -19,126 +21,100 @@ constexpr double halfMillimetre = 1440 / 25.4 / 2;
 
 enum Side { Left, Middle, Right };
 
-/// A text that has to stand in its place: there its left edge, its middle or its right edge.
-struct Placed {
-    const char* text;
-    double x;
-    double top;
-    Side side = Left;
+/// Lines of texts that stand at the same edges: there a text's left edge, its middle or its right edge.
+struct Band {
+    std::vector<std::pair<double, Side>> edges;
+    std::vector<std::pair<double, QString>> lines; // their tops, and their texts with "|" between them
 };
-
-/// A caption that ends at its place, and the value beside it.
-struct Pair {
-    const char* caption;
-    double end;
-    const char* value;
-    double left;
-    double top;
-};
-
-constexpr Placed assetHead[] = {{"Kestrill", 5445, 750, Middle}, {"Asset Report", 5445, 1200, Middle},
-    {"11/24/2026", 735, 975}, {"9:05:00 AM", 735, 1260}, {"Page:", 9540, 945, Right}, {"1", 9600, 945},
-    {"Total Pages:", 9525, 1275, Right}, {"1", 9600, 1275}, {"Description:", 1665, 1725 + 1335, Right},
-    {"With two keys.", 1770, 1725 + 1380}};
 
 constexpr double detail = 1725; // of the asset report, from the top of its page
-constexpr Pair assetEntries[] = {{"Area:", 1665, "Indoor", 1770, detail + 120},
-    {"Location:", 1665, "Library", 1770, detail + 405}, {"Category:", 1665, "Antiques", 1770, detail + 690},
-    {"Item:", 1665, "Antique Desk", 1770, detail + 975}, {"Year:", 4725, "1931", 4845, detail + 120},
-    {"Make:", 4725, "Northlight", 4845, detail + 405}, {"Model:", 4725, "V-300", 4845, detail + 690},
-    {"Serial:", 4725, "SN 0042/7", 4845, detail + 975}, {"Receipt:", 8715, "Yes", 8835, detail + 120},
-    {"Receipt Location:", 8715, "Fire safe", 8835, detail + 405},
-    {"Date Purchased:", 8715, "7/4/2006", 8835, detail + 690}, {"Amount:", 8715, "$1,234.50", 8835, detail + 975}};
+const std::vector<Band> assetReport = {{{{5445, Middle}}, {{750, "Kestrill"}, {1200, "Asset Report"}}},
+    {{{735, Left}}, {{975, "11/24/2026"}, {1260, "9:05:00 AM"}}},
+    {{{9540, Right}, {9600, Left}}, {{945, "Page:|1"}, {1275, "Total Pages:|1"}}},
+    {{{1665, Right}, {1770, Left}, {4725, Right}, {4845, Left}, {8715, Right}, {8835, Left}},
+        {{detail + 120, "Area:|Indoor|Year:|1931|Receipt:|Yes"},
+            {detail + 405, "Location:|Library|Make:|Northlight|Receipt Location:|Fire safe"},
+            {detail + 690, "Category:|Antiques|Model:|V-300|Date Purchased:|7/4/2006"},
+            {detail + 975, "Item:|Antique Desk|Serial:|SN 0042/7|Amount:|$1,234.50"}, {detail + 1335, "Description:"},
+            {detail + 1380, "|With two keys."}}}};
 
-constexpr Placed coverHeads[] = {{"Kestrill", 5715, 1008, Middle}, {"Asset Report", 5715, 1440, Middle},
-    {"Personal Information", 5715, 2544, Middle}, {"Contact Information", 5715, 6576, Middle},
-    {"Policy Information", 5715, 9312, Middle}, {"Total Asset Value", 5715, 11472, Middle},
-    {"$1,234.50", 5683.5, 12192, Middle}, {"Home Phone =>", 5340, 7305, Right}, {"Work Phone =>", 5340, 7755, Right},
-    {"Cell Phone =>", 5340, 8190, Right}};
+const std::vector<Band> coverSheet = {
+    {{{5715, Middle}},
+        {{1008, "Kestrill"}, {1440, "Asset Report"}, {2544, "Personal Information"}, {6576, "Contact Information"},
+            {9312, "Policy Information"}, {11472, "Total Asset Value"}}},
+    {{{5683.5, Middle}}, {{12192, "$1,234.50"}}},
+    {{{5334, Right}, {5475, Left}},
+        {{3264, "First Name =>|Ann"}, {3696, "Middle Initial =>|Q"}, {4128, "Last Name =>|Fairbanks"},
+            {4560, "Address =>|Orchard Lane"}, {4992, "City =>|Albany"}, {5424, "State =>|NY"},
+            {5856, "ZIP =>|12205-AB"}, {7305, "Home Phone =>"}, {7755, "Work Phone =>"}, {8190, "Cell Phone =>"},
+            {8625, "E-Mail =>|ann@home.example"}, {9888, "Insurance Company =>|Tidewater Mutual"},
+            {10320, "Policy Number =>|TM-4711"}, {10752, "Policy Expiration =>|12/31/2027"}}}};
 
-constexpr double sheet = 2400; // the detail of the cover sheet
-constexpr Pair coverEntries[] = {{"First Name =>", 5334, "Ann", 5475, sheet + 864},
-    {"Middle Initial =>", 5334, "Q", 5475, sheet + 1296}, {"Last Name =>", 5334, "Fairbanks", 5475, sheet + 1728},
-    {"Address =>", 5334, "Orchard Lane", 5475, sheet + 2160}, {"City =>", 5334, "Albany", 5475, sheet + 2592},
-    {"State =>", 5334, "NY", 5475, sheet + 3024}, {"ZIP =>", 5334, "12205-AB", 5475, sheet + 3456},
-    {"E-Mail =>", 5340, "ann@home.example", 5475, sheet + 6225},
-    {"Insurance Company =>", 5334, "Tidewater Mutual", 5475, sheet + 7488},
-    {"Policy Number =>", 5334, "TM-4711", 5475, sheet + 7920},
-    {"Policy Expiration =>", 5334, "12/31/2027", 5475, sheet + 8352}};
-
-constexpr Placed formTexts[] = {{"Kestrill", 5505, 1152, Middle}, {"Asset Information Form", 5505, 1584, Middle},
-    {"Year Asset Was Made =>", 3588, 4464, Right}, {"Make =>", 3588, 4896, Right}, {"Model =>", 3588, 5328, Right},
-    {"Serial =>", 3588, 5760, Right}, {"Purchase Price =>", 3588, 7344, Right}, {"Description =>", 3588, 9216, Right},
-    {"Outdoor", 4752, 2448}, {"Mobile", 5760, 2448}, {"(Select One)", 6768, 2448}, {"Used", 4608, 6480},
-    {"(Select One)", 5472, 6480}, {"No", 4608, 8064}, {"(Select One)", 5472, 8064}};
-
-constexpr Pair formEntries[] = {{"Area =>", 3588, "Indoor", 3744, 2448},
-    {"Location =>", 3588, "(i.e. Bedroom or Porch)", 6768, 2880},
-    {"Category =>", 3588, "(i.e. Furniture or Electronics)", 6768, 3312},
-    {"Asset Name =>", 3588, "(i.e. Stereo or Dishwasher)", 6768, 3744}, {"Purchased =>", 3588, "New", 3744, 6480},
-    {"Purchase Date =>", 3588, "(Format: mm/dd/yyyy)", 6768, 6912},
-    {"Asset Receipt On File =>", 3588, "Yes", 3744, 8064},
-    {"Asset Receipt Location =>", 3588, "(i.e. File Cabinet)", 6768, 8496}};
-
-std::vector<Placed> together(std::span<const Placed> texts, std::span<const Pair> pairs)
-{
-    std::vector<Placed> all(texts.begin(), texts.end());
-    for (const Pair& pair : pairs) {
-        all.push_back({pair.caption, pair.end, pair.top, Right});
-        all.push_back({pair.value, pair.left, pair.top});
-    }
-    return all;
-}
+const std::vector<Band> fillOutForm = {{{{5505, Middle}}, {{1152, "Kestrill"}, {1584, "Asset Information Form"}}},
+    {{{3588, Right}, {3744, Left}, {4752, Left}, {5760, Left}, {6768, Left}},
+        {{2448, "Area =>|Indoor|Outdoor|Mobile|(Select One)"}}},
+    {{{3588, Right}, {3744, Left}, {4608, Left}, {5472, Left}},
+        {{6480, "Purchased =>|New|Used|(Select One)"}, {8064, "Asset Receipt On File =>|Yes|No|(Select One)"}}},
+    {{{3588, Right}, {6768, Left}},
+        {{2880, "Location =>|(i.e. Bedroom or Porch)"}, {3312, "Category =>|(i.e. Furniture or Electronics)"},
+            {3744, "Asset Name =>|(i.e. Stereo or Dishwasher)"}, {4464, "Year Asset Was Made =>"}, {4896, "Make =>"},
+            {5328, "Model =>"}, {5760, "Serial =>"}, {6912, "Purchase Date =>|(Format: mm/dd/yyyy)"},
+            {7344, "Purchase Price =>"}, {8496, "Asset Receipt Location =>|(i.e. File Cabinet)"},
+            {9216, "Description =>"}}}};
 
 class ReportLayouts : public ScreenTest {
 protected:
-    pdf::Page printed(const report::Layout& layout, const storage::TableView& view, QPageSize::PageSizeId paper)
+    static report::Pages pagesOf(
+        const report::Layout& layout, const storage::TableView& view, QPageSize::PageSizeId paper)
     {
         auto document = std::make_shared<report::Document>();
         document->layout = layout;
         document->rows = std::make_shared<SnapshotRows>(view.snapshot());
         document->moment = {"11/24/2026", "9:05:00 AM"};
-        const QString path = folder_.filePath("report.pdf");
-        const report::Pages pages(document, {QPageSize(paper)});
-        EXPECT_EQ(report::savePdf(pages, path), report::Outcome::Done);
-        const std::vector<pdf::Page> read = pdf::read(path);
-        EXPECT_EQ(read.size(), 1);
-        return read.at(0);
+        return {document, {QPageSize(paper)}};
     }
 
-    static double edgeOf(const QRectF& place, Side side)
+    std::vector<pdf::Page> printed(const report::Pages& pages)
     {
-        return side == Left ? place.left() : side == Right ? place.right() : place.center().x();
+        EXPECT_EQ(report::savePdf(pages, path_), report::Outcome::Done);
+        std::vector<pdf::Page> read = pdf::read(path_);
+        EXPECT_EQ(static_cast<int>(read.size()), pages.count());
+        return read;
+    }
+
+    pdf::Page printed(const report::Layout& layout, const storage::TableView& view, QPageSize::PageSizeId paper)
+    {
+        return printed(pagesOf(layout, view, paper)).at(0);
     }
 
     /// Every text in its place, where the layout lies on the page like this; and nothing else on it.
-    static void expectPlaced(const pdf::Page& page, const std::vector<Placed>& texts, QPointF origin, double scale = 1)
+    static void expectPlaced(const pdf::Page& page, const std::vector<Band>& bands, QPointF origin, double scale = 1)
     {
         qsizetype words = 0;
-        for (const Placed& text : texts) {
-            bool found = false;
-            for (const QRectF& place : placesOf(page, text.text))
-                found |= std::abs(edgeOf(place, text.side) - origin.x() - text.x * scale) < halfMillimetre
-                    && std::abs(place.top() - origin.y() - text.top * scale) < halfMillimetre;
-            EXPECT_TRUE(found) << '"' << text.text << "\" is not at " << text.x << ", " << text.top;
-            words += QString(text.text).count(u' ') + 1;
-        }
+        for (const auto& [edges, lines] : bands)
+            for (const auto& [top, texts] : lines)
+                for (qsizetype column = 0; const QString& text : texts.split(u'|')) {
+                    const auto [x, side] = edges[static_cast<std::size_t>(column++)];
+                    const QPointF point = origin + QPointF(x, top) * scale;
+                    EXPECT_TRUE(text.isEmpty() || stands(page, text, side, point)) << text.toStdString();
+                    words += text.split(u' ', Qt::SkipEmptyParts).size();
+                }
         EXPECT_EQ(page.words.size(), words) << page.text().toStdString();
     }
 
-    /// All that stands on a caption's line, in the order of the file.
-    static QString lineOf(const pdf::Page& page, const QString& caption)
+    static bool stands(const pdf::Page& page, const QString& text, Side side, QPointF point)
     {
-        const double top = placesOf(page, caption).at(0).top();
-        QString line;
-        for (const pdf::Word& word : page.words)
-            line += std::abs(word.place.top() - top) < halfMillimetre ? word.text : QString();
-        return line;
+        const auto places = placesOf(page, text);
+        return std::any_of(places.begin(), places.end(), [&](const QRectF& place) {
+            const double x = side == Left ? place.left() : side == Right ? place.right() : place.center().x();
+            return std::abs(x - point.x()) < halfMillimetre && std::abs(place.top() - point.y()) < halfMillimetre;
+        });
     }
 
     static double middleOf(QPageSize::PageSizeId paper) { return report::Paper{QPageSize(paper)}.size().width() / 2; }
 
-    QTemporaryDir folder_;
+    const QTemporaryDir folder_;
+    const QString path_ = folder_.filePath("report.pdf");
 };
 
 TEST_F(ReportLayouts, AssetReportStandsAsPrescribed)
@@ -147,8 +123,7 @@ TEST_F(ReportLayouts, AssetReportStandsAsPrescribed)
         {"1", "Indoor", "Library", "Antiques", "Antique Desk", "1931", "Northlight", "V-300", "SN 0042/7", "7/4/2006",
             "1234.5", "Yes", "Fire safe", "With two keys."});
     for (const auto paper : {QPageSize::Letter, QPageSize::A4})
-        expectPlaced(printed(layouts::AssetReport(), Data1.rsPrint, paper), together(assetHead, assetEntries),
-            {middleOf(paper) - 5445, 720});
+        expectPlaced(printed(layouts::AssetReport(), Data1.rsPrint, paper), assetReport, {middleOf(paper) - 5445, 720});
 }
 
 TEST_F(ReportLayouts, CoverSheetStandsAsPrescribed)
@@ -162,13 +137,14 @@ TEST_F(ReportLayouts, CoverSheetStandsAsPrescribed)
             {General::HomePhone2, "555"}, {General::HomePhone3, "0101"}});
     for (const auto paper : {QPageSize::Letter, QPageSize::A4}) {
         pdf::Page page = printed(layouts::CoverSheet(), Data1.rsGeneral, paper);
-        EXPECT_EQ(lineOf(page, "Home Phone =>"), "HomePhone=>(518)555-0101");
-        EXPECT_EQ(lineOf(page, "Work Phone =>"), "WorkPhone=>(---)--------");
+        const QString text = page.text().remove(u' ');
+        EXPECT_TRUE(text.contains("HomePhone=>(518)555-0101")) << text.toStdString();
+        EXPECT_TRUE(text.contains("WorkPhone=>(---)--------")) << text.toStdString();
         // The pieces of the telephones have no places of their own to hold to.
         std::erase_if(page.words, [](const pdf::Word& word) {
             return QString(word.text).remove(QRegularExpression("[0-9()-]")).isEmpty() && word.text != "12/31/2027";
         });
-        expectPlaced(page, together(coverHeads, coverEntries), {middleOf(paper) - 5715, 720});
+        expectPlaced(page, coverSheet, {middleOf(paper) - 5715, 720});
     }
 }
 
@@ -179,7 +155,7 @@ TEST_F(ReportLayouts, FillOutFormStandsAsPrescribed)
         const double printable = report::Paper{QPageSize(paper)}.size().height() - 2 * 360;
         const double scale = std::min(1.0, printable / 15825);
         EXPECT_EQ(scale < 1, paper == QPageSize::Letter);
-        expectPlaced(printed(layouts::FillOutForm(), Data1.rsGeneral, paper), together(formTexts, formEntries),
+        expectPlaced(printed(layouts::FillOutForm(), Data1.rsGeneral, paper), fillOutForm,
             {middleOf(paper) - 5505 * scale, 360}, scale);
     }
     EXPECT_EQ(layouts::FillOutForm().detail.boxes.size(), 11);
@@ -205,6 +181,53 @@ TEST_F(ReportLayouts, LongValuesStayInTheirFields)
                 << word.text.toStdString();
         }
     EXPECT_EQ(placesOf(page, "$123,456,789.00").size(), 1);
+}
+
+// The file holds the letters of such a script one by one, in the forms that they have beside each other, and an emoji
+// as a picture.
+TEST_F(ReportLayouts, ScriptsFromRightToLeftAndEmojiStandWholeInTheirFields)
+{
+    const std::tuple<QString, double, double> values[] = {
+        {QString::fromUtf8("שלוםעולם"), 1770, detail + 405}, {QString::fromUtf8("خزانة"), 4845, detail + 690}};
+    addRow(Data1.rsPrint,
+        {{Print::Location, QString::fromUtf8("שלום עולם")}, {Print::Model, std::get<0>(values[1])},
+            {Print::Type, QString::fromUtf8("Fox \U0001F98A red")}});
+    const pdf::Page page = printed(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
+    for (const auto& [text, left, top] : values) {
+        const QRectF field(middleOf(QPageSize::Letter) - 5445 + left, 720 + top, 2100, 285);
+        std::map<double, QString> fromTheRight;
+        for (const pdf::Word& word : page.words)
+            if (field.contains(word.place.center()))
+                fromTheRight[-word.place.left()] = word.text;
+        QString read;
+        for (const auto& [place, letters] : fromTheRight)
+            read += letters.normalized(QString::NormalizationForm_KC);
+        EXPECT_EQ(read, text);
+    }
+    const QStringList images = pdf::output("pdfimages", {"-list", path_}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_EQ(images.filter("smask").size(), 2) << "the logo and the emoji";
+    EXPECT_EQ(placesOf(page, "Fox").size() + placesOf(page, "red").size(), 2) << page.text().toStdString();
+}
+
+TEST_F(ReportLayouts, AThousandAssetsAreCountedOnEachPageAndLeaveNoFileWhenTheUserCancels)
+{
+    for (int number = 1; number <= 1000; ++number)
+        addRow(Data1.rsPrint, Print::ID, {QString::number(number), "Indoor", "Attic", "Art", "Vase"});
+    const report::Pages pages = pagesOf(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
+    QWidget window;
+    report::ProgressWindow dialog("Saving...", pages.count(), &window);
+    const auto cancelled = report::savePdf(pages, path_, [&, progress = dialog.progress()](int done) {
+        if (done == 100)
+            window.findChild<QProgressDialog*>()->cancel();
+        return progress(done);
+    });
+    EXPECT_EQ(cancelled, report::Outcome::Cancelled);
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+
+    const std::vector<pdf::Page> read = printed(pages);
+    ASSERT_EQ(read.size(), 167); // of six assets
+    for (std::size_t page = 0; page < read.size(); ++page)
+        EXPECT_TRUE(read[page].text().contains(QString("Page: %1 Total Pages: 167 ").arg(page + 1))) << page;
 }
 
 } // namespace

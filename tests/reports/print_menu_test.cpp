@@ -3,12 +3,8 @@
 #include "reports/data_report.h"
 #include "reports/frmPrint.h"
 #include "reports/report_titles.h"
-#include "reports/reports.h"
 #include "search/frmSearch.h"
 #include "support/harness.h"
-
-#include <QApplication>
-#include <QTest>
 
 using forms::screen;
 
@@ -20,47 +16,19 @@ protected:
     {
         screen<frmMain>().show();
         click(screen<frmMain>().cmdPrint);
-        EXPECT_EQ(scene().section(':', 0, 0), "3 frmPrint");
-    }
-
-    void TearDown() override
-    {
-        closeReport();
-        ScreenTest::TearDown();
+        EXPECT_EQ(front(), "3 frmPrint");
     }
 
     static frmPrint& menu() { return screen<frmPrint>(); }
 
-    static QWidget* reportWindow()
+    // The rows that are staged, the report that is open, where the focus is, and what a run leaves:
+    // "Desk Lamp in AssetReport, cmdInPrint(0), custom, progress"
+    static QString state()
     {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (QStringList({"AssetReport", "CoverSheet", "FillOutForm"}).contains(window->objectName())
-                && window->isVisible())
-                return window;
-        return nullptr;
-    }
-
-    static QString title() { return reportWindow() ? reportWindow()->windowTitle() : QString(); }
-
-    static void closeReport()
-    {
-        if (QWidget* window = reportWindow()) {
-            window->activateWindow();
-            settle();
-            QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
-        }
-        settle();
-        forms::activeForm()->window()->activateWindow(); // as a window manager does
-        settle();
-        EXPECT_FALSE(reports::AssetReport().isVisible());
-    }
-
-    // The rows that are staged, and the boxes of a run.
-    static void expectStaged(const QString& types, bool custom)
-    {
-        EXPECT_EQ(columnOf(Data1.rsPrint, Print::Type).join(' '), types);
-        EXPECT_EQ(reports::AssetReport().isVisible(), !types.isEmpty());
-        EXPECT_EQ(menu().CustomPrint, custom);
+        EXPECT_EQ(screen<frmSearch>().lblHead[3].isVisible(), !screen<frmSearch>().pbSearch.isVisible());
+        return columnOf(Data1.rsPrint, Print::Type).join(' ') + " in "
+            + (reportWindow() ? reportWindow()->objectName() : "nothing") + ", " + menu().activeControl()->name()
+            + (menu().CustomPrint ? ", custom" : "") + (screen<frmSearch>().pbSearch.isVisible() ? ", progress" : "");
     }
 };
 
@@ -72,91 +40,82 @@ TEST_F(PrintMenu, StagesTheAssetsOfAnAreaAndOpensTheReport)
     addAssetRow({"Outdoors", "", "", "Swing"});
     menu().cmdCustom[4].setFocus();
     accessKey('i');
-    expectStaged("Desk Lamp", true);
-    EXPECT_EQ(columnOf(Data1.rsPrint, Print::ID).join(' '), "1 3");
-    EXPECT_EQ(columnOf(Data1.rsPrint, Print::Description).join(' '), "text None");
-    EXPECT_EQ(title(), "Kestrill by Brindlewick Software");
+    EXPECT_EQ(state(), "Desk Lamp in AssetReport, cmdInPrint(0), custom");
+    EXPECT_EQ(columnOf(Data1.rsPrint, Print::ID) + columnOf(Data1.rsPrint, Print::Description),
+        QStringList({"1", "3", "text", "None"}));
+    EXPECT_EQ(reportWindow()->windowTitle(), "Kestrill by Brindlewick Software");
 
     // One report window blocks all, and nothing is staged under it.
     for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdOutPrint[2], &menu().cmdAutoPrint[1],
              &menu().cmdAllPrint[3], &menu().cmdCustom[4], &menu().cmdCover[0], &menu().cmdFillOutForm[0]})
         clickTold(*button, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
-    expectStaged("Desk Lamp", true);
-    EXPECT_TRUE(menu().isVisible());
+    EXPECT_EQ(state(), "Desk Lamp in AssetReport, cmdInPrint(0), custom");
     closeReport();
 
     click(menu().cmdOutPrint[2]);
-    expectStaged("Rake", true);
-    EXPECT_EQ(menu().activeControl(), &menu().cmdOutPrint[2]);
-    EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
-    EXPECT_TRUE(screen<frmSearch>().lblHead[3].isVisible());
+    EXPECT_EQ(state(), "Rake in AssetReport, cmdOutPrint(2), custom");
     closeReport();
-
     clickTold(menu().cmdAutoPrint[1], "           No Assets Found To Print!", Exclamation);
-    expectStaged("", false);
-    EXPECT_EQ(menu().activeControl(), &menu().cmdAutoPrint[1]);
+    EXPECT_EQ(state(), " in nothing, cmdAutoPrint(1)");
 }
 
 TEST_F(PrintMenu, StagesAllInTheOrderOfTheInventory)
 {
     clickTold(menu().cmdAllPrint[3], "             No Assets Found To Print!", Exclamation);
-    EXPECT_TRUE(screen<frmSearch>().pbSearch.isVisible()); // until the next run
-    expectStaged("", false);
+    EXPECT_EQ(state(), " in nothing, cmdAllPrint(3), progress"); // until the next run
     addAssetRow({"Mobile", "", "", "Kayak"});
     addAssetRow({"Indoor", "", "", "Desk"});
     Data1.rsInventory.Sort("Type");
     accessKey('a');
-    expectStaged("Desk Kayak", true);
-    EXPECT_EQ(menu().activeControl(), &menu().cmdAllPrint[3]);
-    EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
-
+    EXPECT_EQ(state(), "Desk Kayak in AssetReport, cmdAllPrint(3), custom");
     click(menu().cmdBack[0]);
-    expectStaged("Desk Kayak", false); // a window of its own
-    EXPECT_EQ(scene().section(':', 0, 0), "2 frmMain");
+    EXPECT_EQ(line(state(), front()), "Desk Kayak in AssetReport, cmdAllPrint(3), 2 frmMain"); // a window of its own
 }
 
-TEST_F(PrintMenu, OpensTheCoverSheetAndTheForm)
+TEST_F(PrintMenu, OpensTheCoverSheetAndTheFormAndSearchesForACustomPrintout)
 {
     reportTitles().CoverSheet = "Cover Sheet - Kestrill by Brindlewick Software";
     accessKey('s');
-    EXPECT_TRUE(reports::CoverSheet().isVisible());
-    EXPECT_EQ(title(), "Cover Sheet - Kestrill by Brindlewick Software");
+    EXPECT_EQ(line(state(), reportWindow()->windowTitle()),
+        " in CoverSheet, cmdCover(0), Cover Sheet - Kestrill by Brindlewick Software");
+    reportTitles() = {};
     closeReport();
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 2001);
-    accessKey('f');
-    EXPECT_TRUE(reports::FillOutForm().isVisible());
-    EXPECT_EQ(menu().activeControl(), &menu().cmdFillOutForm[0]);
     EXPECT_TRUE(menu().cmdFillOutForm[0].isDefault());
+    accessKey('f');
+    EXPECT_EQ(state(), " in FillOutForm, cmdFillOutForm(0)");
     for (int times = 0; times < 2; ++times)
         expectToStay([] { closeBox(menu()); });
-    EXPECT_TRUE(reports::FillOutForm().isVisible());
-    reportTitles() = {};
-}
+    EXPECT_EQ(state(), " in FillOutForm, cmdFillOutForm(0)");
+    closeReport();
 
-TEST_F(PrintMenu, SearchesForACustomPrintout)
-{
     screen<frmMain>().FromMenu = true;
     click(menu().cmdCustom[4]);
-    EXPECT_FALSE(screen<frmMain>().FromMenu);
-    EXPECT_TRUE(menu().CustomPrint);
-    EXPECT_EQ(scene(), "4 frmSearch: txtKey");
-    EXPECT_EQ(screen<frmSearch>().lblHead[0].caption(), "Search For Assets To Print");
+    EXPECT_EQ(line(scene(), screen<frmSearch>().lblHead[0].caption(), menu().CustomPrint, screen<frmMain>().FromMenu),
+        "4 frmSearch: txtKey, Search For Assets To Print, true, false");
 }
 
-// A failed opening is told by each button but All, where it is uncaught.
+// A run that fails is told by each button but All, where it is uncaught, and opens no report.
 TEST_F(PrintMenu, TellsWhatFails)
 {
-    addAssetRow({"Indoor"});
-    Data1.rsGeneral.Delete(); // the household whose reports they are
-    for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdCover[0], &menu().cmdFillOutForm[0]}) {
-        clickTold(*button, "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", Stop);
-        EXPECT_FALSE(reportedFailure());
-    }
-    EXPECT_FALSE(screen<frmSearch>().pbSearch.isVisible());
+    const char* const error = "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!";
+    for (const char* area : {"Indoor", "Outdoor", "Mobile"})
+        addAssetRow({area});
+    refuseWrites("INSERT", "Print");
+    for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdOutPrint[2], &menu().cmdAutoPrint[1]})
+        clickTold(*button, error, Stop);
+    EXPECT_EQ(state(), " in nothing, cmdAutoPrint(1), custom");
     click(menu().cmdAllPrint[3]);
-    EXPECT_TRUE(reportedFailure());
-    EXPECT_FALSE(reports::AssetReport().isVisible());
+    EXPECT_EQ(line(failedHandler(), Data1.rsPrint.RecordCount()), "frmPrint.cmdAllPrint(3)_Click, 0");
+    makeRoom("Print");
+
+    Data1.rsGeneral.Delete(); // the household whose reports they are
+    for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdCover[0], &menu().cmdFillOutForm[0]})
+        clickTold(*button, error, Stop);
+    click(menu().cmdAllPrint[3]);
+    EXPECT_TRUE(reportedFailure() && !reportWindow());
+    EXPECT_EQ(Data1.rsInventory.RecordCount(), 3);
 }
 
 } // namespace

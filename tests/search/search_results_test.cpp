@@ -14,15 +14,14 @@ protected:
     {
         const QStringList numbers = shown(results().txtItem);
         EXPECT_EQ(shown(results().txtIDNum), numbers);
-        EXPECT_EQ(numbers.last().toInt() - numbers.first().toInt() + 1, numbers.size());
-        return results().lblPage.caption() + ": " + numbers.first() + "-" + numbers.last()
+        const QString first = numbers.value(0), last = numbers.value(numbers.size() - 1);
+        EXPECT_EQ(last.toInt() - first.toInt() + 1, numbers.size());
+        return results().lblPage.caption() + ": " + first + "-" + last
             + (results().cmdPrevious.isEnabled() ? " previous" : "") + (results().cmdNext.isEnabled() ? " next" : "");
     }
 
-    static void expectFocus(const forms::Control& control)
-    {
-        EXPECT_EQ(results().activeControl(), &control) << qPrintable(results().activeControl()->name());
-    }
+    // And with the control that has the focus.
+    static QString place() { return page() + ", " + results().activeControl()->name(); }
 
     // As the asset screen does when it is left.
     static void comeBack()
@@ -40,9 +39,8 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
     addAssets(2, make);
     addAssetRow({"Outdoor", "Barn", "Art", "Gnome", "2001", "Bolt", "M3"});
     find("2020");
-    EXPECT_EQ(scene(), "5 frmSearchResults: cmdBack");
-    EXPECT_EQ(results().lblRecsFound.caption(), "2 Assets Found!");
-    EXPECT_EQ(page(), "Page 1 of 1: 1-2");
+    EXPECT_EQ(line(scene(), results().lblRecsFound.caption(), page()),
+        "5 frmSearchResults: cmdBack, 2 Assets Found!, Page 1 of 1: 1-2");
     const std::pair<const frmSearchResults::ResultColumn&, QString> columns[] = {{results().txtMore, "Update"},
         {results().txtItem, "2"}, {results().txtArea, "Indoor"}, {results().txtLocation, "Attic"},
         {results().txtType, "Item 2"}, {results().txtYear, "2020"}, {results().txtMake, make},
@@ -60,11 +58,9 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
 
     click(results().cmdBack);
     type("bolt\n");
-    EXPECT_EQ(results().txtMake[0].text(), "Bolt");
-    for (const auto& [boxes, text] : columns) {
-        EXPECT_EQ(boxes[1].text(), "");
-        EXPECT_EQ(boxes[1].isVisible(), &boxes != &results().txtMore) << text.toStdString();
-    }
+    EXPECT_EQ(line(results().txtMake[0].text(), results().lblRecsFound.caption()), "Bolt, 1 Asset Found!");
+    for (const auto& [boxes, text] : columns)
+        EXPECT_TRUE(boxes[1].text().isEmpty() && boxes[1].isVisible() == (text != "Update")) << text.toStdString();
 }
 
 TEST_F(SearchResults, TurnsPagesForwardAndBack)
@@ -73,28 +69,25 @@ TEST_F(SearchResults, TurnsPagesForwardAndBack)
     findAll();
     EXPECT_EQ(page(), "Page 1 of 1: 1-10");
     click(results().cmdMain);
-    EXPECT_EQ(forms::activeForm(), &menu());
-    EXPECT_FALSE(results().txtMore[0].isVisible());
+    EXPECT_EQ(line(front(), results().txtMore[0].isVisible()), "2 frmMain, false");
 
     addAssets(11);
     findAll();
-    EXPECT_EQ(page(), "Page 1 of 3: 1-10 next");
-    results().cmdNext.setFocus();
-    press(Qt::Key_Space);
-    EXPECT_EQ(page(), "Page 2 of 3: 11-20 previous next");
-    EXPECT_EQ(results().txtType[0].text(), "Item 1");
-    press(Qt::Key_Space);
-    EXPECT_EQ(page(), "Page 3 of 3: 21-21 previous");
-    EXPECT_EQ(results().txtYear[1].text(), "");
-    expectFocus(results().cmdPrevious); // the next press does not leave the screen
-    accessKey('v');
-    EXPECT_EQ(page(), "Page 2 of 3: 11-20 previous next");
-    press(Qt::Key_Return);
-    EXPECT_EQ(page(), "Page 1 of 3: 1-10 next");
-    expectFocus(results().cmdNext);
-    click(results().cmdNext);
-    click(results().lblSubHead[5]);
-    EXPECT_EQ(page(), "Page 1 of 3: 1-10 next");
+    // A button that is off has handed the focus on, so that the next press does not leave the screen.
+    const std::pair<std::function<void()>, QString> steps[] = {
+        {[] { results().cmdNext.setFocus(); }, "Page 1 of 3: 1-10 next, cmdNext"},
+        {[] { press(Qt::Key_Space); }, "Page 2 of 3: 11-20 previous next, cmdNext"},
+        {[] { press(Qt::Key_Space); }, "Page 3 of 3: 21-21 previous, cmdPrevious"},
+        {[] { accessKey('v'); }, "Page 2 of 3: 11-20 previous next, cmdPrevious"},
+        {[] { press(Qt::Key_Return); }, "Page 1 of 3: 1-10 next, cmdNext"},
+        {[] { click(results().cmdNext); }, "Page 2 of 3: 11-20 previous next, cmdNext"},
+        {[] { click(results().lblSubHead[5]); }, "Page 1 of 3: 1-10 next, cmdNext"},
+    };
+    for (const auto& [step, expected] : steps) {
+        step();
+        EXPECT_EQ(place(), expected);
+    }
+    EXPECT_EQ(line(results().txtType[9].text(), results().txtYear[9].text()), "Item 10, 2020");
     click(results().cmdMain);
 
     Data1.rsInventory.MoveFirst();
@@ -107,42 +100,31 @@ TEST_F(SearchResults, KeysAloneStepThroughRowsAndPagesAndOpenOne)
 {
     addAssets(13);
     findAll();
-    expectFocus(results().cmdNext);
-    press(Qt::Key_Up);
-    expectFocus(results().txtMore[9]);
-    press(Qt::Key_Down);
-    expectFocus(results().txtMore[9]);
-    press(Qt::Key_PageUp); // there is none before the first
-    press(Qt::Key_PageDown);
-    EXPECT_EQ(page(), "Page 2 of 2: 11-13 previous");
-    press(Qt::Key_Down);
-    expectFocus(results().txtMore[0]);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    expectFocus(results().txtMore[2]);
-    press(Qt::Key_Up);
+    const std::pair<std::vector<Qt::Key>, QString> steps[] = {
+        {{}, "Page 1 of 2: 1-10 next, cmdNext"},
+        {{Qt::Key_Up}, "Page 1 of 2: 1-10 next, txtMore(9)"},
+        {{Qt::Key_Down}, "Page 1 of 2: 1-10 next, txtMore(9)"},
+        {{Qt::Key_PageUp, Qt::Key_PageDown}, "Page 2 of 2: 11-13 previous, cmdPrevious"},
+        {{Qt::Key_Down}, "Page 2 of 2: 11-13 previous, txtMore(0)"},
+        {{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}, "Page 2 of 2: 11-13 previous, txtMore(2)"},
+        {{Qt::Key_Up, Qt::Key_PageUp}, "Page 1 of 2: 1-10 next, txtMore(1)"},
+        {{Qt::Key_Space, Qt::Key_X}, "Page 1 of 2: 1-10 next, txtMore(1)"},
+    };
+    for (const auto& [keys, expected] : steps) {
+        press(keys);
+        EXPECT_EQ(place(), expected);
+    }
+    QStringList sorts;
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}) {
+        press(key);
+        sorts += QString::number(results().SortColumn);
+    }
+    EXPECT_EQ(sorts.join(' '), "1 2 1 1"); // there is none before the first
+    EXPECT_EQ(place(), "Page 1 of 2: 1-10 next, txtMore(1)");
     press(Qt::Key_F1);
     EXPECT_EQ(openedHelp(), 5001);
-    press(Qt::Key_PageUp);
-    EXPECT_EQ(page(), "Page 1 of 2: 1-10 next");
-    expectFocus(results().txtMore[1]);
-    press(Qt::Key_Space);
-    type("x");
-    EXPECT_EQ(forms::activeForm(), &results());
-    press(Qt::Key_Right);
-    press(Qt::Key_Right);
-    EXPECT_EQ(results().SortColumn, 2);
-    press(Qt::Key_Left);
-    press(Qt::Key_Left); // there is none before the first
-    EXPECT_EQ(results().SortColumn, 1);
-    expectFocus(results().txtMore[1]);
-    tab();
-    expectFocus(results().cmdNext);
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
-    EXPECT_EQ(forms::activeForm(), &screen<frmAddUpDel>());
-    EXPECT_EQ(results().SelectedAsset, "1");
+    press({Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(line(front(), results().SelectedAsset), "10 frmAddUpDel, 1");
 }
 
 TEST_F(SearchResults, OpensTheAssetOfItsRowForUpdateUnlessItsIdIsOfMoreThan16Bits)
@@ -153,15 +135,12 @@ TEST_F(SearchResults, OpensTheAssetOfItsRowForUpdateUnlessItsIdIsOfMoreThan16Bit
     find("item");
     EXPECT_EQ(shown(results().txtIDNum).join(' '), "1 32767 32768");
     click(results().txtMore[2]);
-    EXPECT_EQ(failedHandler(), "frmSearchResults.txtMore(2)_Click");
-    EXPECT_EQ(Data1.rsInventory.RecordCount(), 3);
+    EXPECT_EQ(line(failedHandler(), Data1.rsInventory.RecordCount()), "frmSearchResults.txtMore(2)_Click, 3");
     click(results().txtMore[1]);
     const auto& asset = screen<frmAddUpDel>();
-    EXPECT_EQ(scene(), "10 frmAddUpDel: cmbArea");
-    EXPECT_EQ(results().SelectedAsset + asset.cmbType.text(), "32767Item 1");
-    EXPECT_EQ(asset.AssetKey, 32767);
+    EXPECT_EQ(line(scene(), asset.cmbType.text(), results().SelectedAsset, int(asset.AssetKey), menu().FromResults),
+        "10 frmAddUpDel: cmbArea, Item 1, 32767, 32767, true");
     EXPECT_EQ(asset.defaultButton(), &asset.cmdUpdate);
-    EXPECT_TRUE(menu().FromResults);
 }
 
 TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPage)
@@ -171,20 +150,40 @@ TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPa
     press(Qt::Key_PageDown);
     click(results().txtMore[0]);
     comeBack();
-    EXPECT_EQ(page(), "Page 1 of 2: 1-10 next");
-    EXPECT_EQ(forms::activeForm(), &results());
+    EXPECT_EQ(line(front(), page()), "5 frmSearchResults, Page 1 of 2: 1-10 next");
 
     click(results().cmdBack);
     type("item 11\n");
-    EXPECT_EQ(results().lblRecsFound.caption(), "1 Asset Found!");
     click(results().txtMore[0]);
     put(Data1.rsInventory, {{Inventory::Type, "Gone"}});
     comeBack();
-    EXPECT_EQ(shown(results().txtItem), QStringList());
-    EXPECT_EQ(results().lblRecsFound.caption() + results().lblPage.caption(), "1 Asset Found!Page 1 of 1");
-    EXPECT_FALSE(search().pbSearch.isVisible());
     press(Qt::Key_Down);
-    EXPECT_EQ(forms::activeForm(), &results());
+    EXPECT_EQ(line(front(), results().lblRecsFound.caption(), results().lblPage.caption(), isProgressShown()),
+        "5 frmSearchResults, 1 Asset Found!, Page 1 of 1, false");
+    EXPECT_EQ(shown(results().txtItem), QStringList());
+}
+
+// A search is no report, and goes on behind the one that is open.
+TEST_F(SearchResults, ArePrintedWhileNoOtherReportIsOpen)
+{
+    addAssets(3);
+    findAll();
+    click(results().cmdPrint);
+    const QWidget* const report = reportWindow();
+    EXPECT_TRUE(report);
+    click(results().cmdBack);
+    type("item 2\n");
+    EXPECT_EQ(line(front(), staged(Print::Type).join(' ')), "5 frmSearchResults, Item 2");
+    clickTold(results().cmdPrint, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
+    EXPECT_EQ(report, reportWindow());
+    closeReport();
+    click(results().cmdPrint);
+    EXPECT_TRUE(reportWindow());
+    closeReport();
+    Data1.rsGeneral.Delete(); // the household whose report it is
+    clickTold(
+        results().cmdPrint, "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", Stop);
+    EXPECT_FALSE(reportWindow());
 }
 
 } // namespace

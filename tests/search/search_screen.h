@@ -12,8 +12,6 @@
 /// A test with the search screen and the pager, reached as a user reaches them.
 class SearchScreenTest : public ScreenTest {
 protected:
-    static constexpr const char* AllQuestion = "This Search Will Display All Assets...Continue?";
-
     static frmMain& menu() { return forms::screen<frmMain>(); }
     static frmSearch& search() { return forms::screen<frmSearch>(); }
     static frmSearchResults& results() { return forms::screen<frmSearchResults>(); }
@@ -48,7 +46,8 @@ protected:
     void findAll(forms::Answer answer = forms::Answer::Yes)
     {
         openFromMenu();
-        expectBox(AllQuestion, forms::box::Information + forms::box::YesNo, answer);
+        expectBox(
+            "This Search Will Display All Assets...Continue?", forms::box::Information + forms::box::YesNo, answer);
         press(Qt::Key_Return);
     }
 
@@ -58,7 +57,6 @@ protected:
         expectBox("No Assets Were Found Based On The Information You Entered!", Exclamation);
         setBoxTitle(" Kestrill by Brindlewick Software");
         find(word);
-        EXPECT_EQ(Data1.rsPrint.RecordCount(), 0) << qPrintable(word);
         EXPECT_EQ(scene().section(" [", 0, 0), "4 frmSearch: txtKey");
     }
 
@@ -73,9 +71,9 @@ protected:
         return texts;
     }
 
-    static void expectProgressHidden()
+    static bool isProgressShown()
     {
-        EXPECT_FALSE(search().pbSearch.isVisible());
-        EXPECT_TRUE(search().lblHead[3].isVisible());
+        EXPECT_EQ(search().lblHead[3].isVisible(), !search().pbSearch.isVisible());
+        return search().pbSearch.isVisible();
     }
 };

@@ -59,8 +59,10 @@ void addNames(storage::TableView& table, const QStringList& names, int standard)
 
 void removeRows(storage::TableView& table)
 {
+    storage::Transaction atOnce(Data1.Home.handle()); // which takes a fraction of the time
     for (table.MoveFirst(); !table.atEOF(); table.MoveNext())
         table.Delete();
+    atOnce.commit();
 }
 
 QStringList rowsOf(const storage::TableView& table, int first, int last)

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QTest>
 #include <QWidget>
 
 ScreenTest::ScreenTest()
@@ -32,9 +33,7 @@ ScreenTest::ScreenTest()
 void ScreenTest::TearDown()
 {
     // A report that is left open would block those of the next test.
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->testAttribute(Qt::WA_DeleteOnClose))
-            delete window;
+    delete reportWindow();
     FormsTest::TearDown();
     closeData();
     values::setToday({});
@@ -57,16 +56,37 @@ void ScreenTest::openData()
         view->Open();
 }
 
-void ScreenTest::refuseWrites(const QByteArray& statement, const QByteArray& table)
+void ScreenTest::refuseWrites(const QByteArray& statement, const QByteArray& table, const QByteArray& rows)
 {
     storage::execute(Data1.Home.handle(),
-        "CREATE TEMP TRIGGER Refuse" + table + " BEFORE " + statement + " ON " + table
+        "CREATE TEMP TRIGGER Refuse" + table + " BEFORE " + statement + " ON " + table + " WHEN " + rows
             + " BEGIN SELECT RAISE(ABORT, 'no room'); END");
 }
 
 void ScreenTest::makeRoom(const QByteArray& table)
 {
     storage::execute(Data1.Home.handle(), "DROP TRIGGER Refuse" + table);
+}
+
+QWidget* ScreenTest::reportWindow()
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->testAttribute(Qt::WA_DeleteOnClose) && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+void ScreenTest::closeReport()
+{
+    if (QWidget* window = reportWindow()) {
+        window->activateWindow();
+        user::settle();
+        QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+        user::settle();
+    }
+    forms::activeForm()->window()->activateWindow(); // as a window manager does
+    user::settle();
+    EXPECT_FALSE(reportWindow());
 }
 
 void ScreenTest::closeData()

@@ -26,9 +26,15 @@ protected:
     static void openData();
     static void closeData();
 
-    /// From now on the file refuses a kind of statement on a table, as a full disk does, until there is room again.
-    static void refuseWrites(const QByteArray& statement, const QByteArray& table);
+    /// From now on the file refuses a kind of statement on a table, or on some of its rows, as a full disk does, until
+    /// there is room again.
+    static void refuseWrites(const QByteArray& statement, const QByteArray& table, const QByteArray& rows = "1");
     static void makeRoom(const QByteArray& table);
+
+    /// The window of the report that is open, or none; the key that closes it, with the screen behind it in front
+    /// again.
+    static QWidget* reportWindow();
+    static void closeReport();
 
     QString databaseFile() const { return folder_.filePath(QStringLiteral("C_db/KTL.db")); }
     QString backupFolder() const { return folder_.filePath(QStringLiteral("Backup")); }

@@ -253,6 +253,12 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     stroke(key, textOf(key, modifiers), modifiers);
 }
 
+void press(const std::vector<Qt::Key>& keys)
+{
+    for (const Qt::Key key : keys)
+        press(key);
+}
+
 void hold(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     goDown(key, textOf(key, modifiers), modifiers);

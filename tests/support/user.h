@@ -6,6 +6,8 @@
 #include <QPoint>
 #include <QString>
 
+#include <vector>
+
 class QWidget;
 
 /// What a user does, through the windows as real events: a screen behind a modal one gets nothing, as in life. What a
@@ -47,6 +49,7 @@ void type(const QString& text);
 void type(forms::Control& control, const QString& text);
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+void press(const std::vector<Qt::Key>& keys);
 
 /// Presses a key and keeps it down; what it repeats goes to whatever is in front by then.
 void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = {});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/brush.h"
 
+#include "platform/report/glyph_pictures.h"
+
 #include <algorithm>
 
 namespace report {
@@ -100,7 +102,8 @@ void Brush::writeLine(const QString& text, double left, double baseLine, Type ty
     if (text.isEmpty())
         return;
     setType(type);
-    painter_.drawText(QPointF(left, baseLine), text);
+    if (!paintPictures(painter_, {left, baseLine}, text))
+        painter_.drawText(QPointF(left, baseLine), text);
 }
 
 void Brush::setType(Type type) const
