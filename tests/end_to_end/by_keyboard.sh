@@ -67,7 +67,6 @@ second_start_by_keys() {
 }
 
 first_start_by_keys
-# The virtual display's keys open one list in a compositor and no second one.
-[ "$QT_QPA_PLATFORM" = wayland ] || asset_by_keys_alone
+asset_by_keys_alone
 close_by_keys
 second_start_by_keys
