@@ -6,7 +6,7 @@ Commands=$Place/prefix/bin
 
 two_closes() {
     step "two closes: the second keeps the backup of the first"
-    [ -x "$Commands/kestrill" ] || cmake --install "$Build" --prefix "$Place/prefix" >/dev/null
+    cmake --install "$Build" --prefix "$Place/prefix" >/dev/null
     household back
     local city
     for city in Utica Rome; do
@@ -20,11 +20,7 @@ two_closes() {
 
 # Each page but the first, as by a disk that fails.
 damage() {
-    local page pages
-    pages=$(($(stat -c %s "$Database") / 1024))
-    for ((page = 1; page < pages; page++)); do
-        printf '%016d' "$page" | dd of="$Database" bs=1 seek=$((page * 1024 + 100)) conv=notrunc status=none
-    done
+    dd if=/dev/urandom of="$Database" bs=1024 seek=1 count=$(($(stat -c %s "$Database") / 1024 - 1)) conv=notrunc status=none
 }
 
 by_the_window() {
@@ -45,7 +41,6 @@ by_the_window() {
     start_at_menu
     same "$("$Commands/kestrill-restore" --restore last --yes 2>&1 || echo $?)" $'Kestrill is running. Close it first.\n4' \
         "restored while the program runs"
-    same "$("$Commands/kestrill-check" >/dev/null 2>&1 || echo $?)" 4 "checked while the program runs"
     tell_to_end
 }
 
@@ -76,7 +71,6 @@ everything_out() {
         "select count(*) from (select $columns from Bank_Info intersect select $columns from back)")" 1 "a text has changed"
     holds "$Place/export/Cover Sheet.pdf" Rome
     expect_mode "$Place/export" 700
-    same "$("$Commands/kestrill-export" "$Place/export" >/dev/null 2>&1 || echo $?)" 6 "an export was overwritten"
     "$Commands/kestrill-export" >>"$Log" 2>&1 &
     Program=$!
     until_true "the question where to" has_title "Choose The Folder For The Export"

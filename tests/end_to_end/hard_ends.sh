@@ -22,7 +22,7 @@ killed() {
 }
 
 killed_in_a_search() {
-    step "killed in the midst of a search, which writes what it finds: what the household owns stays as it was"
+    step "killed in the midst of a search, which writes what it finds"
     household killed-search "with recursive n(i) as (select 1 union all select i + 1 from n where i < 30000)
         $(assets "select 'Indoor', 'Attic', 'Art', 'Clock ' || i, '2001', 'A', 'B', i, '1/2/2020', '\$1.00', 'No', 'None',
             'None', 'New' from n")"

@@ -92,7 +92,6 @@ closed_meanwhile() {
     front frmPrint
     go frmMain alt+c
     leave print-exit
-    [ -s "$Backup" ] || fail "no backup was made"
 }
 
 household printing "update Personal_Info set [Last] = 'Fairbanks', [Policy Company] = 'Tidewater Mutual',

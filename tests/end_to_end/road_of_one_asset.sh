@@ -45,18 +45,12 @@ second_start() {
 }
 
 personal_information_again() {
-    step "personal information: loaded, cancelled, saved"
+    step "personal information: loaded, changed, saved"
     click frmMain cmdPersonal
     see frmGenInfo personal-loaded
-    enter frmGenInfo 'txtInfo(4)' Troy
+    enter frmGenInfo 'txtInfo(4)' Utica
     click frmGenInfo 'cmdBack(0)'
     answer personal-cancel-question alt+n
-    click frmGenInfo 'cmdBack(0)'
-    answer personal-cancel-yes Return
-    wait_screen frmMain
-    expect "$HouseholdRow" "$Household"
-    go frmGenInfo alt+r
-    enter frmGenInfo 'txtInfo(4)' Utica
     click frmGenInfo 'cmdContinue(0)'
     wait_screen frmMain
     Household=${Household/Albany/Utica}
@@ -116,23 +110,16 @@ asset_by_keys() {
         "Indoor|Attic|Art|Brass Kestrel|1931|Unknown|Unknown|Unknown|$LastMonth|\$80.00|No|None|None|New"
     expect "select AssetValue from Personal_Info" 13145600
     expect "select Location, Category, Type, Standard from Indoor_Items where rowid > $before" 'Attic|Art|Brass Kestrel|0'
-    click frmAddUpDel cmdCancel
-    answer asset-cancel-question Escape
-    click frmAddUpDel cmdCancel
-    answer asset-cancel-yes Return
-    wait_screen frmAuto
-    go frmMain alt+m
+    keys alt+m
+    answer asset-leave-question Return
 }
 
 close_with_backup() {
     step "exit: question, progress, goodbye, backup"
     local before
-    click frmMain cmdLeave
-    answer exit-question alt+n
-    wait_screen frmMain
     before=$(dump "$Database")
-    keys alt+x
-    answer exit-yes Return
+    click frmMain cmdLeave
+    answer exit-question Return
     see frmExit goodbye
     ends_with 0
     same "$(dump "$Database")" "$before" "the close has changed the database"
