@@ -19,6 +19,8 @@ read_beside_a_screen() {
     keys ctrl+f
     text receipt
     shot help-find
+    keys Escape alt+Left
+    help_shows "Main Menu"
     front frmMain
     go frmPrint alt+p
     go frmMain alt+c

@@ -51,4 +51,5 @@ int main(int argc, char* argv[])
     forms::runAsHandler("positions",
         printScreens<frmMain, frmGenInfo, frmInsInfo, frmEditBankBoxes, frmBank, frmAuto, frmAddUpDel, frmWar,
             frmSearch, frmSearchResults, frmEditCmbBoxes, frmAddField, frmUpdate>);
+    forms::destroyScreens(); // while there is an application
 }

@@ -76,9 +76,7 @@ asset_by_mouse() {
     click frmAddUpDel picDate
     see frmCalendar calendar
     go frmAddUpDel Prior Home Return
-    enter frmAddUpDel txtPPrice 1
-    shot price-first-digit
-    text 234.567 # the third decimal is refused
+    enter frmAddUpDel txtPPrice 1234.567 # the third decimal is refused
     shot price-typed
     click frmAddUpDel 'optRecOnFile(0)'
     text 'Fire safe, folder 3'

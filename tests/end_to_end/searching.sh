@@ -22,7 +22,6 @@ search_all() {
     expect "select count(*) from Print" 23
     click frmSearchResults 'lblSubHead(5)'
     expect "select ID from Print limit 1" 23
-    shot results-by-make
     keys Next
     shot results-page-2
     click frmSearchResults cmdNext
