@@ -83,8 +83,8 @@ manager_is_there() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 
 
 leave_place() {
     # shellcheck disable=SC2046 # one number for each
-    kill -9 $(jobs -p | grep -vx "${Server:=0}") 2>/dev/null || true
-    kill "$Server" 2>/dev/null || true # which leaves no files of its own
+    kill -9 $(jobs -p | grep -vx "${Server:-}") 2>/dev/null || true
+    kill "${Server:-}" 2>/dev/null || true # which leaves no files of its own
     wait 2>/dev/null || true
     rm -rf "$Place"
 }
