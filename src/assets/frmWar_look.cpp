@@ -175,7 +175,8 @@ void frmWar::addCoverage(QGridLayout& grid, int row, int head, std::initializer_
     addHead(grid, row, head);
     int column = 0;
     for (const forms::TextEntry* box : boxes) {
-        box->widget()->setAccessibleName(QStringLiteral("%1 %2").arg(subheads[head], subheads[columns[column]]));
+        forms::look::nameForTools(
+            *box->widget(), QStringLiteral("%1 %2").arg(subheads[head], subheads[columns[column]]));
         grid.addWidget(box->widget(), row, ++column);
     }
     grid.addWidget(calendar.widget(), row, ++column);

@@ -22,8 +22,6 @@ updated() {
     keys Delete # no amount
     click frmAddUpDel cmdUpdate
     answer update-refused Return
-    expect "select AssetValue from Personal_Info" 800000 # the total went before the check
-    expect "select Amount $Camcorder" '$1234.56'
     text 1500 # the refusal has put the focus there
     enter frmAddUpDel txtMake 'Northlight & Sons'
     keys alt+u
@@ -37,14 +35,12 @@ warranty_by_mouse_and_keys() {
     step "its warranty"
     click frmAddUpDel cmdWarranty
     see frmWar warranty-empty
-    click frmWar cmbPDay
-    answer month-first Return
     click frmWar txtPAmt
     texts 250 80x
     click frmWar picPDate
     see frmCalendar warranty-calendar
     go frmWar Return
-    pick frmWar cmbLMonth 2 12 month-list
+    pick frmWar cmbLMonth month-list 2 12
     keys Tab Down Tab Down
     enter frmWar txtDescription "Carry-in only; keep the receipt."
     shot warranty-complete
@@ -54,33 +50,19 @@ warranty_by_mouse_and_keys() {
  [Labor Month], [Labor Day], [Labor Year], [Warranty Description] $Camcorder" \
         "None|80|\$250.00|$(date +%b)|$(date +%-d)|$(date +%Y)|None|Feb|1|2005|Carry-in only; keep the receipt."
     wait_screen frmAddUpDel
-    go frmWar alt+w
-    shot warranty-loaded
-    go frmAddUpDel alt+c # amounts of the same form on both sides: nothing is asked
 }
 
-printed() {
-    step "printed"
+printed_and_deleted() {
+    step "printed, then deleted from the results"
     click frmAddUpDel cmdPrint
     expect "select ID, Type, Make, Amount from Print" '1|Camcorder|Northlight & Sons|$1500.00'
-    shown_and_saved one-asset "Camcorder" "Northlight & Sons" "\$1,500.00" "Total Pages: 1"
-}
-
-back_to_results() {
-    step "back to the results, with a question"
+    report_saved AssetReport one-asset "Camcorder" "Northlight & Sons" "\$1,500.00" "Total Pages: 1"
     click frmAddUpDel cmdCancel
     answer leave-asset Return
     see frmSearchResults results-after-update
-}
-
-deleted() {
-    step "deleted"
     click frmSearchResults 'txtMore(0)'
     click frmAddUpDel cmdDelete
-    answer delete-question Escape
-    expect "select count(*) from Inventory" 2
-    keys alt+d
-    answer delete-yes Return
+    answer delete-question Return
     answer asset-deleted Return
     wait_screen frmMain
     expect "select ID, Amount from Inventory" '2|$80.00'
@@ -90,7 +72,5 @@ deleted() {
 found_by_word
 updated
 warranty_by_mouse_and_keys
-printed
-back_to_results
-deleted
+printed_and_deleted
 close_with_backup

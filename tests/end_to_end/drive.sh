@@ -8,13 +8,8 @@ readonly Patience=15 # seconds for anything to happen
 
 fail() {
     echo "FAILED: $*" >&2
-    if [ -n "${DISPLAY:-}" ] && import -window root "$Pictures/failed.png" 2>/dev/null; then
-        echo "The screen at that moment: $Pictures/failed.png" >&2
-    fi
-    if [ -s "$Log" ]; then
-        echo "What the program printed:" >&2
-        tail -n 20 "$Log" >&2
-    fi
+    picture "$Scenario-failed" 100% 2>/dev/null && echo "The screen at that moment: $Pictures/$Scenario-failed.png" >&2
+    [ ! -s "$Log" ] || { echo "What the program printed:" && tail -n 20 "$Log"; } >&2
     exit 1
 }
 
@@ -42,11 +37,7 @@ make_place() {
     use_home "$Place/home"
     open_display
     open_bus
-    [ "$Build" = /usr ] || positions
-}
-
-positions() {
-    "$Build/bin/positions" >"$Place/positions" 2>"$Place/positions.log" || fail "positions: $(cat "$Place/positions.log")"
+    [ "$Build" = /usr ] || "$Build/bin/positions" >"$Place/positions" 2>>"$Log"
 }
 
 use_home() {
@@ -60,7 +51,7 @@ use_home() {
 household() {
     use_home "$Place/$1"
     lay_database
-    sqlcipher_with_key "$Database" "update Personal_Info set [Introduced] = '1'; ${2:-}"
+    change "update Personal_Info set [Introduced] = '1'; ${2:-}"
 }
 
 # assets QUERY: the statement that adds assets without a warranty; the query gives what stands from the area to how it
@@ -68,7 +59,10 @@ household() {
 assets() { printf "insert into Inventory select null, *%s from (%s);" "$(printf ", 'None'%.0s" {1..13})" "$1"; }
 
 open_display() {
-    Xvfb -displayfd 3 -screen 0 "${KESTRILL_DISPLAY:-1280x1024}x24" -wr -nolisten tcp 3>"$Place/display" 2>"$Place/xvfb.log" &
+    # Any number: a server of another list of processes looks dead to one that searches for the next.
+    Xvfb ":$((RANDOM + 100))" -displayfd 3 -screen 0 "${KESTRILL_DISPLAY:-1280x1024}x24" -wr -nolisten tcp -fbdir "$Place" \
+        3>"$Place/display" 2>"$Place/xvfb.log" &
+    Server=$!
     until_true "the virtual display" test -s "$Place/display"
     DISPLAY=:$(cat "$Place/display")
     export DISPLAY
@@ -89,7 +83,8 @@ manager_is_there() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 
 
 leave_place() {
     # shellcheck disable=SC2046 # one number for each
-    kill -9 $(jobs -p) 2>/dev/null || true
+    kill -9 $(jobs -p | grep -vx "${Server:-}") 2>/dev/null || true
+    kill "${Server:-}" 2>/dev/null || true # which leaves no files of its own
     wait 2>/dev/null || true
     rm -rf "$Place"
 }
@@ -113,6 +108,19 @@ start_at_menu() {
 
 tell_to_end() {
     kill -TERM "$Program"
+    ends_with 0
+}
+
+kill_program() {
+    kill -9 "$Program"
+    ends_with 137
+    same "$(sql "$Database" "pragma integrity_check")" ok "the database is damaged"
+}
+
+# leave NAME: the program from its menu, by the question whose picture bears that name.
+leave() {
+    keys alt+x
+    answer "$1" Return
     ends_with 0
 }
 
@@ -151,20 +159,30 @@ rectangle_of() {
 # shot NAME: a picture of all that the program shows, with its title bar and a margin, once it stands still; and what a
 # screen reader finds there.
 shot() {
-    local crop picture now last=
     hear
     Shots=$((Shots + 1))
-    picture=$Pictures/$(printf '%02d' "$Shots")-$1.png
-    crop=$(for window in $(windows); do rectangle_of "$window"; done | awk '
+    wait_still
+    picture "$Scenario-$(printf '%02d' "$Shots")-$1" "$(for window in $(windows); do rectangle_of "$window"; done | awk '
         NR == 1 || $1 < x { x = $1 } NR == 1 || $2 < y { y = $2 } $3 > r { r = $3 } $4 > b { b = $4 }
-        END { if (NR) printf "%dx%d+%d+%d", r - x + 16, b - y + 38, x - 8, y - 30; else print "100%" }')
-    for _ in 1 2 3 4 5 6 7 8; do
-        import -window root -crop "$crop" +repage "$picture"
-        now=$(identify -format '%#' "$picture")
-        [ "$now" != "$last" ] || break
-        last=$now
-    done
+        END { if (NR) printf "%dx%d+%d+%d", r - x + 16, b - y + 38, x - 8, y - 30; else print "100%" }')"
 }
+
+# picture NAME PART: of the display, which keeps its dots in a file.
+picture() { convert "xwd:$Place/Xvfb_screen0" -crop "$2" +repage "$Pictures/$1.png"; }
+
+fingerprint() { md5sum "$Place/Xvfb_screen0"; }
+
+has_changed() { [ "$(fingerprint)" != "$1" ]; }
+
+# For a tenth of a second, within which the program paints what it has begun.
+is_still() {
+    local before
+    before=$(fingerprint)
+    sleep 0.1
+    ! has_changed "$before"
+}
+
+wait_still() { until_true "the display to stand still" is_still; }
 
 # ---- ears
 
@@ -198,32 +216,19 @@ see() {
 
 keys() { xdotool key --delay 15 "$@"; }
 
-fingerprint() { import -window root ppm:- | md5sum; }
-
-has_changed() { [ "$(fingerprint)" != "$1" ]; }
-
-is_still() { ! has_changed "$(fingerprint)"; }
-
 # keys_seen KEYS...: and waits until the display has answered and stands still, as one does who looks at a list.
 keys_seen() {
     local before
     before=$(fingerprint)
     keys "$@"
     until_true "an answer to $*" has_changed "$before"
-    until_true "the display to stand still" is_still
+    wait_still
 }
 
-text() { [ -z "$1" ] || xdotool type --delay 15 "$1"; }
+text() { xdotool type --delay 15 "$1"; }
 
 # texts TEXT...: types into the boxes that follow each other.
-texts() {
-    local each
-    text "$1"
-    for each in "${@:2}"; do
-        keys Tab
-        text "$each"
-    done
-}
+texts() { text "$(printf '%s\t' "${@:1:$#-1}")${*: -1}"; }
 
 # go SCREEN KEYS...: presses keys that lead to a screen.
 go() {
@@ -267,17 +272,21 @@ answer() {
 
 is_gone() { ! xwininfo -id "$1" 2>/dev/null | grep -q IsViewable; }
 
-# pick SCREEN CONTROL ROW ROWS PICTURE: opens the list of a box with the mouse and clicks its row, counted from 1.
-pick() {
-    local list left top bottom shown=$(($4 < 16 ? $4 : 16))
-    [ "$3" -le "$shown" ] || fail "row $3 of $2 is not in sight"
+# unfold SCREEN CONTROL: opens the list of a box with the mouse.
+unfold() {
     find "$1" "$2"
     click_at $((X + W - H / 2)) $((Y + H / 2))
     until_true "the list of $2" open_list
+}
+
+# pick SCREEN CONTROL PICTURE ROW [ROWS]: by the mouse alone; rows count from 1, and 16 are in sight.
+pick() {
+    local list left top bottom
+    unfold "$1" "$2"
     list=$(open_list_window)
-    shot "$5"
+    shot "$3"
     read -r left top _ bottom <<<"$(rectangle_of "$list")"
-    click_at $((left + 30)) $((top + 1 + (bottom - top - 2) * (2 * $3 - 1) / (2 * shown)))
+    click_at $((left + 30)) $((top + 1 + (bottom - top - 2) * (2 * $4 - 1) / (2 * ${5:-16})))
     until_true "the list of $2 to close" is_gone "$list"
 }
 
@@ -294,33 +303,10 @@ open_list_window() {
 
 open_list() { [ -n "$(open_list_window)" ]; }
 
-# click_day DAY MONTH YEAR: in the calendar, which shows that month in six weeks from Sunday on.
-click_day() {
-    local column row first
-    first=$(date -d "$3-$2-1" +%w)
-    column=$(((first + $1 - 1) % 7))
-    row=$(((first + $1 - 1) / 7))
-    find frmCalendar days
-    click_at $((X + W * (2 * column + 1) / 14)) $((Y + H * (2 * row + 1) / 12))
-}
-
 # The personal information of a first start, from its first box on.
 type_household() {
-    text Ann
-    keys Tab
-    text Q
-    keys Tab
-    text Fairbanks
-    keys Tab
-    text '12 Orchard Lane'
-    keys Tab
-    text Albany
-    keys Tab
-    text ny # moves on by itself when it is full, as the phones do
-    text 12205-ab
-    keys Tab
-    text 518555010151855501025185550103
-    text ann@home.example
+    # State and phones move on by themselves when they are full.
+    texts Ann Q Fairbanks '12 Orchard Lane' Albany 'ny12205-ab' '518555010151855501025185550103ann@home.example'
 }
 
 # ---- reports
@@ -338,12 +324,15 @@ has_title() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ];
 
 # save_as FILE: by the window of the report in front.
 save_as() {
+    local report
+    report=$(screen_in_front)
     keys ctrl+s
     until_true "the dialogue to save" has_title "Save Report As"
     keys ctrl+a
     text "$1"
     keys Return
     until_true "$1" test -s "$1"
+    wait_screen "$report"
 }
 
 # holds FILE TEXT...: what another program reads in it.
@@ -355,16 +344,13 @@ holds() {
     done
 }
 
-# shown_and_saved NAME TEXT...: the asset report in front, saved beside the pictures, and closed.
-shown_and_saved() { report_saved AssetReport "$@"; }
-
+# report_saved REPORT NAME TEXT...: the report in front, saved beside the pictures, and closed.
 report_saved() {
-    local report=$1 name=$2
-    see "$report" "$name"
-    save_as "$Pictures/$name.pdf"
-    holds "$Pictures/$name.pdf" "${@:3}"
+    see "$1" "$2"
+    save_as "$Pictures/$2.pdf"
+    holds "$Pictures/$2.pdf" "${@:3}"
     keys Escape
-    until_true "the report to close" has_left "$report"
+    until_true "the report to close" has_left "$1"
 }
 
 has_left() { ! is_in_front "$1"; }
@@ -373,11 +359,17 @@ has_left() { ! is_in_front "$1"; }
 
 sqlcipher_with_key() { sqlcipher -batch -cmd "PRAGMA key = '$Key'" "$@" 2>&1; }
 
-# sql FILE STATEMENT: of a copy, since the program keeps its database to itself while it runs.
+# sql FILE STATEMENT: of a copy, since the program keeps its database to itself while it runs; with its journal, if it has
+# one.
 sql() {
+    rm -f "$Place"/copy.db*
     cp "$1" "$Place/copy.db"
+    cp "$1-journal" "$Place/copy.db-journal" 2>/dev/null || true
     sqlcipher_with_key "$Place/copy.db" "$2"
 }
+
+# change STATEMENTS: of the database, while the program doesn't run.
+change() { sqlcipher_with_key "$Database" "$1"; }
 
 dump() { sql "$1" .dump; }
 

@@ -15,13 +15,33 @@ killed() {
     types Saved
     go frmMain alt+s
     types Typed
-    kill -9 "$Program"
-    ends_with 137
-    same "$(sql "$Database" "pragma integrity_check")" ok "the database is damaged"
+    kill_program
     start_at_menu
     expect "select City from Personal_Info" Saved
     tell_to_end
 }
+
+killed_in_a_search() {
+    step "killed in the midst of a search, which writes what it finds"
+    household killed-search "with recursive n(i) as (select 1 union all select i + 1 from n where i < 30000)
+        $(assets "select 'Indoor', 'Attic', 'Art', 'Clock ' || i, '2001', 'A', 'B', i, '1/2/2020', '\$1.00', 'No', 'None',
+            'None', 'New' from n")"
+    local before
+    before=$(own_tables)
+    start_at_menu
+    go frmSearch alt+s
+    text clock
+    keys Return
+    until_true "the first write of the search" test -s "$Database-journal"
+    kill_program
+    [ -s "$Database-journal" ] || fail "it was not in the midst"
+    same "$(own_tables)" "$before" "the search has changed what the household owns"
+    start_at_menu
+    tell_to_end
+    same "$(own_tables)" "$before" "the start after it has changed what the household owns"
+}
+
+own_tables() { dump "$Database" | grep -v '^INSERT INTO \("Print"\|Print\) '; }
 
 told_to_end() {
     step "told to end by the system: at the menu, and with a message box open"
@@ -53,17 +73,12 @@ moved_away() {
 }
 
 without_database() {
-    step "a start without a database"
+    step "a start without a database, and a data folder that is there is left alone"
     use_home "$Place/empty"
     start_program
     answer no-database Return
     ends_with 3
     same "$(command find "$HOME" -name '*KTL*')" "" "files were made in the data folder"
-}
-
-laid_only_once() {
-    step "a data folder that is there is left alone"
-    use_home "$Place/kept"
     mkdir -p "$(dirname "$Database")"
     lay_database
     [ ! -e "$Database" ] || fail "a database was laid into a folder that was there"
@@ -86,8 +101,8 @@ far_below() {
 }
 
 killed
+killed_in_a_search
 told_to_end
 moved_away
 without_database
-laid_only_once
 far_below

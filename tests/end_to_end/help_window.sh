@@ -1,16 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash disable=SC2154 # the files of this folder share their variables
 # F1 with real windows: read beside a screen, over a message box, and closed by the end of the program.
-# shellcheck source=tests/end_to_end/household.sh
-. "$Here/household.sh"
 
 help_shows() { until_true "the page \"$1\"" has_title "$1 - Kestrill Help"; }
 
 read_beside_a_screen() {
     step "help beside a screen: the search, and finding on the page"
-    household_with_assets help
-    start_program
-    wait_screen frmMain
     keys F1
     help_shows "Main Menu"
     shot help
@@ -27,16 +22,13 @@ read_beside_a_screen() {
     keys Escape alt+Left
     help_shows "Main Menu"
     front frmMain
-    keys alt+p
-    wait_screen frmPrint
-    keys alt+c
-    wait_screen frmMain
+    go frmPrint alt+p
+    go frmMain alt+c
 }
 
 over_a_box() {
     step "help over a message box, which waits"
-    keys alt+x
-    wait_screen MsgBox
+    go MsgBox alt+x
     keys F1
     help_shows "Main Menu"
     keys F6 Down Return
@@ -47,9 +39,10 @@ over_a_box() {
     wait_screen frmMain
     keys F1
     help_shows "Main Menu"
-    kill -TERM "$Program"
-    ends_with 0
+    tell_to_end
 }
 
+household help
+start_at_menu
 read_beside_a_screen
 over_a_box

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
-# A print service of the run's own: a scheduler behind a socket, with one queue that keeps what it prints in a file.
+# A print service of the run's own: a scheduler behind a socket, with one queue that keeps what it prints in a file,
+# and the number of copies beside it.
 
 start_print_service() {
     local service=$Place/cups
@@ -9,7 +10,8 @@ start_print_service() {
     mkdir -p "$service"/{spool/tmp,cache,state,bin/backend}
     ln -s /usr/lib/cups/daemon "$service/bin/daemon"
     # shellcheck disable=SC2016 # for the backend's own shell
-    printf '#!/bin/sh\n[ $# -eq 0 ] || cat "${6:--}" >"${DEVICE_URI#keep:}"\n' >"$service/bin/backend/keep"
+    printf '#!/bin/sh\n[ $# -eq 0 ] || { cat "${6:--}" >"${DEVICE_URI#keep:}" && echo "$4" >"${DEVICE_URI#keep:}.copies"; }\n' \
+        >"$service/bin/backend/keep"
     chmod 700 "$service/bin/backend/keep"
     cat >"$service/cupsd.conf" <<-CONF
 		Listen $service/socket
@@ -39,12 +41,10 @@ start_print_service() {
 	CONF
     /usr/sbin/cupsd -f -c "$service/cupsd.conf" -s "$service/cups-files.conf" &
     PrintService=$!
-    until_true "the print service" service_answers
-    /usr/sbin/lpadmin -p Paper -v "keep:$Printed" -E -m raw 2>/dev/null
-    /usr/sbin/lpadmin -d Paper
+    until_true "the print service and its queue" add_queue
 }
 
-service_answers() { lpstat -r >/dev/null 2>&1; }
+add_queue() { /usr/sbin/lpadmin -p Paper -v "keep:$Printed" -E -m raw && /usr/sbin/lpadmin -d Paper; } 2>/dev/null
 
 stop_print_service() {
     kill "$PrintService"

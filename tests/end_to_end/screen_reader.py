@@ -3,7 +3,7 @@
 """What a screen reader finds of Kestrill on the accessibility bus.
 
 front: the name of the window in front. walk: that window and each control in it that is shown, as "role | name |
-description | states", with "~" for what moves with the date. A control without a name ends with status 1."""
+description | states", with "~" for what moves with the date. What has no name, or takes no focus, ends with status 1."""
 
 import calendar
 import re
@@ -17,56 +17,49 @@ DATES = re.compile(r"\b(?:%s)\b" % "|".join([r"\d+", *calendar.month_name[1:], *
 TAKEN = {"push button", "check box", "radio button", "text", "password text", "combo box", "table"}
 
 
-def windows():
-    for program in pyatspi.Registry.getDesktop(0):
-        if program and program.name == "Kestrill":
-            yield from (window for window in program if window)
-
-
 def front():
-    for window in windows():
-        if window.getState().contains(pyatspi.STATE_ACTIVE):
-            return window
-    return None
+    for program in pyatspi.Registry.getDesktop(0):
+        for window in program if program and program.name == "Kestrill" else ():
+            if window and window.getState().contains(pyatspi.STATE_ACTIVE):
+                return window
+    sys.exit("no window of Kestrill is in front")
 
 
-def name_of(item):
-    """Its label's words, where it has a label: so does a screen reader. An option has words of its own beside it."""
-    own = item.name.strip()
+def name_of(item, role):
+    """Its label's words, where it has a label: so does a screen reader. An option has words of its own beside it, and
+    what a list calls its name is the item that is chosen."""
+    own = "" if role == "combo box" else item.name.strip()
     for relation in item.getRelationSet():
         if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY:
             label = relation.getTarget(0).name.strip()
-            return f"{label}: {own}" if item.getRoleName() == "radio button" else label
+            return f"{label}: {own}" if role == "radio button" else label
     return own
 
 
-def line(item):
+def tell(item, role, name):
     states = {pyatspi.stateToString(state) for state in item.getState().getStates()}
-    if item.getRoleName() in TAKEN and "enabled" in states and "focusable" not in states:
-        sys.exit(f"the focus can't be moved to {item.getRoleName()} {name_of(item)!r}")
-    shown = [state for state in STATES if state in states]
-    words = (item.getRoleName(), name_of(item), item.description.strip(), " ".join(shown))
-    return DATES.sub("~", " | ".join(words).rstrip(" |"))
+    if not name:
+        sys.exit(f"a {role} in {item.parent.getRoleName()} {item.parent.name!r} has no name: {item.description!r}")
+    if role in TAKEN and "enabled" in states and "focusable" not in states:
+        sys.exit(f"the focus can't be moved to {role} {name!r}")
+    words = (role, name, item.description.strip(), " ".join(state for state in STATES if state in states))
+    print(DATES.sub("~", " | ".join(words).rstrip(" |")))
 
 
 def walk(item):
-    if not item.getState().contains(pyatspi.STATE_SHOWING):
-        return
-    role = item.getRoleName()
-    border = role == "frame" and item.parent.getRoleName() == "filler"  # not a window
-    if role not in BARE and not (border and not name_of(item)):
-        if not name_of(item):
-            sys.exit(f"a {role} in {item.parent.getRoleName()} {item.parent.name!r} has no name")
-        print(line(item))
-    if role not in ("combo box", "table"):
-        for inner in item:
-            walk(inner)
+    for inner in item if item.getRoleName() not in ("combo box", "table") else ():
+        role = inner.getRoleName()
+        if not inner.getState().contains(pyatspi.STATE_SHOWING):
+            continue
+        name = name_of(inner, role)
+        if role not in BARE and (name or role != "frame"):  # a frame without a name is a line around others
+            tell(inner, role, name)
+        walk(inner)
 
 
 window = front()
-if not window:
-    sys.exit("no window of Kestrill is in front")
 if sys.argv[1] == "front":
     print(window.name.strip())
 else:
+    tell(window, window.getRoleName(), window.name.strip())
     walk(window)

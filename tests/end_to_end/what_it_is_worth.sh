@@ -2,17 +2,6 @@
 # shellcheck shell=bash disable=SC2016,SC2154 # amounts have a "$"; the files of this folder share their variables
 # The policy of the home, the alert at the start, and what the assets are worth beside the coverage.
 
-Policy="select [Policy Company], [Policy Number], [Policy Coverage], [Policy Notify] from Personal_Info"
-
-Rest="'Attic', 'Art', 'Clock', '2001', 'Unknown', 'Unknown', 'Unknown', '1/2/2020'"
-
-insured_household() {
-    household worth "update Personal_Info set [AssetValue] = 15000000;
-        $(assets "values ('Indoor', $Rest, '\$1,250.00', 'No', 'None', 'None', 'New'),
-            ('Mobile', $Rest, '\$250.00', 'No', 'None', 'None', 'New')")"
-    start_at_menu
-}
-
 policy_by_keys_and_calendar() {
     step "the policy of the home"
     go frmGenInfo alt+r
@@ -29,7 +18,8 @@ policy_by_keys_and_calendar() {
     go frmInsInfo Return
     enter frmInsInfo txtCoverageAmt 1000
     click frmInsInfo chkNotify
-    expect "$Policy" 'Mutual|P-1|$1,000.00|Yes' # at once
+    expect "select [Policy Company], [Policy Number], [Policy Coverage], [Policy Notify] from Personal_Info" \
+        'Mutual|P-1|$1,000.00|Yes' # at once
     shot policy
     keys alt+u
     answer policy-updated Return
@@ -49,14 +39,18 @@ worth() {
 
 alert() {
     step "the alert at the start"
-    sqlcipher_with_key "$Database" "update Personal_Info set [Policy Expiration] = '$(date -d "30 days" +%-m/%-d/%Y)'"
+    change "update Personal_Info set [Policy Expiration] = '$(date -d "30 days" +%-m/%-d/%Y)'"
     start_program
     answer expires-in-30-days Return
     wait_screen frmMain
     tell_to_end
 }
 
-insured_household
+Rest="'Attic', 'Art', 'Clock', '2001', 'Unknown', 'Unknown', 'Unknown', '1/2/2020'"
+household worth "update Personal_Info set [AssetValue] = 15000000;
+    $(assets "values ('Indoor', $Rest, '\$1,250.00', 'No', 'None', 'None', 'New'),
+        ('Mobile', $Rest, '\$250.00', 'No', 'None', 'None', 'New')")"
+start_at_menu
 policy_by_keys_and_calendar
 worth
 alert

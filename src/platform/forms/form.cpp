@@ -164,10 +164,14 @@ private:
 
 namespace {
 
-QAccessibleInterface* describeScreen(const QString&, QObject* object)
+QAccessibleInterface* describeWindow(const QString&, QObject* object)
 {
-    auto* window = dynamic_cast<FormWindow*>(object);
-    return window ? new ScreenInterface(*window, window->form()) : nullptr;
+    if (auto* window = dynamic_cast<FormWindow*>(object))
+        return new ScreenInterface(*window, window->form());
+    // A window that is no screen, as the help; the toolkit tells of a plain one as if it were a part of another.
+    auto* widget = qobject_cast<QWidget*>(object);
+    const bool isPlainWindow = widget && widget->isWindow() && widget->metaObject() == &QWidget::staticMetaObject;
+    return isPlainWindow ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
 }
 
 } // namespace
@@ -177,7 +181,7 @@ Form::Form(const QString& name)
     , window_(new FormWindow(*this))
     , canvas_(window_->makeCanvas())
 {
-    [[maybe_unused]] static const bool described = (QAccessible::installFactory(describeScreen), true);
+    [[maybe_unused]] static const bool described = (QAccessible::installFactory(describeWindow), true);
     window_->setObjectName(name);
     window_->setWindowRole(name); // tells screens apart, which share one title
 }

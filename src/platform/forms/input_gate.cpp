@@ -68,7 +68,7 @@ bool InputGate::takesAway(QObject& window, QKeyEvent& stroke)
     if (!isRepeat(stroke)) {
         heldKey_ = stroke.key();
         heldIn_ = &window;
-        return false;
+        return closedList(stroke);
     }
     const bool isForeign = stroke.key() != heldKey_ || &window != heldIn_;
     if (stroke.type() == QEvent::ShortcutOverride || isForeign) {
@@ -82,6 +82,15 @@ bool InputGate::takesAway(QObject& window, QKeyEvent& stroke)
     repeat.setTimestamp(stroke.timestamp());
     window.event(&repeat);
     return true;
+}
+
+// A list closes before the press itself is delivered, and where the screen has the keys (Wayland) the press would then
+// answer the screen: a default button would be pressed by the Enter that has picked an item.
+bool InputGate::closedList(const QKeyEvent& stroke)
+{
+    const bool isOpen = QApplication::activePopupWidget();
+    const bool wasOpen = std::exchange(overList_, isOpen && stroke.type() == QEvent::ShortcutOverride);
+    return wasOpen && !isOpen && stroke.type() == QEvent::KeyPress;
 }
 
 // The window system tells a repeat as a release and a press at the same moment. The toolkit misses that when it reads

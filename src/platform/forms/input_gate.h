@@ -18,8 +18,8 @@ class Control;
 /// What the user's hands do comes through here before a window has it; for the layer itself, not for screens.
 ///
 /// A key that is held belongs to the window in which it went down: what it repeats answers no box and no screen that
-/// has opened since, and an access key doesn't repeat at all. The second press of a double click belongs to the window
-/// of the first.
+/// has opened since, and an access key doesn't repeat at all. A key that closes a list does nothing else. The second
+/// press of a double click belongs to the window of the first.
 ///
 /// The focus that a press brings waits until the press has put the caret, so that a handler's selection stays, and at
 /// the latest until the press has been delivered, whatever part of a control it was on.
@@ -43,6 +43,7 @@ public:
 
 private:
     bool takesAway(QObject& window, QKeyEvent& stroke);
+    bool closedList(const QKeyEvent& stroke);
     bool isRepeat(const QKeyEvent& stroke) const;
     void noteRelease(const QKeyEvent& stroke);
     bool isStray(QWindow& window, const QMouseEvent& press) const;
@@ -51,6 +52,7 @@ private:
 
     int heldKey_ = 0;
     QPointer<QObject> heldIn_;
+    bool overList_ = false; // the stroke on its way has found a list open
     quint32 releasedCode_ = 0;
     unsigned long releasedWhen_ = 0;
 

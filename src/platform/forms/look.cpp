@@ -6,10 +6,12 @@
 #include "platform/forms/light_style.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPalette>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -384,6 +386,17 @@ void dress(std::initializer_list<FieldLook> fields, int helpNumber)
         if (look.maxLength > 0)
             dynamic_cast<TextEntry&>(look.control).setMaxLength(look.maxLength);
     }
+}
+
+// A list is known by the label that belongs to it and by nothing else, be it one that nobody sees.
+void nameForTools(QWidget& box, const QString& name)
+{
+    box.setAccessibleName(name);
+    if (!qobject_cast<QComboBox*>(&box))
+        return;
+    auto* label = new QLabel(name, box.parentWidget());
+    label->setBuddy(&box);
+    label->hide();
 }
 
 void keepPlace(const Control& control)

@@ -183,6 +183,9 @@ struct FieldLook {
 /// Gives each control what its line says, and all of them the help number unless it is 0.
 void dress(std::initializer_list<FieldLook> fields, int helpNumber = 0);
 
+/// Names a box for assistive tools where no label stands before it.
+void nameForTools(QWidget& box, const QString& name);
+
 /// Keeps the room of a control free while it is hidden, so that nothing on the screen moves.
 void keepPlace(const Control& control);
 

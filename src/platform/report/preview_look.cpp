@@ -23,7 +23,7 @@ constexpr double shareOfDesktop = 0.9;
 void name(QWidget& widget, const char* objectName, const QString& accessibleName, const QString& toolTip)
 {
     widget.setObjectName(QLatin1String(objectName));
-    widget.setAccessibleName(accessibleName);
+    forms::look::nameForTools(widget, accessibleName);
     widget.setToolTip(toolTip);
 }
 

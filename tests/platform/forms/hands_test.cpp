@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
+#include <QTest>
+
 namespace {
 
 // Presses on other parts of a control than its middle, keys that are held, clicks that come twice.
@@ -141,6 +143,24 @@ TEST_F(Hands, AHeldKeyCountsOnceAndAnswersNoBoxThatItHasOpened)
     }
     whileModal([] { press(Qt::Key_Return); });
     EXPECT_EQ(after([] { press(Qt::Key_Return); }), "Yes") << "pressed anew";
+}
+
+// In some window systems the screen has the keys while a list is open over it.
+TEST_F(Hands, AKeyThatClosesAListDoesNothingElse)
+{
+    for (forms::ComboBox* each : {&form.combo, &form.choice}) {
+        stand(*each);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_F4}) {
+            each->openList();
+            press(Qt::Key_End);
+            EXPECT_TRUE(isListOpen());
+            QTest::keyClick(form.window()->windowHandle(), key);
+            EXPECT_FALSE(isListOpen());
+            EXPECT_EQ(journal.taken(), key == Qt::Key_Return ? each->name() + ".Click" : QString());
+        }
+        press(Qt::Key_Return);
+        EXPECT_EQ(journal.taken(), "ok.Click");
+    }
 }
 
 TEST_F(Hands, AHeldKeyRepeatsWhatItTypesAndNothingElse)

@@ -1,41 +1,59 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash disable=SC2154 # the files of this folder share their variables
 # The screens as the help shows them, each filled in as a householder would have it, under the name of its class.
-# shellcheck source=tests/end_to_end/household.sh
-. "$Here/household.sh"
+
+LongDescription="Rolled front, three keys, of which one is worn. The upper left drawer has a false back behind which \
+lies a second lock. Restored in 2004; the bill of the restorer is kept with the receipt. The veneer of the right door \
+is chipped near the hinge, as the photograph in the fire safe shows."
+
+# household_with_assets NAME [STATEMENTS]: Ann Fairbanks and eight things of hers.
+household_with_assets() {
+    household "$1" "update Personal_Info set [First] = 'Ann', [Middle] = 'Q', [Last] = 'Fairbanks',
+            [Address] = '12 Orchard Lane', [City] = 'Albany', [State] = 'NY', [ZIP] = '12205-AB',
+            [Home Phone1] = '518', [Home Phone2] = '555', [Home Phone3] = '0101', [EMail] = 'ann@home.example',
+            [Policy Company] = 'Tidewater Mutual', [Policy Number] = 'TM-4711-08', [Policy Expiration] = '12/31/2027',
+            [AssetValue] = 78342900;
+        $(assets "values
+        ('Indoor', 'Family Room', 'Cameras', 'Camcorder', '2019', 'Northlight', 'V-300 \"Pro\"', 'SN 0042/7',
+            '7/4/2019', '\$1,234.56', 'Yes', 'Fire safe, folder 3', 'With case and two batteries.', 'Used'),
+        ('Indoor', 'Attic', 'Art', 'Brass Kestrel', '1931', 'Unknown', 'Unknown', 'Unknown', '10/23/2026', '\$80.00',
+            'No', 'None', 'None', 'New'),
+        ('Indoor', 'Library', 'Antiques', 'Secretary Desk With Hidden Drawer', '1880', 'Hollis & Daughter',
+            'Walnut, rolled front', 'Branded 114 inside the left drawer', '3/14/2001', '\$4,850.00', 'Yes',
+            'Desk, second drawer', '$LongDescription', 'Used'),
+        ('Indoor', 'Kitchen', 'Appliances', 'Dishwasher', '2022', 'Brightwater', 'DW-60', 'BW60-2218-7741',
+            '5/2/2022', '\$749.00', 'Yes', 'File cabinet', 'None', 'New'),
+        ('Outdoor', 'Shed', 'Garden', 'Lawn Mower', '2020', 'Greenfield', 'LM 48', 'None', '4/11/2020', '\$389.50',
+            'Yes', 'File cabinet', 'None', 'New'),
+        ('Indoor', 'Bedroom', 'Jewelry', 'Pearl Necklace', '1962', 'Unknown', 'Unknown', 'Unknown', '6/1/1962',
+            '\$530.00', 'No', 'None', 'Inherited; appraised in 2019.', 'Used'),
+        ('Indoor', 'Study', 'Computers', 'Notebook', '2024', 'Meridian', 'M15', '7QX-22810', '2/9/2024',
+            '\$1,379.00', 'Yes', 'File cabinet', 'None', 'New'),
+        ('Indoor', 'Living Room', 'Furniture', 'Sofa', '2018', 'Hearth & Home', 'Three seats', 'Unknown',
+            '9/15/2018', '\$1,210.00', 'Yes', 'File cabinet', 'Blue; the left arm is worn.', 'New')") ${2:-}"
+}
 
 # portrait NAME [SCREEN]: the window in front with its frame, once it stands still.
 portrait() {
-    local left top right bottom frame now last=
+    local left top right bottom frame
     wait_screen "${2:-$1}"
     xdotool mousemove 1 1 # no tool tip, and no button under the pointer
     read -r left top right bottom <<<"$(rectangle_of "$(active_window)")"
-    frame=$(xprop -id "$(active_window)" _NET_FRAME_EXTENTS | sed 's/.*= //; s/,//g')
-    read -r -a frame <<<"$frame"
+    read -r -a frame <<<"$(xprop -id "$(active_window)" _NET_FRAME_EXTENTS | sed 's/.*= //; s/,//g')"
     left=$((left - frame[0])) right=$((right + frame[1])) top=$((top - frame[2])) bottom=$((bottom + frame[3]))
-    for _ in 1 2 3 4 5 6 7 8; do
-        import -window root -crop "$((right - left))x$((bottom - top))+$left+$top" +repage "$Pictures/$1.png"
-        now=$(identify -format '%#' "$Pictures/$1.png")
-        [ "$now" != "$last" ] || break
-        last=$now
-    done
-}
-
-at_menu() {
-    start_program
-    wait_screen frmMain
+    wait_still
+    picture "$1" "$((right - left))x$((bottom - top))+$left+$top"
 }
 
 first_run() {
     step "the first run"
     use_home "$Place/first"
-    "$Here/../../scripts/lay-database" "$Build/data/KTL.db"
+    lay_database
     start_program
     portrait frmIntroduction
     keys Return
     portrait frmKeyboard
-    kill -TERM "$Program"
-    ends_with 0
+    tell_to_end
 }
 
 household_screens() {
@@ -51,8 +69,7 @@ household_screens() {
     until_true "the menu" left_to_menu
     keys alt+v
     portrait frmTotals
-    keys Return
-    wait_screen frmMain
+    go frmMain Return
 }
 
 left_to_menu() {
@@ -65,8 +82,7 @@ left_to_menu() {
 account_screens() {
     click frmGenInfo cmdBank
     portrait frmEditBankBoxes
-    keys alt+a Return
-    wait_screen frmBank
+    go frmBank alt+a Return
     # The state leads on to the phone, the phone to the type by itself.
     text $'Harbor Savings Bank\t1 Main Street\tAlbany\tny5185550140\tA-100'
     portrait frmBank
@@ -87,43 +103,35 @@ reports() {
     step "the print menu and a report"
     keys alt+p
     portrait frmPrint
-    keys alt+i
-    wait_screen AssetReport
+    go AssetReport alt+i
     keys ctrl+0
     portrait preview AssetReport
-    keys Escape
-    wait_screen frmPrint
-    keys alt+c
-    wait_screen frmMain
+    go frmPrint Escape
+    go frmMain alt+c
 }
 
 search_and_asset() {
     step "the search, an asset and its warranty"
-    keys alt+s
-    wait_screen frmSearch
+    go frmSearch alt+s
     text sofa
     portrait frmSearch
-    keys ctrl+a BackSpace Return
-    wait_screen MsgBox
+    go MsgBox ctrl+a BackSpace Return
     keys Return
     portrait frmSearchResults
     click frmSearchResults 'txtMore(0)'
     portrait frmAddUpDel
     click frmAddUpDel picDate
     portrait frmCalendar
-    keys Return
-    wait_screen frmAddUpDel
+    go frmAddUpDel Return
     click frmAddUpDel cmdWarranty
     portrait frmWar
-    keys alt+c
-    wait_screen frmAddUpDel
-    kill -TERM "$Program"
-    ends_with 0
+    go frmAddUpDel alt+c
+    tell_to_end
 }
 
 name_lists() {
     step "the area menu and the editors of the names"
-    at_menu
+    start_at_menu
     keys alt+i
     portrait frmAuto
     click frmAuto 'cmdAdd(0)'
@@ -136,38 +144,27 @@ name_lists() {
     list_menu
     editor h frmUpdate
     keys shift+Tab shift+Tab
-    text Attic
-    keys Tab
-    text 'Guest Room'
+    texts Attic 'Guest Room'
     portrait frmUpdate
     leave_editor
     list_menu
     editor d frmDelField
     text Garret
     portrait frmDelField
-    kill -TERM "$Program"
-    ends_with 0
+    tell_to_end
 }
 
 list_menu() {
-    find frmAddUpDel cmbLoc
-    click_at $((X + W - H / 2)) $((Y + H / 2))
-    until_true "the list of locations" open_list
-    keys Home Return
-    wait_screen frmEditCmbBoxes
+    unfold frmAddUpDel cmbLoc
+    go frmEditCmbBoxes Home Return
 }
 
 # editor KEY SCREEN
-editor() {
-    keys "alt+$1" alt+o
-    wait_screen "$2"
-}
+editor() { go "$2" "alt+$1" alt+o; }
 
 leave_editor() {
-    keys alt+c
-    wait_screen MsgBox
-    keys Return
-    wait_screen frmAddUpDel
+    go MsgBox alt+c
+    go frmAddUpDel Return
 }
 
 # Two closes, so that there is an earlier backup, too.
@@ -175,12 +172,11 @@ backups() {
     step "the backups"
     cmake --install "$Build" --prefix "$Place/prefix" >/dev/null
     for _ in 1 2; do
-        at_menu
-        keys alt+x
-        wait_screen MsgBox
+        start_at_menu
+        go MsgBox alt+x
         keys Return
         ends_with 0
-        sqlcipher_with_key "$Database" "delete from Inventory where Type = 'Sofa'"
+        change "delete from Inventory where Type = 'Sofa'"
     done
     "$Place/prefix/bin/kestrill-restore" >>"$Log" 2>&1 &
     Program=$!
@@ -192,9 +188,9 @@ backups() {
 # The closing screen is gone in a moment: a large database keeps it, and the program is held while it is looked at.
 closing() {
     step "the closing"
-    sqlcipher_with_key "$Database" "with recursive n(i) as (select 1 union all select i + 1 from n where i < 20000)
+    change "with recursive n(i) as (select 1 union all select i + 1 from n where i < 100000)
         insert into Indoor_Items (Location, Category, Type, Standard) select 'Attic', 'Art', 'Clock ' || i, 0 from n"
-    at_menu
+    start_at_menu
     keys alt+x
     portrait message MsgBox
     keys Return
@@ -206,12 +202,11 @@ closing() {
 }
 
 first_run
-household_with_assets pictures
-sqlcipher_with_key "$Database" "update Inventory set [Parts Type] = 'Manufacturer', [Parts Coverage] = '80',
+household_with_assets pictures "update Inventory set [Parts Type] = 'Manufacturer', [Parts Coverage] = '80',
     [Parts Amount] = '\$250.00', [Parts Month] = 'Oct', [Parts Day] = '23', [Parts Year] = '2027',
     [Warranty Description] = 'Carry-in only; keep the receipt.' where Type = 'Camcorder';
     update Personal_Info set [Policy Coverage] = '\$50,000.00'"
-at_menu
+start_at_menu
 household_screens
 reports
 search_and_asset
