@@ -19,6 +19,8 @@ double attribute(const QXmlStreamReader& xml, const char* name)
     return xml.attributes().value(QLatin1String(name)).toDouble() * twipsPerPoint;
 }
 
+} // namespace
+
 QString output(const QString& program, const QStringList& arguments)
 {
     QProcess process;
@@ -27,8 +29,6 @@ QString output(const QString& program, const QStringList& arguments)
         throw std::runtime_error((program + " failed: " + process.readAllStandardError()).toStdString());
     return QString::fromUtf8(process.readAllStandardOutput());
 }
-
-} // namespace
 
 std::vector<Page> read(const QString& path)
 {

@@ -29,6 +29,9 @@ std::vector<Page> read(const QString& path);
 /// Where the words of a text stand side by side, wherever on the page.
 std::vector<QRectF> placesOf(const Page& page, const QString& text);
 
+/// What another program tells of it.
+QString output(const QString& program, const QStringList& arguments);
+
 /// A line of pdfinfo, by its name.
 QString info(const QString& path, const QString& name);
 
