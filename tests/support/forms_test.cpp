@@ -11,11 +11,19 @@
 
 namespace {
 
+constexpr int pollMilliseconds = 2;
+constexpr int patiencePolls = 200;
+
 int modalsUp()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     return static_cast<int>(std::count_if(windows.begin(), windows.end(),
         [](const QWidget* window) { return window->isVisible() && window->isModal(); }));
+}
+
+QString told(const forms::Message& box)
+{
+    return QStringLiteral("%1 [%2, flags %3]").arg(box.text, box.title).arg(box.flags);
 }
 
 // A box runs in a call of the toolkit all along; a screen is ready once the layer has come back from showing it.
@@ -43,18 +51,16 @@ FormsTest::FormsTest()
         failure_ = report;
     });
     forms::setHelpDoor([this](int number, const QString&) { openedHelp_ = number; });
-    QObject::connect(&scriptPoll_, &QTimer::timeout, &scriptPoll_, [this] { runScript(); });
-    QObject::connect(&guard_, &QTimer::timeout, &guard_, [this] { guardModal(); });
-    constexpr int guardMilliseconds = 250;
-    guard_.start(guardMilliseconds);
+    QObject::connect(&attendance_, &QTimer::timeout, &attendance_, [this] { attendModals(); });
+    attendance_.start(pollMilliseconds);
 }
 
 void FormsTest::TearDown()
 {
     forms::destroyScreens();
     user::settle();
-    for (const Box& box : boxes_)
-        ADD_FAILURE() << "No message box came with: " << box.message.text.toStdString();
+    for (const auto& box : boxes_)
+        ADD_FAILURE() << "This message box did not come: " << box.first.toStdString();
     EXPECT_TRUE(scripts_.empty()) << scripts_.size() << " modal screens did not come";
     EXPECT_FALSE(endStatus_) << "The process has ended unexpectedly, with status " << *endStatus_;
     EXPECT_FALSE(failure_) << "Uncaught failure in " << failure_->handler.toStdString() << ": "
@@ -69,37 +75,42 @@ void FormsTest::TearDown()
 
 void FormsTest::expectBox(const QString& text, int flags, forms::Answer answer)
 {
-    boxes_.push_back({{text, flags, boxTitle_}, answer});
+    boxes_.emplace_back(told({text, flags, boxTitle_}), answer);
 }
 
 forms::Answer FormsTest::answer(const forms::Message& shown)
 {
     if (boxes_.empty()) {
-        ADD_FAILURE() << "Unexpected message box: " << shown.text.toStdString() << "\n  flags " << shown.flags;
+        ADD_FAILURE() << "Unexpected message box: " << told(shown).toStdString();
         return shown.flags & forms::box::YesNo ? forms::Answer::No : forms::Answer::OK;
     }
-    const Box expected = boxes_.front();
+    const auto [expected, answer] = boxes_.front();
     boxes_.pop_front();
-    EXPECT_EQ(shown.text, expected.message.text);
-    EXPECT_EQ(shown.flags, expected.message.flags) << "of: " << shown.text.toStdString();
-    EXPECT_EQ(shown.title, expected.message.title) << "of: " << shown.text.toStdString();
-    return expected.answer;
+    EXPECT_EQ(told(shown), expected);
+    return answer;
 }
 
 void FormsTest::whileModal(std::function<void()> script)
 {
     scripts_.push_back(std::move(script));
-    scriptPoll_.start(0);
 }
 
-void FormsTest::runScript()
+void FormsTest::attendModals()
 {
-    if (modalsUp() <= scriptsRunning_ || !modalIsReady())
+    const bool waits = modalsUp() > scriptsRunning_ && modalIsReady();
+    polls_ = waits ? polls_ + 1 : 0;
+    if (!waits)
         return;
+    if (scripts_.empty()) {
+        // It would wait for ever: the process ends instead.
+        if (polls_ > patiencePolls)
+            qFatal(
+                "A modal window waits for the user: %s", qPrintable(QApplication::activeModalWidget()->objectName()));
+        return;
+    }
     const auto script = std::move(scripts_.front());
     scripts_.pop_front();
-    if (scripts_.empty())
-        scriptPoll_.stop();
+    attendance_.start(pollMilliseconds); // anew, since a timer is still while its slot runs
     ++scriptsRunning_;
     try {
         script();
@@ -107,13 +118,4 @@ void FormsTest::runScript()
         ADD_FAILURE() << failure.what();
     }
     --scriptsRunning_;
-}
-
-// A modal screen for which nothing is scripted would wait for ever: the process ends instead.
-void FormsTest::guardModal()
-{
-    const bool waits = scripts_.empty() && modalsUp() > scriptsRunning_;
-    unattended_ = waits ? unattended_ + 1 : 0;
-    if (unattended_ > 1)
-        qFatal("A modal window waits for the user: %s", qPrintable(QApplication::activeModalWidget()->objectName()));
 }

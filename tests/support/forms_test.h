@@ -52,22 +52,15 @@ protected:
     std::optional<int> openedHelp() { return std::exchange(openedHelp_, {}); }
 
 private:
-    struct Box {
-        forms::Message message;
-        forms::Answer answer;
-    };
-
     forms::Answer answer(const forms::Message& shown);
-    void runScript();
-    void guardModal();
+    void attendModals();
 
     QString boxTitle_;
-    std::deque<Box> boxes_;
+    std::deque<std::pair<QString, forms::Answer>> boxes_;
     std::deque<std::function<void()>> scripts_;
     int scriptsRunning_ = 0;
-    int unattended_ = 0;
-    QTimer scriptPoll_;
-    QTimer guard_;
+    int polls_ = 0;
+    QTimer attendance_;
     std::optional<int> endStatus_;
     std::optional<forms::FailureReport> failure_;
     std::optional<int> openedHelp_;

@@ -38,7 +38,7 @@ std::vector<Page> read(const QString& path)
         if (!xml.readNextStartElement() && !xml.isStartElement())
             continue;
         if (xml.name() == QLatin1String("page"))
-            pages.push_back({{attribute(xml, "width"), attribute(xml, "height")}, {}});
+            pages.emplace_back();
         if (xml.name() != QLatin1String("word"))
             continue;
         const QRectF place(QPointF(attribute(xml, "xMin"), attribute(xml, "yMin")),
@@ -69,14 +69,6 @@ std::vector<QRectF> placesOf(const Page& page, const QString& text)
         if (std::abs(last.top() - at->place.top()) <= twipsPerPoint)
             places.push_back(at->place.united(last));
     }
-}
-
-QString info(const QString& path, const QString& name)
-{
-    for (const QString& line : output(QStringLiteral("pdfinfo"), {path}).split(u'\n'))
-        if (line.startsWith(name + u':'))
-            return line.section(u':', 1).trimmed();
-    return {};
 }
 
 } // namespace pdf

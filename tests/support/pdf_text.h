@@ -17,7 +17,6 @@ struct Word {
 };
 
 struct Page {
-    QSizeF size;
     std::vector<Word> words;
 
     /// The words in the order of the file, with blanks between them.
@@ -31,8 +30,5 @@ std::vector<QRectF> placesOf(const Page& page, const QString& text);
 
 /// What another program tells of it.
 QString output(const QString& program, const QStringList& arguments);
-
-/// A line of pdfinfo, by its name.
-QString info(const QString& path, const QString& name);
 
 } // namespace pdf

@@ -46,9 +46,8 @@ void addRow(storage::TableView& table, int first, const QStringList& texts)
 void addAssetRow(const QStringList& texts)
 {
     QStringList all = texts;
-    for (int column = Inventory::Area + static_cast<int>(texts.size()); column <= Inventory::WarrantyDescription;
-         ++column)
-        all.append(column == Inventory::Amount ? "$12.50" : "None");
+    while (all.size() <= Inventory::WarrantyDescription - Inventory::Area)
+        all.append(all.size() == Inventory::Amount - Inventory::Area ? "$12.50" : "None");
     addRow(Data1.rsInventory, Inventory::Area, all);
 }
 

@@ -14,10 +14,8 @@ QString focusOf(const forms::Form& form)
     if (!control)
         return {};
     const auto* entry = dynamic_cast<const forms::TextEntry*>(control);
-    if (!entry || entry->selectionLength() == 0)
-        return ": " + control->name();
-    const QString selected = entry->text().mid(entry->selectionStart(), entry->selectionLength());
-    return QStringLiteral(": %1 [%2]").arg(control->name(), selected);
+    const QString selected = entry ? entry->text().mid(entry->selectionStart(), entry->selectionLength()) : QString();
+    return ": " + control->name() + (selected.isEmpty() ? QString() : " [" + selected + ']');
 }
 
 QString marksOf(const forms::Control& control)

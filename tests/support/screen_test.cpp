@@ -88,14 +88,3 @@ void ScreenTest::closeReport()
     user::settle();
     EXPECT_FALSE(reportWindow());
 }
-
-void ScreenTest::closeData()
-{
-    Data1.Home.close();
-}
-
-void ScreenTest::reopenData()
-{
-    closeData();
-    openData();
-}

@@ -24,7 +24,7 @@ protected:
 
     /// Opens all views of Data1, each on its first row; closes them, for tests of the start and of the end.
     static void openData();
-    static void closeData();
+    static void closeData() { Data1.Home.close(); }
 
     /// From now on the file refuses a kind of statement on a table, or on some of its rows, as a full disk does, until
     /// there is room again.
@@ -39,7 +39,11 @@ protected:
     QString databaseFile() const { return folder_.filePath(QStringLiteral("C_db/KTL.db")); }
     QString backupFolder() const { return folder_.filePath(QStringLiteral("Backup")); }
 
-    static void reopenData();
+    static void reopenData()
+    {
+        closeData();
+        openData();
+    }
 
 private:
     QTemporaryDir folder_;

@@ -53,12 +53,11 @@ Spot spotOf(forms::Control& control, QPoint position)
         throw std::logic_error("Something covers " + control.name().toStdString());
     if (QWidget* popup = QApplication::activePopupWidget()) // has the mouse to itself
         spot = {popup->windowHandle(), popup->mapFromGlobal(widget.mapToGlobal(position))};
-    QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval; // a click on its own
+    QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval; // a click on its own, also within another
     return spot;
 }
 
 QPoint lastPlace; // of a click, on the display
-int lastTime = 0;
 
 Spot middleOf(forms::Control& control)
 {
@@ -96,19 +95,6 @@ void goDown(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
     QTest::sendKeyEvent(QTest::Press, &frontWindow(), key, text, modifiers);
 }
 
-// The release goes to whatever window is in front by then.
-void goUp(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
-{
-    if (QGuiApplication::focusWindow() || forms::activeForm())
-        QTest::sendKeyEvent(QTest::Release, &frontWindow(), key, text, modifiers);
-}
-
-void stroke(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
-{
-    goDown(key, text, modifiers);
-    goUp(key, text, modifiers);
-}
-
 void typeCharacter(char32_t character)
 {
     if (character == U'\n')
@@ -118,60 +104,37 @@ void typeCharacter(char32_t character)
     const QString text = QString::fromUcs4(&character, 1);
     if (character > 0xFFFF)
         return commit(text); // no keyboard has a key for it
-    const QChar unit = text.at(0);
-    stroke(Qt::Key(unit.toUpper().unicode()), text, unit.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
+    const auto key = Qt::Key(text.at(0).toUpper().unicode());
+    const Qt::KeyboardModifiers shift = text.at(0).isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
+    goDown(key, text, shift);
+    letGo(key, shift);
 }
 
-// Right-clicks and does something in the menu that opens, if one does. It has an event loop of its own, inside the
-// click.
-bool inMenuOf(forms::Control& control, const std::function<void(QMenu&)>& script)
+// As one leaves it who finds the command grey.
+void chooseIn(QMenu& menu, const QString& command)
 {
-    bool opened = false;
-    QTimer inMenu;
-    QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&] {
-        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-            inMenu.stop();
-            opened = true;
-            script(*menu);
-        }
-    });
-    inMenu.start(0);
-    const Spot spot = middleOf(control);
-    QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
-    return opened;
+    for (QAction* action : menu.actions())
+        if (action->isEnabled() && !command.isEmpty() && action->text().startsWith(command))
+            return QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, menu.actionGeometry(action).center());
+    menu.close();
 }
 
 } // namespace
 
 // ---- the mouse
 
-forms::Control& control(forms::Form& form, const QString& name)
-{
-    for (forms::Control* each : form.controls())
-        if (each->name() == name)
-            return *each;
-    throw std::out_of_range((form.name() + " has no control " + name).toStdString());
-}
-
 void clickAt(forms::Control& control, QPoint position)
 {
     const Spot spot = spotOf(control, position);
     lastPlace = spot.window->mapToGlobal(spot.position);
-    lastTime = QTest::lastMouseTimestamp;
     QTest::mouseClick(spot.window, Qt::LeftButton, {}, spot.position);
 }
 
 void clickAgain()
 {
-    constexpr int betweenMilliseconds = 100;
-    QTest::lastMouseTimestamp = lastTime + betweenMilliseconds;
+    QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval; // which the release has added
     QWindow& window = frontWindow();
     QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(lastPlace));
-}
-
-void clickScrollBar(forms::MemoBox& box)
-{
-    clickAt(box, {box.widget()->width() - 5, box.widget()->height() / 2});
 }
 
 void click(forms::Control& control)
@@ -186,9 +149,20 @@ void wheel(QWidget& widget, int eighths)
     QCoreApplication::sendEvent(&widget, &turn);
 }
 
-bool rightClick(forms::Control& control)
+bool rightClick(forms::Control& control, const QString& command)
 {
-    return inMenuOf(control, [](QMenu& menu) { menu.close(); });
+    bool opened = false;
+    QTimer inMenu; // which has an event loop of its own, inside the click
+    QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            opened = true;
+            chooseIn(*menu, command);
+        }
+    });
+    inMenu.start(0);
+    const Spot spot = middleOf(control);
+    QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
+    return opened;
 }
 
 bool drop(forms::Control& control, const QString& text)
@@ -217,17 +191,6 @@ void closeBox(forms::Form& form)
     window.close();
 }
 
-void visitAnotherProgram()
-{
-    QWindow& own = frontWindow();
-    QWindow other; // belongs to no screen
-    other.show();
-    for (QWindow* window : {&other, &own}) {
-        window->requestActivate();
-        settle();
-    }
-}
-
 // ---- the keyboard, and other ways in which text gets into a box
 
 void settle()
@@ -250,7 +213,8 @@ void type(forms::Control& control, const QString& text)
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    stroke(key, textOf(key, modifiers), modifiers);
+    hold(key, modifiers);
+    letGo(key, modifiers);
 }
 
 void press(const std::vector<Qt::Key>& keys)
@@ -273,7 +237,8 @@ void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers, int times)
 
 void letGo(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    goUp(key, textOf(key, modifiers), modifiers);
+    if (QGuiApplication::focusWindow() || forms::activeForm())
+        QTest::sendKeyEvent(QTest::Release, &frontWindow(), key, QString(), modifiers);
 }
 
 void tab()
@@ -283,7 +248,7 @@ void tab()
 
 void backTab()
 {
-    stroke(Qt::Key_Backtab, QStringLiteral("\t"), Qt::ShiftModifier);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
 }
 
 void accessKey(char letter)
@@ -337,12 +302,10 @@ QStringList itemsOf(const forms::ComboBox& box)
 void clickInBox(const QString& caption)
 {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>()) {
-        if (button->text().remove(QLatin1Char('&')) != caption)
-            continue;
-        QTest::mouseClick(box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
-        return;
-    }
+    for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>())
+        if (button->text().remove(u'&') == caption)
+            return QTest::mouseClick(
+                box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
     throw std::logic_error("No message box is up that has a button " + caption.toStdString());
 }
 
@@ -366,16 +329,7 @@ void pick(forms::ComboBox& box, const QString& item)
 void pasteByMenu(forms::Control& control, const QString& text)
 {
     QGuiApplication::clipboard()->setText(text);
-    const bool opened = inMenuOf(control, [](QMenu& menu) {
-        for (QAction* action : menu.actions()) {
-            if (!action->isEnabled() || !action->text().startsWith(QLatin1String("&Paste")))
-                continue;
-            const QPoint middle = menu.actionGeometry(action).center();
-            return QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, middle);
-        }
-        menu.close(); // as a user leaves it who finds the command grey
-    });
-    if (!opened)
+    if (!rightClick(control, QStringLiteral("&Paste")))
         throw std::logic_error("No menu opens on " + control.name().toStdString());
 }
 

@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QString>
 
+#include <algorithm>
 #include <vector>
 
 class QWidget;
@@ -15,12 +16,12 @@ class QWidget;
 namespace user {
 
 /// A control of a screen by its name.
-forms::Control& control(forms::Form& form, const QString& name);
-
 template <class Kind>
 Kind& control(forms::Form& form, const QString& name)
 {
-    return dynamic_cast<Kind&>(control(form, name));
+    const auto& all = form.controls();
+    const auto found = std::find_if(all.begin(), all.end(), [&name](const auto* each) { return each->name() == name; });
+    return dynamic_cast<Kind&>(**found);
 }
 
 // ---- the mouse; positions count from the top left corner of the control
@@ -31,11 +32,10 @@ void clickAt(forms::Control& control, QPoint position);
 /// The second click of a double click: at once and where the last one was, on whatever is there by now.
 void clickAgain();
 
-/// True when a menu opens; it is left without a choice.
-bool rightClick(forms::Control& control);
+/// True when a menu opens; it is left without a choice, or with a command.
+bool rightClick(forms::Control& control, const QString& command = {});
 
 void clickArrow(forms::ComboBox& box);
-void clickScrollBar(forms::MemoBox& box);
 
 /// Turns the wheel over a widget, by eighths of a degree.
 void wheel(QWidget& widget, int eighths);
@@ -51,7 +51,7 @@ void type(forms::Control& control, const QString& text);
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 void press(const std::vector<Qt::Key>& keys);
 
-/// Presses a key and keeps it down; what it repeats goes to whatever is in front by then.
+/// Presses a key and keeps it down; its repeats and its release go to whatever is in front by then.
 void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, int times = 3);
 void letGo(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
@@ -90,9 +90,6 @@ void clickInBox(const QString& caption);
 
 /// Presses the close box in the title bar.
 void closeBox(forms::Form& form);
-
-/// Turns to another program and comes back.
-void visitAnotherProgram();
 
 /// Lets the program do what it has put off.
 void settle();
