@@ -13,7 +13,7 @@ household_with_assets() {
             [Home Phone1] = '518', [Home Phone2] = '555', [Home Phone3] = '0101', [EMail] = 'ann@home.example',
             [Policy Company] = 'Tidewater Mutual', [Policy Number] = 'TM-4711-08', [Policy Expiration] = '12/31/2027',
             [AssetValue] = 78342900;
-        $(assets "values
+        insert into Inventory select null, *$(printf ", 'None'%.0s" {1..13}) from (values
         ('Indoor', 'Family Room', 'Cameras', 'Camcorder', '2019', 'Northlight', 'V-300 \"Pro\"', 'SN 0042/7',
             '7/4/2019', '\$1,234.56', 'Yes', 'Fire safe, folder 3', 'With case and two batteries.', 'Used'),
         ('Indoor', 'Attic', 'Art', 'Brass Kestrel', '1931', 'Unknown', 'Unknown', 'Unknown', '10/23/2026', '\$80.00',
@@ -30,7 +30,7 @@ household_with_assets() {
         ('Indoor', 'Study', 'Computers', 'Notebook', '2024', 'Meridian', 'M15', '7QX-22810', '2/9/2024',
             '\$1,379.00', 'Yes', 'File cabinet', 'None', 'New'),
         ('Indoor', 'Living Room', 'Furniture', 'Sofa', '2018', 'Hearth & Home', 'Three seats', 'Unknown',
-            '9/15/2018', '\$1,210.00', 'Yes', 'File cabinet', 'Blue; the left arm is worn.', 'New')") ${2:-}"
+            '9/15/2018', '\$1,210.00', 'Yes', 'File cabinet', 'Blue; the left arm is worn.', 'New')); ${2:-}"
 }
 
 # portrait NAME [SCREEN]: the window in front with its frame, once it stands still.
@@ -61,11 +61,11 @@ household_screens() {
     portrait frmMain
     keys alt+r
     portrait frmGenInfo
-    click frmGenInfo cmdInsInfo
+    click frmGenInfo 'Insurance Information'
     portrait frmInsInfo
     keys alt+F4
     account_screens
-    click frmGenInfo 'cmdBack(0)'
+    click frmGenInfo Cancel
     until_true "the menu" left_to_menu
     keys alt+v
     portrait frmTotals
@@ -80,13 +80,13 @@ left_to_menu() {
 }
 
 account_screens() {
-    click frmGenInfo cmdBank
+    click frmGenInfo 'Bank Account Information'
     portrait frmEditBankBoxes
     go frmBank alt+a Return
     # The state leads on to the phone, the phone to the type by itself.
     text $'Harbor Savings Bank\t1 Main Street\tAlbany\tny5185550140\tA-100'
     portrait frmBank
-    click frmBank cmdBack
+    click frmBank Cancel
     until_true "personal information" left_to_personal
 }
 
@@ -118,12 +118,12 @@ search_and_asset() {
     go MsgBox ctrl+a BackSpace Return
     keys Return
     portrait frmSearchResults
-    click frmSearchResults 'txtMore(0)'
+    click frmSearchResults 'Update, row 1'
     portrait frmAddUpDel
-    click frmAddUpDel picDate
+    click frmAddUpDel 'Purchase Date'
     portrait frmCalendar
     go frmAddUpDel Return
-    click frmAddUpDel cmdWarranty
+    click frmAddUpDel 'Warranty Information'
     portrait frmWar
     go frmAddUpDel alt+c
     tell_to_end
@@ -134,7 +134,7 @@ name_lists() {
     start_at_menu
     keys alt+i
     portrait frmAuto
-    click frmAuto 'cmdAdd(0)'
+    click frmAuto Add
     list_menu
     portrait frmEditCmbBoxes
     editor a frmAddField
@@ -155,7 +155,7 @@ name_lists() {
 }
 
 list_menu() {
-    unfold frmAddUpDel cmbLoc
+    unfold frmAddUpDel Location
     go frmEditCmbBoxes Home Return
 }
 
@@ -178,8 +178,7 @@ backups() {
         ends_with 0
         change "delete from Inventory where Type = 'Sofa'"
     done
-    "$Place/prefix/bin/kestrill-restore" >>"$Log" 2>&1 &
-    Program=$!
+    start "$Place/prefix/bin/kestrill-restore"
     portrait restore frmRestore
     kill -TERM "$Program"
     wait "$Program" || true

@@ -1,5 +1,4 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
 # A user at the built program: a display of its own, real keys and mouse, and a second program that reads the files.
 # Nothing waits for a fixed time: each wait polls for what it needs and fails at its deadline.
 
@@ -37,7 +36,6 @@ make_place() {
     use_home "$Place/home"
     open_display
     open_bus
-    [ "$Build" = /usr ] || "$Build/bin/positions" >"$Place/positions" 2>>"$Log"
 }
 
 use_home() {
@@ -54,9 +52,12 @@ household() {
     change "update Personal_Info set [Introduced] = '1'; ${2:-}"
 }
 
-# assets QUERY: the statement that adds assets without a warranty; the query gives what stands from the area to how it
+# assets COUNT COLUMNS: the statement that adds assets without a warranty, with these columns from the area to how asset i
 # was purchased.
-assets() { printf "insert into Inventory select null, *%s from (%s);" "$(printf ", 'None'%.0s" {1..13})" "$1"; }
+assets() {
+    printf "with recursive n(i) as (select 1 union all select i + 1 from n where i < %d)
+        insert into Inventory select null, %s%s from n;" "$1" "$2" "$(printf ", 'None'%.0s" {1..13})"
+}
 
 open_display() {
     # Any number: a server of another list of processes looks dead to one that searches for the next.
@@ -91,12 +92,16 @@ leave_place() {
 
 # ---- the program
 
+start() {
+    "$1" >>"$Log" 2>&1 &
+    Program=$!
+}
+
 # The program of the build, whose database has been laid, or the installed one.
 start_program() {
     local program=$Build/bin/Kestrill
     [ "$Build" != /usr ] || program=kestrill
-    "$program" >>"$Log" 2>&1 &
-    Program=$!
+    start "$program"
 }
 
 lay_database() { [ "$Build" = /usr ] || "$Here/../../scripts/lay-database" "$Build/data/KTL.db"; }
@@ -191,8 +196,11 @@ heard_in_front() { "$Here/screen_reader.py" front 2>/dev/null; }
 # shellcheck disable=SC2053 # a pattern
 is_heard_in_front() { [[ $(heard_in_front) == $1 ]]; }
 
-# wait_heard PATTERN: where the display tells nothing of its windows, a screen is known by the name that is read out.
-wait_heard() { until_true "the window \"$1\" in front" is_heard_in_front "$1"; }
+# on_heard PATTERN [KEYS...]: where the display tells nothing of its windows, a screen is known by the name that is read out.
+on_heard() {
+    until_true "the window \"$1\" in front" is_heard_in_front "$1"
+    [ $# -eq 1 ] || keys "${@:2}"
+}
 
 # What a screen reader finds of each kind of window, the first time that one is in front; not of those that close by
 # themselves.
@@ -238,16 +246,14 @@ go() {
 
 click_at() { xdotool mousemove "$1" "$2" click 1; }
 
-# find SCREEN CONTROL: puts its place on the display into X, Y, W, H.
+# find SCREEN CONTROL: puts the place on the display, of what is read out by that name, into X, Y, W, H.
 find() {
-    local left top
     wait_screen "$1"
-    read -r left top _ _ <<<"$(rectangle_of "$(active_window)")"
-    read -r X Y W H <<<"$(awk -v screen="$1" -v control="$2" \
-        '$1 == screen && $2 == control { print $3, $4, $5, $6 }' "$Place/positions")"
-    [ -n "$H" ] || fail "there is no control $2 on $1"
-    X=$((X + left)) Y=$((Y + top))
+    until_true "\"$2\" on $1" is_placed "$2"
+    read -r X Y W H <"$Place/place"
 }
+
+is_placed() { "$Here/screen_reader.py" place "$1" >"$Place/place" 2>/dev/null; }
 
 click() {
     find "$1" "$2"

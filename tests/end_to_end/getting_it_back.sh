@@ -1,5 +1,4 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
 # A household that was damaged comes back by the window and by the command, and goes out whole to other programs.
 
 Commands=$Place/prefix/bin
@@ -27,8 +26,7 @@ by_the_window() {
     step "damaged page by page: the launcher offers the backups, and keys bring one back"
     damage
     cp "$Database" "$Place/damaged.db"
-    "$Commands/kestrill" >>"$Log" 2>&1 &
-    Program=$!
+    start "$Commands/kestrill"
     answer cannot-load Return
     see frmRestore backups
     keys Down Return
@@ -48,15 +46,13 @@ by_the_command() {
     step "damaged again: the command brings the last backup back, and says what it is"
     local status=0
     damage
-    "$Commands/kestrill-check" >"$Place/check" 2>&1 || status=$?
+    "$Commands/kestrill-check" >>"$Log" 2>&1 || status=$?
     same "$status" 3 "the check says $status of a damaged file"
-    "$Commands/kestrill-restore" --list >"$Place/list"
-    same "$(cut -f 2,5 "$Place/list" | sort | uniq -c | tr -s ' ' | tr '\t\n' ' ,')" \
-        " 1 Earlier close In order, 1 Last close In order, 1 Put aside Damaged or foreign," "the list is $(cat "$Place/list")"
-    "$Commands/kestrill-restore" --restore last --yes >"$Place/said" 2>&1
-    grep -q 'To go back: kestrill-restore --restore' "$Place/said" || fail "not told how to go back: $(cat "$Place/said")"
+    same "$("$Commands/kestrill-restore" --list | cut -f 2,5 | sort)" \
+        $'Earlier close\tIn order\nLast close\tIn order\nPut aside\tDamaged or foreign' "other backups are listed"
+    "$Commands/kestrill-restore" --restore last --yes 2>&1 | grep 'To go back: kestrill-restore --restore' >>"$Log"
     same "$(sql "$Database" "select City from Personal_Info")" Rome "not the last backup"
-    "$Commands/kestrill-check" >"$Place/check" || fail "the check finds: $(cat "$Place/check")"
+    "$Commands/kestrill-check" >>"$Log"
 }
 
 everything_out() {
@@ -71,8 +67,7 @@ everything_out() {
         "select count(*) from (select $columns from Bank_Info intersect select $columns from back)")" 1 "a text has changed"
     holds "$Place/export/Cover Sheet.pdf" Rome
     expect_mode "$Place/export" 700
-    "$Commands/kestrill-export" >>"$Log" 2>&1 &
-    Program=$!
+    start "$Commands/kestrill-export"
     until_true "the question where to" has_title "Choose The Folder For The Export"
     keys Escape
     see frmExport export

@@ -1,5 +1,4 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2154 # the files of this folder share their variables
 # F1 with real windows: read beside a screen, over a message box, and closed by the end of the program.
 
 help_shows() { until_true "the page \"$1\"" has_title "$1 - Kestrill Help"; }

@@ -1,5 +1,4 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
 # The page of the help that tells how to get the list back, done word for word: its own lines are run.
 
 # paste_guide: in a terminal of the user's, at no place in particular. It says where the old file is.

@@ -2,8 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What a screen reader finds of Kestrill on the accessibility bus.
 
-front: the name of the window in front. walk: that window and each control in it that is shown, as "role | name |
-description | states", with "~" for what moves with the date. What has no name, or takes no focus, ends with status 1."""
+front: the name of the window in front. place NAME: where a control in it lies, as "left top width height". walk: the
+window and each control in it that is shown, as "role | name | description | states", with "~" for what moves with the
+date. What has no name, or takes no focus, ends with status 1."""
 
 import calendar
 import re
@@ -36,6 +37,15 @@ def name_of(item, role):
     return own
 
 
+def shown(item):
+    """Each that is in sight in it, with its role and its name."""
+    for inner in item if item.getRoleName() not in ("combo box", "table") else ():
+        if inner.getState().contains(pyatspi.STATE_SHOWING):
+            role = inner.getRoleName()
+            yield inner, role, name_of(inner, role)
+            yield from shown(inner)
+
+
 def tell(item, role, name):
     states = {pyatspi.stateToString(state) for state in item.getState().getStates()}
     if not name:
@@ -46,20 +56,21 @@ def tell(item, role, name):
     print(DATES.sub("~", " | ".join(words).rstrip(" |")))
 
 
-def walk(item):
-    for inner in item if item.getRoleName() not in ("combo box", "table") else ():
-        role = inner.getRoleName()
-        if not inner.getState().contains(pyatspi.STATE_SHOWING):
-            continue
-        name = name_of(inner, role)
-        if role not in BARE and (name or role != "frame"):  # a frame without a name is a line around others
-            tell(inner, role, name)
-        walk(inner)
+def place(wanted):
+    found = [(role == "label", item) for item, role, name in shown(window) if name == wanted]
+    if not found:
+        sys.exit(f"nothing has the name {wanted!r}")
+    _, item = min(found, key=lambda each: each[0])  # before its label, which has the same name
+    print(*item.queryComponent().getExtents(pyatspi.DESKTOP_COORDS))
 
 
 window = front()
 if sys.argv[1] == "front":
     print(window.name.strip())
+elif sys.argv[1] == "place":
+    place(sys.argv[2])
 else:
     tell(window, window.getRoleName(), window.name.strip())
-    walk(window)
+    for item, role, name in shown(window):
+        if role not in BARE and (name or role != "frame"):  # a frame without a name is a line around others
+            tell(item, role, name)

@@ -1,5 +1,4 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash disable=SC2034,SC2154 # the files of this folder share their variables
 # The same by Wayland: a compositor in a window of the virtual display, which takes its keys from there.
 
 weston --backend=x11-backend.so --use-pixman --no-config --socket=kestrill --width=1280 --height=1024 \
