@@ -3,7 +3,7 @@
 
 namespace {
 
-class Combo : public FormInFront<AllKinds> {
+class Combo : public FormInFront {
 protected:
     Combo()
     {

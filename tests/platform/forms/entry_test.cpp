@@ -23,7 +23,7 @@ const Way ways[] = {
 
 const char* const boxNames[] = {"line", "memo", "empty"}; // a line, several, a combo box
 
-using Entry = FormInFront<AllKinds>;
+using Entry = FormInFront;
 class TextEnters : public Entry, public testing::WithParamInterface<Way> { };
 
 INSTANTIATE_TEST_SUITE_P(
@@ -34,7 +34,7 @@ TEST_P(TextEnters, CharacterByCharacterThroughKeyPressThenThroughTheLimitAndNoLo
     const QString grin = QString::fromUcs4(U"\U0001F600");
     for (const char* name : boxNames) {
         SCOPED_TRACE(name);
-        TextEntry& box = form.entry(name);
+        TextEntry& box = control<TextEntry>(form, name);
         click(box);
         box.setMaxLength(4);
         GetParam().enter(box, "ab" + grin + grin + "c");
@@ -67,7 +67,7 @@ TEST_F(Entry, DropsControlCharactersAndLineEndsInOneLineAndKeepsANoBreakSpace)
     const QString text = QString::fromUtf8("a\tb\r\nc\x01\x7f\u2028\u0085\u00A0d");
     const QString left = QString::fromUtf8("abc\u00A0d");
     for (const char* name : {"line", "empty"}) {
-        TextEntry& box = form.entry(name);
+        TextEntry& box = control<TextEntry>(form, name);
         click(box);
         paste(text);
         press(Qt::Key_Tab, Qt::AltModifier); // types nothing
@@ -87,7 +87,7 @@ TEST_F(Entry, AMegabytePastedIsCutToTheLimit)
 {
     const QString megabyte(1 << 20, 'x');
     for (const char* name : boxNames) {
-        TextEntry& box = form.entry(name);
+        TextEntry& box = control<TextEntry>(form, name);
         box.setMaxLength(50);
         click(box);
         paste(megabyte);

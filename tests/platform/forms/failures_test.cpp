@@ -12,12 +12,12 @@ namespace {
     throw values::RuntimeFailure(values::FailureKind::InvalidCall, detail);
 }
 
-class Failures : public FormInFront<TwoBoxes> {
+class Failures : public FormInFront {
 protected:
     Failures()
     {
         GTEST_FLAG_SET(death_test_style, "threadsafe"); // the toolkit has threads of its own
-        form.one.Change = [] { fail(); };
+        form.line.Change = [] { fail(); };
     }
 
     // Runs a step in the Click of the button, and notes the failure that it ends in.
@@ -26,29 +26,29 @@ protected:
         try {
             step();
         } catch (const values::RuntimeFailure&) {
-            form.note("caught");
+            journal.note("caught");
         }
     }
 };
 
 TEST_F(Failures, InsideAHandlerInsideAHandlerNameTheInnerOneOnce)
 {
-    form.answers["two.GotFocus"] = [this] { form.one.setText("bad"); };
+    form.answers["memo.GotFocus"] = [this] { form.line.setText("bad"); };
     form.answers["ok.Click"] = [this] {
-        form.two.setFocus();
-        form.note("not reached");
+        form.memo.setFocus();
+        journal.note("not reached");
     };
     EXPECT_FALSE(after([this] { click(form.ok); }).contains("not reached"));
-    EXPECT_EQ(failedHandler(), "Form.one_Change");
+    EXPECT_EQ(failedHandler(), "Form.line_Change");
 }
 
 TEST_F(Failures, AreCaughtByTheHandlerAroundThemAndGiveTheirNameToNoOther)
 {
-    TwoBoxes other(journal, "Other");
-    form.answers["two.GotFocus"] = other.onActivate = [] { fail(); };
+    TrialForm other(journal, "Other");
+    form.answers["memo.GotFocus"] = other.answers["Other.Activate"] = [] { fail(); };
     form.answers["ok.Click"] = [&] {
-        caught([&] { form.one.setText("bad"); });
-        caught([&] { form.two.setFocus(); });
+        caught([&] { form.line.setText("bad"); });
+        caught([&] { form.memo.setFocus(); });
         caught([&] { other.show(); });
         other.hide();
         caught([&] { other.show_Modal(form); });
@@ -56,7 +56,7 @@ TEST_F(Failures, AreCaughtByTheHandlerAroundThemAndGiveTheirNameToNoOther)
         fail("second");
     };
     EXPECT_EQ(after([this] { click(form.ok); }).count("caught"), 4);
-    EXPECT_EQ(form.one.text(), "bad") << "the text was set all the same";
+    EXPECT_EQ(form.line.text(), "bad") << "the text was set all the same";
     const auto report = reportedFailure().value();
     EXPECT_EQ(report.handler + report.failure.section(':', -1), "Form.ok_Click second");
 }

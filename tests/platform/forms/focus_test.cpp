@@ -3,19 +3,19 @@
 
 namespace {
 
-class Focus : public FormInFront<TwoBoxes> {
+class Focus : public FormInFront {
 protected:
-    TwoBoxes other{journal, "Other"};
+    TrialForm other{journal, "Other"};
 };
 
 TEST_F(Focus, SetOnAFormThatIsNotInFrontIsTakenWhenItComes)
 {
-    EXPECT_EQ(after([this] { other.two.setFocus(); }), "");
-    EXPECT_FALSE(other.two.hasFocus());
-    EXPECT_EQ(other.activeControl(), &other.two);
-    EXPECT_EQ(after([this] { other.show(); }), "Form.Deactivate Other.Activate two.GotFocus");
-    EXPECT_EQ(after([this] { form.two.setFocus(); }), "");
-    EXPECT_EQ(after([this] { form.show(); }), "Other.Deactivate Form.Activate one.LostFocus two.GotFocus");
+    EXPECT_EQ(after([this] { other.memo.setFocus(); }), "");
+    EXPECT_FALSE(other.memo.hasFocus());
+    EXPECT_EQ(other.activeControl(), &other.memo);
+    EXPECT_EQ(after([this] { other.show(); }), "Form.Deactivate Other.Activate memo.GotFocus");
+    EXPECT_EQ(after([this] { form.memo.setFocus(); }), "");
+    EXPECT_EQ(after([this] { form.show(); }), "Other.Deactivate Form.Activate line.LostFocus memo.GotFocus");
     EXPECT_EQ(after([this] { other.hide(); }), "") << "a screen behind goes without an event";
     EXPECT_FALSE(other.isVisible());
 }
@@ -23,18 +23,17 @@ TEST_F(Focus, SetOnAFormThatIsNotInFrontIsTakenWhenItComes)
 TEST_F(Focus, AndActivationDoNotStirForABoxAMenuOrAnotherProgram)
 {
     useRealBoxes();
-    form.askAt("ok.Click");
-    form.ok.setDefault(true);
+    form.askAtOk();
     for (const auto& [key, answer] : {std::pair(Qt::Key_Return, "Yes"), std::pair(Qt::Key_Escape, "No")}) {
         whileModal([pressed = key] { press(pressed); });
         EXPECT_EQ(after([] { press(Qt::Key_Return); }), answer);
         type("x");
     }
-    pasteByMenu(form.one, "y");
+    pasteByMenu(form.line, "y");
     visitAnotherProgram();
     type("z");
     EXPECT_EQ(journal.taken(), "");
-    EXPECT_EQ(form.one.text(), "xxyz");
+    EXPECT_EQ(form.line.text(), "xxyz");
 }
 
 TEST_F(Focus, OfAModalScreenAndBackOfItsOwner)
@@ -48,13 +47,13 @@ TEST_F(Focus, OfAModalScreenAndBackOfItsOwner)
         other.show_Modal(form); // an event in between: the first call hasn't returned yet
     };
     whileModal([this] {
-        EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Form.Deactivate Other.Activate one.GotFocus");
+        EXPECT_EQ(journal.taken(), "line.LostFocus ok.GotFocus Form.Deactivate Other.Activate line.GotFocus");
         type("x");
         click(other.ok);
     });
     click(form.ok);
-    EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus Other.Deactivate Form.Activate returned");
-    EXPECT_EQ(other.one.text(), "x");
+    EXPECT_EQ(journal.taken(), "line.LostFocus ok.GotFocus Other.Deactivate Form.Activate returned");
+    EXPECT_EQ(other.line.text(), "x");
     EXPECT_TRUE(form.ok.hasFocus());
 }
 

@@ -6,7 +6,7 @@
 namespace {
 
 // Presses on other parts of a control than its middle, keys that are held, clicks that come twice.
-using Hands = FormInFront<AllKinds>;
+using Hands = FormInFront;
 
 TEST_F(Hands, TheFocusComesAtThePressWhateverPartItIsOn)
 {
@@ -31,7 +31,7 @@ TEST_F(Hands, TheFocusComesAtThePressWhateverPartItIsOn)
 TEST_F(Hands, TheSecondClickCountsAloneOrBringsTheFocusWhereTheFirstHasClosedAList)
 {
     form.memo.setText("word");
-    form.memo.DblClick = [this] { form.note("DblClick"); };
+    form.memo.DblClick = [this] { journal.note("DblClick"); };
     EXPECT_EQ(after([this] { click(form.memo); }), "line.LostFocus memo.GotFocus memo.Click");
     EXPECT_EQ(after(clickAgain), "DblClick");
     clickArrow(form.combo);
@@ -44,7 +44,7 @@ TEST_F(Hands, TheSecondClickCountsAloneOrBringsTheFocusWhereTheFirstHasClosedALi
 
 TEST_F(Hands, TheSecondClickOfADoubleClickPressesNothingOnAnotherScreen)
 {
-    AllKinds other(journal);
+    TrialForm other(journal, "Other");
     form.answers["ok.Click"] = [&other] { other.show(); };
     click(form.ok);
     journal.taken();
@@ -57,7 +57,7 @@ TEST_F(Hands, ABoxThatTheFocusBringsComesOnceWithNoListBehindIt)
     useRealBoxes();
     for (forms::ComboBox* each : {&form.combo, &form.choice}) {
         form.answers[each->name() + ".GotFocus"] = [this] {
-            form.note("box");
+            journal.note("box");
             forms::MsgBox("Mind this", forms::box::Information, "Title");
         };
         stand(form.line);
@@ -74,8 +74,8 @@ TEST_F(Hands, APressCountsNoMoreOnceAHandlerHasSentTheFocusElsewhere)
 {
     form.answers["memo.GotFocus"] = form.answers["check.GotFocus"] = [this] { form.line.setFocus(); };
     for (forms::Control* each : std::initializer_list<forms::Control*>{&form.memo, &form.check}) {
-        each->MouseDown = [this] { form.note("MouseDown"); };
-        each->MouseUp = [this] { form.note("MouseUp"); };
+        each->MouseDown = [this] { journal.note("MouseDown"); };
+        each->MouseUp = [this] { journal.note("MouseUp"); };
         EXPECT_EQ(after([each] { click(*each); }), "line.LostFocus " + each->name() + ".LostFocus line.GotFocus");
     }
     EXPECT_EQ(form.check.value(), 0);
@@ -84,7 +84,7 @@ TEST_F(Hands, APressCountsNoMoreOnceAHandlerHasSentTheFocusElsewhere)
 TEST_F(Hands, AListDropsDownWithAnEventInWhichALockCanEnd)
 {
     form.locked.DropDown = [this] {
-        form.note("DropDown");
+        journal.note("DropDown");
         form.locked.setLocked(form.line.text() == "shut");
     };
     form.line.setText("shut");
@@ -100,9 +100,9 @@ TEST_F(Hands, AListDropsDownWithAnEventInWhichALockCanEnd)
 
 TEST_F(Hands, AClickComesWhenAValueTurnsByUserOrCodeAndMouseAndKeyComeUpBehindIt)
 {
-    form.check.MouseUp = [this] { form.note(QString::number(form.check.value())); };
-    form.check.KeyUp = [this](int&) { form.note(QString::number(form.check.value())); };
-    form.garage.MouseUp = [this] { form.note(form.garage.value() ? "on" : "off"); };
+    form.check.MouseUp = [this] { journal.note(QString::number(form.check.value())); };
+    form.check.KeyUp = [this](int&) { journal.note(QString::number(form.check.value())); };
+    form.garage.MouseUp = [this] { journal.note(form.garage.value() ? "on" : "off"); };
     EXPECT_EQ(after([this] { click(form.check); }), "line.LostFocus check.GotFocus check.Click 1");
     EXPECT_EQ(after([] { press(Qt::Key_Space); }), "check.Click 0");
     EXPECT_EQ(after([this] { click(form.garage); }), "check.LostFocus garage.GotFocus garage.Click on");
@@ -119,7 +119,7 @@ TEST_F(Hands, AClickComesWhenAValueTurnsByUserOrCodeAndMouseAndKeyComeUpBehindIt
 TEST_F(Hands, TheRightButtonIsAMouseDownWhereABoxAnswersTheMouse)
 {
     EXPECT_TRUE(rightClick(form.line));
-    form.line.MouseDown = [this] { form.note("MouseDown"); };
+    form.line.MouseDown = [this] { journal.note("MouseDown"); };
     EXPECT_FALSE(rightClick(form.line));
     EXPECT_EQ(journal.taken(), "MouseDown");
 }
@@ -127,7 +127,7 @@ TEST_F(Hands, TheRightButtonIsAMouseDownWhereABoxAnswersTheMouse)
 TEST_F(Hands, AHeldKeyCountsOnceAndAnswersNoBoxThatItHasOpened)
 {
     useRealBoxes();
-    form.askAt("ok.Click");
+    form.askAtOk();
     for (const Qt::KeyboardModifiers modifiers : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::AltModifier)}) {
         const Qt::Key key = modifiers ? Qt::Key_O : Qt::Key_Return;
         stand(form.line);

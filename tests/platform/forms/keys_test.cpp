@@ -3,7 +3,7 @@
 
 namespace {
 
-using Keys = FormInFront<AllKinds>;
+using Keys = FormInFront;
 
 TEST_F(Keys, DownComesBeforePressBeforeUpInEveryControl)
 {

@@ -18,7 +18,7 @@ namespace look = forms::look;
 
 namespace {
 
-class Looks : public FormInFront<AllKinds> {
+class Looks : public FormInFront {
 protected:
     ~Looks() override { setDesktopFont(usual_); }
 
@@ -174,23 +174,22 @@ TEST_F(Looks, ADarkDesktopOrOneThatReadsFromTheRightChangesNothing)
 
 TEST_F(Looks, AScreenLargerThanTheDesktopScrollsToTheControlThatHasTheFocus)
 {
-    TrialForm tall("Tall", journal);
-    const forms::ControlArray<forms::TextBox, 60> boxes{tall, "boxes"};
-    tall.layOut();
+    TrialForm tall(journal);
+    tall.memo.widget()->setMinimumHeight(2000);
     tall.show();
     settle();
-    const QWidget& last = *boxes[59].widget();
+    const QWidget& last = *tall.ok.widget();
     EXPECT_LE(tall.window()->height(), tall.window()->screen()->availableGeometry().height());
     EXPECT_TRUE(last.visibleRegion().isEmpty());
     backTab();
-    EXPECT_TRUE(boxes[59].hasFocus());
+    EXPECT_TRUE(tall.ok.hasFocus());
     EXPECT_EQ(last.visibleRegion().boundingRect(), last.rect());
 }
 
 TEST_F(Looks, AScreenOpensWhereTheOneBeforeStoodWithinTheDesktop)
 {
-    TwoBoxes first(journal);
-    TwoBoxes second(journal);
+    TrialForm first(journal);
+    TrialForm second(journal);
     first.show();
     const QRect room = first.window()->screen()->availableGeometry();
     first.window()->move(room.topLeft() + QPoint(7, 5));

@@ -16,7 +16,7 @@
 namespace {
 
 /// The viewer of a small book, beside a screen that is in front, and one to be shown over it.
-class HelpViewer : public FormInFront<TwoBoxes> {
+class HelpViewer : public FormInFront {
 protected:
     HelpViewer()
     {
@@ -99,7 +99,7 @@ protected:
     }
 
     QTemporaryDir folder_;
-    TwoBoxes modal{journal, "Modal"};
+    TrialForm modal{journal, "Modal"};
     std::optional<help::Viewer> viewer_;
 };
 
@@ -152,7 +152,7 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
 TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
 {
     read("beside a screen");
-    EXPECT_TRUE(form.one.hasFocus());
+    EXPECT_TRUE(form.line.hasFocus());
     EXPECT_EQ(journal.taken(), "");
     whileModal([&] {
         settle();

@@ -12,7 +12,7 @@
 namespace {
 
 /// A screen from which the report is opened, and its window.
-class ReportPreview : public FormInFront<TwoBoxes> {
+class ReportPreview : public FormInFront {
 protected:
     ReportPreview()
     {
@@ -95,7 +95,7 @@ TEST_F(ReportPreview, IsNoScreenOfTheProgram)
     user::click(form.ok);
     key(Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(preview_);
-    EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus ok.Click");
+    EXPECT_EQ(journal.taken(), "line.LostFocus ok.GotFocus ok.Click");
 }
 
 } // namespace
