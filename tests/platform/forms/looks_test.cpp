@@ -145,7 +145,7 @@ TEST_F(Looks, TextAndFramesStandOutFromWhatIsBehindThem)
     expectToStandOut(4.5, {palette.color(QPalette::ToolTipText)}, {palette.color(QPalette::ToolTipBase)});
 }
 
-TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithIt)
+TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithItButColoursAndSidesAreItsOwn)
 {
     setDesktopFont(9);
     look::apply(*qApp);
@@ -153,21 +153,16 @@ TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithIt)
     EXPECT_NEAR(look::fontOf(forms::TextRole::Hint).pointSizeF(), 10, 0.01);
     const double window = look::leastWindow().width();
     const double indicator = QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth);
-    setDesktopFont(16);
-    look::apply(*qApp);
-    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), 16);
-    EXPECT_NEAR(look::leastWindow().width() / window, 16.0 / 11, 0.15);
-    EXPECT_NEAR(QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth) / indicator, 16.0 / 11, 0.15);
-}
-
-TEST_F(Looks, ADarkDesktopOrOneThatReadsFromTheRightChangesNothing)
-{
     const QPalette light = QApplication::palette();
+    setDesktopFont(16);
     QApplication::setPalette(QPalette(Qt::black));
     QApplication::setLayoutDirection(Qt::RightToLeft);
     look::apply(*qApp);
     EXPECT_TRUE(QApplication::palette() == light);
     EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), 16);
+    EXPECT_NEAR(look::leastWindow().width() / window, 16.0 / 11, 0.15);
+    EXPECT_NEAR(QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth) / indicator, 16.0 / 11, 0.15);
 }
 
 // ---- windows
