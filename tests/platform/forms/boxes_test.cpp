@@ -141,12 +141,8 @@ protected:
     forms::ComboBox* const boxes[2] = {&form.combo, &form.choice};
 };
 
-TEST_F(Combo, SortsWithoutRegardToCaseKeepsEqualNamesInTheirOrderAndIsCleared)
+TEST_F(Combo, IsClearedWithoutAnEvent)
 {
-    for (const char* item : {"pear", "Apple", "apple", "Zebra", "banana"})
-        form.empty.addItem(item);
-    EXPECT_EQ(itemsOf(form.empty).join(' '), "Apple apple banana pear Zebra");
-    EXPECT_EQ(form.empty.list(5), "") << "one past the end";
     form.combo.setText("typed text");
     form.choice.setListIndex(2);
     journal.taken();

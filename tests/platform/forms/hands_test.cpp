@@ -173,15 +173,10 @@ TEST_F(Hands, AHeldKeyRepeatsWhatItTypesAndNothingElse)
     repeat(Qt::Key_Return, {}, 1);
     EXPECT_EQ(form.memo.text(), "\n\n");
     stand(form.check);
-    const std::tuple<Qt::Key, Qt::KeyboardModifiers, const char*> keys[] = {{Qt::Key_Space, {}, "check.Click"},
-        {Qt::Key_Return, {}, "ok.Click"}, {Qt::Key_O, Qt::AltModifier, "check.LostFocus ok.GotFocus ok.Click"},
-        {Qt::Key_Return, {}, "ok.Click"}};
-    for (const auto& [key, modifiers, once] : keys) {
-        hold(key, modifiers);
-        repeat(key, modifiers);
-        letGo(key, modifiers);
-        EXPECT_EQ(journal.taken(), once);
-    }
+    hold(Qt::Key_Space);
+    repeat(Qt::Key_Space);
+    letGo(Qt::Key_Space);
+    EXPECT_EQ(journal.taken(), "check.Click");
     hold(Qt::Key_F1);
     EXPECT_TRUE(openedHelp());
     repeat(Qt::Key_F1);
