@@ -7,8 +7,6 @@ using forms::Answer;
 
 namespace {
 
-using ListEditors = ListEditorsTest;
-
 constexpr const char* LocationChanged = "Your Indoor Location Has Been Changed!";
 const QString NameAdded = " Your Indoor %1 Has Been Added!";
 

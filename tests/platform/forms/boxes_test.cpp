@@ -40,14 +40,14 @@ TEST_P(TextEnters, CharacterByCharacterThroughKeyPressThenThroughTheLimitAndNoLo
         GetParam().enter(box, "ab" + grin + grin + "c");
         EXPECT_EQ(box.text(), "ab" + grin + grin) << "whole characters";
 
-        box.Change = [this] { journal.note("Change"); };
+        box.Change = [this] { journal += "Change"; };
         box.setText("ab");
         box.setLocked(true);
-        journal.taken();
+        taken();
         GetParam().enter(box, "x");
         press(Qt::Key_Backspace);
         press(Qt::Key_Delete);
-        EXPECT_EQ(box.text() + journal.taken(), "ab") << "a locked box";
+        EXPECT_EQ(box.text() + taken(), "ab") << "a locked box";
 
         box.setLocked(false);
         box.setText("");
@@ -98,11 +98,11 @@ TEST_F(Entry, AMegabytePastedIsCutToTheLimit)
         paste(megabyte);
         EXPECT_EQ(box.text(), QString(50, 'x')) << name;
         EXPECT_EQ(strokes, 51) << "the rest of a text is dropped once the box is full";
-        journal.taken();
-        box.Change = [this, &box] { journal.note(box.text()); };
+        taken();
+        box.Change = [this, &box] { journal += box.text(); };
         for (const QString& change : {QString(60, 'y'), QString()}) { // no limit to code, no change at the same text
             box.setText(QString(60, 'y'));
-            EXPECT_EQ(journal.taken(), change);
+            EXPECT_EQ(taken(), change);
         }
     }
 }
@@ -133,8 +133,8 @@ protected:
     Combo()
     {
         for (forms::ComboBox* each : boxes) {
-            each->Change = [this, each] { journal.note("Change:" + each->text()); };
-            form.answers[each->name() + ".Click"] = [this, each] { journal.note("Click:" + each->text()); };
+            each->Change = [this, each] { journal += "Change:" + each->text(); };
+            form.answers[each->name() + ".Click"] = [this, each] { journal += "Click:" + each->text(); };
         }
     }
 
@@ -145,7 +145,7 @@ TEST_F(Combo, IsClearedWithoutAnEvent)
 {
     form.combo.setText("typed text");
     form.choice.setListIndex(2);
-    journal.taken();
+    taken();
     for (forms::ComboBox* each : boxes) {
         EXPECT_EQ(after([each] { each->clear(); }), "") << each->name().toStdString();
         EXPECT_EQ(each->text() + itemsOf(*each).join(' '), "");
@@ -166,7 +166,7 @@ TEST_F(Combo, FiresClickAtAPickAndChangeOrClickAtATextByCode)
             clicks += after([key] { press(key); });
         EXPECT_EQ(clicks, QStringList({"Click:beta", "Click:alpha", "", "Click:beta"}));
         each->setText("alpha");
-        EXPECT_EQ(journal.taken(), each == &form.combo ? "Change:alpha" : "Click:alpha");
+        EXPECT_EQ(taken(), each == &form.combo ? "Change:alpha" : "Click:alpha");
         EXPECT_EQ(after([each] { each->setText("alpha"); }), "");
         EXPECT_EQ(after([each] { each->setListIndex(2); }), "Click:gamma");
         EXPECT_EQ(after([each] { each->setListIndex(2); }), "");

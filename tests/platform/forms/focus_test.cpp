@@ -32,7 +32,7 @@ TEST_F(Focus, AndActivationDoNotStirForABoxAMenuOrAnotherProgram)
     pasteByMenu(form.line, "y");
     visitAnotherProgram();
     type("z");
-    EXPECT_EQ(journal.taken(), "");
+    EXPECT_EQ(taken(), "");
     EXPECT_EQ(form.line.text(), "xxyz");
 }
 
@@ -40,19 +40,19 @@ TEST_F(Focus, OfAModalScreenAndBackOfItsOwner)
 {
     form.answers["ok.Click"] = [this] {
         other.show_Modal(form);
-        journal.note("returned");
+        journal += "returned";
     };
     other.answers["ok.Click"] = [this] {
         other.hide();
         other.show_Modal(form); // an event in between: the first call hasn't returned yet
     };
     whileModal([this] {
-        EXPECT_EQ(journal.taken(), "line.LostFocus ok.GotFocus Form.Deactivate Other.Activate line.GotFocus");
+        EXPECT_EQ(taken(), "line.LostFocus ok.GotFocus Form.Deactivate Other.Activate line.GotFocus");
         type("x");
         click(other.ok);
     });
     click(form.ok);
-    EXPECT_EQ(journal.taken(), "line.LostFocus ok.GotFocus Other.Deactivate Form.Activate returned");
+    EXPECT_EQ(taken(), "line.LostFocus ok.GotFocus Other.Deactivate Form.Activate returned");
     EXPECT_EQ(other.line.text(), "x");
     EXPECT_TRUE(form.ok.hasFocus());
 }

@@ -8,12 +8,12 @@ using Keys = FormInFront;
 TEST_F(Keys, DownComesBeforePressBeforeUpInEveryControl)
 {
     for (forms::Control* each : form.controls()) {
-        each->KeyDown = [this](int& keyCode) { journal.note(QString("down%1").arg(keyCode)); };
-        each->KeyPress = [this](int& keyAscii) { journal.note(QString("press%1").arg(keyAscii)); };
-        each->KeyUp = [this](int& keyCode) { journal.note(QString("up%1").arg(keyCode)); };
+        each->KeyDown = [this](int& keyCode) { journal += QString("down%1").arg(keyCode); };
+        each->KeyPress = [this](int& keyAscii) { journal += QString("press%1").arg(keyAscii); };
+        each->KeyUp = [this](int& keyCode) { journal += QString("up%1").arg(keyCode); };
         stand(*each);
         type("z"); // no item begins with it
-        EXPECT_EQ(journal.taken(), "down90 press122 up90") << each->name().toStdString();
+        EXPECT_EQ(taken(), "down90 press122 up90") << each->name().toStdString();
     }
 }
 
@@ -24,14 +24,14 @@ TEST_F(Keys, RefusedInKeyDownReachNothingButTabAndAccessKeysMoveOn)
     form.ok.setEnabled(false);
     for (forms::Control* each : form.controls()) {
         forms::behaviours::noKeys(*each);
-        each->KeyPress = [this](int&) { journal.note("KeyPress"); };
+        each->KeyPress = [this](int&) { journal += "KeyPress"; };
         if (each == &form.ok)
             continue;
         stand(*each);
         type("a \n");
         press(Qt::Key_Down);
         press(Qt::Key_F1);
-        EXPECT_EQ(journal.taken(), "") << each->name().toStdString();
+        EXPECT_EQ(taken(), "") << each->name().toStdString();
         EXPECT_FALSE(openedHelp()) << each->name().toStdString();
     }
     EXPECT_EQ(form.line.text() + form.memo.text() + form.combo.text() + form.choice.text(), "alpha");
@@ -52,7 +52,7 @@ TEST_F(Keys, TheDefaultButtonAnswersEnterButInTheMemoAndOnAnotherButton)
         stand(*each);
         press(Qt::Key_Return);
         press(Qt::Key_Enter, Qt::KeypadModifier);
-        EXPECT_EQ(journal.taken(), "ok.Click ok.Click") << "and the focus stays at " << each->name().toStdString();
+        EXPECT_EQ(taken(), "ok.Click ok.Click") << "and the focus stays at " << each->name().toStdString();
     }
     stand(form.memo);
     EXPECT_EQ(after([] { type("a\nb"); }), "");

@@ -12,23 +12,11 @@
 
 using namespace user; // tests speak as a user all the time
 
-/// What has happened, in order: "box.LostFocus ok.Click".
-class Journal {
-public:
-    void note(const QString& event) { events_ += event; }
-
-    /// Everything since the last question.
-    QString taken() { return std::exchange(events_, {}).join(' '); }
-
-private:
-    QStringList events_;
-};
-
 /// A screen with a control of every kind, below each other in the order of the Tab key; Enter is the click of `ok`. Its
 /// events are noted and can be answered by the test.
 class TrialForm : public forms::Form {
 public:
-    explicit TrialForm(Journal& journal, const QString& name = "Form")
+    explicit TrialForm(QStringList& journal, const QString& name = "Form")
         : forms::Form(name)
         , journal_(journal)
     {
@@ -54,7 +42,7 @@ public:
     {
         answers["ok.Click"] = [this] {
             const auto answer = forms::MsgBox("Sure?", forms::box::Question + forms::box::YesNo, "Title");
-            journal_.note(answer == forms::Answer::Yes ? "Yes" : "No");
+            journal_ += answer == forms::Answer::Yes ? "Yes" : "No";
         };
     }
 
@@ -81,12 +69,12 @@ private:
     {
         const auto answer = answers.find(event);
         if (answer == answers.end())
-            journal_.note(event);
+            journal_ += event;
         else
             answer->second();
     }
 
-    Journal& journal_;
+    QStringList& journal_;
 };
 
 /// A test with a form that is in front, since when the journal is kept.
@@ -95,23 +83,26 @@ protected:
     FormInFront()
     {
         form.show();
-        journal.taken();
+        taken();
     }
 
     /// Puts the focus there and forgets what has happened until then.
     void stand(forms::Control& control)
     {
         control.setFocus();
-        journal.taken();
+        taken();
     }
+
+    /// What has happened since the last question, in order: "line.LostFocus ok.Click".
+    QString taken() { return std::exchange(journal, {}).join(' '); }
 
     /// What happens at a step of the user or of the code.
     QString after(const std::function<void()>& step)
     {
         step();
-        return journal.taken();
+        return taken();
     }
 
-    Journal journal;
+    QStringList journal;
     TrialForm form{journal};
 };

@@ -147,7 +147,7 @@ TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
     useRealBoxes();
     whileModal([this] {
         settle();
-        journal.taken();
+        taken();
         read("beside a modal screen");
         whileModal([this] {
             QWidget& box = *QApplication::activeModalWidget();
@@ -163,7 +163,7 @@ TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
         settle();
         key(Qt::Key_W, Qt::ControlModifier);
         EXPECT_FALSE(viewer_->isVisible());
-        EXPECT_EQ(journal.taken(), "");
+        EXPECT_EQ(taken(), "");
         EXPECT_EQ(forms::activeForm(), &modal);
         modal.hide();
     });
