@@ -78,7 +78,6 @@ TEST_F(ConnectionTest, TellsAtTheNextWriteAndAtTheCloseThatTheFileHasLeftItsPlac
     const QString elsewhere = place.filePath("elsewhere");
     const std::pair<const char*, std::function<bool()>> moves[] = {
         {"moved", [&] { return QFile::rename(path(), elsewhere); }},
-        {"removed", [&] { return QFile::remove(path()); }},
         {"replaced",
             [&] {
                 return QFile::remove(elsewhere) && QFile::copy(path(), elsewhere) && QFile::remove(path())
