@@ -146,7 +146,6 @@ TEST_F(ReportLayouts, FillOutFormStandsAsPrescribed)
         expectPlaced(printed(layouts::FillOutForm(), Data1.rsGeneral, paper), fillOutForm,
             {middleOf(paper) - 5505 * scale, 360}, scale);
     }
-    EXPECT_EQ(layouts::FillOutForm().detail.boxes.size(), 11);
 }
 
 // The file holds the letters of such a script one by one, in the forms that they have beside each other, and an emoji

@@ -14,11 +14,7 @@ namespace {
 /// A screen from which the report is opened, and its window.
 class ReportPreview : public FormInFront {
 protected:
-    ReportPreview()
-    {
-        preview_->open();
-        settle();
-    }
+    ReportPreview() { preview_->open(); }
     ~ReportPreview() override { delete preview_; }
 
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})

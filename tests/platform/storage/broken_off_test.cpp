@@ -151,47 +151,28 @@ TEST_F(FailingSave, LosesNoStoredRowWhereverItBreaksOffAndHoweverTheSessionEnds)
 
 // ---- a session that is killed
 
-class CrashTest : public StorageTest {
-protected:
-    CrashTest()
-    {
-        openWith({"kept"});
-        wordsView.Close();
-    }
-
-    // A session that stores a word and is killed in the middle of a large write: its journal is left.
-    void breakOff()
-    {
-        const pid_t child = fork();
-        if (child == 0) {
-            openWith({"later"});
-            const storage::Transaction transaction(home.handle());
-            wordsView.Fields(words::Word) = "lost";
-            for (int i = 0; i < 200; ++i)
-                addWord(wordsView, QString(50'000, 'x'));
-            std::raise(SIGSTOP);
-        }
-        waitpid(child, nullptr, WUNTRACED);
-        const auto before = files();
-        EXPECT_EQ(failureOf([this] { wordsInFile(); }), FailureKind::Database) << "in use";
-        EXPECT_TRUE(!before.value("data?.db-journal").isEmpty() && files() == before);
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-    }
-};
-
-TEST_F(CrashTest, WhatAKilledProcessHadHalfWrittenIsTakenBackAtTheNextOpening)
+// The session stores a word and is killed in the middle of a large write: its journal is left.
+TEST_F(FailedWriteTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalOfASessionThatWasKilled)
 {
-    breakOff();
-    EXPECT_EQ(wordsInFile(), QStringList({"kept", "later"}));
-    EXPECT_EQ(files().keys(), QStringList({"data?.db"}));
-}
-
-TEST_F(CrashTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalThatTheSessionLeft)
-{
+    openWith({"kept"});
+    wordsView.Close();
     const QByteArray backup = bytesOf(path());
-    breakOff();
-    const QByteArray journal = bytesOf(path() + "-journal");
+    const pid_t child = fork();
+    if (child == 0) {
+        openWith({"later"});
+        const storage::Transaction transaction(home.handle());
+        wordsView.Fields(words::Word) = "lost";
+        for (int i = 0; i < 200; ++i)
+            addWord(wordsView, QString(50'000, 'x'));
+        std::raise(SIGSTOP);
+    }
+    waitpid(child, nullptr, WUNTRACED);
+    const auto before = files();
+    const QByteArray journal = before.value("data?.db-journal");
+    EXPECT_EQ(failureOf([this] { wordsInFile(); }), FailureKind::Database) << "in use";
+    EXPECT_TRUE(!journal.isEmpty() && files() == before);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
     putFile(path(), backup);
     EXPECT_EQ(wordsInFile(), QStringList({"kept"}));
     EXPECT_EQ(files(), (QMap<QString, QByteArray>{{"data?.db", backup}, {"data?.db-foreign-journal", journal}}));

@@ -20,12 +20,11 @@ protected:
     void expectRefusal(const char* what)
     {
         const auto before = files();
-        EXPECT_EQ(failureOf([this] {
+        const auto open = [this] {
             thingsView.Open();
             wordsView.Open();
-        }),
-            FailureKind::Database)
-            << what;
+        };
+        EXPECT_EQ(failureOf(open), FailureKind::Database) << what;
         home.close();
         EXPECT_EQ(files(), before) << what;
     }
