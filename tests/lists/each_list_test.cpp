@@ -20,7 +20,7 @@ struct EditedList {
     QString row(const QString& name) const { return ofLocations() ? name + "|0|0" : "0|" + name + "|0"; }
 };
 
-class EachList : public ListEditorsTest, public testing::WithParamInterface<EditedList> {
+class EachList : public ListEditors, public testing::WithParamInterface<EditedList> {
 protected:
     // "Add Indoor Location, 11 frmAddField: txtAdd, 23001"
     QString seen(forms::Form& form, const char* heading)

@@ -9,7 +9,7 @@
 #include "platform/forms/look.h"
 
 /// A test with the list editors, reached through the markers of the asset screen.
-class ListEditorsTest : public AssetScreenTest {
+class ListEditors : public AssetScreenTest {
 protected:
     static constexpr const char* LeaveEditor = "   All Changes Will Be Lost...Continue?";
     static constexpr const char* LeaveChange = "    All Changes Will Be Lost...Continue?"; // one blank more

@@ -32,8 +32,10 @@ protected:
     }
 };
 
-TEST_F(PrintMenu, StagesTheAssetsOfAnAreaAndOpensTheReport)
+TEST_F(PrintMenu, StagesTheAssetsOfAnAreaOrAllInTheOrderOfTheInventoryAndOpensTheReport)
 {
+    clickTold(menu().cmdAllPrint[3], "             No Assets Found To Print!", Exclamation);
+    EXPECT_EQ(state(), " in nothing, cmdAllPrint(3), progress"); // until the next run
     addAssetRow({"Indoor", "", "", "Desk", "1", "2", "3", "4", "5", "$6.00", "7", "8", "text"});
     addAssetRow({"OUTDOOR", "", "", "Rake"});
     addAssetRow({"Indoor", "", "", "Lamp"});
@@ -57,19 +59,12 @@ TEST_F(PrintMenu, StagesTheAssetsOfAnAreaAndOpensTheReport)
     closeReport();
     clickTold(menu().cmdAutoPrint[1], "           No Assets Found To Print!", Exclamation);
     EXPECT_EQ(state(), " in nothing, cmdAutoPrint(1)");
-}
-
-TEST_F(PrintMenu, StagesAllInTheOrderOfTheInventory)
-{
-    clickTold(menu().cmdAllPrint[3], "             No Assets Found To Print!", Exclamation);
-    EXPECT_EQ(state(), " in nothing, cmdAllPrint(3), progress"); // until the next run
-    addAssetRow({"Mobile", "", "", "Kayak"});
-    addAssetRow({"Indoor", "", "", "Desk"});
     Data1.rsInventory.Sort("Type");
     accessKey('a');
-    EXPECT_EQ(state(), "Desk Kayak in AssetReport, cmdAllPrint(3), custom");
+    EXPECT_EQ(state(), "Desk Lamp Rake Swing in AssetReport, cmdAllPrint(3), custom");
     click(menu().cmdBack[0]);
-    EXPECT_EQ(line(state(), front()), "Desk Kayak in AssetReport, cmdAllPrint(3), 2 frmMain"); // a window of its own
+    EXPECT_EQ(line(state(), front()),
+        "Desk Lamp Rake Swing in AssetReport, cmdAllPrint(3), 2 frmMain"); // a window of its own
 }
 
 TEST_F(PrintMenu, OpensTheCoverSheetAndTheFormAndSearchesForACustomPrintout)
@@ -85,8 +80,7 @@ TEST_F(PrintMenu, OpensTheCoverSheetAndTheFormAndSearchesForACustomPrintout)
     EXPECT_TRUE(menu().cmdFillOutForm[0].isDefault());
     accessKey('f');
     EXPECT_EQ(state(), " in FillOutForm, cmdFillOutForm(0)");
-    for (int times = 0; times < 2; ++times)
-        expectToStay([] { closeBox(menu()); });
+    expectToStay([] { closeBox(menu()); });
     EXPECT_EQ(state(), " in FillOutForm, cmdFillOutForm(0)");
     closeReport();
 
@@ -113,9 +107,7 @@ TEST_F(PrintMenu, TellsWhatFails)
     Data1.rsGeneral.Delete(); // the household whose reports they are
     for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdCover[0], &menu().cmdFillOutForm[0]})
         clickTold(*button, error, Stop);
-    click(menu().cmdAllPrint[3]);
-    EXPECT_TRUE(reportedFailure() && !reportWindow());
-    EXPECT_EQ(Data1.rsInventory.RecordCount(), 3);
+    EXPECT_FALSE(reportWindow());
 }
 
 } // namespace

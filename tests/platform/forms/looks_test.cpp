@@ -18,7 +18,7 @@ namespace look = forms::look;
 
 namespace {
 
-class Looks : public FormInFront<AllKinds> {
+class Looks : public FormInFront {
 protected:
     ~Looks() override { setDesktopFont(usual_); }
 
@@ -145,7 +145,7 @@ TEST_F(Looks, TextAndFramesStandOutFromWhatIsBehindThem)
     expectToStandOut(4.5, {palette.color(QPalette::ToolTipText)}, {palette.color(QPalette::ToolTipBase)});
 }
 
-TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithIt)
+TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithItButColoursAndSidesAreItsOwn)
 {
     setDesktopFont(9);
     look::apply(*qApp);
@@ -153,44 +153,38 @@ TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithIt)
     EXPECT_NEAR(look::fontOf(forms::TextRole::Hint).pointSizeF(), 10, 0.01);
     const double window = look::leastWindow().width();
     const double indicator = QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth);
-    setDesktopFont(16);
-    look::apply(*qApp);
-    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), 16);
-    EXPECT_NEAR(look::leastWindow().width() / window, 16.0 / 11, 0.15);
-    EXPECT_NEAR(QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth) / indicator, 16.0 / 11, 0.15);
-}
-
-TEST_F(Looks, ADarkDesktopOrOneThatReadsFromTheRightChangesNothing)
-{
     const QPalette light = QApplication::palette();
+    setDesktopFont(16);
     QApplication::setPalette(QPalette(Qt::black));
     QApplication::setLayoutDirection(Qt::RightToLeft);
     look::apply(*qApp);
     EXPECT_TRUE(QApplication::palette() == light);
     EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+    EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), 16);
+    EXPECT_NEAR(look::leastWindow().width() / window, 16.0 / 11, 0.15);
+    EXPECT_NEAR(QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth) / indicator, 16.0 / 11, 0.15);
 }
 
 // ---- windows
 
 TEST_F(Looks, AScreenLargerThanTheDesktopScrollsToTheControlThatHasTheFocus)
 {
-    TrialForm tall("Tall", journal);
-    const forms::ControlArray<forms::TextBox, 60> boxes{tall, "boxes"};
-    tall.layOut();
+    TrialForm tall(journal);
+    tall.memo.widget()->setMinimumHeight(2000);
     tall.show();
     settle();
-    const QWidget& last = *boxes[59].widget();
+    const QWidget& last = *tall.ok.widget();
     EXPECT_LE(tall.window()->height(), tall.window()->screen()->availableGeometry().height());
     EXPECT_TRUE(last.visibleRegion().isEmpty());
     backTab();
-    EXPECT_TRUE(boxes[59].hasFocus());
+    EXPECT_TRUE(tall.ok.hasFocus());
     EXPECT_EQ(last.visibleRegion().boundingRect(), last.rect());
 }
 
 TEST_F(Looks, AScreenOpensWhereTheOneBeforeStoodWithinTheDesktop)
 {
-    TwoBoxes first(journal);
-    TwoBoxes second(journal);
+    TrialForm first(journal);
+    TrialForm second(journal);
     first.show();
     const QRect room = first.window()->screen()->availableGeometry();
     first.window()->move(room.topLeft() + QPoint(7, 5));

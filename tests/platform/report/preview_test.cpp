@@ -12,27 +12,18 @@
 namespace {
 
 /// A screen from which the report is opened, and its window.
-class ReportPreview : public FormInFront<TwoBoxes> {
+class ReportPreview : public FormInFront {
 protected:
-    ReportPreview()
-    {
-        preview_->open();
-        settle();
-    }
+    ReportPreview() { preview_->open(); }
     ~ReportPreview() override { delete preview_; }
 
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
         preview_->activateWindow();
         QTest::keyClick(preview_->windowHandle(), key, modifiers);
-        settle();
     }
 
-    void click(const char* button)
-    {
-        QTest::mouseClick(part<QPushButton>(button), Qt::LeftButton);
-        settle();
-    }
+    void click(const char* button) { QTest::mouseClick(part<QPushButton>(button), Qt::LeftButton); }
 
     template <class Widget>
     Widget* part(const char* name)
@@ -46,6 +37,7 @@ protected:
     /// The page, what its number says, and the buttons that are off.
     QString state()
     {
+        settle();
         QString all = QString("%1: %2 ").arg(preview_->page()).arg(part<QSpinBox>("page")->value());
         all += part<QLabel>("count")->text();
         for (const QPushButton* button : preview_->findChildren<QPushButton*>())
@@ -94,8 +86,9 @@ TEST_F(ReportPreview, IsNoScreenOfTheProgram)
     EXPECT_EQ(forms::activeForm(), &form);
     user::click(form.ok);
     key(Qt::Key_W, Qt::ControlModifier);
+    settle();
     EXPECT_FALSE(preview_);
-    EXPECT_EQ(journal.taken(), "one.LostFocus ok.GotFocus ok.Click");
+    EXPECT_EQ(taken(), "line.LostFocus ok.GotFocus ok.Click");
 }
 
 } // namespace

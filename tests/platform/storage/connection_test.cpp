@@ -20,12 +20,11 @@ protected:
     void expectRefusal(const char* what)
     {
         const auto before = files();
-        EXPECT_EQ(failureOf([this] {
+        const auto open = [this] {
             thingsView.Open();
             wordsView.Open();
-        }),
-            FailureKind::Database)
-            << what;
+        };
+        EXPECT_EQ(failureOf(open), FailureKind::Database) << what;
         home.close();
         EXPECT_EQ(files(), before) << what;
     }
@@ -78,7 +77,6 @@ TEST_F(ConnectionTest, TellsAtTheNextWriteAndAtTheCloseThatTheFileHasLeftItsPlac
     const QString elsewhere = place.filePath("elsewhere");
     const std::pair<const char*, std::function<bool()>> moves[] = {
         {"moved", [&] { return QFile::rename(path(), elsewhere); }},
-        {"removed", [&] { return QFile::remove(path()); }},
         {"replaced",
             [&] {
                 return QFile::remove(elsewhere) && QFile::copy(path(), elsewhere) && QFile::remove(path())

@@ -18,13 +18,9 @@ namespace things {
 
 enum Column { ID, Name, Price, Count, Total };
 
-inline constexpr storage::Column columns[] = {
-    {"ID", storage::ColumnType::Identity},
-    {"Name of It"},
-    {"Price", storage::ColumnType::Money},
-    {"Count", storage::ColumnType::Integer},
-    {"Total", storage::ColumnType::Currency},
-};
+inline constexpr storage::Column columns[] = {{"ID", storage::ColumnType::Identity}, {"Name of It"},
+    {"Price", storage::ColumnType::Money}, {"Count", storage::ColumnType::Integer},
+    {"Total", storage::ColumnType::Currency}};
 inline constexpr storage::TableDefinition table{"Things", columns};
 
 } // namespace things

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/system/folders.h"
 #include "platform/system/processes.h"
 #include "platform/system/signals.h"
 #include "platform/values/failure.h"
@@ -73,19 +72,6 @@ TEST(Processes, OfTwoStartsAtOnceExactlyOneIsTheYounger)
     EXPECT_FALSE(sys::isYoungerTwin(self, self));
     EXPECT_FALSE(sys::isYoungerTwin({101, "p", "/bin/p", 8, 5001}, self)) << "another user's";
     EXPECT_FALSE(sys::isYoungerTwin({101, "p", "/opt/p", 7, 5001}, self)) << "another program";
-}
-
-TEST(Folders, FollowAnAbsoluteDataHomeAndTakeARelativeOneForNone)
-{
-    const QByteArray former = qgetenv("XDG_DATA_HOME");
-    const QString usual = QDir::homePath() + "/.local/share/a/b";
-    const std::pair<const char*, QString> cases[] = {{"/data/home", "/data/home/a/b"}, {"data", usual}, {"", usual}};
-    for (const auto& [home, folder] : cases) {
-        qputenv("XDG_DATA_HOME", home);
-        EXPECT_EQ(sys::dataFolder("a/b"), folder) << home;
-    }
-    qputenv("XDG_DATA_HOME", former);
-    EXPECT_EQ(sys::backupFolder("Copy"), QDir::homePath() + "/Copy");
 }
 
 TEST(Termination, RunsTheCallbackOnceFromTheEventLoopAndSparesIgnoredSignals)

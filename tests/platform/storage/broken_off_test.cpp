@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Writes that are refused, that fail in their midst, and that the end of the process breaks off.
 #include "failing_disk.h"
 #include "storage_test.h"
 
+#include <csignal>
 #include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -145,6 +147,35 @@ TEST_F(FailingSave, LosesNoStoredRowWhereverItBreaksOffAndHoweverTheSessionEnds)
     }
     EXPECT_GT(changes, 5);
     EXPECT_GT(journalsLeft, 5);
+}
+
+// ---- a session that is killed
+
+// The session stores a word and is killed in the middle of a large write: its journal is left.
+TEST_F(FailedWriteTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalOfASessionThatWasKilled)
+{
+    openWith({"kept"});
+    wordsView.Close();
+    const QByteArray backup = bytesOf(path());
+    const pid_t child = fork();
+    if (child == 0) {
+        openWith({"later"});
+        const storage::Transaction transaction(home.handle());
+        wordsView.Fields(words::Word) = "lost";
+        for (int i = 0; i < 200; ++i)
+            addWord(wordsView, QString(50'000, 'x'));
+        std::raise(SIGSTOP);
+    }
+    waitpid(child, nullptr, WUNTRACED);
+    const auto before = files();
+    const QByteArray journal = before.value("data?.db-journal");
+    EXPECT_EQ(failureOf([this] { wordsInFile(); }), FailureKind::Database) << "in use";
+    EXPECT_TRUE(!journal.isEmpty() && files() == before);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    putFile(path(), backup);
+    EXPECT_EQ(wordsInFile(), QStringList({"kept"}));
+    EXPECT_EQ(files(), (QMap<QString, QByteArray>{{"data?.db", backup}, {"data?.db-foreign-journal", journal}}));
 }
 
 } // namespace

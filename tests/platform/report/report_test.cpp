@@ -1,26 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The pages of a report, read from PDF files by another program, and the files themselves.
+#include "platform/report/csv.h"
 #include "platform/report/pdf.h"
+#include "platform/report/progress.h"
+#include "support/files.h"
 #include "support/pdf_text.h"
 #include "support/print.h"
 #include "trial_report.h"
 
-#include <QPainter>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
 namespace {
 
+using report::Outcome;
 using report::Pages;
 
 class ReportPages : public testing::Test {
 protected:
+    QString path(const char* name) const { return folder_.filePath(name); }
+
     std::vector<pdf::Page> printed(const std::vector<QStringList>& rows, const report::Paper& paper = trial::letter())
     {
-        const Pages pages(trial::document(rows), paper);
-        const QString path = folder_.filePath("report.pdf");
-        EXPECT_EQ(report::savePdf(pages, path), report::Outcome::Done);
-        return pdf::read(path);
+        EXPECT_EQ(report::savePdf(Pages(trial::document(rows), paper), path("a.pdf")), Outcome::Done);
+        return pdf::read(path("a.pdf"));
     }
 
     static QString wordsOf(const std::vector<pdf::Page>& pages)
@@ -31,7 +35,6 @@ protected:
         return text;
     }
 
-private:
     QTemporaryDir folder_;
 };
 
@@ -112,11 +115,13 @@ TEST_F(ReportPages, SetALongValueSmallerAndThenCutIt)
     EXPECT_TRUE(set.type.points < 9 && set.type.points > 6);
     EXPECT_LE(report::widthOf(set.text, set.type), 1000);
     EXPECT_GT(report::widthOf(set.text, {set.type.points + 0.25}), 1000);
-    const report::Fitted ends = report::fit("The conservatory behind the house", {9, true}, 1000);
+    const QString longer = "The conservatory behind the house";
+    const report::Fitted ends = report::fit(longer, {9, true}, 1000);
     EXPECT_EQ(ends.type, (report::Type{6, true}));
     EXPECT_TRUE(ends.text.startsWith("The cons") && ends.text.endsWith(QChar(0x2026))) << ends.text.toStdString();
     EXPECT_LE(report::widthOf(ends.text, ends.type), 1000);
     EXPECT_EQ(report::fit("two\nlines", {9}, 1000).text, "two lines");
+    EXPECT_EQ(placesOf(printed({{longer, "", ""}}).at(0), report::fit(longer, {9}, 1000).text).size(), 1);
 }
 
 TEST_F(ReportPages, PrintAmountsInOneForm)
@@ -126,18 +131,69 @@ TEST_F(ReportPages, PrintAmountsInOneForm)
     EXPECT_TRUE(wordsOf(pages).endsWith("a $1,234.50 b -$15.00 c None d -$1,000.00 ")) << wordsOf(pages).toStdString();
 }
 
-// A printer that can't reach the edges, and paper that is too small, get the page smaller as a whole.
+// A printer that can't reach the edges gets the page smaller as a whole.
 TEST_F(ReportPages, AreFittedToWhatThePrinterReaches)
 {
-    const report::Paper small{QPageSize(QPageSize::A6)};
-    const std::vector<pdf::Page> pages = printed(trial::rows(2), small);
-    const double reach = small.size().width() - small.edge;
-    for (const pdf::Word& word : pages.at(0).words)
-        EXPECT_LE(word.place.right(), reach + 5) << word.text.toStdString();
     report::Paper edged = trial::letter();
     edged.edge = 1440;
     EXPECT_EQ(Pages(trial::document(trial::rows(6)), edged).count(), 2);
     EXPECT_NEAR(placesOf(printed(trial::rows(1), edged).at(0), "Page 1 of 1").at(0).top(), 1440 + 100, 28);
+}
+
+class SavedReport : public ReportPages {
+protected:
+    const Pages pages_{trial::document(trial::rows(20)), trial::letter()};
+};
+
+TEST_F(SavedReport, IsADocumentWithItsNamesOfAllOrSomePages)
+{
+    ASSERT_EQ(report::savePdf(pages_, path("a.pdf")), Outcome::Done);
+    QStringList told;
+    for (const char* name : {"Title", "Author", "Pages", "Page size"})
+        told += pdf::info(path("a.pdf"), name);
+    EXPECT_EQ(told, QStringList({"Trial", "A. Author", "4", "612 x 792 pts (letter)"}));
+    ASSERT_EQ(report::savePdf(pages_, {3, 1}, path("some.pdf")), Outcome::Done);
+    const std::vector<pdf::Page> some = pdf::read(path("some.pdf"));
+    ASSERT_EQ(some.size(), 2);
+    EXPECT_TRUE(some[0].text().contains("Page 4 of 4") && some[1].text().contains("Page 2 of 4"));
+}
+
+TEST_F(SavedReport, LeavesAnOlderFileUntilItIsWhole)
+{
+    putFile(path("old.pdf"), "older");
+    QWidget window;
+    report::ProgressWindow shown("Saving...", pages_.count(), &window);
+    const auto cancelled = report::savePdf(pages_, path("old.pdf"), [&, progress = shown.progress()](int done) {
+        if (done == 2)
+            window.findChild<QProgressDialog*>()->cancel();
+        return progress(done);
+    });
+    EXPECT_EQ(cancelled, Outcome::Cancelled);
+    EXPECT_EQ(report::savePdf(pages_, path("no such folder/a.pdf")), Outcome::Failed);
+    EXPECT_FALSE(report::saveCsv(*pages_.document(), path("no such folder/a.csv")));
+    {
+        const FullDisk full(1024);
+        EXPECT_EQ(report::savePdf(pages_, path("old.pdf")), Outcome::Failed);
+        EXPECT_FALSE(report::saveCsv(*trial::document(trial::rows(500)), path("a.csv")));
+    }
+    EXPECT_EQ(bytesOf(path("old.pdf")), "older");
+    EXPECT_EQ(report::savePdf(pages_, path("old.pdf")), Outcome::Done);
+    EXPECT_TRUE(bytesOf(path("old.pdf")).startsWith("%PDF"));
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), QStringList("old.pdf"));
+}
+
+TEST_F(SavedReport, IsATableForASpreadsheet)
+{
+    const auto document = trial::document({{"Sofa, \"blue\"", "$1,234.50", "two\nlines"},
+        {QString::fromUtf8("Caf\u00E9 \U0001F98A"), "-$15.00", " blank"}, {"Lamp", "None", ""}});
+    ASSERT_TRUE(report::hasTable(*document));
+    ASSERT_TRUE(report::saveCsv(*document, path("a.csv")));
+    EXPECT_EQ(bytesOf(path("a.csv")),
+        "\xEF\xBB\xBFName,Amount,Note\r\n\"Sofa, \"\"blue\"\"\",1234.50,\"two\nlines\"\r\nCaf\xC3\xA9 "
+        "\xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\nLamp,None,\r\n");
+    document->layout.detail.fields.clear();
+    document->layout.detail.growing.reset();
+    EXPECT_FALSE(report::hasTable(*document));
 }
 
 } // namespace
