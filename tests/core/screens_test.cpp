@@ -6,6 +6,7 @@
 #include "assets/frmWar.h"
 #include "core/frmCalendar.h"
 #include "core/frmMain.h"
+#include "core/frmStartup.h"
 #include "household/frmGenInfo.h"
 #include "household/frmInsInfo.h"
 #include "household/frmIntroduction.h"
@@ -279,6 +280,38 @@ TEST_F(HelpOnF1, OpensATopicOfTheBookOnEachControlOfEachScreen)
     for (int number = 1001; number <= 43001; number += 1000)
         unasked += asked_.contains(QString::number(number)) ? QStringList() : QStringList(QString::number(number));
     EXPECT_EQ(unasked, QStringList({"15001", "16001"})) << "an asset from the results, and no screen";
+}
+
+using Navigation = ScreenTest;
+
+TEST_F(Navigation, AsksBeforeTheProgramClosesByEveryWayOut)
+{
+    auto& menu = shown<frmMain>();
+    expectToStay([&] { closeBox(menu); });
+    expectToStay([] { accessKey('x'); });
+    accessKey('m');
+    expectToStay([] { closeBox(screen<frmAuto>()); });
+    expectToStay([] { accessKey('x'); });
+    accessKey('m');
+    EXPECT_EQ(scene(), "2 frmMain: cmdAuto");
+    menu.hide();
+    auto& introduction = shown<frmIntroduction>();
+    expectToStay([&] { closeBox(introduction); });
+}
+
+TEST_F(Navigation, HidesTheScreenWhoseNumberIsKeptAndNoOther)
+{
+    const std::pair<int, forms::Form&> screens[] = {{1, screen<frmGenInfo>()}, {2, screen<frmMain>()},
+        {7, screen<frmBank>()}, {10, screen<frmAddUpDel>()}, {13, screen<frmAuto>()}, {15, screen<frmEditBankBoxes>()},
+        {17, screen<frmIntroduction>()}, {18, screen<frmKeyboard>()}};
+    for (const auto& [kept, form] : screens) {
+        form.show();
+        for (const int number : {0, 19, 20, kept == 1 ? 2 : 1, kept}) {
+            frmStartup::CurrentScreen = number;
+            screen<frmMain>().Hide_Screens();
+            EXPECT_EQ(form.isVisible(), number != kept) << number << " for " << kept;
+        }
+    }
 }
 
 } // namespace

@@ -31,7 +31,8 @@ TEST_F(FirstRun, LeadsByKeysAloneFromTheIntroductionToTheMenuWithTheRowSaved)
     EXPECT_EQ(scene(), "2 frmMain: cmdIn");
     EXPECT_EQ(stored().mid(0, 4), QStringList({"Byron", "Ada", "None", "None"}));
     openFromMenu();
-    EXPECT_TRUE(personal().cmdBack[0].isEnabled());
+    EXPECT_EQ(line(personal().cmdBack[0].isEnabled(), personal().lblHead[2].caption()),
+        "true, Second, Click Save to Update");
 }
 
 TEST_F(FirstRun, ComesAgainWhenTheIntroductionIsClosed)
