@@ -6,8 +6,6 @@
 #include "tools/frmRestore.h"
 #include "tools/frmRestored.h"
 
-#include <QAccessible>
-
 using forms::Answer;
 using forms::screen;
 
@@ -42,12 +40,7 @@ TEST_F(WindowsTest, ADamagedHouseholdIsBroughtBackByKeys)
     damage(today());
 
     showAndReadAll();
-    EXPECT_EQ(contents(restore()), "pbRestore hidden");
-    ASSERT_EQ(restore().lstBackups.recordCount(), 2);
     EXPECT_EQ(told(), "Today's file: damaged or foreign, This backup can be read to its last page.");
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(restore().lstBackups.widget())->text(QAccessible::Name),
-        "Backups, the newest first");
-
     press(Qt::Key_Down);
     EXPECT_EQ(restore().lstBackups.record(1)[4], "Damaged or foreign");
     EXPECT_TRUE(restore().lblState.caption().startsWith("This backup can't be restored: file is "));
