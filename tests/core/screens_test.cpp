@@ -19,7 +19,9 @@
 #include "lists/frmUpdate.h"
 #include "platform/forms/look.h"
 #include "platform/help/book.h"
+#include "reports/data_report.h"
 #include "reports/frmPrint.h"
+#include "reports/reports.h"
 #include "search/frmSearch.h"
 #include "search/frmSearchResults.h"
 #include "support/harness.h"
@@ -27,6 +29,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QShortcutEvent>
+#include <QTest>
 
 #include <algorithm>
 
@@ -256,7 +259,7 @@ protected:
 };
 
 // The splash, the closing and the goodbye have nothing that takes the focus.
-TEST_F(HelpOnF1, OpensATopicOfTheBookOnEachControlOfEachScreen)
+TEST_F(HelpOnF1, OpensATopicOfTheBookOnEachControlOfEachScreenAndOnAReport)
 {
     pressOnScreens<frmMain, frmPrint, frmTotals, frmSearch, frmSearchResults, frmWar, frmGenInfo, frmInsInfo,
         frmIntroduction, frmKeyboard, frmCalendar, frmEditBankBoxes>();
@@ -268,6 +271,10 @@ TEST_F(HelpOnF1, OpensATopicOfTheBookOnEachControlOfEachScreen)
         screen<frmBank>().ReturnFromCalendar = false;
         pressOnAll(screen<frmBank>());
     }
+    reports::FillOutForm().show();
+    settle();
+    QTest::keyClick(reportWindow()->windowHandle(), Qt::Key_F1);
+    EXPECT_EQ(asked_.last(), "FillOutForm");
     silent_.removeDuplicates();
     EXPECT_EQ(silent_.join(' '),
         "frmWar.cmbPMonth frmWar.cmbPDay frmWar.cmbPYear frmWar.cmbLMonth frmWar.cmbLDay frmWar.cmbLYear "

@@ -4,7 +4,6 @@
 #include "platform/forms/folder_choice.h"
 #include "tools/frmExport.h"
 #include "tools/frmRestore.h"
-#include "tools/frmRestored.h"
 
 using forms::Answer;
 using forms::screen;
@@ -58,9 +57,6 @@ TEST_F(WindowsTest, ADamagedHouseholdIsBroughtBackByKeys)
     press(Qt::Key_Return);
     EXPECT_EQ(scene(), "20 frmRestored: cmdClose");
     EXPECT_EQ(bytesOf(today()), good);
-    EXPECT_TRUE(screen<frmRestored>().lblTell[2].caption().endsWith("_put-aside"));
-    press(Qt::Key_Return);
-    EXPECT_EQ(endStatus(), 0);
 }
 
 TEST_F(WindowsTest, WithoutABackupOrWhileTheProgramRunsNothingIsRestored)
