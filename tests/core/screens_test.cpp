@@ -26,7 +26,6 @@
 #include "search/frmSearchResults.h"
 #include "support/harness.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QShortcutEvent>
 #include <QTest>
@@ -184,9 +183,8 @@ protected:
     }
 };
 
-TEST_F(AllScreens, AreGoneThroughByKeysFitOnASmallDesktopAndHaveNamesOfTheirOwn)
+TEST_F(AllScreens, AreGoneThroughByKeysAndFitOnASmallDesktop)
 {
-    QStringList names;
     for (const Walk& walk : walks) {
         const forms::Form& form = walk.open();
         SCOPED_TRACE(form.name().toStdString());
@@ -194,13 +192,8 @@ TEST_F(AllScreens, AreGoneThroughByKeysFitOnASmallDesktopAndHaveNamesOfTheirOwn)
         expectAccessKeys(form);
         EXPECT_EQ(ring(form), walk.ring);
         EXPECT_LE(form.canvas()->sizeHint().width(), std::min(1024, forms::look::leastWindow().width()));
-        const QAccessibleInterface* window = QAccessible::queryAccessibleInterface(form.window());
-        EXPECT_EQ(window->role(), QAccessible::Window);
-        names += window->text(QAccessible::Name);
         forms::destroyScreens();
     }
-    EXPECT_TRUE(names.contains("Welcome To Kestrill Main Menu"));
-    EXPECT_EQ(names.removeDuplicates(), 0);
 }
 
 /// Presses F1 on all that takes the focus, and notes the topics that it asks for.

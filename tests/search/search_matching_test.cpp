@@ -109,10 +109,6 @@ TEST_F(SearchMatching, MoreMatchesThanCanBeCountedEndTheProgramWithNothingLost)
     find("acme");
     EXPECT_EQ(
         line(results().lblRecsFound.caption(), results().lblPage.caption()), "32767 Assets Found!, Page 1 of 3277");
-    results().PageOffset = 32'750; // the last page but one
-    results().CurrentPage = 3276;
-    press(Qt::Key_PageDown);
-    EXPECT_EQ(line(shown(results().txtItem).last(), results().cmdNext.isEnabled()), "32767, false");
 
     click(results().cmdMain);
     addAssets(1);
