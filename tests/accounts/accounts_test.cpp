@@ -5,9 +5,6 @@
 #include "household/household.h"
 #include "platform/forms/look.h"
 
-using forms::Answer;
-using forms::screen;
-
 namespace {
 
 // The columns of accounts, "Financial Institution" to "State".
@@ -54,6 +51,7 @@ protected:
         click(openFromMenu().cmdBank);
         click(menu().optEdit[mode]);
         press(Qt::Key_Return); // of the default button
+        EXPECT_EQ(account().lblMainHead.caption().section(' ', 0, 0), QStringList({"Add", "Update", "Delete"})[mode]);
     }
 
     // What the screen shows, and what stands before the user.
@@ -63,12 +61,6 @@ protected:
     {
         click(button);
         return state();
-    }
-
-    static QString labels()
-    {
-        return account().lblMainHead.caption() + account().cmdState.caption() + account().cmdState.toolTip()
-            + QString::number(account().cmdNext.helpNumber()) + ' ' + QString::number(account().txtRoute.helpNumber());
     }
 
     void expectClick(forms::CommandButton& button, const QString& text, int flags, const QString& leadsTo,
@@ -147,7 +139,6 @@ TEST_F(Accounts, AreAddedByKeysThatHopOnUntilTheCalendarHasBeenThere)
 {
     open(Add);
     EXPECT_EQ(state(), EmptyForm + " @ txtName [Enter Financial Institution]");
-    EXPECT_EQ(labels(), "Add Financial Account&Add New Account Click Here To Add A New Financial Account 41001 41001");
     type("First Bank\t1 Main St\tUtica\tn-1y");
     EXPECT_EQ(scene(), "7 frmBank: txtPhone1");
     for (const Qt::Key digit : {Qt::Key_3, Qt::Key_1, Qt::Key_5})
@@ -156,20 +147,15 @@ TEST_F(Accounts, AreAddedByKeysThatHopOnUntilTheCalendarHasBeenThere)
     letGo(Qt::Key_5);
     drop(account().txtPhone2, "(-5x556");
     press(Qt::Key_F1);
-    EXPECT_EQ(openedHelp(), 41001);
-    EXPECT_EQ(scene(), "7 frmBank: txtPhone3");
+    EXPECT_EQ(line(scene(), openedHelp().value()), "7 frmBank: txtPhone3, 41001");
     type("0100");
     backTab();
     EXPECT_EQ(scene(), "7 frmBank: cmbType [Checking]") << "a full box is left by the very key that enters it";
-    paste(QString("ab ").repeated(100));
-    EXPECT_EQ(account().cmbType.text().size(), 255);
     type("\t a-1 \t\t1/2");
     leaveCalendar(tab);
     EXPECT_EQ(scene(), "7 frmBank: txtDate") << "the calendar doesn't come again";
     click(account().txtPhone1);
-    press(Qt::Key_End);
-    press(Qt::Key_Backspace);
-    type("4");
+    press({Qt::Key_End, Qt::Key_Backspace, Qt::Key_4});
     EXPECT_EQ(scene(), "7 frmBank: txtPhone1");
     pick(account().cmbState, "CA");
     pick(account().cmbType, "Other");
@@ -211,7 +197,6 @@ TEST_F(Accounts, AreSteppedThroughAndUpdated)
 {
     open(Update, {First, Bare, Third});
     EXPECT_EQ(state(), FirstForm + " @ txtName");
-    EXPECT_EQ(labels(), "Update Financial Account&Update Account Click Here To Update Financial Account 42001 42001");
     type("x"); // is dropped without a word
     EXPECT_EQ(after(account().cmdNext), BareForm + " @ txtName [Second Bank]");
     EXPECT_EQ(after(account().cmdNext),
@@ -253,7 +238,6 @@ TEST_F(Accounts, AreDeletedUntilNoneIsLeft)
     open(Delete, {First, Bare});
     EXPECT_EQ(state(),
         QString(form).replace("Bank off", "Bank locked").replace(", lbl", " off, picDate off, lbl") + " @ txtName");
-    EXPECT_EQ(labels(), "Delete Financial Account&Delete Account Click Here To Delete Financial Account 43001 43001");
     type("x");
     click(account().cmdBack); // nothing is asked
     EXPECT_EQ(contents(account()), QString(FirstForm).replace(" locked", "").replace(", lbl", ", picDate off, lbl"));

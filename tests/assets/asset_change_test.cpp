@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/asset_screen.h"
 
-using forms::Answer;
-using forms::screen;
-
 namespace {
 
 const char* const Updated = "            Asset Has Been Updated!";
@@ -37,7 +34,6 @@ protected:
 
 TEST_F(AssetChange, UpdateWritesEveryColumnButTheWarrantyAndTeachesNoName)
 {
-    stored(2, Inventory::ID);
     put(Data1.rsInventory, {{Inventory::PartsType, "Limited"}});
     const int known = Data1.rsOutdoor.RecordCount();
     pick(asset().cmbArea, "Outdoor");
@@ -80,7 +76,7 @@ TEST_F(AssetChange, ThatTheCheckRefusesLeavesTheRow)
     asset().txtPur.setText("2/28/2006");
     enterPrice("5");
     update();
-    EXPECT_EQ(line(stored(2, Inventory::Make), stored(2, Inventory::Amount), inventory()), "Acme, $5.00, 3: $45.00");
+    EXPECT_EQ(line(row(2).section('|', 5, 9), inventory()), "Acme|Unknown|Unknown|2/28/2006|$5.00, 3: $45.00");
 
     Data1.rsInventory.Delete(); // a row that is gone is silent
     asset().cmdPrint.setEnabled(false);
@@ -138,7 +134,7 @@ TEST_F(AssetChange, ADeleteThatFailsIsReportedWithTheRowWholeOrGone)
     remove();
     EXPECT_EQ(failedHandler(), "frmAddUpDel.cmdDelete_Click");
     reopenData();
-    EXPECT_EQ(line(stored(3, Inventory::Amount), inventory()), "$30.00, 2: $60.00");
+    EXPECT_EQ(line(columnOf(Data1.rsInventory, Inventory::Amount).join(' '), inventory()), "$10.00 $30.00, 2: $60.00");
 }
 
 TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndLeavesNoRowWhereItIsRefusedOrFails)

@@ -2,9 +2,6 @@
 #include "assets/asset_screen.h"
 #include "search/frmSearch.h"
 
-using forms::Answer;
-using forms::screen;
-
 namespace {
 
 class AssetModes : public AssetScreenTest {
@@ -68,18 +65,13 @@ TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
 
 TEST_F(AssetModes, RemembersBothBoxesAtOnceAndAcrossRuns)
 {
-    const auto word = [](const forms::CheckBox& box) { return QString(box.value() ? "Checked" : "Unchecked"); };
-    const auto boxes = [&] { return QStringList({word(asset().chkClear), word(asset().chkWar)}); };
     openToAdd();
-    const QStringList before = boxes();
     click(asset().chkClear);
     click(asset().chkWar);
-    const QStringList turned = boxes();
-    EXPECT_TRUE(turned[0] != before[0] && turned[1] != before[1]);
-    EXPECT_EQ(inFile(Data1.rsGeneral, {General::ClearCheck, General::WarrantyCheck}), turned);
+    EXPECT_EQ(inFile(Data1.rsGeneral, {General::ClearCheck, General::WarrantyCheck}).join(' '), "Unchecked Checked");
     forms::destroyScreens();
     openToAdd("Mobile");
-    EXPECT_EQ(boxes(), turned);
+    EXPECT_EQ(line(asset().chkClear.value(), asset().chkWar.value()), "0, 1");
 }
 
 TEST_F(AssetModes, AsksBeforeItLeaves)
@@ -87,9 +79,6 @@ TEST_F(AssetModes, AsksBeforeItLeaves)
     openToAdd();
     pick(asset().cmbLoc, "Library");
     expectToStay([] { closeBox(asset()); }, LeaveQuestion);
-    leaveToMainMenu();
-    EXPECT_EQ(line(scene(), asset().cmbLoc.text()), "2 frmMain: cmdIn, Library"); // the lists stay
-    openToAdd();
     expectBox(LeaveQuestion, YesNoQuestion, Answer::Yes);
     closeBox(asset());
     EXPECT_EQ(line(scene(), asset().cmbLoc.listCount()), "13 frmAuto: cmdAdd(0), 0");
@@ -160,9 +149,6 @@ TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_EQ(names(), "Linen Closet, Appliances");
-    tab();
-    type("Elephant's Foot");
-    EXPECT_EQ(asset().cmbType.text(), "Elephant's Foot");
     pick(asset().cmbLoc, "< Add/Edit Location >");
     const auto& editor = screen<frmAddField>();
     EXPECT_EQ(line(asset().ListInEdit, editor.SavedLocation, editor.SavedCategory), // the last real names

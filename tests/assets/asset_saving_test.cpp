@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/asset_screen.h"
 
-using forms::Answer;
-
 namespace {
 
 using AssetSaving = AssetScreenTest;
@@ -26,7 +24,7 @@ TEST_F(AssetSaving, WritesEveryColumnAsItWasTypedAndAddsThePriceToTheTotal)
     EXPECT_EQ(row(2),
         "Indoor|Library|Antiques|Antique Desk|1890|" + make + '|' + QString(49, u'ß') + '|' + serial
             + "|11/24/2026|$1234.50|Yes|Desk drawer|Oak\nold|Used|None");
-    EXPECT_EQ(line(stored(Inventory::WarrantyDescription), inventory()), "None, 2: $1,244.50");
+    EXPECT_EQ(line(newest(Inventory::WarrantyDescription), inventory()), "None, 2: $1,244.50");
 }
 
 TEST_F(AssetSaving, KeepsTheScreenForASimilarAssetOrClearsItAndLearnsNewNamesWithTheOldOnesOfTheirRow)
@@ -43,10 +41,8 @@ TEST_F(AssetSaving, KeepsTheScreenForASimilarAssetOrClearsItAndLearnsNewNamesWit
     setClearBox(true);
     save();
     EXPECT_EQ(asset().cmbLoc.text() + asset().txtPPrice.text(), "");
-    QStringList learned;
-    for (const auto column : {Names::Location, Names::Category, Names::Type, Names::Standard})
-        learned += columnOf(Data1.rsMobile, column).mid(known);
-    EXPECT_EQ(learned, QStringList({"Car", "Aircraft", "Zeppelin", "0"}));
+    EXPECT_EQ(
+        rowsOf(Data1.rsMobile, Names::Location, Names::Standard).mid(known), QStringList("Car|Aircraft|Zeppelin|0"));
 }
 
 TEST_F(AssetSaving, IndoorAloneIsClearedBeforeTheUserIsToldOfAnAssetWithANewName)
@@ -68,35 +64,27 @@ TEST_F(AssetSaving, IndoorAloneIsClearedBeforeTheUserIsToldOfAnAssetWithANewName
 
 TEST_F(AssetSaving, SettlesTheReceiptLocation)
 {
-    enum Choice { Yes, No, NoThenLocation };
-    const std::tuple<Choice, const char*, bool, const char*> cases[] = {
-        {Yes, "nOnE", false, "Yes None"},
-        {Yes, "Desk", false, "Yes Desk"},
-        {Yes, "", false, "Yes Unknown"}, // left empty
-        {No, "", false, "No None"},
-        {NoThenLocation, "Desk", false, "Yes Not Specified"}, // "No" was stepped on last
-        {Yes, "", true, "Yes Not Specified"}, // by Enter in the box itself: it has not been left
-        {NoThenLocation, "", true, "Yes None"},
+    const std::tuple<bool, QString, const char*> cases[] = {
+        {false, "nOnE", "Yes None"},
+        {false, "", "Yes Unknown"}, // left empty
+        {true, "Desk", "Yes Not Specified"}, // "No" was stepped on last
+        {false, "\n", "Yes Not Specified"}, // Enter in the box itself, which has not been left
+        {true, "\n", "Yes None"},
     };
     openToAdd();
     setClearBox(false);
     fillIn();
-    for (const auto& [choice, typed, byEnter, location] : cases) {
-        click(asset().optRecOnFile[choice == Yes ? 0 : 1]);
-        if (choice == NoThenLocation)
-            click(asset().txtLoc);
-        type(typed);
+    for (const auto& [overNo, typed, location] : cases) {
+        click(asset().optRecOnFile[overNo ? 1 : 0]);
+        click(asset().txtLoc);
         expectBox(Added, Information);
-        if (byEnter)
-            press(Qt::Key_Return);
-        else
+        type(typed);
+        if (typed != "\n")
             click(asset().cmdAdd);
-        EXPECT_EQ(stored(Inventory::Receipt) + " " + stored(Inventory::ReceiptLocation), location) << typed;
+        EXPECT_EQ(newest(Inventory::Receipt) + " " + newest(Inventory::ReceiptLocation), location)
+            << overNo << typed.toStdString();
     }
 }
-
-const char* const NoLocation = "The Location Of The Asset Must Be Selected Before Saving!";
-const char* const NoCategory = "The Category Of The Asset Must Be Selected Before Saving!";
 
 class AssetRefusals : public AssetScreenTest {
 protected:
@@ -106,71 +94,56 @@ protected:
         fillIn();
     }
 
-    // A field, what is wrong in it, the box that tells, what stands there then, and what is right.
-    using Step = std::tuple<forms::TextEntry&, QString, QString, QString, QString>;
-
-    // A refusal leads to its field, and nothing is saved.
-    void expectRefused(const Step& step)
+    // A refusal leads to its field, where this text stands by then, and nothing is saved.
+    void expectRefused(const QString& message, const forms::TextEntry& field, const QString& text)
     {
-        const auto& [field, wrong, message, left, right] = step;
         save(message, Exclamation);
         EXPECT_EQ(asset().activeControl(), &field) << message.toStdString();
-        EXPECT_EQ(line(field.text(), inventory()), line(left, "0: $0.00")) << message.toStdString();
-        field.setText(right);
+        EXPECT_EQ(line(field.text(), inventory()), line(text, "0: $0.00")) << message.toStdString();
     }
-
-    const QString missing_ = "The %1 Of The Asset Must Be Entered Before Saving";
 };
 
-// All fields are wrong at first; each is put right after its refusal.
-TEST_F(AssetRefusals, ComeInTheOrderOfTheFields)
+// All fields are wrong at first; each is changed after its refusal, to what is right at last.
+TEST_F(AssetRefusals, ComeInTheOrderOfTheFieldsAndAnswerToEachOddText)
 {
+    const QString noLocation = "The Location Of The Asset Must Be Selected Before Saving!";
+    const QString noCategory = "The Category Of The Asset Must Be Selected Before Saving!";
+    const QString missing = "The %1 Of The Asset Must Be Entered Before Saving";
     const QString typeUnknown = "If Unavailable Please Type \"Unknown\"";
-    const Step steps[] = {
-        {asset().cmbLoc, "", NoLocation, "", "Library"},
-        {asset().cmbCat, "", NoCategory, "", "Antiques"},
-        {asset().cmbType, "", "An Item Must Be Selected Before Saving Asset!", "", "Antique Desk"},
-        {asset().cmbYear, "", "The Year The Asset Was Made Must Be Entered Before Saving!", "2005", "1999"},
-        {asset().txtMake, "", missing_.arg("Make") + "!  " + typeUnknown, "Unknown", "A"},
-        {asset().txtMod, "", missing_.arg("Model") + "!  " + typeUnknown, "Unknown", "B"},
-        {asset().txtSerial, "", missing_.arg("Serial Number") + "..." + typeUnknown, "Unknown", "C"},
-        {asset().txtPur, "MM/DD/YYYY", missing_.arg("Purchase Date") + "!", "MM/DD/YYYY", "11/24/2026"},
-        {asset().txtPPrice, "$.00", NoPrice, "$.00", "$1.00"},
+    const QString location = "< Add/Edit Location >", category = "< Add/Edit Category >";
+    const std::tuple<forms::TextEntry&, QString, QString, QString> steps[] = {
+        {asset().cmbLoc, "", noLocation, location},
+        {asset().cmbLoc, location, noLocation, "Library"},
+        {asset().cmbCat, "", noCategory, category},
+        {asset().cmbCat, category, noCategory, "Antiques"},
+        {asset().cmbType, "", "An Item Must Be Selected Before Saving Asset!", "< Add/Edit Item >"}, // is a name
+        {asset().cmbYear, "2005", "The Year The Asset Was Made Must Be Entered Before Saving!", "1999"},
+        {asset().txtMake, "Unknown", missing.arg("Make") + "!  " + typeUnknown, "A"},
+        {asset().txtMod, "Unknown", missing.arg("Model") + "!  " + typeUnknown, "B"},
+        {asset().txtSerial, "Unknown", missing.arg("Serial Number") + "..." + typeUnknown, "C"},
+        {asset().txtPur, "MM/DD/YYYY", missing.arg("Purchase Date") + "!", "2/30/2006"},
+        {asset().txtPur, "2/30/2006", BadDate, "dd/mm/yyyy"},
+        {asset().txtPur, "dd/mm/yyyy", BadDate, "11/25/2026"},
+        {asset().txtPur, "11/25/2026", "The Purchase Date Can Not Be A Future Date!", "24/11/2026"}, // turned round
+        {asset().txtPPrice, "", NoPrice, "$.00"},
+        {asset().txtPPrice, "$.00", NoPrice, "$0.00"},
     };
     asset().cmdMain.setFocus();
-    for (const auto& [field, wrong, message, left, right] : steps)
-        field.setText(wrong);
-    for (const Step& step : steps)
-        expectRefused(step);
-    save();
-    EXPECT_EQ(row(1).section('|', 0, 9), "Indoor|Library|Antiques|Antique Desk|1999|A|B|C|11/24/2026|$1.00");
-}
-
-TEST_F(AssetRefusals, AnswerToEachOddText)
-{
-    const Step steps[] = {
-        {asset().cmbLoc, "< Add/Edit Location >", NoLocation, "< Add/Edit Location >", "Library"},
-        {asset().cmbCat, "< Add/Edit Category >", NoCategory, "< Add/Edit Category >", "Antiques"},
-        {asset().txtPur, "2/30/2006", BadDate, "2/30/2006", "24/11/2026"},
-        {asset().txtPur, "dd/mm/yyyy", BadDate, "dd/mm/yyyy", "24/11/2026"},
-        {asset().txtPPrice, "", NoPrice, "", "$0.00"},
-        {asset().txtPur, "11/25/2026", "The Purchase Date Can Not Be A Future Date!", "11/25/2026", "24/11/2026"},
-    };
-    asset().cmbLoc.setFocus(); // a price that is left empty takes its empty state
-    asset().txtPPrice.setText({}); // a date that is none ends the check before the price is looked at
-    asset().cmbType.setText("< Add/Edit Item >");
-    for (const Step& step : steps) {
-        std::get<0>(step).setText(std::get<1>(step));
-        expectRefused(step);
+    for (const auto& [field, text, message, next] : steps)
+        field.setText({});
+    asset().txtPur.setText("MM/DD/YYYY");
+    for (const auto& [field, text, message, next] : steps) {
+        expectRefused(message, field, text);
+        field.setText(next);
     }
-    save(); // the marker of items alone is a name; day and month change places where they must
-    EXPECT_EQ(row(1).section('|', 3, 9), "< Add/Edit Item >|2026|Unknown|Unknown|Unknown|24/11/2026|$0.00");
+    save();
+    EXPECT_EQ(row(1).section('|', 0, 9), "Indoor|Library|Antiques|< Add/Edit Item >|1999|A|B|C|24/11/2026|$0.00");
 }
 
 TEST_F(AssetRefusals, AnAmountThatIsNoneLeavesNothingBehindButWhatWasTyped)
 {
     enterPrice("1/2");
-    expectRefused({asset().txtPur, "", BadDate, "11/24/2026", "11/24/2026"});
+    expectRefused(BadDate, asset().txtPur, "11/24/2026");
     EXPECT_EQ(line(asset().txtPPrice.text(), asset().cmbType.text()), "$1/2.00, Antique Desk");
     enterPrice("2");
     asset().optPurNewUsed[0].setValue(false);

@@ -8,6 +8,9 @@
 #include "search/frmSearchResults.h"
 #include "support/harness.h"
 
+using forms::Answer;
+using forms::screen;
+
 /// A test with the asset screen, reached as a user reaches it.
 class AssetScreenTest : public ScreenTest {
 protected:
@@ -20,14 +23,14 @@ protected:
         "Indoor|Library|Antiques|Antique Desk|2026|Unknown|Unknown|Unknown|11/24/2026|%1|No|None|None|New|None";
     static constexpr const char* LeaveQuestion = "Any Unsaved Changes Will Be Lost...Continue?";
 
-    static frmAddUpDel& asset() { return forms::screen<frmAddUpDel>(); }
+    static frmAddUpDel& asset() { return screen<frmAddUpDel>(); }
 
     static void openToAdd(const QString& area = "Indoor")
     {
-        auto& menu = forms::screen<frmMain>();
+        auto& menu = screen<frmMain>();
         menu.show();
         click(area == "Indoor" ? menu.cmdIn : area == "Outdoor" ? menu.cmdOut : menu.cmdAuto);
-        click(forms::screen<frmAuto>().cmdAdd[0]);
+        click(screen<frmAuto>().cmdAdd[0]);
     }
 
     /// Desks that were saved earlier, with the total of their prices.
@@ -44,9 +47,9 @@ protected:
     /// What the pager of the search results does with an asset.
     static void openFound(const QString& id)
     {
-        forms::screen<frmMain>().hide();
-        forms::screen<frmMain>().FromResults = true;
-        forms::screen<frmSearchResults>().SelectedAsset = id;
+        screen<frmMain>().hide();
+        screen<frmMain>().FromResults = true;
+        screen<frmSearchResults>().SelectedAsset = id;
         asset().AssetKey = values::Integer::fromText(id);
         asset().check_Form_Type();
     }
@@ -99,26 +102,16 @@ protected:
 
     void save(const QString& message = Added, int flags = Information) { clickTold(asset().cmdAdd, message, flags); }
 
-    void leaveToMainMenu() { clickTold(asset().cmdMain, LeaveQuestion, YesNoQuestion, forms::Answer::Yes); }
+    void leaveToMainMenu() { clickTold(asset().cmdMain, LeaveQuestion, YesNoQuestion, Answer::Yes); }
 
-    /// A column of the asset of an ID, as it would be read when it is opened again; its row is current then.
-    static QString stored(int id, int column)
+    /// An asset, counted from 1, from its area to its kind of warranty: "Indoor|Library|...|New|None".
+    static QString row(int place)
     {
-        auto& assets = Data1.rsInventory;
-        for (assets.MoveFirst(); !(assets.Fields(Inventory::ID) == id);)
-            assets.MoveNext();
-        return assets.Fields(column).text();
+        return rowsOf(Data1.rsInventory, Inventory::Area, Inventory::PartsType).value(place - 1);
     }
 
-    /// The same of the newest asset.
-    static QString stored(Inventory::Column column) { return columnOf(Data1.rsInventory, column).last(); }
-
-    /// An asset from its area to its kind of warranty: "Indoor|Library|...|New|None".
-    static QString row(int id)
-    {
-        stored(id, Inventory::ID);
-        return cellsOf(Data1.rsInventory, Inventory::Area, Inventory::PartsType).join('|');
-    }
+    /// A column of the newest asset.
+    static QString newest(Inventory::Column column) { return columnOf(Data1.rsInventory, column).last(); }
 
     /// How many assets there are, and what they are worth.
     static QString inventory()

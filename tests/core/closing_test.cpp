@@ -9,11 +9,8 @@
 #include "support/files.h"
 #include "support/harness.h"
 
+using namespace testing;
 using forms::screen;
-using testing::AllOf;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 namespace {
 
@@ -26,7 +23,7 @@ protected:
     void closeProgram() { clickTold(screen<frmMain>().cmdLeave, CloseKestrill, YesNoQuestion, forms::Answer::Yes); }
 
     /// A close that fails and leaves this backup; the run-time report tells this.
-    void failToClose(const QByteArray& backup, const testing::Matcher<std::string>& known)
+    void failToClose(const QByteArray& backup, const Matcher<std::string>& known)
     {
         closeProgram();
         EXPECT_TRUE(reportedFailure());
@@ -130,6 +127,20 @@ protected:
         ASSERT_TRUE(backup.setFileTime(made, QFileDevice::FileModificationTime));
     }
 
+    // A close that broke off and one that didn't, of which each tries to keep the backup.
+    void closeTwice(bool byLink)
+    {
+        putBackup("of yesterday", yesterday);
+        earlier::keep_Backup();
+        EXPECT_EQ(sys::isSameFile(earlier::all().at(0).file, backupFile()), byLink);
+        EXPECT_TRUE(earlier::isOf(earlier::all().at(0), backupFile()));
+        closeProgram();
+        EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
+        ASSERT_EQ(names(), QStringList(nameOf(yesterday)));
+        EXPECT_EQ(bytesOf(earlier::all().at(0).file), "of yesterday");
+        EXPECT_FALSE(earlier::isOf(earlier::all().at(0), backupFile()));
+    }
+
     // Today's file, which only its user gives up.
     void putAside() const
     {
@@ -154,33 +165,19 @@ protected:
 
 TEST_F(EarlierBackups, AreKeptByALinkOfWhatTheCloseReplaces)
 {
-    putBackup("of yesterday", yesterday);
-    earlier::keep_Backup(); // a close that broke off
-    EXPECT_TRUE(sys::isSameFile(earlier::all().at(0).file, backupFile())) << "costs nothing";
-    closeProgram();
-    ASSERT_EQ(names(), QStringList(nameOf(yesterday))) << "once, though two have tried";
-    const QFileInfo kept(earlier::all().at(0).file);
-    EXPECT_EQ(bytesOf(kept.filePath()), "of yesterday");
-    EXPECT_EQ(QFile::permissions(kept.path()), QFile::Permissions(0x7700)) << "its user alone";
-    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
-
+    closeTwice(true);
+    const QString folder = QFileInfo(earlier::all().at(0).file).path();
+    EXPECT_EQ(QFile::permissions(folder), QFile::Permissions(0x7700)) << "its user alone";
     putBackup("another of that second", yesterday);
     earlier::keep_Backup();
-    EXPECT_THAT(names(), testing::UnorderedElementsAre(nameOf(yesterday), nameOf(yesterday) + "_2"));
+    EXPECT_THAT(names(), UnorderedElementsAre(nameOf(yesterday), nameOf(yesterday) + "_2"));
 }
 
 TEST_F(EarlierBackups, AreCopiedOnceWhereTheBackupLiesOnAnotherFileSystem)
 {
     const QTemporaryDir memory("/dev/shm/backup-XXXXXX");
     places::setFolders(places::databaseFolder(), memory.path());
-    putBackup("of yesterday", yesterday);
-    earlier::keep_Backup(); // a close that broke off
-    EXPECT_TRUE(earlier::isOf(earlier::all().at(0), backupFile()));
-    closeProgram();
-    ASSERT_EQ(names(), QStringList(nameOf(yesterday)));
-    EXPECT_FALSE(earlier::isOf(earlier::all().at(0), backupFile()));
-    EXPECT_EQ(bytesOf(earlier::all().at(0).file), "of yesterday");
-    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
+    closeTwice(false);
 }
 
 TEST_F(EarlierBackups, AreThinnedAndLeaveWhatIsNotTheirs)
@@ -220,9 +217,9 @@ TEST_F(EarlierBackups, ThatCantBeKeptEndangerNeitherTheCloseNorTheBackup)
 {
     putBackup("of yesterday", yesterday);
     putFile(places::earlierBackupsFolder(), "in the way");
-    testing::internal::CaptureStderr();
+    internal::CaptureStderr();
     closeProgram();
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("Earlier backups: File failure"));
+    EXPECT_THAT(internal::GetCapturedStderr(), HasSubstr("Earlier backups: File failure"));
     EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
 }
 

@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/manual.h"
-
-#include "core/frmMain.h"
 #include "platform/help/book.h"
-#include "platform/help/viewer.h"
-#include "platform/help/word_index.h"
-#include "reports/data_report.h"
-#include "reports/reports.h"
-#include "support/harness.h"
+#include "support/print.h"
 
-#include <QApplication>
 #include <QFile>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
 
-using forms::screen;
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -94,51 +85,6 @@ TEST(HelpPages, AreWhereTopicsContentsAndLinksLead)
             need(name + ": " + picture, QFile::exists(":/help/" + picture));
     }
     EXPECT_EQ(missing, QStringList());
-}
-
-TEST(HelpPages, AreFoundByPlainWords)
-{
-    const help::WordIndex index(book());
-    const std::pair<const char*, const char*> sought[] = {{"warranty", "warranty.html"}, {"receipt", "gathering.html"},
-        {"calendar", "calendar.html"}, {"insurance policy", "insurance.html"}};
-    for (const auto& [word, page] : sought)
-        EXPECT_EQ(index.find(word).at(0).page, page) << word;
-    for (const char* word : {"backup", "back up", "forgot", "password", "photo", "theft"})
-        EXPECT_FALSE(index.find(word).empty()) << word;
-}
-
-class HelpWindow : public ScreenTest {
-protected:
-    HelpWindow() { forms::setHelpDoor(manual::open); }
-    ~HelpWindow() override { delete window(); }
-
-    static QWidget* window(const QString& name = "help")
-    {
-        for (QWidget* each : QApplication::topLevelWidgets())
-            if (each->objectName() == name)
-                return each;
-        return nullptr;
-    }
-    static QString shown() { return window()->isVisible() ? window()->windowTitle() : QString(); }
-};
-
-TEST_F(HelpWindow, OpensOnScreensBoxesAndReports)
-{
-    screen<frmMain>().show();
-    press(Qt::Key_F1);
-    EXPECT_EQ(shown(), "Main Menu - Kestrill Help");
-    useRealBoxes();
-    whileModal([] {
-        window()->hide();
-        press(Qt::Key_F1);
-        EXPECT_EQ(shown(), "Main Menu - Kestrill Help");
-        clickInBox("No");
-    });
-    click(screen<frmMain>().cmdLeave);
-    reports::FillOutForm().show();
-    settle();
-    QTest::keyClick(window("FillOutForm")->windowHandle(), Qt::Key_F1);
-    EXPECT_EQ(shown(), "The Print Window - Kestrill Help");
 }
 
 } // namespace

@@ -2,38 +2,29 @@
 #include "platform/values/failure.h"
 #include "support/harness.h"
 
-namespace {
-
-// Rows of the inventory, told apart by their models.
-class Sorting : public ScreenTest {
-protected:
-    static void add(const char* model, const char* location, const char* amount)
-    {
-        addRow(Data1.rsInventory,
-            {{Inventory::Model, model}, {Inventory::Location, location}, {Inventory::Amount, amount}});
-    }
-
-    // From the current row, which has to be the first.
-    static QString walked()
-    {
-        QString models;
-        for (; !Data1.rsInventory.atEOF(); Data1.rsInventory.MoveNext())
-            models += Data1.rsInventory.Fields(Inventory::Model).text();
-        return models;
-    }
-};
+using Sorting = ScreenTest;
 
 TEST_F(Sorting, OrdersByColumnsWithoutRegardToCaseAndEqualRowsAsTheyWereStored)
 {
+    auto& view = Data1.rsInventory;
+    const auto add = [&view](const char* model, const char* location, const char* amount) {
+        addRow(view, {{Inventory::Model, model}, {Inventory::Location, location}, {Inventory::Amount, amount}});
+    };
+    // From the current row, which has to be the first.
+    const auto walked = [&view] {
+        QString models;
+        for (; !view.atEOF(); view.MoveNext())
+            models += view.Fields(Inventory::Model).text();
+        return models;
+    };
     add("a", "attic", "$9.00");
     add("b", "Barn", "$10.00");
     add("c", "ATTIC", "$10.00");
     add("d", "", "$1,000.00");
     add("e", "barn", "$9.00");
     const std::pair<const char*, const char*> orders[] = {{"Location", "dacbe"}, {"location DESC", "beacd"},
-        {"[Amount]", "aebcd"}, {"Amount desc, Location", "dcbae"}, {" Amount ASC , Model DESC ", "eacbd"},
-        {"ID DESC", "edcba"}, {"", "abcde"}, {"Serial/ VIN / ID", "abcde"}};
-    auto& view = Data1.rsInventory;
+        {"[Amount]", "aebcd"}, {" Amount desc , Location ASC", "dcbae"}, {"ID DESC", "edcba"}, {"", "abcde"},
+        {"Serial/ VIN / ID", "abcde"}};
     for (const auto& [order, rows] : orders) {
         view.Sort(order);
         EXPECT_EQ(walked(), rows) << order;
@@ -46,8 +37,4 @@ TEST_F(Sorting, OrdersByColumnsWithoutRegardToCaseAndEqualRowsAsTheyWereStored)
     view.Sort("Location DESC");
     EXPECT_EQ(walked(), "dbeacf");
     EXPECT_THROW(view.Sort("Colour"), values::RuntimeFailure);
-    view.Sort("");
-    EXPECT_EQ(walked(), "abcdef");
 }
-
-} // namespace

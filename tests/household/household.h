@@ -5,18 +5,21 @@
 #include "household/frmGenInfo.h"
 #include "support/harness.h"
 
+using forms::Answer;
+using forms::screen;
+
 /// The personal information as the main menu opens it.
 inline frmGenInfo& openFromMenu()
 {
-    forms::screen<frmMain>().show();
-    click(forms::screen<frmMain>().cmdPersonal);
-    return forms::screen<frmGenInfo>();
+    screen<frmMain>().show();
+    click(screen<frmMain>().cmdPersonal);
+    return screen<frmGenInfo>();
 }
 
 /// A test with the personal information, reached as a user reaches it.
 class HouseholdTest : public ScreenTest {
 protected:
-    static frmGenInfo& personal() { return forms::screen<frmGenInfo>(); }
+    static frmGenInfo& personal() { return screen<frmGenInfo>(); }
 
     /// What the file holds of the household's row, Last to EMail, and what the screen shows of it.
     static QStringList stored()

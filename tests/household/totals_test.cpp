@@ -3,8 +3,6 @@
 #include "household/household.h"
 #include "platform/storage/statement.h"
 
-using forms::screen;
-
 namespace {
 
 class Totals : public ScreenTest {

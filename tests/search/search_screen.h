@@ -9,12 +9,15 @@
 #include "search/frmSearchResults.h"
 #include "support/harness.h"
 
+using forms::Answer;
+using forms::screen;
+
 /// A test with the search screen and the pager, reached as a user reaches them.
 class SearchScreenTest : public ScreenTest {
 protected:
-    static frmMain& menu() { return forms::screen<frmMain>(); }
-    static frmSearch& search() { return forms::screen<frmSearch>(); }
-    static frmSearchResults& results() { return forms::screen<frmSearchResults>(); }
+    static frmMain& menu() { return screen<frmMain>(); }
+    static frmSearch& search() { return screen<frmSearch>(); }
+    static frmSearchResults& results() { return screen<frmSearchResults>(); }
 
     static void addAssets(int count, const QString& make = "Acme")
     {
@@ -32,7 +35,7 @@ protected:
     {
         menu().show();
         click(menu().*area);
-        auto& areaMenu = forms::screen<frmAuto>();
+        auto& areaMenu = screen<frmAuto>();
         click(toDelete ? areaMenu.cmdDelete[0] : areaMenu.cmdUpdate[1]);
     }
 
@@ -43,7 +46,7 @@ protected:
         type(word + "\n");
     }
 
-    void findAll(forms::Answer answer = forms::Answer::Yes)
+    void findAll(Answer answer = Answer::Yes)
     {
         openFromMenu();
         expectBox(

@@ -3,8 +3,6 @@
 
 #include "platform/storage/statement.h"
 
-using forms::screen;
-
 namespace {
 
 class SearchWays : public SearchScreenTest {

@@ -38,10 +38,8 @@ protected:
     static void addAsset(const QString& item, const QString& amount, const QString& description = "None")
     {
         openData();
-        addAssetRow({"Indoor", "None", "None", item});
-        put(Data1.rsInventory,
-            {{Inventory::DatePurchased, "7/4/2006"}, {Inventory::Amount, amount}, {Inventory::Receipt, "No"},
-                {Inventory::Purchased, "New"}, {Inventory::Description, description}});
+        addAssetRow({"Indoor", "None", "None", item, "None", "None", "None", "None", "7/4/2006", amount, "No", "None",
+            description, "New"});
         const values::Currency before = Data1.rsGeneral.Fields(General::AssetValue).currency();
         put(Data1.rsGeneral, {{General::AssetValue, (before + values::Currency::parse(amount)).toText()}});
         closeData();
