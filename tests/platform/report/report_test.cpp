@@ -148,10 +148,9 @@ protected:
 TEST_F(SavedReport, IsADocumentWithItsNamesOfAllOrSomePages)
 {
     ASSERT_EQ(report::savePdf(pages_, path("a.pdf")), Outcome::Done);
-    QStringList told;
-    for (const char* name : {"Title", "Author", "Pages", "Page size"})
-        told += pdf::info(path("a.pdf"), name);
-    EXPECT_EQ(told, QStringList({"Trial", "A. Author", "4", "612 x 792 pts (letter)"}));
+    const QString told = pdf::output("pdfinfo", {path("a.pdf")}).simplified();
+    for (const char* line : {"Title: Trial ", "Author: A. Author ", "Pages: 4 ", "Page size: 612 x 792 pts (letter) "})
+        EXPECT_TRUE(told.contains(line)) << line << "is not in " << told.toStdString();
     ASSERT_EQ(report::savePdf(pages_, {3, 1}, path("some.pdf")), Outcome::Done);
     const std::vector<pdf::Page> some = pdf::read(path("some.pdf"));
     ASSERT_EQ(some.size(), 2);
