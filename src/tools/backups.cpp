@@ -3,6 +3,7 @@
 
 #include "core/earlier_backups.h"
 #include "core/places.h"
+#include "platform/system/files.h"
 #include "tools/exit_codes.h"
 #include "tools/household.h"
 
@@ -23,11 +24,10 @@ QString lastBackupFile()
 void addLast(std::vector<Backup>& list)
 {
     const QFileInfo file(lastBackupFile());
-    const QFileInfo folder(file.path());
-    const bool isHidden = folder.isDir() && !folder.isExecutable();
+    const bool isHidden = sys::isOutOfSight(file.filePath());
     if (!file.isFile() && !isHidden)
         return;
-    const QDateTime made = (isHidden ? folder : file).lastModified();
+    const QDateTime made = isHidden ? QFileInfo(file.path()).lastModified() : file.lastModified();
     list.push_back({made.toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss")), made, QStringLiteral("Last close"),
         file.filePath(), {}, {}, 0, {}});
 }

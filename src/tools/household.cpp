@@ -2,6 +2,7 @@
 #include "tools/household.h"
 
 #include "core/data_store.h"
+#include "platform/system/files.h"
 
 #include <QFileInfo>
 
@@ -28,8 +29,7 @@ auto orUnreadable(const QString& state, Step step)
 FileReader openedReader(const QString& file, FileReader::Locks locks)
 {
     const QFileInfo found(file);
-    const QFileInfo folder(found.path());
-    if (!found.exists() && (!folder.isDir() || folder.isExecutable()))
+    if (!found.exists() && !sys::isOutOfSight(file))
         throw UnreadableHousehold(QStringLiteral("Missing"), file + QStringLiteral(" does not exist"));
     if (!found.isReadable())
         throw UnreadableHousehold(QStringLiteral("No right to read"), file + QStringLiteral(" can't be read"));

@@ -218,6 +218,24 @@ TEST_F(RestoringTest, ListsEachBackupWithWhatItHoldsAndWhyItCantBeRestored)
         EXPECT_EQ(refusal([&] { backups::find(list, name); }), exit_code::Usage) << name;
 }
 
+TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheBackupFolder)
+{
+    const QByteArray folder = QFile::encodeName(places::backupFolder());
+    const QByteArray above = QFile::encodeName(below({}));
+    ::chmod(folder, 0);
+    const auto readLast = [&] {
+        constexpr uid_t nobody = 65534;
+        const bool isRoot = ::getuid() == 0; // to whom nothing is closed
+        if (isRoot && ::chown(folder, nobody, nobody) + ::chown(above, nobody, nobody) + ::setuid(nobody) != 0)
+            _exit(2);
+        Backup backup = last();
+        backups::read(backup);
+        _exit(backup.state == "No right to read" ? 0 : 1);
+    };
+    EXPECT_EQ(inProcess(readLast), 0);
+    ::chmod(folder, S_IRWXU);
+}
+
 TEST_F(RestoringTest, TellsWhatWouldBeLost)
 {
     const Household backup(backupFile());

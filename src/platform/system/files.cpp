@@ -3,6 +3,8 @@
 
 #include "platform/system/file_handle.h"
 
+#include <QFileInfo>
+
 #include <fcntl.h>
 #include <stdio.h>
 #include <sys/file.h>
@@ -153,6 +155,12 @@ bool isSameFile(const QString& one, const QString& other)
     const Identity first = identityOf(one);
     const Identity second = identityOf(other);
     return first.isThere && second.isThere && first.device == second.device && first.number == second.number;
+}
+
+bool isOutOfSight(const QString& path)
+{
+    const QFileInfo folder(QFileInfo(path).path());
+    return folder.isDir() && !folder.isExecutable();
 }
 
 qint64 freeSpace(const QString& folder)

@@ -37,6 +37,9 @@ void syncFolder(const QString& path);
 /// Whether both are names of one file.
 bool isSameFile(const QString& one, const QString& other);
 
+/// Whether a file may lie where this user has no right to look.
+bool isOutOfSight(const QString& path);
+
 /// The bytes that are free for this user where the folder lies.
 qint64 freeSpace(const QString& folder);
 
