@@ -123,6 +123,18 @@ void chooseIn(QMenu& menu, const QString& command)
 
 // ---- the mouse
 
+forms::Control& control(forms::Form& form, const QString& name)
+{
+    QString names;
+    for (forms::Control* each : form.controls()) {
+        if (each->name() == name)
+            return *each;
+        names += QLatin1Char(' ') + each->name();
+    }
+    throw std::out_of_range(
+        QStringLiteral("%1 has no control %2. There are:%3").arg(form.name(), name, names).toStdString());
+}
+
 void clickAt(forms::Control& control, QPoint position)
 {
     const Spot spot = spotOf(control, position);
@@ -267,7 +279,10 @@ void commit(const QString& text)
     settle();
     QInputMethodEvent event;
     event.setCommitString(text);
-    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    QObject* target = QGuiApplication::focusObject();
+    if (!target)
+        throw std::logic_error("Nothing has the focus to take a composed text");
+    QCoreApplication::sendEvent(target, &event);
     settle();
 }
 

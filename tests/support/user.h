@@ -6,7 +6,6 @@
 #include <QPoint>
 #include <QString>
 
-#include <algorithm>
 #include <vector>
 
 class QWidget;
@@ -15,13 +14,13 @@ class QWidget;
 /// user can't do (click a hidden control, pick an item that isn't in the list) fails the test.
 namespace user {
 
-/// A control of a screen by its name.
+/// A control of a screen by its name; throws with a list of all names where there is none.
+forms::Control& control(forms::Form& form, const QString& name);
+
 template <class Kind>
 Kind& control(forms::Form& form, const QString& name)
 {
-    const auto& all = form.controls();
-    const auto found = std::find_if(all.begin(), all.end(), [&name](const auto* each) { return each->name() == name; });
-    return dynamic_cast<Kind&>(**found);
+    return dynamic_cast<Kind&>(control(form, name));
 }
 
 // ---- the mouse; positions count from the top left corner of the control
