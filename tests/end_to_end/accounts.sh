@@ -27,7 +27,6 @@ two_are_added() {
     shot account-filled-in
     keys Return
     answer account-added Return
-    wait_screen frmGenInfo
     expect "$Accounts" "Old Bank|None|NoneNoneNone|a-100|None|$Today|Checking|None"$'\n'"First Bank|1 Main St|3155550100|A-100|\$1234.50|$Tomorrow|Checking|NY"
 }
 
@@ -43,7 +42,6 @@ one_is_changed() {
     answer account-changes-lost n
     keys alt+u
     answer account-updated Return
-    wait_screen frmGenInfo
 }
 
 one_is_deleted() {
