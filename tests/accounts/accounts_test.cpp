@@ -87,7 +87,9 @@ protected:
 
 TEST_F(Accounts, AreChosenByAMenuThatFallsBackToAdd)
 {
-    click(openFromMenu().cmdBank);
+    auto& city = openFromMenu().txtInfo[General::City];
+    type(city, "Bangor");
+    click(screen<frmGenInfo>().cmdBank);
     EXPECT_EQ(scene(), "15 frmEditBankBoxes: optEdit(0)");
     for (const QString what : {"Update", "Delete"}) {
         accessKey(what == "Update" ? 'v' : 'd');
@@ -103,7 +105,7 @@ TEST_F(Accounts, AreChosenByAMenuThatFallsBackToAdd)
     click(screen<frmGenInfo>().cmdBank);
     EXPECT_EQ(contents(menu()) + QString::number(menu().AccountMode), "optEdit(0) on0");
     closeBox(menu());
-    EXPECT_EQ(scene(), Personal);
+    EXPECT_EQ(line(scene(), city.text(), Data1.rsGeneral.Fields(General::City).text()), Personal + ", Bangor, None");
 }
 
 TEST_F(Accounts, AreAddedByKeysThatHopOnUntilTheCalendarHasBeenThere)
