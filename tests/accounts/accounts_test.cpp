@@ -264,9 +264,8 @@ TEST_F(Accounts, AreLeftWithAQuestionWhereSomethingHasChanged)
     click(account().cmdNext);
     asksAfterEachChange();
     click(account().cmdNext);
-    for (forms::TextEntry* none : std::initializer_list<forms::TextEntry*>{&account().txtAddress, &account().cmbState,
-             &account().txtPhone3, &account().txtRoute, &account().txtBalance, &account().txtDate, &account().cmbType})
-        none->setText("x");
+    account().cmbState.setText("x");
+    account().txtBalance.setText("x");
     click(account().cmdBack);
     EXPECT_EQ(scene(), Personal) << "None never counts";
 }

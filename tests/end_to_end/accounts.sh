@@ -3,7 +3,6 @@
 
 Accounts="select [Financial Institution], Address, Phone1 || Phone2 || Phone3, [Account Number], [Available Balance],
     [As Of], [Account Type], State from Bank_Info order by ID"
-Today=$(date +%-m/%-d/%Y)
 Tomorrow=$(date -d '1 day' +%-m/%-d/%Y)
 
 # account_screen KEY: by the option of that access key, from the personal information.
@@ -27,7 +26,7 @@ two_are_added() {
     shot account-filled-in
     keys Return
     answer account-added Return
-    expect "$Accounts" "Old Bank|None|NoneNoneNone|a-100|None|$Today|Checking|None"$'\n'"First Bank|1 Main St|3155550100|A-100|\$1234.50|$Tomorrow|Checking|NY"
+    expect "$Accounts" "Old Bank|None|NoneNoneNone|a-100|None|$(date +%-m/%-d/%Y)|Checking|None"$'\n'"First Bank|1 Main St|3155550100|A-100|\$1234.50|$Tomorrow|Checking|NY"
 }
 
 one_is_changed() {
