@@ -79,8 +79,7 @@ TEST_F(StartUp, OfAFirstRunLeadsToTheIntroductionWithoutAnAlert)
 {
     for (const char* introduced : {"None", "", "0", "01", " 1"}) {
         SCOPED_TRACE(introduced);
-        store({{General::Introduced, introduced}, {General::PolicyNotify, "Yes"},
-            {General::PolicyExpiration, "1/1/2020"}});
+        store({{General::Introduced, introduced}, {General::PolicyNotify, "Yes"}}); // and no day that could be read
         expectStart("17 frmIntroduction: cmdOK");
     }
 }
@@ -89,9 +88,9 @@ TEST_F(StartUp, SaysWhenThePolicyExpiresAndBlamesTheDatabaseForADateThatIsNoneOr
 {
     const QString expired = "Your Insurance Policy Has Expired...Please Renew Your Insurance Policy So You Can "
                             "Ensure Coverage In The Event Of Theft Or Disaster!";
-    const QString today = "    Your Insurance Policy Expires Today! ";
-    const std::tuple<const char*, const char*, QString> alerts[] = {{"Yes", "11/25/1950", expired},
-        {"Yes", "11/23/2026", expired}, {"yES", "11/24/2026", today}, {"Yes ", "11/24/2026", {}}, {"No", "None", {}},
+    const std::tuple<const char*, const char*, QString> alerts[] = {{"No", "None", {}}, {"Yes ", "11/24/2026", {}},
+        {"Yes", "11/25/1950", expired}, {"Yes", "11/23/2026", expired},
+        {"yES", "11/24/2026", "    Your Insurance Policy Expires Today! "},
         {"Yes", "11/25/2026", "   Your Insurance Policy Expires In 1 Day!"},
         {"Yes", "11/26/2026", "Your Insurance Policy Expires In 2 Days!"},
         {"Yes", "12/24/2026", "Your Insurance Policy Expires In 30 Days!"}, {"Yes", "12/25/2026", {}}};
