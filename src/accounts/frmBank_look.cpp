@@ -128,7 +128,6 @@ void frmBank::answer()
 
 void frmBank::layOut()
 {
-    cmbType.setWidthInCharacters(ShortWidth);
     txtBalance.setWidthInCharacters(ShortWidth);
     txtDate.setWidthInCharacters(ShortWidth);
     forms::look::FieldRows rows;
@@ -136,7 +135,7 @@ void frmBank::layOut()
     rows.wideRow(lblHead[7], {&txtCity, &lblSubhead[4], &cmbState});
     address::addPhone(
         rows, {lblHead[2], {&lblHead[0], &lblHead[8], &lblHead[9]}, {&txtPhone1, &txtPhone2, &txtPhone3}});
-    rows.row(lblHead[6], {&cmbType});
+    rows.wideRow(lblHead[6], {&cmbType}); // for words of the user's own
     rows.wideRow(lblHead[3], {&txtAccount});
     rows.wideRow(lblHead[4], {&txtRoute});
     rows.row(lblHead[5], {&txtBalance, &lblChoice[6], &txtDate, &picDate});

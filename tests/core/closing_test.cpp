@@ -49,9 +49,7 @@ TEST_F(Closing, OverwritesTheLastBackupLeavesWhatIsNotItsOwnAndEndsWithTheGoodby
     EXPECT_EQ(bytesOf(places::backupFolder() + "/letter.txt"), "not ours");
     EXPECT_EQ(known(), AllSafe);
     closeBox(screen<frmExit>()); // refuses
-    EXPECT_EQ(scene(), "2 frmExit");
-    EXPECT_FALSE(Data1.Home.isOpen());
-    EXPECT_FALSE(endStatus());
+    EXPECT_EQ(line(scene(), Data1.Home.isOpen(), endStatus().has_value()), "2 frmExit, false, false");
     screen<frmExit>().tmExit.elapse();
     EXPECT_EQ(endStatus(), 0);
 }
@@ -127,11 +125,17 @@ protected:
         ASSERT_TRUE(backup.setFileTime(made, QFileDevice::FileModificationTime));
     }
 
+    // A close that finds it there.
+    static void keepBackup(const QByteArray& contents, const QDateTime& made, qint64 size = -1)
+    {
+        putBackup(contents, made, size);
+        earlier::keep_Backup();
+    }
+
     // A close that broke off and one that didn't, of which each tries to keep the backup.
     void closeTwice(bool byLink)
     {
-        putBackup("of yesterday", yesterday);
-        earlier::keep_Backup();
+        keepBackup("of yesterday", yesterday);
         EXPECT_EQ(sys::isSameFile(earlier::all().at(0).file, backupFile()), byLink);
         EXPECT_TRUE(earlier::isOf(earlier::all().at(0), backupFile()));
         closeProgram();
@@ -168,8 +172,7 @@ TEST_F(EarlierBackups, AreKeptByALinkOfWhatTheCloseReplaces)
     closeTwice(true);
     const QString folder = QFileInfo(earlier::all().at(0).file).path();
     EXPECT_EQ(QFile::permissions(folder), QFile::Permissions(0x7700)) << "its user alone";
-    putBackup("another of that second", yesterday);
-    earlier::keep_Backup();
+    keepBackup("another of that second", yesterday);
     EXPECT_THAT(names(), UnorderedElementsAre(nameOf(yesterday), nameOf(yesterday) + "_2"));
 }
 
@@ -182,17 +185,13 @@ TEST_F(EarlierBackups, AreCopiedOnceWhereTheBackupLiesOnAnotherFileSystem)
 
 TEST_F(EarlierBackups, AreThinnedAndLeaveWhatIsNotTheirs)
 {
-    for (int close = 0; close < 14; ++close) {
-        putBackup("x", now.addDays(-1000 - close));
-        earlier::keep_Backup();
-    }
+    for (int close = 0; close < 14; ++close)
+        keepBackup("x", now.addDays(-1000 - close));
     EXPECT_EQ(names().size(), 10) << "too old, but the last ten";
     putAside();
     QDir(places::earlierBackupsFolder()).mkdir("notes");
-    for (int close = 0; close < 10; ++close) {
-        putBackup("y", now.addSecs(-60 * close));
-        earlier::keep_Backup();
-    }
+    for (int close = 0; close < 10; ++close)
+        keepBackup("y", now.addSecs(-60 * close));
     EXPECT_EQ(names().size(), 11);
     EXPECT_TRUE(names().last().endsWith("_put-aside"));
     EXPECT_EQ(QDir(places::earlierBackupsFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 12);
@@ -204,10 +203,8 @@ TEST_F(EarlierBackups, TakeNoMoreThanATenthOfTheFreeDisk)
     const qint64 third = sys::freeSpace(places::databaseFolder()) / 30;
     putBackup({}, now, third / 100 * 99);
     putAside();
-    for (int minute = 10; minute > 6; --minute) {
-        putBackup({}, now.addSecs(-60 * minute), third / 100 * 99);
-        earlier::keep_Backup();
-    }
+    for (int minute = 10; minute > 6; --minute)
+        keepBackup({}, now.addSecs(-60 * minute), third / 100 * 99);
     ASSERT_EQ(names().size(), 3);
     EXPECT_EQ(names().at(1), nameOf(now.addSecs(-480))) << "the oldest have gone";
     EXPECT_TRUE(names().last().endsWith("_put-aside"));

@@ -19,7 +19,8 @@ TEST_F(FirstRun, LeadsByKeysAndCloseBoxFromTheIntroductionToTheMenuWithTheRowSav
     EXPECT_EQ(line(scene(), introduced()), "18 frmKeyboard: cmdUpdate, true");
     closeBox(screen<frmKeyboard>()); // goes on
     EXPECT_EQ(scene() + shown().join(""), "1 frmGenInfo: txtInfo(1)") << "whatever the row holds";
-    EXPECT_FALSE(personal().cmdBack[0].isEnabled());
+    EXPECT_EQ(line(personal().cmdBack[0].isEnabled(), personal().lblHead[2].caption()),
+        "false, Next, Click Save to Continue:");
     type("Ada\t\tByron");
     accessKey('S');
     EXPECT_EQ(line(scene(), stored().mid(0, 4).join(' ')), "2 frmMain: cmdIn, Byron Ada None None");
