@@ -81,10 +81,7 @@ TEST_F(Calendar, DeliversADateByClickAndByEnterWithoutAQuestion)
 {
     const std::pair<std::function<void()>, QString> ways[] = {{[] { clickDay(2, 3); }, "1/17/2007"},
         {[] { press(Qt::Key_PageDown), clickDay(0, 3); }, "1/31/2007"}, // the last days of January before February
-        {[] {
-             press({Qt::Key_Right, Qt::Key_Return});
-         },
-            "2/1/2007"}};
+        {[] { press(Qt::Key_Right), type("\n"); }, "2/1/2007"}};
     for (const auto& [way, delivered] : ways)
         EXPECT_EQ(after([&way] {
             way();
@@ -111,19 +108,10 @@ TEST_F(Calendar, TakesTheDateAlongWithEveryTurnAndSaysIt)
         {[] { wheel(*days().viewport(), -120); }, "April 2007: Sunday, April 1, 2007"},
         {[] { clickTurner("Next year"); }, "April 2008: Tuesday, April 1, 2008"},
         {[] { clickTurner("Previous month"); }, "March 2008: Saturday, March 1, 2008"},
-        {[] {
-             press({Qt::Key_Tab, Qt::Key_Space});
-         },
-            "March 2007: Previous year, Thursday, March 1, 2007"},
-        {[] {
-             press({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return});
-         },
-            "April 2007: Next month, Sunday, April 1, 2007"},
+        {[] { type("\t "); }, "March 2007: Previous year, Thursday, March 1, 2007"},
+        {[] { type("\t\t\n"); }, "April 2007: Next month, Sunday, April 1, 2007"},
         {[] { press(Qt::Key_Right); }, "April 2007: Next month, Monday, April 2, 2007"},
-        {[] {
-             press({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Right});
-         },
-            "April 2007: Tuesday, April 3, 2007"},
+        {[] { type("\t\t"), press(Qt::Key_Right); }, "April 2007: Tuesday, April 3, 2007"},
         {backTab, "April 2007: Next year, Tuesday, April 3, 2007"},
     };
     const QString taken = after([&moves] {
@@ -132,7 +120,7 @@ TEST_F(Calendar, TakesTheDateAlongWithEveryTurnAndSaysIt)
             EXPECT_EQ(state(), after);
         }
         EXPECT_EQ(days().accessibleName(), "Days of April 2007");
-        press({Qt::Key_Tab, Qt::Key_Return});
+        type("\t\n");
     });
     EXPECT_EQ(taken, "10 frmAddUpDel: cmbLoc, 4/3/2007");
 }
