@@ -8,8 +8,6 @@
 
 namespace {
 
-const char* const BadExpiration =
-    "Invalid Policy Expiration Date...Be Sure The Format Is mm/dd/yyyy (Example: 12/25/2005)";
 const char* const Updated = "Your Insurance Information Has Been Updated!";
 const char* const Refused = "You Must Select A Future Policy Expiration Date Before Selecting This Option!";
 const char* const LoseQuestion = "Information Has Changed Regarding This Policy, All Changes Will Be Lost...Continue?";
@@ -85,16 +83,16 @@ TEST_F(Policy, IsKeptFromTheFirstOneOnWhereverTheBoxIsWorkedOnADateThatHasNotPas
         press(Qt::Key_Space);
         EXPECT_EQ(kept(), "Mutual|None|11/24/2026|$1,000.00|" + QString(notify));
     }
+    click(policy().cmdClear);
+    EXPECT_EQ(shownPolicy(), "None, None, None, $0.00 @ 8 frmInsInfo: cmdClear");
 }
 
-TEST_F(Policy, IsNotLostWithoutAQuestionWhicheverOfItsFieldsDiffers)
+TEST_F(Policy, IsNotLostWithoutAQuestionWhicheverOfItsFieldsDiffersButByItsCloseBox)
 {
     const std::function<void()> changes[] = {[] { type(policy().txtCompany, "O"); },
         [] { type(policy().txtPolicyNum, "O"); }, [this] { takeDate({Qt::Key_Right}); },
         [] { type(policy().txtCoverageAmt, "7"); },
-        [] {
-            put(Data1.rsGeneral, {{General::PolicyNotify, "Yes"}});
-        }};
+        [] { Data1.rsGeneral.Fields(General::PolicyNotify) = "yes", Data1.rsGeneral.Update(); }};
     openAndChange("12/25/2026", "No", "MUTUAL"); // which is the same
     click(policy().cmdCancel);
     for (const auto& change : changes) {
@@ -104,7 +102,15 @@ TEST_F(Policy, IsNotLostWithoutAQuestionWhicheverOfItsFieldsDiffers)
         expectToStay([] { click(policy().cmdCancel); }, LoseQuestion);
         clickTold(policy().cmdCancel, LoseQuestion, YesNoQuestion, Answer::Yes);
     }
-    EXPECT_EQ(kept(), "Mutual|P-1|12/25/2026|$5.00|Yes");
+    click(personal().cmdInsInfo);
+    policy().txtPolicyNum.setFocus();
+    press(Qt::Key_Delete);
+    tab();
+    EXPECT_EQ(shownPolicy(), "Mutual, None, 12/25/2026, $5.00 @ 8 frmInsInfo: txtPolicyExpire [12/25/2026]");
+    closeBox(policy()); // the one way out that asks nothing
+    EXPECT_EQ(kept() + scene(), "Mutual|P-1|12/25/2026|$5.00|yes" + Back);
+    click(personal().cmdInsInfo);
+    EXPECT_EQ(scene(), "8 frmInsInfo: txtCompany [Mutual]") << "a new screen, which begins anew";
 }
 
 TEST_F(Policy, RefusesTheBoxOnAPastDateAndOnNone)
@@ -119,7 +125,6 @@ TEST_F(Policy, RefusesTheBoxOnAPastDateAndOnNone)
     EXPECT_EQ(kept(), before);
     tab(); // the tint goes with the focus
     click(policy().cmdClear);
-    EXPECT_EQ(shownPolicy(), "None, None, None, $0.00 @ 8 frmInsInfo: cmdClear");
     policy().txtCoverageAmt.setFocus();
     expectBox(Refused, Exclamation); // at the release of the very Tab that enters
     tab();
@@ -158,7 +163,8 @@ TEST_F(Policy, TellsAnAmountThatIsNoneAndAFileThatRefusesAndKeepsTheRowWhole)
         if (isFull)
             refuseWrites("UPDATE", "Personal_Info");
         type(policy().txtCoverageAmt, isFull ? "7" : "1/2");
-        clickTold(policy().cmdUpdate, BadExpiration, Exclamation);
+        clickTold(policy().cmdUpdate,
+            "Invalid Policy Expiration Date...Be Sure The Format Is mm/dd/yyyy (Example: 12/25/2005)", Exclamation);
         EXPECT_EQ(scene(), "8 frmInsInfo: txtPolicyExpire [12/25/2026]");
         EXPECT_EQ(Data1.rsGeneral.Fields(General::PolicyCompany), "Mutual") << "nor left over for the next save";
         clickTold(policy().chkNotify, Refused, Exclamation); // the same in the other save
@@ -169,19 +175,6 @@ TEST_F(Policy, TellsAnAmountThatIsNoneAndAFileThatRefusesAndKeepsTheRowWhole)
     makeRoom("Personal_Info");
     clickTold(policy().cmdUpdate, Updated, Information);
     EXPECT_EQ(kept() + scene(), "Other|P-1|12/25/2026|None|No" + Back);
-}
-
-TEST_F(Policy, EndsAtItsCloseBoxWithoutAQuestionAndBeginsAnew)
-{
-    openAndChange("None", "yes"); // the exact case counts here
-    policy().txtPolicyNum.setFocus();
-    press(Qt::Key_Delete);
-    tab();
-    EXPECT_EQ(shownPolicy(), "Other, None, None, $5.00 @ 8 frmInsInfo: txtPolicyExpire [None]");
-    closeBox(policy());
-    EXPECT_EQ(kept() + scene(), "Mutual|P-1|None|$5.00|yes" + Back);
-    click(personal().cmdInsInfo);
-    EXPECT_EQ(shownPolicy(), "Mutual, P-1, None, $5.00 @ 8 frmInsInfo: txtCompany [Mutual]");
 }
 
 } // namespace
