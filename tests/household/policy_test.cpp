@@ -73,7 +73,7 @@ TEST_F(Policy, IsKeptFromTheFirstOneOnWhereverTheBoxIsWorkedOnADateThatHasNotPas
     type(policy().txtCoverageAmt, "1000");
     takeDate({Qt::Key_Right}); // from today on
     click(policy().chkNotify);
-    EXPECT_EQ(kept(), "Mutual|None|11/25/2026|$1,000.00|Yes");
+    EXPECT_EQ(line(kept(), policy().txtCoverageAmt.text()), "Mutual|None|11/25/2026|$1,000.00|Yes, $1,000.00");
     takeDate({Qt::Key_Left}); // today has not passed
     clickTold(policy().cmdUpdate, Updated, Information);
     EXPECT_EQ(kept() + scene(), "Mutual|None|11/24/2026|$1,000.00|Yes" + Back);
