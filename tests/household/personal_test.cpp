@@ -12,7 +12,7 @@ using FirstRun = HouseholdTest;
 TEST_F(FirstRun, LeadsByKeysAndCloseBoxFromTheIntroductionToTheMenuWithTheRowSaved)
 {
     const auto introduced = [] { return inFile(Data1.rsGeneral, {General::Introduced}) == QStringList("1"); };
-    store("7");
+    put(Data1.rsGeneral, {{General::City, "7"}});
     screen<frmIntroduction>().show();
     EXPECT_FALSE(introduced());
     press(Qt::Key_Return);
@@ -36,10 +36,7 @@ TEST_F(PersonalEntries, LetInWhatTheyTakeHoweverItComesAndHopWhenTheyAreFull)
     auto& state = personal().cmbState;
     auto& area = personal().txtInfo[7];
     auto& phone = personal().txtInfo[12];
-    const auto erase = [] {
-        press(Qt::Key_End);
-        press(Qt::Key_Backspace);
-    };
+    const auto erase = [] { press(Qt::Key_End), press(Qt::Key_Backspace); };
     const std::tuple<std::function<void()>, const forms::TextEntry&, QString> steps[] = {
         {[&] { type(area, "20"); }, area, "20 @ txtInfo(7)"}, {[] { type("7555"); }, area, "207 @ txtInfo(9)"},
         {[&] { click(area), erase(); }, area, "20 @ txtInfo(7)"}, // deleting doesn't hop
@@ -69,7 +66,8 @@ TEST_F(PersonalRecord, HoldsAMarkerForEveryEmptyBoxAndGivesAllElseBackAsItStoodB
         openFromMenu();
         return saved;
     };
-    store("1");
+    for (int entry = 0; entry < 17; ++entry)
+        put(Data1.rsGeneral, {{entry, "1"}});
     openFromMenu();
     EXPECT_EQ(shown().join(""), QString(17, '1'));
     for (int entry = 0; entry < 17; ++entry)

@@ -3,6 +3,8 @@
 #include "household/household.h"
 #include "platform/storage/statement.h"
 
+#include <QLabel>
+
 namespace {
 
 class Totals : public ScreenTest {
@@ -36,6 +38,15 @@ protected:
             texts.append(label->caption());
         return texts.join('|');
     }
+
+    /// How far from the left of the screen the decimal point of an amount stands.
+    static int pointOf(const forms::Label& amount)
+    {
+        const auto& label = static_cast<const QLabel&>(*amount.widget());
+        const QString cents = label.text().mid(label.text().indexOf('.'));
+        const QPoint end = label.contentsRect().topRight();
+        return label.mapTo(label.window(), end).x() - label.fontMetrics().horizontalAdvance(cents);
+    }
 };
 
 TEST_F(Totals, CountAndSumEachAreaAnewAndWarnWhereTheSumsExceedTheCoverageAndTheRunningTotalIsNotZero)
@@ -60,6 +71,8 @@ TEST_F(Totals, CountAndSumEachAreaAnewAndWarnWhereTheSumsExceedTheCoverageAndThe
     storeHousehold("0.01", "$1231.63"); // equal is no excess
     pressValue();
     EXPECT_EQ(shownTotals().section('|', 3), "1 Outdoor Asset =>|($5.00)|2 Mobile Assets =>|$2.13|5|$1,231.63");
+    for (const auto* amount : {&screen<frmTotals>().lblOutdoorTots, &screen<frmTotals>().lblGrandTot})
+        EXPECT_EQ(pointOf(*amount), pointOf(screen<frmTotals>().lblIndoorTots));
     closeBox(screen<frmTotals>());
     EXPECT_EQ(scene(), "2 frmMain: cmdValue");
 
