@@ -83,6 +83,8 @@ TEST_F(Policy, IsKeptFromTheFirstOneOnWhereverTheBoxIsWorkedOnADateThatHasNotPas
     }
     click(policy().cmdClear);
     EXPECT_EQ(shownPolicy(), "None, None, None, $0.00 @ 8 frmInsInfo: cmdClear");
+    clickTold(policy().cmdUpdate, Updated, Information);
+    EXPECT_EQ(kept(), "None|None|None|$0.00|No");
 }
 
 TEST_F(Policy, IsNotLostWithoutAQuestionWhicheverOfItsFieldsDiffersButByItsCloseBox)
@@ -154,13 +156,13 @@ TEST_F(Policy, TakesItsDateFromTheCalendarAloneAndResetsTheBoxOnAPastOne)
     EXPECT_EQ(kept(), "Other|P-1|10/25/2026|$5.00|No");
 }
 
-TEST_F(Policy, TellsAnAmountThatIsNoneAndAFileThatRefusesAndKeepsTheRowWhole)
+TEST_F(Policy, TellsAnAmountThatIsNoneOrTooLargeAndAFileThatRefusesAndKeepsTheRowWhole)
 {
     openAndChange("12/25/2026", "Yes");
-    for (const bool isFull : {false, true}) {
-        if (isFull)
+    for (const QString amount : {"1/2", "99999999999999999999", "7"}) {
+        if (amount == "7")
             refuseWrites("UPDATE", "Personal_Info");
-        type(policy().txtCoverageAmt, isFull ? "7" : "1/2");
+        type(policy().txtCoverageAmt, amount);
         clickTold(policy().cmdUpdate,
             "Invalid Policy Expiration Date...Be Sure The Format Is mm/dd/yyyy (Example: 12/25/2005)", Exclamation);
         EXPECT_EQ(scene(), "8 frmInsInfo: txtPolicyExpire [12/25/2026]");
