@@ -5,11 +5,12 @@
 #include "core/frmMain.h"
 #include "core/frmStartup.h"
 #include "household/frmTotals.h"
-#include "platform/values/text.h"
+#include "platform/storage/folded_text.h"
 
 #include <algorithm>
 
 using forms::screen;
+using storage::FoldedText;
 using storage::TableView;
 using values::Currency;
 using values::Integer;
@@ -19,7 +20,7 @@ namespace {
 constexpr int TotalsScreen = 6;
 
 struct AreaSum {
-    QString area;
+    FoldedText area;
     Currency frmTotals::*total;
     Integer frmTotals::*count;
     forms::Label frmTotals::*amount;
@@ -29,12 +30,12 @@ struct AreaSum {
 };
 
 const AreaSum areaSums[] = {
-    {"Indoor", &frmTotals::IndoorTotal, &frmTotals::IndoorCount, &frmTotals::lblIndoorTots, &frmTotals::lblInNumAssets,
-        " Indoor Asset =>", " Indoor Assets =>"},
-    {"Outdoor", &frmTotals::OutdoorTotal, &frmTotals::OutdoorCount, &frmTotals::lblOutdoorTots,
+    {FoldedText("Indoor"), &frmTotals::IndoorTotal, &frmTotals::IndoorCount, &frmTotals::lblIndoorTots,
+        &frmTotals::lblInNumAssets, " Indoor Asset =>", " Indoor Assets =>"},
+    {FoldedText("Outdoor"), &frmTotals::OutdoorTotal, &frmTotals::OutdoorCount, &frmTotals::lblOutdoorTots,
         &frmTotals::lblOutNumAssets, " Outdoor Asset =>", " Outdoor Assets =>"},
-    {"Mobile", &frmTotals::MobileTotal, &frmTotals::MobileCount, &frmTotals::lblMobileTots, &frmTotals::lblMobNumAssets,
-        " Mobile Asset =>", " Mobile Assets =>"},
+    {FoldedText("Mobile"), &frmTotals::MobileTotal, &frmTotals::MobileCount, &frmTotals::lblMobileTots,
+        &frmTotals::lblMobNumAssets, " Mobile Asset =>", " Mobile Assets =>"},
 };
 
 void empty(frmTotals& totals)
@@ -50,9 +51,9 @@ void empty(frmTotals& totals)
 // An asset of no known area counts among all assets and is worth nothing.
 void add_Asset(frmTotals& totals, TableView& asset)
 {
-    const QString& area = asset.Fields(Inventory::Area).text();
-    const auto sum = std::find_if(std::begin(areaSums), std::end(areaSums),
-        [&area](const AreaSum& each) { return values::equalUpper(area, each.area); });
+    const auto area = asset.Fields(Inventory::Area);
+    const auto sum = std::find_if(
+        std::begin(areaSums), std::end(areaSums), [&area](const AreaSum& each) { return area.equals(each.area); });
     if (sum != std::end(areaSums)) {
         const Currency amount = asset.Fields(Inventory::Amount).currency().rounded();
         totals.*sum->total += amount;

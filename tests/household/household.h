@@ -34,11 +34,4 @@ protected:
             texts += i == General::State ? personal().cmbState.text() : personal().txtInfo[i].text();
         return texts;
     }
-
-    /// The same text in every column of the row.
-    static void store(const QString& text)
-    {
-        for (int i = General::Last; i <= General::EMail; ++i)
-            put(Data1.rsGeneral, {{i, text}});
-    }
 };

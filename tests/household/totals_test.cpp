@@ -3,6 +3,8 @@
 #include "household/household.h"
 #include "platform/storage/statement.h"
 
+#include <QLabel>
+
 namespace {
 
 class Totals : public ScreenTest {
@@ -36,15 +38,24 @@ protected:
             texts.append(label->caption());
         return texts.join('|');
     }
+
+    /// How far from the left of the screen the decimal point of an amount stands.
+    static int pointOf(const forms::Label& amount)
+    {
+        const auto& label = static_cast<const QLabel&>(*amount.widget());
+        const QString cents = label.text().mid(label.text().indexOf('.'));
+        const QPoint end = label.contentsRect().topRight();
+        return label.mapTo(label.window(), end).x() - label.fontMetrics().horizontalAdvance(cents);
+    }
 };
 
-TEST_F(Totals, CountAndSumEachAreaAnewAndLeadBackToTheMenu)
+TEST_F(Totals, CountAndSumEachAreaAnewAndWarnWhereTheSumsExceedTheCoverageAndTheRunningTotalIsNotZero)
 {
     expectBox("No Assets Are Available To Total...Please Add An Asset Before Continuing!", Information);
     pressValue();
     EXPECT_EQ(scene(), "2 frmMain: cmdValue");
 
-    storeHousehold("0", "$0.00");
+    storeHousehold("0", "$0.00"); // no running total, no warning
     addAssets(1, "INDOOR", "$1,234.5");
     addAssets(1, "Mobile", "$2");
     addAssets(1, "Mobile", "$0.126"); // counts as it is printed
@@ -57,21 +68,16 @@ TEST_F(Totals, CountAndSumEachAreaAnewAndLeadBackToTheMenu)
     EXPECT_EQ(scene(), "2 frmMain: cmdValue");
 
     addAssets(1, "Outdoor", "-$5.00");
+    storeHousehold("0.01", "$1231.63"); // equal is no excess
     pressValue();
     EXPECT_EQ(shownTotals().section('|', 3), "1 Outdoor Asset =>|($5.00)|2 Mobile Assets =>|$2.13|5|$1,231.63");
+    for (const auto* amount : {&screen<frmTotals>().lblOutdoorTots, &screen<frmTotals>().lblGrandTot})
+        EXPECT_EQ(pointOf(*amount), pointOf(screen<frmTotals>().lblIndoorTots));
     closeBox(screen<frmTotals>());
     EXPECT_EQ(scene(), "2 frmMain: cmdValue");
-}
 
-TEST_F(Totals, WarnWhereTheSumsExceedTheCoverageAndTheRunningTotalIsNotZero)
-{
-    addAssets(1, "Indoor", "$1,500.00");
-    storeHousehold("0.01", "$1500");
-    pressValue(); // equal is no excess
-    storeHousehold("0", "$0.00");
-    pressValue(); // no running total, no warning
-    storeHousehold("-0.01", "1499.99");
-    expectBox("Your Assets Currently Exceed Your Policy Coverage Of $1,499.99...It Is Recommended You Increase Your "
+    storeHousehold("-0.01", "1231.62");
+    expectBox("Your Assets Currently Exceed Your Policy Coverage Of $1,231.62...It Is Recommended You Increase Your "
               "Insurance Coverage!",
         Exclamation);
     pressValue();

@@ -51,6 +51,19 @@ private:
 
 // ---- labels
 
+namespace {
+
+// What is left free on the right of a number, so that its point stands where that of an amount in larger type does.
+int marginBehind(const QString& number, const QFontMetrics& metrics)
+{
+    const QFontMetrics largest(look::fontOf(TextRole::Heading));
+    const qsizetype point = number.indexOf(u'.');
+    const int shown = point < 0 ? 0 : metrics.horizontalAdvance(number.mid(point));
+    return largest.horizontalAdvance(QStringLiteral(".00)")) - shown;
+}
+
+} // namespace
+
 Label::Label(Form& form, const QString& name)
     : Control(form, name)
     , label_(new LabelWidget(form.canvas(), [this](bool down, bool inside) {
@@ -79,10 +92,8 @@ void Label::setCaption(const QString& caption)
     }
     const ToolkitCall call;
     label_->setText(shown);
-    if (alignsAmounts_) {
-        const int hanging = caption.endsWith(u')') ? 0 : label_->fontMetrics().horizontalAdvance(u')');
-        label_->setContentsMargins(0, 0, hanging, 0);
-    }
+    if (alignsAmounts_)
+        label_->setContentsMargins(0, 0, marginBehind(caption, label_->fontMetrics()), 0);
 }
 
 void Label::setRole(TextRole role)

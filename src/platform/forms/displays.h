@@ -32,8 +32,8 @@ public:
     /// Breaks the text into lines at the given width in average characters.
     void wrapAt(int characters);
 
-    /// Stands on the right, amounts of several labels one below the other on their decimal points: the closing
-    /// parenthesis of an amount below zero hangs over.
+    /// Stands on the right, amounts of several labels one below the other on their decimal points, whichever role each
+    /// has: the closing parenthesis of an amount below zero hangs over.
     void alignAmounts();
 
     /// Names a control: for assistive tools, and for the caption's access key, which moves the focus there.
