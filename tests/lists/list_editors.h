@@ -6,7 +6,6 @@
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
-#include "platform/forms/look.h"
 
 #include <QRegularExpression>
 
@@ -66,8 +65,5 @@ protected:
         return rowsOf(table, Names::Location, Names::Standard).filter(flag).replaceInStrings(flag, {});
     }
 
-    static bool isRefused(const forms::Control& box)
-    {
-        return box.hasFocus() && box.backColour() == forms::look::colours().error;
-    }
+    static bool isRefused(const forms::Control& box) { return box.hasFocus() && box.backColour().name() == "#ffc0c0"; }
 };
