@@ -101,6 +101,7 @@ TEST_F(ListEditors, ChangeRefusesInItsOrder)
     clickTold(changing().cmdUpdate, "The New Information Must Be Entered Before Updating!", Exclamation);
     EXPECT_EQ(line(isRefused(changing().txtNew), changing().cmbCat.backColour().name()), "true, #ffffff");
     expectToStay([] { closeBox(changing()); }, LeaveChange);
+    type(changing().txtNew, "Den");
     clickTold(changing().cmdCancel, LeaveChange, YesNoQuestion, Answer::Yes);
 
     open(Change);
