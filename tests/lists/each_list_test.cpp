@@ -2,8 +2,6 @@
 // The six lists, each on its way through the menu and the three editors.
 #include "lists/list_editors.h"
 
-using forms::Answer;
-
 namespace {
 
 struct EditedList {

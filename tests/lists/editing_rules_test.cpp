@@ -6,8 +6,6 @@
 
 #include <QApplication>
 
-using forms::Answer;
-
 namespace {
 
 const QString NameAdded = " Your Indoor %1 Has Been Added!";
@@ -40,7 +38,8 @@ TEST_F(ListEditors, MenuPutsTheOldSelectionBack)
                 pick(boxOf(kind), chosen);
             pickMarker(kind);
             closeBox(menu());
-            EXPECT_EQ(line(scene(), boxOf(kind).text()), line("10 frmAddUpDel: cmb" + kind.left(3), chosen));
+            EXPECT_EQ(line(scene(), boxOf(kind).text(), boxOf(kind).list(0)),
+                line("10 frmAddUpDel: cmb" + kind.left(3), chosen, "< Add/Edit " + kind + " >"));
         }
 }
 
