@@ -6,7 +6,8 @@
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
-#include "platform/forms/look.h"
+
+#include <QRegularExpression>
 
 /// A test with the list editors, reached through the markers of the asset screen.
 class ListEditors : public AssetScreenTest {
@@ -57,25 +58,12 @@ protected:
         click(deleting().cmdUpdate);
     }
 
-    static void addAsset(const QString& area, const QString& location, const QString& category)
-    {
-        addRow(Data1.rsInventory, Inventory::Area, {area, location, category});
-    }
-
     /// The rows that didn't come with the program, as "location|category|item".
     static QStringList usersRows(const storage::TableView& table = Data1.rsIndoor)
     {
-        QStringList users;
-        const storage::Snapshot rows = table.snapshot();
-        for (int row = 0; row < rows.rowCount(); ++row)
-            if (rows.text(row, Names::Standard) == "0")
-                users += rows.text(row, Names::Location) + '|' + rows.text(row, Names::Category) + '|'
-                    + rows.text(row, Names::Type);
-        return users;
+        const QRegularExpression flag("\\|0$");
+        return rowsOf(table, Names::Location, Names::Standard).filter(flag).replaceInStrings(flag, {});
     }
 
-    static bool isRefused(const forms::Control& box)
-    {
-        return box.hasFocus() && box.backColour() == forms::look::colours().error;
-    }
+    static bool isRefused(const forms::Control& box) { return box.hasFocus() && box.backColour().name() == "#ffc0c0"; }
 };
