@@ -25,6 +25,8 @@ namespace help {
 namespace {
 
 constexpr double shareOfDesktop = 0.9;
+constexpr int shareOfContents = 32; // beside that of the page, in a window of any width
+constexpr int shareOfPage = 80;
 
 constexpr parts::ButtonLook buttons[] = {
     {"back", "&Back", "back", "Back To The Topic Before (Alt+Left)"},
@@ -194,8 +196,9 @@ void Viewer::layOut()
     halves->addWidget(right);
     for (int index = 0; index < halves->count(); ++index)
         halves->handle(index)->setAccessibleName(QStringLiteral("Divider"));
-    halves->setStretchFactor(1, 1);
-    halves->setSizes({forms::look::grid(32), forms::look::grid(80)});
+    halves->setStretchFactor(0, shareOfContents);
+    halves->setStretchFactor(1, shareOfPage);
+    halves->setSizes({forms::look::grid(shareOfContents), forms::look::grid(shareOfPage)});
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});

@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTreeWidget>
 
 namespace {
 
@@ -135,6 +136,7 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
     viewer_->close();
     viewer_->open("1001");
     EXPECT_LT(viewer_->width(), viewer_->screen()->availableSize().width()) << "its captions give way";
+    EXPECT_GT(text().width(), 2 * part<QTreeWidget>("contents").width()) << "and the contents";
     EXPECT_GE(text().font().pointSizeF(), 2 * size);
     const QVariant picture = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
     EXPECT_LT(picture.value<QImage>().width(), text().viewport()->width());
