@@ -81,16 +81,14 @@ TEST_F(Calendar, DeliversADateByClickAndByEnterWithoutAQuestion)
 {
     const std::pair<std::function<void()>, QString> ways[] = {{[] { clickDay(2, 3); }, "1/17/2007"},
         {[] { press(Qt::Key_PageDown), clickDay(0, 3); }, "1/31/2007"}, // the last days of January before February
-        {[] {
-             press({Qt::Key_Right, Qt::Key_Return});
-         },
-            "2/1/2007"}};
-    for (const auto& [way, delivered] : ways)
-        EXPECT_EQ(after([&way] {
+        {[] { press(Qt::Key_Right), press(Qt::Key_Return); }, "2/1/2007"}};
+    for (const auto& [way, delivered] : ways) {
+        const auto pick = [&way] {
             way();
             EXPECT_EQ(frmStartup::CurrentScreen, 10) << "before the asset screen is in front again";
-        }),
-            "10 frmAddUpDel: cmbLoc, " + delivered);
+        };
+        EXPECT_EQ(after(pick), "10 frmAddUpDel: cmbLoc, " + delivered);
+    }
 }
 
 TEST_F(Calendar, TakesTheDateAlongWithEveryTurnAndSaysIt)
@@ -111,19 +109,11 @@ TEST_F(Calendar, TakesTheDateAlongWithEveryTurnAndSaysIt)
         {[] { wheel(*days().viewport(), -120); }, "April 2007: Sunday, April 1, 2007"},
         {[] { clickTurner("Next year"); }, "April 2008: Tuesday, April 1, 2008"},
         {[] { clickTurner("Previous month"); }, "March 2008: Saturday, March 1, 2008"},
-        {[] {
-             press({Qt::Key_Tab, Qt::Key_Space});
-         },
-            "March 2007: Previous year, Thursday, March 1, 2007"},
-        {[] {
-             press({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return});
-         },
+        {[] { press(Qt::Key_Tab), press(Qt::Key_Space); }, "March 2007: Previous year, Thursday, March 1, 2007"},
+        {[] { press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Return); },
             "April 2007: Next month, Sunday, April 1, 2007"},
         {[] { press(Qt::Key_Right); }, "April 2007: Next month, Monday, April 2, 2007"},
-        {[] {
-             press({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Right});
-         },
-            "April 2007: Tuesday, April 3, 2007"},
+        {[] { press(Qt::Key_Tab), press(Qt::Key_Tab), press(Qt::Key_Right); }, "April 2007: Tuesday, April 3, 2007"},
         {backTab, "April 2007: Next year, Tuesday, April 3, 2007"},
     };
     const QString taken = after([&moves] {
