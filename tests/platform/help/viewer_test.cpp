@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -136,7 +138,15 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
     viewer_->close();
     viewer_->open("1001");
     EXPECT_LT(viewer_->width(), viewer_->screen()->availableSize().width()) << "its captions give way";
-    EXPECT_GT(text().width(), 2 * part<QTreeWidget>("contents").width()) << "and the contents";
+    EXPECT_GT(text().width(), part<QTreeWidget>("contents").width()) << "and the contents";
+    part<QLineEdit>("sought").setText("receipts");
+    settle();
+    auto& found = part<QListWidget>("found");
+    QStyleOptionViewItem look;
+    look.initFrom(&found);
+    look.widget = &found;
+    EXPECT_EQ(found.visualItemRect(found.item(0)).height(),
+        found.itemDelegate()->sizeHint(look, found.model()->index(0, 0)).height());
     EXPECT_GE(text().font().pointSizeF(), 2 * size);
     const QVariant picture = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
     EXPECT_LT(picture.value<QImage>().width(), text().viewport()->width());
