@@ -57,15 +57,15 @@ protected:
 
     QTextBrowser& text() { return part<QTextBrowser>("page"); }
 
-    /// The page, the part that has the focus, what is selected, what the search says, which ways are shut.
+    /// The page, the part that has the focus, what is selected, what search and find say, which ways are shut.
     QString state()
     {
         settle();
         QString all = viewer_->windowTitle().remove(" - Help") + ", " + QApplication::focusWidget()->objectName();
         if (text().textCursor().hasSelection())
             all += " [" + text().textCursor().selectedText() + ']';
-        if (part<QLabel>("searchState").isVisible())
-            all += ": " + part<QLabel>("searchState").text();
+        for (const char* words : {"searchState", "findState"})
+            all += part<QLabel>(words).isVisible() ? ": " + part<QLabel>(words).text() : QString();
         for (const char* way : {"back", "forward"})
             all += part<QPushButton>(way).isEnabled() ? QString() : QString(", no ") + way;
         return all;
@@ -108,6 +108,8 @@ TEST_F(HelpViewer, LeadsByTopicsLinksContentsFindingAndSearch)
             "Backup, toContents, no forward"},
         {[this] { key(Qt::Key_F1); }, "Welcome, toContents, no forward"},
         {[this] { key(Qt::Key_F, Qt::ControlModifier, "RECEIPT"); }, "Welcome, findWords [receipt], no forward"},
+        {[this] { key(Qt::Key_F3, Qt::ShiftModifier); },
+            "Welcome, findWords [receipt]: From the bottom again., no forward"},
         {[this] { key(Qt::Key_Escape); }, "Welcome, page [receipt], no forward"},
         {[this] { key(Qt::Key_K, Qt::ControlModifier, "nowhere"); },
             "Welcome, sought [receipt]: Nothing was found about \"nowhere\". Try another word., no forward"},
