@@ -83,10 +83,10 @@ TEST_F(StartUp, SaysWhenThePolicyExpiresAndBlamesTheDatabaseForADateThatIsNoneOr
 {
     const QString expired = "Your Insurance Policy Has Expired...Please Renew Your Insurance Policy So You Can "
                             "Ensure Coverage In The Event Of Theft Or Disaster!";
-    const QString today = "    Your Insurance Policy Expires Today! ";
     const QString failure = "failure";
     const std::tuple<const char*, const char*, QString> alerts[] = {{"Yes", "11/25/1950", expired},
-        {"Yes", "11/23/2026", expired}, {"yES", "11/24/2026", today}, {"Yes ", "11/24/2026", {}}, {"No", "None", {}},
+        {"Yes", "11/23/2026", expired}, {"yES", "11/24/2026", "    Your Insurance Policy Expires Today! "},
+        {"Yes ", "11/24/2026", {}}, {"No", "None", {}},
         {"Yes", "11/25/2026", "   Your Insurance Policy Expires In 1 Day!"},
         {"Yes", "11/26/2026", "Your Insurance Policy Expires In 2 Days!"},
         {"Yes", "12/24/2026", "Your Insurance Policy Expires In 30 Days!"}, {"Yes", "12/25/2026", {}},
