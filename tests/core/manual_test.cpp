@@ -44,10 +44,9 @@ TEST_F(HelpPages, AreWhereTopicsContentsAndLinksLead)
         there_.insert("pictures/" + picture);
     for (const QString& topic : book_.topics())
         needed_.insert(book_.placeOf(topic));
-    QSet<QString> chapters;
     for (const help::Chapter& chapter : book_.contents())
-        chapters.insert(chapter.title + ", " + chapter.place);
-    EXPECT_EQ(chapters, titles_);
+        EXPECT_TRUE(titles_.remove(chapter.title + ", " + chapter.place)) << chapter.title.toStdString();
+    EXPECT_EQ(titles_, QSet<QString>()) << "no chapter leads there";
     EXPECT_EQ(QStringList((needed_ - there_).values()), QStringList());
 }
 
@@ -58,10 +57,8 @@ TEST_F(HelpPages, AreFoundByPlainWords)
         {"back up", "earlier-backups"}, {"forgot", "questions"}, {"password", "questions"}, {"typo", "questions"},
         {"theft", "after-a-loss"}, {"fire", "after-a-loss"}, {"Receipts", "gathering"}, {"photo", "gathering"},
         {"new computer", "other-computer"}, {"quit", "closing"}};
-    for (const auto& [words, page] : sought) {
-        const std::vector<help::Hit> hits = index.find(words);
-        EXPECT_EQ(hits.empty() ? QString() : hits.front().page, QString(page) + ".html") << words;
-    }
+    for (const auto& [words, page] : sought)
+        EXPECT_EQ(index.find(words).at(0).page, QString(page) + ".html") << words;
 }
 
 } // namespace

@@ -34,7 +34,7 @@ protected:
             QByteArray("<p>Line</p>").repeated(80) + "<h2 id='short'>Short</h2>"
                 + QByteArray("<p>Receipts, Line</p>").repeated(80));
         putPage("backup.html", "Backup", "<p>A copy of all.</p>");
-        QImage(400, 100, QImage::Format_RGB32).save(folder_.filePath("wide.png"));
+        QImage(160, 40, QImage::Format_RGB32).save(folder_.filePath("wide.png"));
         viewer_.emplace(help::Book(folder_.path()), "Help");
         forms::setHelpDoor([this](int number, const QString&) { viewer_->open(QString::number(number)); });
         form.setHelpNumber(2001);
@@ -149,6 +149,8 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
     EXPECT_LT(picture.value<QImage>().width(), text().viewport()->width());
     key(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(text().font().pointSizeF(), size);
+    const QVariant usual = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
+    EXPECT_LT(usual.value<QImage>().width(), picture.value<QImage>().width());
 }
 
 TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
