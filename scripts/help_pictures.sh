@@ -37,7 +37,7 @@ household_with_assets() {
 portrait() {
     local left top right bottom frame
     wait_screen "${2:-$1}"
-    xdotool mousemove 1 1 # no tool tip, and no button under the pointer
+    xdotool mousemove 9999 9999 # the corner that is free: no tool tip, no button under the pointer
     read -r left top right bottom <<<"$(rectangle_of "$(active_window)")"
     read -r -a frame <<<"$(xprop -id "$(active_window)" _NET_FRAME_EXTENTS | sed 's/.*= //; s/,//g')"
     left=$((left - frame[0])) right=$((right + frame[1])) top=$((top - frame[2])) bottom=$((bottom + frame[3]))
@@ -104,6 +104,8 @@ reports() {
     keys alt+p
     portrait frmPrint
     go AssetReport alt+i
+    unfold AssetReport Paper
+    go AssetReport Home Return # Letter, whatever the system's own is
     keys ctrl+0
     portrait preview AssetReport
     go frmPrint Escape

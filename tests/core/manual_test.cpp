@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/help/book.h"
+#include "platform/help/word_index.h"
 #include "support/print.h"
 
-#include <QFile>
+#include <QDir>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -10,81 +12,53 @@
 
 namespace {
 
-const help::Book& book()
-{
-    static const help::Book the(":/help");
-    return the;
-}
-
-/// What a page of the book has in it.
-struct Page {
-    explicit Page(const QString& html)
+class HelpPages : public testing::Test {
+protected:
+    /// Reads a page as the viewer does: its title, the places on it, and what it leads to.
+    void read(const QString& page)
     {
         QTextDocument document;
-        document.setHtml(html);
-        title = document.metaInformation(QTextDocument::DocumentTitle);
+        document.setHtml(book_.html(page));
+        titles_.insert(document.metaInformation(QTextDocument::DocumentTitle) + ", " + page);
+        there_.insert(page);
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-            for (auto part = block.begin(); !part.atEnd(); ++part)
-                take(part.fragment().charFormat());
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextCharFormat format = part.fragment().charFormat();
+                const QString link = format.anchorHref();
+                for (const QString& anchor : format.anchorNames())
+                    there_.insert(page + '#' + anchor);
+                needed_.insert(link.startsWith('#') ? page + link : link);
+                needed_.insert(format.toImageFormat().name());
+            }
     }
 
-    QString title;
-    QStringList links;
-    QStringList anchors;
-    QStringList pictures;
-
-private:
-    void take(const QTextCharFormat& format)
-    {
-        anchors += format.anchorNames();
-        if (!format.anchorHref().isEmpty())
-            links += format.anchorHref();
-        if (format.isImageFormat())
-            pictures += format.toImageFormat().name();
-    }
+    const help::Book book_{":/help"};
+    QSet<QString> titles_, there_{""}, needed_;
 };
 
-const std::map<QString, Page>& pages()
+TEST_F(HelpPages, AreWhereTopicsContentsAndLinksLead)
 {
-    static const auto all = [] {
-        std::map<QString, Page> read;
-        for (const QString& name : book().pages())
-            read.emplace(name, book().html(name));
-        return read;
-    }();
-    return all;
+    for (const QString& page : book_.pages())
+        read(page);
+    for (const QString& picture : QDir(":/help/pictures").entryList())
+        there_.insert("pictures/" + picture);
+    for (const QString& topic : book_.topics())
+        needed_.insert(book_.placeOf(topic));
+    for (const help::Chapter& chapter : book_.contents())
+        EXPECT_TRUE(titles_.remove(chapter.title + ", " + chapter.place)) << chapter.title.toStdString();
+    EXPECT_EQ(titles_, QSet<QString>()) << "no chapter leads there";
+    EXPECT_EQ(QStringList((needed_ - there_).values()), QStringList());
 }
 
-bool exists(const QString& place)
+TEST_F(HelpPages, AreFoundByPlainWords)
 {
-    const auto page = pages().find(place.section('#', 0, 0));
-    const QString anchor = place.section('#', 1);
-    return page != pages().end() && (anchor.isEmpty() || page->second.anchors.contains(anchor));
-}
-
-TEST(HelpPages, AreWhereTopicsContentsAndLinksLead)
-{
-    QStringList missing;
-    const auto need = [&missing](const QString& place, bool isThere) {
-        if (!isThere)
-            missing += place;
-    };
-    for (const QString& topic : book().topics())
-        need("topic " + topic, exists(book().placeOf(topic)));
-    QStringList unread = book().pages();
-    for (const help::Chapter& chapter : book().contents()) {
-        const QString page = chapter.place.section('#', 0, 0);
-        need(chapter.title + " at " + chapter.place, exists(chapter.place) && pages().at(page).title == chapter.title);
-        unread.removeAll(page);
-    }
-    EXPECT_EQ(unread, QStringList());
-    for (const auto& [name, page] : pages()) {
-        for (const QString& link : page.links)
-            need(name + ": " + link, exists(link.startsWith('#') ? name + link : link));
-        for (const QString& picture : page.pictures)
-            need(name + ": " + picture, QFile::exists(":/help/" + picture));
-    }
-    EXPECT_EQ(missing, QStringList());
+    const help::WordIndex index(book_);
+    const std::pair<const char*, const char*> sought[] = {{"warranty", "warranty"}, {"backup", "earlier-backups"},
+        {"back up", "earlier-backups"}, {"forgot", "questions"}, {"password", "questions"}, {"typo", "questions"},
+        {"theft", "after-a-loss"}, {"fire", "after-a-loss"}, {"Receipts", "gathering"}, {"photo", "gathering"},
+        {"new computer", "other-computer"}, {"quit", "closing"}};
+    for (const auto& [words, page] : sought)
+        EXPECT_EQ(index.find(words).at(0).page, QString(page) + ".html") << words;
 }
 
 } // namespace

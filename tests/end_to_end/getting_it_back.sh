@@ -29,6 +29,9 @@ by_the_window() {
     start "$Commands/kestrill"
     answer cannot-load Return
     see frmRestore backups
+    keys F1
+    until_true "the page about the window" has_title "Getting Your List Back - Kestrill Help"
+    go frmRestore Escape
     keys Down Return
     answer go-back Return
     see frmRestored restored

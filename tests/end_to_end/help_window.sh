@@ -9,10 +9,8 @@ read_beside_a_screen() {
     help_shows "Main Menu"
     shot help
     keys ctrl+k
-    text forgot
-    shot help-search
-    keys ctrl+a
     text warranty
+    shot help-search
     keys Return
     help_shows "Asset Warranty Information"
     keys ctrl+f

@@ -54,6 +54,16 @@ an_area() {
     report_saved AssetReport asset-report-saved "Page: 2" "Spanner 11"
 }
 
+page_of_the_help() {
+    step "the page of the help about it"
+    keys F1
+    until_true "the page about the menu" has_title "Print Assets - Kestrill Help"
+    print_dialogue
+    keys Return
+    printed 2 1 "Print Assets" "No Assets Found To Print!"
+    keys Escape
+}
+
 some_pages_of_many() {
     step "two copies of two pages, of a report on a thousand assets"
     front frmPrint
@@ -114,6 +124,7 @@ household printing "update Personal_Info set [Last] = 'Fairbanks', [Policy Compa
 start_print_service
 start_at_menu
 an_area
+page_of_the_help
 some_pages_of_many
 cover_sheet_and_form
 troubled_printing

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QVBoxLayout>
 
 namespace help {
 
@@ -20,6 +21,7 @@ FindBar::FindBar(QTextBrowser& page, QWidget* parent)
     , state_(new QLabel(this))
 {
     parts::name(*words_, "findWords", "Words To Find On This Page", "Words To Find On This Page (Ctrl+F)");
+    words_->setMinimumWidth(forms::look::fieldWidth(8));
     words_->setMaximumWidth(forms::look::fieldWidth(30));
     state_->setObjectName(QStringLiteral("findState"));
     auto* words = new QLabel(QStringLiteral("Find On This Page:"), this);
@@ -31,13 +33,16 @@ FindBar::FindBar(QTextBrowser& page, QWidget* parent)
     connect(next, &QPushButton::clicked, this, [this] { find(true); });
     connect(previous, &QPushButton::clicked, this, [this] { find(false); });
 
-    auto* line = new QHBoxLayout(this);
-    line->setContentsMargins(parts::margins());
+    auto* line = new QHBoxLayout;
     line->addWidget(words);
     line->addWidget(words_, 1);
     line->addWidget(next);
     line->addWidget(previous);
-    line->addWidget(state_, 1);
+    line->addStretch(1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(parts::margins());
+    column->addLayout(line);
+    column->addWidget(state_); // beside the buttons it would push the window apart
     hide();
 }
 
@@ -92,6 +97,7 @@ void FindBar::showWords(const QString& words)
 void FindBar::tell(const QString& words, bool isFailure)
 {
     state_->setText(words);
+    state_->setVisible(!words.isEmpty());
     parts::colour(*words_, isFailure ? forms::look::colours().error : forms::look::colours().field);
     if (words.isEmpty())
         return;

@@ -57,6 +57,8 @@ SidePanel::SidePanel(const Book& book, QWidget* parent)
     found_->setItemDelegate(new HitDelegate(found_));
     found_->setResizeMode(QListView::Adjust);
     found_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    found_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // one that came would narrow hits that are measured
+    found_->setWordWrap(true); // has them measured anew in another width
     pages_->addWidget(contents_);
     pages_->addWidget(found_);
     fill();

@@ -194,8 +194,7 @@ void Viewer::layOut()
     halves->addWidget(right);
     for (int index = 0; index < halves->count(); ++index)
         halves->handle(index)->setAccessibleName(QStringLiteral("Divider"));
-    halves->setStretchFactor(1, 1);
-    halves->setSizes({forms::look::grid(32), forms::look::grid(80)});
+    share(2, 5);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
@@ -206,12 +205,23 @@ void Viewer::layOut()
     column->addWidget(status_);
 }
 
-// The pictures and the tool tips say it as well, the access keys stay.
-void Viewer::dropCaptions()
+// What contents and page have of a window of any width.
+void Viewer::share(int ofContents, int ofPage)
 {
-    for (const parts::ButtonLook& look : buttons) {
-        button(look.name)->setText({});
-        button(look.name)->setShortcut(QKeySequence::mnemonic(look.caption));
+    auto* halves = findChild<QSplitter*>(QStringLiteral("halves"));
+    halves->setStretchFactor(0, ofContents);
+    halves->setStretchFactor(1, ofPage);
+}
+
+// The pictures and the tool tips say what the captions do, and the access keys stay. Of less room the contents need a
+// larger share, lest their titles are cut.
+void Viewer::fitIntoLittleRoom()
+{
+    share(2, 3);
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        const QKeySequence accessKey = QKeySequence::mnemonic(button->text());
+        button->setText({});
+        button->setShortcut(accessKey);
     }
 }
 
@@ -221,7 +231,7 @@ void Viewer::placeBesideScreens()
     const QRect desktop = screen()->availableGeometry();
     const QSize room = desktop.size() * shareOfDesktop;
     if (minimumSizeHint().width() > room.width())
-        dropCaptions();
+        fitIntoLittleRoom();
     resize(QSize(forms::look::grid(116), forms::look::grid(88)).boundedTo(room));
     move(desktop.right() - width() - forms::look::grid(1), desktop.top() + (desktop.height() - height()) / 2);
 }

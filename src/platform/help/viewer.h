@@ -29,7 +29,8 @@ private:
     QPushButton* button(const char* name);
     void react();
     void layOut();
-    void dropCaptions();
+    void share(int ofContents, int ofPage);
+    void fitIntoLittleRoom();
     void placeBesideScreens();
 
     void go(const QString& place);

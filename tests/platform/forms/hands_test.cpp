@@ -16,11 +16,7 @@ TEST_F(Hands, TheFocusComesAtThePressWhateverPartItIsOn)
         {"combo", [this] { clickAt(form.combo, QPoint()); }, "locked"},
         {"locked", [this] { clickArrow(form.locked); }, "choice"},
         {"choice", [this] { clickArrow(form.choice); }, "memo"},
-        {"memo",
-            [this] {
-                clickAt(form.memo, {form.memo.widget()->width() - 5, 9});
-            },
-            "check"},
+        {"memo", [this] { clickAt(form.memo, QPoint(form.memo.widget()->width() - 5, 9)); }, "check"},
         {"memo", [this] { EXPECT_TRUE(rightClick(form.memo)); }, "check"},
     };
     for (const auto& [control, press, next] : presses) {

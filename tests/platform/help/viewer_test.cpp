@@ -7,11 +7,14 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTreeWidget>
 
 namespace {
 
@@ -31,7 +34,7 @@ protected:
             QByteArray("<p>Line</p>").repeated(80) + "<h2 id='short'>Short</h2>"
                 + QByteArray("<p>Receipts, Line</p>").repeated(80));
         putPage("backup.html", "Backup", "<p>A copy of all.</p>");
-        QImage(400, 100, QImage::Format_RGB32).save(folder_.filePath("wide.png"));
+        QImage(160, 40, QImage::Format_RGB32).save(folder_.filePath("wide.png"));
         viewer_.emplace(help::Book(folder_.path()), "Help");
         forms::setHelpDoor([this](int number, const QString&) { viewer_->open(QString::number(number)); });
         form.setHelpNumber(2001);
@@ -54,15 +57,15 @@ protected:
 
     QTextBrowser& text() { return part<QTextBrowser>("page"); }
 
-    /// The page, the part that has the focus, what is selected, what the search says, which ways are shut.
+    /// The page, the part that has the focus, what is selected, what search and find say, which ways are shut.
     QString state()
     {
         settle();
         QString all = viewer_->windowTitle().remove(" - Help") + ", " + QApplication::focusWidget()->objectName();
         if (text().textCursor().hasSelection())
             all += " [" + text().textCursor().selectedText() + ']';
-        if (part<QLabel>("searchState").isVisible())
-            all += ": " + part<QLabel>("searchState").text();
+        for (const char* words : {"searchState", "findState"})
+            all += part<QLabel>(words).isVisible() ? ": " + part<QLabel>(words).text() : QString();
         for (const char* way : {"back", "forward"})
             all += part<QPushButton>(way).isEnabled() ? QString() : QString(", no ") + way;
         return all;
@@ -75,8 +78,6 @@ protected:
         QTest::keyClicks(QApplication::focusWidget(), thenTyped);
         settle();
     }
-
-    void click(const char* button) { QTest::mouseClick(&part<QPushButton>(button), Qt::LeftButton); }
 
     /// F1, a search and Esc.
     void read(const char* where)
@@ -103,9 +104,12 @@ TEST_F(HelpViewer, LeadsByTopicsLinksContentsFindingAndSearch)
         {[this] { viewer_->open("9"); }, "Welcome, page, no back, no forward"},
         {[this] { key(Qt::Key_Tab, {}, "\r"); }, "Backup, page, no forward"},
         {[this] { key(Qt::Key_Left, Qt::AltModifier); }, "Welcome, page [More], no back"},
-        {[this] { click("forward"); }, "Backup, toContents, no forward"},
+        {[this] { QTest::mouseClick(&part<QPushButton>("forward"), Qt::LeftButton); },
+            "Backup, toContents, no forward"},
         {[this] { key(Qt::Key_F1); }, "Welcome, toContents, no forward"},
         {[this] { key(Qt::Key_F, Qt::ControlModifier, "RECEIPT"); }, "Welcome, findWords [receipt], no forward"},
+        {[this] { key(Qt::Key_F3, Qt::ShiftModifier); },
+            "Welcome, findWords [receipt]: From the bottom again., no forward"},
         {[this] { key(Qt::Key_Escape); }, "Welcome, page [receipt], no forward"},
         {[this] { key(Qt::Key_K, Qt::ControlModifier, "nowhere"); },
             "Welcome, sought [receipt]: Nothing was found about \"nowhere\". Try another word., no forward"},
@@ -135,11 +139,18 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
     viewer_->close();
     viewer_->open("1001");
     EXPECT_LT(viewer_->width(), viewer_->screen()->availableSize().width()) << "its captions give way";
+    EXPECT_GT(text().width(), part<QTreeWidget>("contents").width()) << "and the contents";
+    part<QLineEdit>("sought").setText("receipts");
+    settle();
+    const auto& found = part<QListWidget>("found");
+    EXPECT_EQ(found.visualItemRect(found.item(0)).height(), found.sizeHintForRow(0)) << "the hits overlap";
     EXPECT_GE(text().font().pointSizeF(), 2 * size);
     const QVariant picture = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
     EXPECT_LT(picture.value<QImage>().width(), text().viewport()->width());
     key(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(text().font().pointSizeF(), size);
+    const QVariant usual = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
+    EXPECT_LT(usual.value<QImage>().width(), picture.value<QImage>().width());
 }
 
 TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)

@@ -18,11 +18,7 @@ TEST_F(FailedWriteTest, AChangeThatIsRefusedIsDropped)
 {
     openWith({"a", "b"});
     const std::pair<const char*, std::function<void()>> changes[] = {
-        {"UPDATE",
-            [this] {
-                wordsView.Fields(words::Word) = "changed";
-                wordsView.MoveNext();
-            }},
+        {"UPDATE", [this] { wordsView.Fields(words::Word) = "changed", wordsView.MoveNext(); }},
         {"INSERT", [this] { addWord(wordsView, "c"); }},
         {"DELETE", [this] { wordsView.Delete(); }},
     };
