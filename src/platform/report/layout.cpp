@@ -33,7 +33,8 @@ void widen(Extent& extent, const Section& section)
 Extent extentOf(const Layout& layout)
 {
     Extent extent{std::numeric_limits<double>::max(), 0};
-    for (const Section* section : {&layout.pageHeader, &layout.detail, &layout.pageFooter})
+    for (const Section* section :
+        {&layout.reportHeader, &layout.pageHeader, &layout.detail, &layout.pageFooter, &layout.reportFooter})
         widen(extent, *section);
     return extent;
 }
