@@ -79,6 +79,7 @@ TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJsonAndTheReportsForTheHo
         const QJsonArray rows = data[name].toArray();
         ASSERT_EQ(rows.size(), table.rowCount());
         EXPECT_EQ(tables[name]["items"]["required"].toArray().size(), static_cast<qsizetype>(columns.size()));
+        const QJsonObject properties = tables[name]["items"]["properties"].toObject();
         QByteArrayList headings;
         for (std::size_t column = 0; column < columns.size(); ++column) {
             headings += columns[column].name;
@@ -86,6 +87,7 @@ TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJsonAndTheReportsForTheHo
             for (int row = 0; row < table.rowCount() && !isAmount; ++row) {
                 const QJsonValue cell = rows[row].toObject()[columns[column].name];
                 EXPECT_EQ(cell.toVariant().toString(), table.text(row, static_cast<int>(column)));
+                EXPECT_EQ(properties[columns[column].name]["type"], cell.isDouble() ? "integer" : "string");
             }
         }
         EXPECT_TRUE(file(name + ".csv").startsWith(headings.join(',') + "\r\n"));

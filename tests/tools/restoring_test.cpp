@@ -247,9 +247,12 @@ TEST_F(RestoringTest, TellsWhatWouldBeLost)
     EXPECT_EQ(what_Is_Lost(before, before), QStringList());
     openData();
     put(Data1.rsInventory, {{Inventory::Make, "Brass & Co"}});
-    put(Data1.rsIndoor, {{Names::Type, "Stool"}});
+    addNames(Data1.rsIndoor, {"Attic", "0", "0"});
+    addNames(Data1.rsMobile, {"Garage", "0", "0"});
     closeData();
-    EXPECT_EQ(what_Is_Lost(Household(today()), before),
+    const Household after(today());
+    EXPECT_EQ(what_Is_Lost(after, before),
         QStringList({"1 asset changed since then would be as before.",
-            "1 name added to the lists or changed since then would be lost."}));
+            "2 names added to the lists or changed since then would be lost."}));
+    EXPECT_EQ(what_Is_Lost(before, after)[1], "2 names deleted from the lists or changed since then would come back.");
 }

@@ -114,6 +114,12 @@ void RecordList::alignRight(int column)
     list_->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
 }
 
+void RecordList::clear()
+{
+    const ToolkitCall call;
+    list_->clear();
+}
+
 void RecordList::addRecord(const QStringList& texts)
 {
     {
