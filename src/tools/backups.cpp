@@ -80,9 +80,11 @@ const Backup& find(const std::vector<Backup>& among, const QString& name)
             found.push_back(&backup);
     }
     if (found.empty())
-        throw Refusal(exit_code::Usage, QStringLiteral("There is no backup of %1. --list shows all.").arg(name));
+        throw Refusal(
+            exit_code::Usage, QStringLiteral("There is no backup of %1. kestrill-restore --list shows all.").arg(name));
     if (isSeveral(found))
-        throw Refusal(exit_code::Usage, QStringLiteral("There are several backups of %1. --list shows all.").arg(name));
+        throw Refusal(exit_code::Usage,
+            QStringLiteral("There are several backups of %1. kestrill-restore --list shows all.").arg(name));
     return *found.front();
 }
 

@@ -125,7 +125,7 @@ TEST_F(WindowsTest, TheExportAsksForAFolderAndSaysWhatItWrote)
     EXPECT_EQ(scene(), "20 frmExport: cmdClose");
 
     damage(today());
-    const QStringList before = everything();
+    const auto before = everything();
     clickTold(window.cmdChoose, "database disk image is malformed", Stop);
     EXPECT_EQ(window.lblResult.caption(), "database disk image is malformed");
     EXPECT_EQ(everything(), before);
