@@ -57,8 +57,6 @@ void frmRestore::cmdRestore_Click()
         return;
     }
     const auto picked = static_cast<std::size_t>(lstBackups.picked());
-    if (!list_[picked].isRead())
-        read_Backup(picked);
     const Backup& chosen = list_[picked];
     try {
         restoring::refuse_While_Running();

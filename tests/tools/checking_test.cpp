@@ -38,7 +38,7 @@ TEST_F(CheckingTest, FindsNothingInAFreshHouseholdAndEachOddCell)
         {{Inventory::Area, "Cellar"}, {Inventory::DatePurchased, "2/30/2006"}, {Inventory::Amount, "$12.00"},
             {Inventory::Receipt, "yes"}, {Inventory::Purchased, "\x1b[2J"}, {Inventory::LaborAmount, "ten"},
             {Inventory::Make, ""}});
-    put(Data1.rsGeneral, {{General::PolicyExpiration, "soon"}, {General::PolicyCoverage, "much"}});
+    put(Data1.rsGeneral, {{General::PolicyExpiration, "soon"}, {General::PolicyCoverage, "much"}, {General::City, ""}});
     removeRows(Data1.rsMobile);
     addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).split(' ').mid(0, 12));
     put(Data1.rsBank, {{Bank::AsOf, "1/1"}});
@@ -51,6 +51,7 @@ TEST_F(CheckingTest, FindsNothingInAFreshHouseholdAndEachOddCell)
             "Inventory 1, Receipt: \"yes\" is neither Yes nor No",
             "Inventory 1, Purchased: \"?[2J\" is neither New nor Used",
             "Inventory 1, Labor Amount: \"ten\" is no amount", "Bank_Info 1, As Of: \"1/1\" is no date",
+            "Personal_Info 1, City: empty, without the mark for that",
             "Inventory 1, Make: empty, without the mark for that", "Mobile_Items: no row leads to the list editors"}));
 }
 

@@ -34,6 +34,9 @@ protected:
     {
         for (const QString& text : hostileTexts)
             addAsset(text, "$1,234.50", text);
+        openData();
+        put(Data1.rsGeneral, {{General::AssetValue, "-$.05"}}); // after many mistakes
+        closeData();
         household_.emplace(today());
     }
 
@@ -100,10 +103,10 @@ TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJsonAndTheReportsForTheHo
             + ",None,None,None,None,7/4/2006,\"$1,234.50\",No,None," + inCsv(text) + ",New"
             + QString(",None").repeated(13) + "\r\n";
     EXPECT_TRUE(file("Inventory.csv").endsWith("\r\n" + rows.toUtf8()));
-    EXPECT_TRUE(file("Personal_Info.csv").endsWith(",12345.0000\r\n"));
-    EXPECT_EQ(data["Personal_Info"].toArray().at(0)["AssetValue"].toString(), "12345.0000");
+    EXPECT_TRUE(file("Personal_Info.csv").endsWith(",-0.0500\r\n"));
+    EXPECT_EQ(data["Personal_Info"].toArray().at(0)["AssetValue"].toString(), "-0.0500");
     EXPECT_THAT(textOf("Asset Report.pdf"), HasSubstr("Item: =HYPERLINK(\"http://x\") Description"));
-    EXPECT_THAT(textOf("Cover Sheet.pdf"), HasSubstr("$12,345.00"));
+    EXPECT_THAT(textOf("Cover Sheet.pdf"), HasSubstr("-$0.05"));
 
     EXPECT_EQ(QFile::permissions(folder_), QFile::Permissions(0x7700));
     const QStringList found = QDir(folder_).entryList(QDir::Files | QDir::Hidden);
