@@ -103,6 +103,7 @@ TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJsonAndTheReportsForTheHo
             + ",None,None,None,None,7/4/2006,\"$1,234.50\",No,None," + inCsv(text) + ",New"
             + QString(",None").repeated(13) + "\r\n";
     EXPECT_TRUE(file("Inventory.csv").endsWith("\r\n" + rows.toUtf8()));
+    EXPECT_TRUE(file("kestrill.json").contains(R"("two\u000d\u000alines\u000aand\u000dmore")"));
     EXPECT_TRUE(file("Personal_Info.csv").endsWith(",-0.0500\r\n"));
     EXPECT_EQ(data["Personal_Info"].toArray().at(0)["AssetValue"].toString(), "-0.0500");
     EXPECT_THAT(textOf("Asset Report.pdf"), HasSubstr("Item: =HYPERLINK(\"http://x\") Description"));
@@ -113,6 +114,21 @@ TEST_F(ExportingTest, WritesEachTextBitForBitAsCsvAndAsJsonAndTheReportsForTheHo
     EXPECT_THAT(exporting::fileNames(), testing::UnorderedElementsAreArray(found));
     for (const QString& name : found)
         EXPECT_EQ(QFile::permissions(folder_ + '/' + name), QFile::Permissions(0x6600)) << name.toStdString();
+}
+
+TEST_F(ExportingTest, HoldsWhatShouldBeANumberAndIsNoneAsItIs)
+{
+    const storage::Handle file = storage::openFile(today(), databaseKey(), storage::Access::ReadWrite);
+    for (const char* change : {"Personal_Info SET AssetValue = 'many'", "Mobile_Items SET Standard = 'some'"})
+        storage::execute(file.get(), QByteArray("UPDATE ") + change);
+    household_.emplace(today());
+    write();
+    EXPECT_THAT(textOf("Cover Sheet.pdf"), HasSubstr("many"));
+    EXPECT_TRUE(this->file("kestrill.json").contains("\"Standard\": \"some\""));
+    const QByteArray schema = this->file("kestrill.schema.json");
+    EXPECT_EQ(schema.count(R"("Standard": {"type": "integer"})"), 2);
+    EXPECT_EQ(schema.count(R"("Standard": {"type": ["integer", "string"]})"), 1);
+    EXPECT_TRUE(schema.contains(R"("AssetValue": {"type": "string"})"));
 }
 
 TEST_F(ExportingTest, IsWholeOrNotThere)
