@@ -6,7 +6,7 @@
 #include "tools/comparison.h"
 #include "tools/household.h"
 
-using testing::HasSubstr;
+#include <algorithm>
 
 namespace {
 
@@ -188,7 +188,7 @@ TEST_F(RestoringTest, ListsEachBackupWithWhatItHoldsAndWhyItCantBeRestored)
             "11/18/2020 8:00 AM|Earlier close|||Damaged or foreign",
             "11/17/2020 8:00 AM|Earlier close|||Another version",
             "11/16/2020 8:00 AM|Earlier close|||Another version"}));
-    EXPECT_THAT(list[4].reason.toStdString(), HasSubstr("Print"));
+    EXPECT_TRUE(list[4].reason.contains("Print"));
     EXPECT_EQ(everything(), before);
 
     EXPECT_EQ(backups::find(list, "2020-11-20").file, list[1].file);
@@ -196,20 +196,23 @@ TEST_F(RestoringTest, ListsEachBackupWithWhatItHoldsAndWhyItCantBeRestored)
         EXPECT_EQ(refusal([&] { backups::find(list, name); }), exit_code::Usage) << name;
 }
 
-TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheBackupFolder)
+TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheFoldersOfBackups)
 {
-    const QByteArray folder = QFile::encodeName(places::backupFolder());
-    ::chmod(folder, 0);
-    ::chmod(QFile::encodeName(below({})), 0711);
-    const auto readLast = [] {
-        if (::getuid() == 0 && ::setuid(65534) != 0) // nothing is closed to root
-            _exit(2);
-        Backup backup = last();
-        backups::read(backup);
-        _exit(backup.state == "No right to read" ? 0 : 1);
+    const auto setRights = [](mode_t rights) {
+        for (const QString& folder : {places::backupFolder(), places::earlierBackupsFolder()})
+            ::chmod(QFile::encodeName(folder), rights);
     };
-    EXPECT_EQ(inProcess(readLast), 0);
-    ::chmod(folder, S_IRWXU);
+    ::chmod(QFile::encodeName(below({})), 0711);
+    setRights(0);
+    const auto countClosed = [] {
+        if (::getuid() == 0 && ::setuid(65534) != 0) // nothing is closed to root
+            _exit(9);
+        std::vector<Backup> list = backups::all();
+        std::ranges::for_each(list, backups::read);
+        _exit(static_cast<int>(std::ranges::count(list, "No right to read", &Backup::state)));
+    };
+    EXPECT_EQ(inProcess(countClosed), 2);
+    setRights(S_IRWXU);
 }
 
 TEST_F(RestoringTest, TellsWhatWouldBeLost)

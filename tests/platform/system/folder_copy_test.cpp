@@ -77,8 +77,7 @@ TEST_F(FolderCopy, ThatFailsOrIsKilledLeavesTheOldOneWhole)
             _exit(1);
     };
     EXPECT_EQ(inProcess([&] { sys::copyFolder(source, target, dieAtTheSecond); }), 1);
-    for (const auto& [name, contents] : before)
-        EXPECT_EQ(treeOf(target)[name], contents);
+    EXPECT_THAT(treeOf(target), testing::IsSupersetOf(before));
     sys::copyFolder(source, target);
     EXPECT_EQ(treeOf(target), treeOf(source)) << "what the killed one has left is in the way";
 }
