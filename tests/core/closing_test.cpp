@@ -44,7 +44,6 @@ TEST_F(Closing, OverwritesTheLastBackupLeavesWhatIsNotItsOwnAndEndsWithTheGoodby
     putFile(file() + "-foreign-journal", "put aside");
     closeProgram();
     EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
-    EXPECT_EQ(QFile::permissions(backupFile()), QFile::Permissions(0x6600));
     EXPECT_EQ(QDir(places::backupFolder()).entryList(QDir::Files), QStringList({"KTL.db", "letter.txt"}));
     EXPECT_EQ(known(), AllSafe);
     closeBox(screen<frmExit>()); // refuses

@@ -141,8 +141,6 @@ TEST_F(ExportingTest, IsWholeOrNotThere)
         const FullDisk full(bytes);
         EXPECT_EQ(refused(), exit_code::Failed);
     }
-    folder_ += "/no/where";
-    EXPECT_EQ(refused(), exit_code::Failed);
     EXPECT_EQ(everything(), before);
 }
 

@@ -124,19 +124,19 @@ TEST_F(RestoringTest, AFailureAtAnyStepLeavesTodaysFileWithItsJournal)
         EXPECT_EQ(refused(fail), exit_code::Failed);
         EXPECT_EQ(everything(), before);
     }
-    const FullDisk full(old_.size() - 1);
-    EXPECT_EQ(refused(), exit_code::Failed);
-    EXPECT_EQ(everything(), before);
+    {
+        const FullDisk full(old_.size() - 1);
+        EXPECT_EQ(refused(), exit_code::Failed);
+        EXPECT_EQ(everything(), before);
+    }
+    QDir().mkdir(today() + ".restoring-journal"); // which can't be cleared away
+    EXPECT_THAT([] { restoring::lay_Down(last()); },
+        testing::ThrowsMessage<Refusal>(testing::StartsWith("File failure: removing")));
 }
 
 TEST_F(RestoringTest, NeitherTheProgramNorAnotherRestoreGetsInBetween)
 {
     const auto before = everything();
-    const auto alone = std::exchange(restoring::list_Processes, [] {
-        return std::vector{sys::thisProcess(), sys::Process{1, "a Kestrill 2", "/bin/x", 7, 1}};
-    });
-    EXPECT_EQ(refused(), exit_code::InUse);
-    restoring::list_Processes = alone;
     {
         const sys::RunLock other(Lock);
         EXPECT_EQ(refused(), exit_code::InUse);
@@ -156,6 +156,10 @@ TEST_F(RestoringTest, NeitherTheProgramNorAnotherRestoreGetsInBetween)
     };
     restoring::lay_Down(last(), [&open](int step) { EXPECT_EQ(inProcess(open), 3) << step; });
     EXPECT_EQ(bytesOf(today()), old_);
+    restoring::list_Processes = [] {
+        return std::vector{sys::thisProcess(), sys::Process{1, "a Kestrill 2", "/bin/x", 7, 1}};
+    };
+    EXPECT_EQ(refused(), exit_code::InUse);
 }
 
 TEST_F(RestoringTest, ListsEachBackupWithWhatItHoldsAndWhyItCantBeRestored)

@@ -56,7 +56,6 @@ protected:
         storage::execute(storage::openFile(path(), key, storage::Access::ReadWrite).get(), sql);
     }
 
-    /// All files of the folder with their bytes.
     auto files() const { return treeOf(folder.path()); }
 
     static void addWord(storage::TableView& view, const QString& word)
