@@ -32,6 +32,16 @@ void addLast(std::vector<Backup>& list)
         file.filePath(), {}, {}, 0, {}});
 }
 
+// A folder that can't be looked into stands for all that may be in it.
+void addClosedFolder(std::vector<Backup>& list)
+{
+    const QFileInfo folder(places::earlierBackupsFolder());
+    if (!folder.isDir() || (folder.isReadable() && folder.isExecutable()))
+        return;
+    list.push_back(
+        {folder.fileName(), folder.lastModified(), QStringLiteral("Earlier close"), folder.filePath(), {}, {}, 0, {}});
+}
+
 bool isSeveral(const std::vector<const Backup*>& found)
 {
     return std::any_of(
@@ -44,6 +54,7 @@ std::vector<Backup> all()
 {
     std::vector<Backup> list;
     addLast(list);
+    addClosedFolder(list);
     for (const earlier::KeptFile& kept : earlier::all()) {
         // A close that broke off has kept the backup that is still the last one.
         if (earlier::isOf(kept, lastBackupFile()))
@@ -80,9 +91,11 @@ const Backup& find(const std::vector<Backup>& among, const QString& name)
             found.push_back(&backup);
     }
     if (found.empty())
-        throw Refusal(exit_code::Usage, QStringLiteral("There is no backup of %1. --list shows all.").arg(name));
+        throw Refusal(
+            exit_code::Usage, QStringLiteral("There is no backup of %1. kestrill-restore --list shows all.").arg(name));
     if (isSeveral(found))
-        throw Refusal(exit_code::Usage, QStringLiteral("There are several backups of %1. --list shows all.").arg(name));
+        throw Refusal(exit_code::Usage,
+            QStringLiteral("There are several backups of %1. kestrill-restore --list shows all.").arg(name));
     return *found.front();
 }
 

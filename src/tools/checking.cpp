@@ -48,6 +48,13 @@ bool isNewOrUsed(const QString& text)
     return text == "New" || text == "Used";
 }
 
+bool isNumber(const QString& text)
+{
+    bool isWhole = false;
+    text.toLongLong(&isWhole);
+    return isWhole;
+}
+
 bool isChecked(const QString& text)
 {
     return text == "Checked" || text == "Unchecked";
@@ -75,6 +82,10 @@ constexpr Rule rules[] = {
     {"Inventory", Inventory::LaborAmount, isAmountOrNone, "is no amount"},
     {"Bank_Info", Bank::AvailableBalance, isAmountOrNone, "is no amount"},
     {"Bank_Info", Bank::AsOf, isDateOrNone, "is no date"},
+    {"Indoor_Items", Names::Standard, isNumber, "is no number"},
+    {"Outdoor_Items", Names::Standard, isNumber, "is no number"},
+    {"Mobile_Items", Names::Standard, isNumber, "is no number"},
+    {"Print", Print::ID, isNumber, "is no number"},
 };
 
 constexpr const char* nameTables[] = {"Indoor_Items", "Outdoor_Items", "Mobile_Items"};
@@ -140,12 +151,7 @@ void findMarkerRow(const Snapshot& names, QStringList& odd)
 
 QString runningTotal(const Household& household)
 {
-    const Snapshot& general = household.table("Personal_Info");
-    try {
-        return general.text(0, General::AssetValue);
-    } catch (const values::RuntimeFailure&) {
-        return QString::fromUtf8(general.utf8(0, General::AssetValue));
-    }
+    return household.table("Personal_Info").text(0, General::AssetValue);
 }
 
 QString sumOfAmounts(const Household& household)

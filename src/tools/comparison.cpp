@@ -44,16 +44,25 @@ Changes numberedChanges(const Snapshot& today, const Snapshot& backup)
     return changes;
 }
 
-// Rows of today that the backup doesn't have, each as often as it is there.
-int missingRows(const Snapshot& today, const Snapshot& backup)
+// Rows of one table that the other doesn't have, each as often as it is there.
+int missingRows(const Snapshot& table, const Snapshot& other)
 {
     std::map<std::string, int> there;
-    for (int row = 0; row < backup.rowCount(); ++row)
-        ++there[contentsOf(backup, row)];
+    for (int row = 0; row < other.rowCount(); ++row)
+        ++there[contentsOf(other, row)];
     int missing = 0;
-    for (int row = 0; row < today.rowCount(); ++row)
-        if (there[contentsOf(today, row)]-- <= 0)
+    for (int row = 0; row < table.rowCount(); ++row)
+        if (there[contentsOf(table, row)]-- <= 0)
             ++missing;
+    return missing;
+}
+
+// A name that has changed can't be known again: it is one more here and one more there.
+int missingNames(const Household& household, const Household& other)
+{
+    int missing = 0;
+    for (const char* table : {"Indoor_Items", "Outdoor_Items", "Mobile_Items"})
+        missing += missingRows(household.table(table), other.table(table));
     return missing;
 }
 
@@ -79,11 +88,10 @@ QStringList what_Is_Lost(const Household& today, const Household& backup)
         QStringLiteral("assets"));
     tellNumbered(lines, numberedChanges(today.table("Bank_Info"), backup.table("Bank_Info")), QStringLiteral("account"),
         QStringLiteral("accounts"));
-    int names = 0;
-    for (const char* table : {"Indoor_Items", "Outdoor_Items", "Mobile_Items"})
-        names += missingRows(today.table(table), backup.table(table));
-    tell(lines, names, QStringLiteral("name"), QStringLiteral("names"),
+    tell(lines, missingNames(today, backup), QStringLiteral("name"), QStringLiteral("names"),
         QStringLiteral(" added to the lists or changed since then would be lost."));
+    tell(lines, missingNames(backup, today), QStringLiteral("name"), QStringLiteral("names"),
+        QStringLiteral(" deleted from the lists or changed since then would come back."));
     if (missingRows(today.table("Personal_Info"), backup.table("Personal_Info")) > 0)
         lines.append(QStringLiteral("The personal information and the policy would be as before."));
     return lines;

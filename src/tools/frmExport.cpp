@@ -55,12 +55,16 @@ void frmExport::cmdChoose_Click()
     try {
         export_To(exporting::freshFolderIn(folder));
     } catch (const Refusal& refusal) {
-        lblResult.setCaption(refusal.words());
-        conventions::MsgBox(
-            refusal.words(), refusal.code() == exit_code::Declined ? forms::box::Information : forms::box::Stop);
+        say(refusal.words(), refusal.code() == exit_code::Declined ? forms::box::Information : forms::box::Stop);
     } catch (const UnreadableHousehold& failure) {
-        conventions::MsgBox(failure.reason(), forms::box::Stop);
+        say(failure.reason(), forms::box::Stop);
     }
+}
+
+void frmExport::say(const QString& words, int flags)
+{
+    lblResult.setCaption(words);
+    conventions::MsgBox(words, flags);
 }
 
 void frmExport::export_To(const QString& folder)

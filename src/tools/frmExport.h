@@ -23,4 +23,5 @@ private:
     void tmStart_Timer();
     void cmdChoose_Click();
     void export_To(const QString& folder);
+    void say(const QString& words, int flags);
 };

@@ -18,16 +18,9 @@ frmRestore::frmRestore()
     look();
 }
 
-// The list stands at once; what is in each backup follows, one at a time.
 void frmRestore::Form_Load()
 {
-    list_ = backups::all();
-    for (const Backup& backup : list_)
-        lstBackups.addRecord(backups::columnsOf(backup));
-    cmdRestore.setEnabled(!list_.empty());
-    pbRestore.setMax(static_cast<int>(list_.size()) + 1);
-    show_State();
-    tmRead.setEnabled(true);
+    fill_List();
 }
 
 void frmRestore::Form_Unload(bool& cancel)
@@ -58,9 +51,12 @@ void frmRestore::lstBackups_Click()
 
 void frmRestore::cmdRestore_Click()
 {
+    if (is_List_Old()) {
+        fill_List();
+        MsgBox("There are other backups by now. Choose again.", forms::box::Exclamation);
+        return;
+    }
     const auto picked = static_cast<std::size_t>(lstBackups.picked());
-    if (!list_[picked].isRead())
-        read_Backup(picked);
     const Backup& chosen = list_[picked];
     try {
         restoring::refuse_While_Running();
@@ -86,9 +82,33 @@ void frmRestore::restore(const Backup& chosen)
         forms::screen<frmRestored>().tell(backups::spoken(chosen.made), result.summary, result.putAside);
         hide();
     } catch (const Refusal&) {
-        pbRestore.setVisible(false);
+        tmRead.setEnabled(true); // reads what is left, and takes the bar away
         throw;
     }
+}
+
+// The list stands at once; what is in each backup follows, one at a time.
+void frmRestore::fill_List()
+{
+    list_ = backups::all();
+    lstBackups.clear();
+    for (const Backup& backup : list_)
+        lstBackups.addRecord(backups::columnsOf(backup));
+    cmdRestore.setEnabled(!list_.empty());
+    isTodayRead_ = false;
+    pbRestore.setValue(0);
+    pbRestore.setMax(static_cast<int>(list_.size()) + 1);
+    pbRestore.setVisible(true);
+    show_State();
+    tmRead.setEnabled(true);
+}
+
+// A close while the window is open makes another file the last backup, under the name of the one that is listed.
+bool frmRestore::is_List_Old() const
+{
+    const std::vector<Backup> now = backups::all();
+    return !std::equal(now.begin(), now.end(), list_.begin(), list_.end(),
+        [](const Backup& a, const Backup& b) { return a.made == b.made && a.file == b.file; });
 }
 
 void frmRestore::read_Today()

@@ -33,6 +33,8 @@ private:
     void tmRead_Timer();
     void lstBackups_Click();
     void cmdRestore_Click();
+    void fill_List();
+    bool is_List_Old() const;
     void read_Today();
     void read_Backup(std::size_t index);
     void show_State();

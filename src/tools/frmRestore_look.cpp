@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int LineLength = 74; // characters
-constexpr int RowsInSight = 12;
+constexpr int RowsInSight = 10;
 
 void keepPlace(QWidget& widget)
 {

@@ -2,6 +2,7 @@
 #include "tools/household.h"
 
 #include "core/data_store.h"
+#include "platform/storage/file_lock.h"
 #include "platform/system/files.h"
 
 #include <QFileInfo>
@@ -33,7 +34,9 @@ FileReader openedReader(const QString& file, FileReader::Locks locks)
         throw UnreadableHousehold(QStringLiteral("Missing"), file + QStringLiteral(" does not exist"));
     if (!found.isReadable())
         throw UnreadableHousehold(QStringLiteral("No right to read"), file + QStringLiteral(" can't be read"));
-    return orUnreadable(QStringLiteral("Damaged or foreign"), [&] { return FileReader(file, databaseKey(), locks); });
+    const bool isInUse = locks == FileReader::Locks::Respected && storage::isInUse(file);
+    return orUnreadable(isInUse ? QStringLiteral("In use") : QStringLiteral("Damaged or foreign"),
+        [&] { return FileReader(file, databaseKey(), locks); });
 }
 
 std::optional<Currency> sumOf(const Snapshot& assets)

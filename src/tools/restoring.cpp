@@ -199,6 +199,8 @@ void LayingDown::takeBack()
             sys::keepFile(asideFile() + Journal, file_ + Journal);
         forgetAside();
     } catch (const RuntimeFailure& failure) {
+        if (reached_ == Reached::Nothing) // today's file lies where it lay
+            return;
         throw Refusal(exit_code::Failed,
             QStringLiteral("The restore failed, and today's file could not be put back (%1). It lies in %2.")
                 .arg(failure.text(), aside_));

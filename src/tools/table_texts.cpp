@@ -101,14 +101,25 @@ void appendJsonCell(std::string& json, const Snapshot& table, int row, int colum
         appendJson(json, cell);
 }
 
-const char* schemaOf(ColumnType type)
+bool holdsNumbers(const Snapshot& table, int column)
 {
-    switch (type) {
+    for (int row = 0; row < table.rowCount(); ++row)
+        if (!numberIn(table.utf8(row, column)))
+            return false;
+    return true;
+}
+
+// What should be a number and is none is written as it is, and may be.
+const char* schemaOf(const Snapshot& table, int column)
+{
+    switch (table.definition().columns[static_cast<std::size_t>(column)].type) {
     case ColumnType::Identity:
     case ColumnType::Integer:
-        return R"({"type": "integer"})";
+        return holdsNumbers(table, column) ? R"({"type": "integer"})" : R"({"type": ["integer", "string"]})";
     case ColumnType::Currency:
-        return R"({"type": "string", "pattern": "^-?[0-9]+\\.[0-9]{4}$"})";
+        if (holdsNumbers(table, column))
+            return R"({"type": "string", "pattern": "^-?[0-9]+\\.[0-9]{4}$"})";
+        break;
     case ColumnType::Text:
     case ColumnType::Money:
         break;
@@ -116,15 +127,16 @@ const char* schemaOf(ColumnType type)
     return R"({"type": "string"})";
 }
 
-std::string tableSchema(const storage::TableDefinition& table)
+std::string tableSchema(const Snapshot& table)
 {
     std::string properties;
     std::string required;
-    for (const Column& column : table.columns) {
+    int column = 0;
+    for (const Column& each : table.definition().columns) {
         const char* separator = required.empty() ? "" : ", ";
         properties.append(required.empty() ? "\n          " : ",\n          ");
-        properties.append(jsonText(column.name)).append(": ").append(schemaOf(column.type));
-        required.append(separator).append(jsonText(column.name));
+        properties.append(jsonText(each.name)).append(": ").append(schemaOf(table, column++));
+        required.append(separator).append(jsonText(each.name));
     }
     return R"({"type": "array", "items": {
         "type": "object", "additionalProperties": false,
@@ -178,7 +190,7 @@ std::string jsonSchema(const std::vector<Snapshot>& tables)
     for (const Snapshot& table : tables) {
         const std::string name = jsonText(table.definition().name);
         properties.append(properties.empty() ? "" : ",\n      ");
-        properties.append(name).append(": ").append(tableSchema(table.definition()));
+        properties.append(name).append(": ").append(tableSchema(table));
         required.append(required.empty() ? "" : ", ").append(name);
     }
     return R"({

@@ -18,7 +18,7 @@ std::string csvRow(const storage::Snapshot& table, int row);
 std::string jsonRow(const storage::Snapshot& table, int row);
 std::string jsonText(std::string_view text);
 
-/// The JSON schema of a file with these tables.
+/// The JSON schema of a file with these tables, which their rows satisfy.
 std::string jsonSchema(const std::vector<storage::Snapshot>& tables);
 
 } // namespace table_texts

@@ -16,7 +16,7 @@ TextFile::TextFile(const QString& path)
 {
     if (!file_.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
             QFileDevice::ReadOwner | QFileDevice::WriteOwner))
-        refuse();
+        refuse(file_.errorString());
 }
 
 void TextFile::write(std::string_view bytes)
@@ -30,7 +30,7 @@ void TextFile::finish()
 {
     flush();
     if (::fsync(file_.handle()) != 0)
-        refuse();
+        refuse(qt_error_string());
     file_.close();
 }
 
@@ -38,12 +38,12 @@ void TextFile::flush()
 {
     const auto count = static_cast<qint64>(pending_.size());
     if (file_.write(pending_.data(), count) != count)
-        refuse();
+        refuse(file_.errorString());
     pending_.clear();
 }
 
-void TextFile::refuse() const
+void TextFile::refuse(const QString& reason) const
 {
     throw values::RuntimeFailure(
-        values::FailureKind::File, QStringLiteral("writing %1: %2").arg(file_.fileName(), file_.errorString()));
+        values::FailureKind::File, QStringLiteral("writing %1: %2").arg(file_.fileName(), reason));
 }

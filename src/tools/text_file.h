@@ -18,7 +18,7 @@ public:
 
 private:
     void flush();
-    [[noreturn]] void refuse() const;
+    [[noreturn]] void refuse(const QString& reason) const;
 
     QFile file_;
     std::string pending_;

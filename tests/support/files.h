@@ -8,7 +8,12 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <filesystem>
+#include <functional>
+#include <map>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 /// All that a file holds; "(missing)" where there is none.
 inline QByteArray bytesOf(const QString& path)
@@ -24,6 +29,35 @@ inline void putFile(const QString& path, const QByteArray& bytes)
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
     ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+/// Every file, folder and link below a folder, hidden ones too, with the bytes of the files and the aims of the links.
+inline std::map<std::string, std::string> treeOf(const QString& folder)
+{
+    std::map<std::string, std::string> tree;
+    const std::filesystem::path top = folder.toStdString();
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(top)) {
+        std::string& contents = tree[entry.path().lexically_relative(top)];
+        if (entry.is_symlink())
+            contents = "-> " + read_symlink(entry).string();
+        else
+            contents = entry.is_directory() ? "(folder)" : bytesOf(entry.path().c_str()).toStdString();
+    }
+    return tree;
+}
+
+/// Runs in a process of its own, to its end; gives its status.
+inline int inProcess(const std::function<void()>& work)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        work();
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status));
+    return WEXITSTATUS(status);
 }
 
 /// For its life no file can grow beyond a size, which is to a writer the same as a disk that is full.

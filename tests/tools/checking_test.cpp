@@ -38,8 +38,9 @@ TEST_F(CheckingTest, FindsNothingInAFreshHouseholdAndEachOddCell)
         {{Inventory::Area, "Cellar"}, {Inventory::DatePurchased, "2/30/2006"}, {Inventory::Amount, "$12.00"},
             {Inventory::Receipt, "yes"}, {Inventory::Purchased, "\x1b[2J"}, {Inventory::LaborAmount, "ten"},
             {Inventory::Make, ""}});
-    put(Data1.rsGeneral, {{General::PolicyExpiration, "soon"}, {General::PolicyCoverage, "much"}});
+    put(Data1.rsGeneral, {{General::PolicyExpiration, "soon"}, {General::PolicyCoverage, "much"}, {General::City, ""}});
     removeRows(Data1.rsMobile);
+    storage::execute(Data1.Home.handle(), "UPDATE Indoor_Items SET Standard = 'x' WHERE rowid = 1");
     addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).split(' ').mid(0, 12));
     put(Data1.rsBank, {{Bank::AsOf, "1/1"}});
     closeData();
@@ -51,6 +52,7 @@ TEST_F(CheckingTest, FindsNothingInAFreshHouseholdAndEachOddCell)
             "Inventory 1, Receipt: \"yes\" is neither Yes nor No",
             "Inventory 1, Purchased: \"?[2J\" is neither New nor Used",
             "Inventory 1, Labor Amount: \"ten\" is no amount", "Bank_Info 1, As Of: \"1/1\" is no date",
+            "Indoor_Items 1, Standard: \"x\" is no number", "Personal_Info 1, City: empty, without the mark for that",
             "Inventory 1, Make: empty, without the mark for that", "Mobile_Items: no row leads to the list editors"}));
 }
 

@@ -12,13 +12,7 @@
 #include "tools/exit_codes.h"
 #include "tools/restoring.h"
 
-#include <QCryptographicHash>
-#include <QDirIterator>
-
 #include <optional>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 /// A household whose file is closed, with a backup folder beside it; the program doesn't run.
 class ToolsTest : public ScreenTest {
@@ -61,18 +55,8 @@ protected:
         putFile(path, contents);
     }
 
-    /// All files and folders, with what they hold, as one state: what a refusal leaves as it was.
-    static QStringList everything()
-    {
-        QStringList all;
-        const auto entries = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
-        for (QDirIterator each(below({}), entries, QDirIterator::Subdirectories); each.hasNext();) {
-            const QString path = each.next();
-            all += path + ' ' + QCryptographicHash::hash(bytesOf(path), QCryptographicHash::Sha1).toHex();
-        }
-        all.sort();
-        return all;
-    }
+    /// All files and folders as one state: what a refusal leaves as it was.
+    static auto everything() { return treeOf(below({})); }
 
     /// The exit code with which something is refused; nothing where it is not.
     static std::optional<int> refusal(const std::function<void()>& work)
@@ -83,19 +67,6 @@ protected:
         } catch (const Refusal& refusal) {
             return refusal.code();
         }
-    }
-
-    /// Runs in a process of its own, to its end; gives its status.
-    static int inProcess(const std::function<void()>& work)
-    {
-        const pid_t child = fork();
-        if (child == 0) {
-            work();
-            _exit(0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        return WEXITSTATUS(status);
     }
 
 private:

@@ -2,6 +2,7 @@
 #include "tools_test.h"
 
 #include "platform/forms/folder_choice.h"
+#include "platform/storage/file_lock.h"
 #include "tools/frmExport.h"
 #include "tools/frmRestore.h"
 
@@ -20,6 +21,11 @@ protected:
     {
         restore().show();
         EXPECT_EQ(scene(), "20 frmRestore: lstBackups");
+        readAll();
+    }
+
+    static void readAll()
+    {
         while (restore().tmRead.isEnabled())
             restore().tmRead.elapse();
     }
@@ -35,7 +41,8 @@ TEST_F(WindowsTest, ADamagedHouseholdIsBroughtBackByKeys)
     addAsset("Lamp", "$10.00");
     backUp();
     const QByteArray good = bytesOf(backupFile());
-    putFile(places::earlierBackupsFolder() + "/2020-11-20_08-00-00/KTL.db", "no household");
+    for (int day = 10; day < 25; ++day) // more than there are steps of a restore
+        putFile(places::earlierBackupsFolder() + QString("/2020-11-%1_08-00-00/KTL.db").arg(day), "no household");
     damage(today());
 
     showAndReadAll();
@@ -71,8 +78,28 @@ TEST_F(WindowsTest, WithoutABackupOrWhileTheProgramRunsNothingIsRestored)
     forms::destroyScreens();
     backUp();
     restore().show(); // chosen before it has been read
-    restoring::list_Processes = [] { return std::vector{sys::thisProcess(), sys::Process{1, "Kestrill", {}, 7, 1}}; };
+    const auto alone = std::exchange(restoring::list_Processes, [] {
+        return std::vector{sys::thisProcess(), sys::Process{1, "Kestrill", {}, 7, 1}};
+    });
+    std::optional<storage::FileLock> running(today());
+    restore().tmRead.elapse();
+    EXPECT_EQ(restore().lblToday.caption(), "Today's file: in use");
     clickTold(restore().cmdRestore, "Kestrill is running. Close it first.", Stop);
+    running.reset();
+    restoring::list_Processes = alone;
+    addAsset("Lamp", "$10.00"); // which the close puts into another backup
+    backUp();
+    clickTold(restore().cmdRestore, "There are other backups by now. Choose again.", Exclamation);
+
+    sys::makePrivateFolder(places::earlierBackupsFolder());
+    const sys::RunLock another(places::earlierBackupsFolder() + "/.restoring");
+    expectBox("Go back to the backup of " + restore().lstBackups.record(0)[0]
+            + "?\n\nThe backup: 1 asset, $10.00\nToday's file: 1 asset, $10.00\n\nBoth hold the same.\n\nToday's file "
+              "is put aside and can be brought back in the same way.",
+        52, Answer::Yes);
+    clickTold(restore().cmdRestore, "Another restore is under way.", Stop);
+    readAll();
+    EXPECT_EQ(contents(restore()), "pbRestore hidden");
     accessKey('c');
     EXPECT_EQ(endStatus(), 0);
 }
@@ -98,8 +125,9 @@ TEST_F(WindowsTest, TheExportAsksForAFolderAndSaysWhatItWrote)
     EXPECT_EQ(scene(), "20 frmExport: cmdClose");
 
     damage(today());
-    const QStringList before = everything();
+    const auto before = everything();
     clickTold(window.cmdChoose, "database disk image is malformed", Stop);
+    EXPECT_EQ(window.lblResult.caption(), "database disk image is malformed");
     EXPECT_EQ(everything(), before);
     closeBox(window);
     EXPECT_EQ(endStatus(), 0);

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyleOption>
 #include <QTreeWidget>
 
 namespace forms {
@@ -114,6 +115,12 @@ void RecordList::alignRight(int column)
     list_->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
 }
 
+void RecordList::clear()
+{
+    const ToolkitCall call;
+    list_->clear();
+}
+
 void RecordList::addRecord(const QStringList& texts)
 {
     {
@@ -165,8 +172,10 @@ void RecordList::setPicked(int index)
 
 void RecordList::setRows(int rows)
 {
-    const int height = list_->header()->sizeHint().height() + look::grid(2) * 9 / 8 * rows + 2 * list_->frameWidth();
-    list_->setFixedHeight(height);
+    QStyleOptionViewItem option;
+    option.initFrom(list_);
+    const int row = list_->style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, list_).height();
+    list_->setFixedHeight(list_->header()->sizeHint().height() + row * rows + 2 * list_->frameWidth());
 }
 
 } // namespace forms

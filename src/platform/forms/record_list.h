@@ -21,6 +21,7 @@ public:
     /// Numbers stand on the right, where they can be compared.
     void alignRight(int column);
 
+    void clear();
     void addRecord(const QStringList& texts);
     void setRecord(int index, const QStringList& texts);
     QStringList record(int index) const;

@@ -10,13 +10,11 @@ namespace storage {
 
 namespace {
 
-values::Currency amountIn(const QString& tenThousandths)
+QString amountOf(const QString& tenThousandths)
 {
     bool isNumber = false;
     const qint64 count = tenThousandths.toLongLong(&isNumber);
-    if (!isNumber)
-        throw values::mismatch(tenThousandths, QStringLiteral("a stored amount"));
-    return values::Currency::fromTenThousandths(count);
+    return isNumber ? values::Currency::fromTenThousandths(count).toText() : tenThousandths;
 }
 
 } // namespace
@@ -43,7 +41,7 @@ QString Snapshot::text(int row, int ordinal) const
     const std::string_view bytes = utf8(row, ordinal);
     const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     const ColumnType type = definition_->columns[static_cast<std::size_t>(ordinal)].type;
-    return type == ColumnType::Currency ? amountIn(text).toText() : text;
+    return type == ColumnType::Currency ? amountOf(text) : text;
 }
 
 Snapshot TableView::snapshot() const

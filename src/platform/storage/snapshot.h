@@ -21,8 +21,8 @@ public:
 
     int rowCount() const { return static_cast<int>(cells_.size() / columns()); }
 
-    /// The value as text, as `Field::text` gives it. Failures: NoCurrentRecord, where there is no such row;
-    /// TypeMismatch, where an amount isn't stored as one.
+    /// The value as text, as `Field::text` gives it; what should be an amount and is none, as the file holds it.
+    /// Failures: NoCurrentRecord, where there is no such row.
     QString text(int row, int ordinal) const;
 
     /// The value as the file holds it, in UTF-8; an amount of a Currency column in ten-thousandths. Valid as long as

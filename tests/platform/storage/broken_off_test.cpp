@@ -3,11 +3,6 @@
 #include "failing_disk.h"
 #include "storage_test.h"
 
-#include <csignal>
-#include <functional>
-#include <sys/wait.h>
-#include <unistd.h>
-
 using values::FailureKind;
 
 namespace {
@@ -87,18 +82,6 @@ enum Outcome { Saved = 1, FaultMet = 2, CloseTold = 4 };
 
 class FailingSave : public StorageTest {
 protected:
-    // A session of its own, so that an end that forgets something can't be mended by this process.
-    int saveAndEnd(int changes, const End& end) const
-    {
-        const pid_t child = fork();
-        if (child == 0)
-            _exit(session(changes, end));
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFEXITED(status));
-        return WEXITSTATUS(status);
-    }
-
     int session(int changes, const End& end) const
     {
         const FailingDisk disk;
@@ -126,7 +109,8 @@ TEST_F(FailingSave, LosesNoStoredRowWhereverItBreaksOffAndHoweverTheSessionEnds)
         faultMet = false;
         for (const End& end : ends) {
             SCOPED_TRACE(testing::Message() << "from change " << changes + 1 << " on, " << end.name);
-            const int outcome = saveAndEnd(changes, end);
+            // In a process of its own: an end that forgets something can't be mended by this one.
+            const int outcome = inProcess([&] { _exit(session(changes, end)); });
             faultMet |= (outcome & FaultMet) != 0;
             journalsLeft += QFileInfo(path() + "-journal").size() > 0;
             if (end.settles && !(outcome & CloseTold))
@@ -164,14 +148,16 @@ TEST_F(FailedWriteTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalOfASession
     }
     waitpid(child, nullptr, WUNTRACED);
     const auto before = files();
-    const QByteArray journal = before.value("data?.db-journal");
+    const std::string journal = before.at("data?.db-journal");
     EXPECT_EQ(failureOf([this] { wordsInFile(); }), FailureKind::Database) << "in use";
-    EXPECT_TRUE(!journal.isEmpty() && files() == before);
+    EXPECT_TRUE(!journal.empty() && files() == before);
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     putFile(path(), backup);
     EXPECT_EQ(wordsInFile(), QStringList({"kept"}));
-    EXPECT_EQ(files(), (QMap<QString, QByteArray>{{"data?.db", backup}, {"data?.db-foreign-journal", journal}}));
+    EXPECT_EQ(files(),
+        (std::map<std::string, std::string>{
+            {"data?.db", backup.toStdString()}, {"data?.db-foreign-journal", journal}}));
 }
 
 } // namespace

@@ -69,7 +69,7 @@ TEST_F(ConnectionTest, KeepsOthersOutOfItsOneFileAndShowsNothing)
     addWord(wordsView, "x");
     wordsView.Close();
     EXPECT_FALSE(whole.contains("wwww") || whole.contains("Words") || whole.startsWith("SQLite"));
-    EXPECT_EQ(files().keys(), QStringList({"data?.db"})) << "the journal lay beside it";
+    EXPECT_EQ(files().size(), 1U) << "the journal lay beside it";
     EXPECT_EQ(QFile::permissions(path()) & (QFile::ReadGroup | QFile::ReadOther), 0);
 }
 

@@ -7,7 +7,6 @@
 #include "support/files.h"
 #include "support/print.h"
 
-#include <QMap>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -57,14 +56,7 @@ protected:
         storage::execute(storage::openFile(path(), key, storage::Access::ReadWrite).get(), sql);
     }
 
-    /// Each file of the folder with its bytes.
-    QMap<QString, QByteArray> files() const
-    {
-        QMap<QString, QByteArray> contents;
-        for (const QString& name : folder.entryList(QDir::Files))
-            contents[name] = bytesOf(folder.filePath(name));
-        return contents;
-    }
+    auto files() const { return treeOf(folder.path()); }
 
     static void addWord(storage::TableView& view, const QString& word)
     {
