@@ -207,17 +207,8 @@ TEST_F(Accounts, AreSteppedThroughAndUpdated)
     accessKey('n');
     account().txtName.setText({});
     refuses(account().txtName, "Name");
-    QStringList order;
-    const auto walk = [&order](int stops) {
-        for (; stops > 0; --stops, tab())
-            order += account().activeControl()->name();
-    };
-    leaveCalendar([&walk] { walk(11); });
-    walk(5);
-    EXPECT_EQ(order.join(' '),
-        "txtName txtAddress txtCity cmbState txtPhone1 txtPhone2 txtPhone3 cmbType txtAccount txtRoute txtBalance "
-        "txtDate cmdPrevious cmdNext cmdBack cmdState");
-    type("New\t2 Side St");
+    leaveCalendar([] { click(account().txtBalance), tab(); }); // which completes an empty balance
+    type(account().txtName, "New\t2 Side St");
     const std::function<void()> tries[] = {[] { type("5"); }, [] { press(Qt::Key_Backspace); }, [] { paste("12345"); }};
     for (const auto& tryIt : tries) { // though the calendar has taken the lock off
         click(account().txtAccount);

@@ -56,6 +56,11 @@ def tell(item, role, name):
     print(DATES.sub("~", " | ".join(words).rstrip(" |")))
 
 
+def wide(item):
+    extents = item.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    return extents.width > extents.height
+
+
 def place(wanted):
     found = [(role == "label", item) for item, role, name in shown(window) if name == wanted]
     if not found:
@@ -72,5 +77,8 @@ elif sys.argv[1] == "place":
 else:
     tell(window, window.getRoleName(), window.name.strip())
     for item, role, name in shown(window):
-        if role not in BARE and (name or role != "frame"):  # a frame without a name is a line around others
+        if role == "scroll bar" and wide(item):
+            sys.exit("it has to be scrolled sideways")
+        told = role not in BARE or (role == "label" and window.getRoleName() == "alert")
+        if told and (name or role != "frame"):  # a frame without a name is a line around others
             tell(item, role, name)

@@ -4,6 +4,7 @@
 #include "platform/forms/look.h"
 #include "platform/forms/style_painting.h"
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleFactory>
@@ -87,6 +88,13 @@ void LightStyle::drawPrimitive(
         else
             paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
         return;
+    case PE_FrameFocusRect:
+        // The row on which the keys stand, also before one is chosen.
+        if (qobject_cast<const QAbstractItemView*>(widget)) {
+            paint::focusFrame(*painter, option->rect);
+            return;
+        }
+        break;
     case PE_FrameGroupBox:
         paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
         return;
