@@ -53,6 +53,7 @@ second_start_by_keys() {
     start_program
     on_heard "Welcome To Kestrill Main Menu"
     expect "select City from Personal_Info" Albany
+    until_true "the button Exit" is_placed Exit
     tell_to_end
 }
 

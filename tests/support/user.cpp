@@ -9,9 +9,7 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QTest>
 #include <QTimer>
@@ -293,7 +291,7 @@ void setByAssistant(forms::Control& control, const QString& text)
     QAccessible::queryAccessibleInterface(line ? line : widget)->setText(QAccessible::Value, text);
 }
 
-// ---- lists and boxes
+// ---- lists
 
 void clickArrow(forms::ComboBox& box)
 {
@@ -312,16 +310,6 @@ QStringList itemsOf(const forms::ComboBox& box)
     for (int index = 0; index < box.listCount(); ++index)
         items += box.list(index);
     return items;
-}
-
-void clickInBox(const QString& caption)
-{
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>())
-        if (button->text().remove(u'&') == caption)
-            return QTest::mouseClick(
-                box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
-    throw std::logic_error("No message box is up that has a button " + caption.toStdString());
 }
 
 void pick(forms::ComboBox& box, const QString& item)

@@ -116,19 +116,13 @@ TEST_F(Looks, EveryKindOfControlShowsThatItHasTheFocus)
         form.other.setFocus();
         EXPECT_EQ(changeOf(*control, without), 0) << "nor is a selection left: " << control->name().toStdString();
     }
-}
-
-// Before one is chosen, too, as in a list that opens in an empty box.
-TEST_F(Looks, ARowOfAListShowsThatTheKeysAreOnIt)
-{
-    stand(form.combo);
     form.combo.openList();
     settle();
     const QImage list = QApplication::activePopupWidget()->grab().toImage();
     int marks = 0;
     for (int y = 0; y < list.height(); ++y)
         marks += list.pixelColor(list.width() / 2, y) == look::colours().accent ? 1 : 0;
-    EXPECT_GE(marks, 2) << "above the row and below it";
+    EXPECT_GE(marks, 2) << "above the row that the keys are on, before one is chosen, and below it";
 }
 
 // ---- colours and sizes
