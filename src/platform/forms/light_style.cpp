@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QListView>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -198,6 +199,9 @@ int LightStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         // The columns of a list of records keep their texts apart, those on the right too.
         if (isRecordList(widget))
             return grid(1) / 2;
+        // The texts of a list begin below that of its box: frame and toolkit add a pixel each.
+        if (qobject_cast<const QListView*>(widget))
+            return textInset() - 2;
         break;
     default:
         break;
