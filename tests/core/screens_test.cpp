@@ -27,6 +27,7 @@
 #include "support/harness.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QShortcutEvent>
 #include <QTest>
 
@@ -198,6 +199,9 @@ TEST_F(AllScreens, AreGoneThroughByKeysAndFitOnASmallDesktop)
             whileModal([] { press(Qt::Key_Return); }); // its date opens the calendar
         EXPECT_EQ(ring(form), walk.ring);
         EXPECT_LE(form.canvas()->sizeHint().width(), std::min(1024, forms::look::leastWindow().width()));
+        for (const auto* button : form.canvas()->findChildren<QPushButton*>())
+            EXPECT_GE(button->icon().actualSize({999, 999}).width(), 2 * button->iconSize().width())
+                << button->objectName().toStdString() << " is blurred on a sharp screen";
         forms::destroyScreens();
     }
 }

@@ -152,7 +152,7 @@ TEST_F(Looks, TextAndFramesStandOutFromWhatIsBehindThem)
 {
     const QPalette palette = QApplication::palette();
     const look::Colours& the = look::colours();
-    expectToStandOut(4.5, {the.text, the.quiet, the.accent}, {the.ground, the.field, the.buttonFace});
+    expectToStandOut(4.5, {the.text, the.quiet, the.accent, the.link}, {the.ground, the.field, the.buttonFace});
     expectToStandOut(4.5, {the.text}, {the.pressed, the.error});
     expectToStandOut(3, {the.line, the.accent, the.warning, the.danger}, {the.ground, the.field, the.buttonFace});
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
