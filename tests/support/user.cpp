@@ -57,11 +57,6 @@ Spot spotOf(forms::Control& control, QPoint position)
 
 QPoint lastPlace; // of a click, on the display
 
-Spot middleOf(forms::Control& control)
-{
-    return spotOf(control, control.widget()->rect().center());
-}
-
 QWindow& frontWindow()
 {
     QWidget* front = QApplication::activePopupWidget();
@@ -170,14 +165,14 @@ bool rightClick(forms::Control& control, const QString& command)
         }
     });
     inMenu.start(0);
-    const Spot spot = middleOf(control);
+    const Spot spot = spotOf(control, control.widget()->rect().center());
     QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
     return opened;
 }
 
 bool drop(forms::Control& control, const QString& text)
 {
-    const Spot spot = middleOf(control);
+    const Spot spot = spotOf(control, control.widget()->rect().center());
     QMimeData data;
     data.setText(text);
     QDragEnterEvent enter(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
