@@ -137,19 +137,7 @@ protected:
     forms::ComboBox* const boxes[2] = {&form.combo, &form.choice};
 };
 
-TEST_F(Combo, IsClearedWithoutAnEvent)
-{
-    form.combo.setText("typed text");
-    form.choice.setListIndex(2);
-    taken();
-    for (forms::ComboBox* each : boxes) {
-        EXPECT_EQ(after([each] { each->clear(); }), "") << each->name().toStdString();
-        EXPECT_EQ(each->text() + itemsOf(*each).join(' '), "");
-        EXPECT_EQ(each->listIndex(), -1);
-    }
-}
-
-TEST_F(Combo, FiresClickAtAPickAndChangeOrClickAtATextByCode)
+TEST_F(Combo, FiresClickAtAPickChangeOrClickAtATextByCodeAndNothingWhenItIsCleared)
 {
     for (forms::ComboBox* each : boxes) {
         SCOPED_TRACE(each->name().toStdString());
@@ -167,6 +155,8 @@ TEST_F(Combo, FiresClickAtAPickAndChangeOrClickAtATextByCode)
         EXPECT_EQ(after([each] { each->setListIndex(2); }), "Click:gamma");
         EXPECT_EQ(after([each] { each->setListIndex(2); }), "");
         EXPECT_EQ(each->text(), "gamma");
+        EXPECT_EQ(after([each] { each->clear(); }), "");
+        EXPECT_EQ(each->text() + itemsOf(*each).join(u' ') + QString::number(each->listIndex()), "-1");
     }
 }
 

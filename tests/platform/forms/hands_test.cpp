@@ -33,7 +33,7 @@ TEST_F(Hands, TheFocusComesAtThePressWhateverPartItIsOn)
     }
 }
 
-TEST_F(Hands, TheSecondClickCountsAloneOrBringsTheFocusWhereTheFirstHasClosedAList)
+TEST_F(Hands, TheSecondClickCountsAloneOrBringsTheFocusWhereTheFirstHasClosedAListAndPressesNothingOnAnotherScreen)
 {
     form.memo.setText("word");
     form.memo.DblClick = [this] { journal += "DblClick"; };
@@ -45,10 +45,7 @@ TEST_F(Hands, TheSecondClickCountsAloneOrBringsTheFocusWhereTheFirstHasClosedALi
     EXPECT_EQ(after([this] { click(form.line); }), "");
     EXPECT_FALSE(isListOpen());
     EXPECT_EQ(after(clickAgain), "combo.LostFocus line.GotFocus line.Click");
-}
 
-TEST_F(Hands, TheSecondClickOfADoubleClickPressesNothingOnAnotherScreen)
-{
     TrialForm other(journal, "Other");
     form.answers["ok.Click"] = [&other] { other.show(); };
     click(form.ok);
