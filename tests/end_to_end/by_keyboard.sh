@@ -42,8 +42,6 @@ on_heard "Welcome To Kestrill Main Menu" alt+x
 on_heard "$Message" Return
 ends_with 0
 same "$(dump "$Backup")" "$(dump "$Database")" "the backup differs from the database"
-expect_mode "$(dirname "$Database")" 700
-expect_mode "$Database" 600
 start_program
 on_heard "Welcome To Kestrill Main Menu"
 expect "select City from Personal_Info" Albany

@@ -56,11 +56,6 @@ def tell(item, role, name):
     print(DATES.sub("~", " | ".join(words).rstrip(" |")))
 
 
-def wide(item):
-    extents = item.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    return extents.width > extents.height
-
-
 def place(wanted):
     found = [(role == "label", item) for item, role, name in shown(window) if name == wanted]
     if not found:
@@ -77,7 +72,8 @@ elif sys.argv[1] == "place":
 else:
     tell(window, window.getRoleName(), window.name.strip())
     for item, role, name in shown(window):
-        if role == "scroll bar" and wide(item):
+        size = item.queryComponent().getSize()
+        if role == "scroll bar" and size[0] > size[1]:
             sys.exit("it has to be scrolled sideways")
         told = role not in BARE or (role == "label" and window.getRoleName() == "alert")
         if told and (name or role != "frame"):  # a frame without a name is a line around others

@@ -37,10 +37,7 @@ bool modalIsReady()
 // Before the forms that a test has as members.
 FormsTest::FormsTest()
 {
-    [[maybe_unused]] static const bool prepared = [] {
-        forms::prepare(*qApp);
-        return true;
-    }();
+    [[maybe_unused]] static const bool prepared = (forms::prepare(*qApp), true);
     forms::setMessageDoor([this](const forms::Message& shown) { return answer(shown); });
     forms::setProcessEnder([this](int status) {
         endStatus_ = status;
