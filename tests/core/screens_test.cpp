@@ -114,7 +114,6 @@ forms::Form& account()
     for (int count = 0; count < 3; ++count)
         addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).trimmed().split(' '));
     screen<frmEditBankBoxes>().AccountMode = int(frmEditBankBoxes::Update);
-    screen<frmBank>().ReturnFromCalendar = false;
     shown<frmBank>();
     click(screen<frmBank>().cmdNext);
     return screen<frmBank>();

@@ -62,11 +62,10 @@ QString contents(const forms::Form& form)
 
 QString ring(const forms::Form& form)
 {
-    constexpr int most = 40;
     QStringList names;
     do {
         names += form.activeControl()->name();
         user::tab();
-    } while (form.activeControl()->name() != names.first() && names.size() < most);
+    } while (form.activeControl()->name() != names.first() && names.size() < 40);
     return names.join(' ');
 }

@@ -129,8 +129,25 @@ TEST_F(Hands, TheRightButtonIsAMouseDownWhereABoxAnswersTheMouse)
     EXPECT_EQ(taken(), "MouseDown");
 }
 
-TEST_F(Hands, AHeldKeyCountsOnceAndAnswersNoBoxThatItHasOpened)
+TEST_F(Hands, AHeldKeyRepeatsWhatItTypesCountsOnceAndAnswersNoBoxThatItHasOpened)
 {
+    hold(Qt::Key_A);
+    repeat(Qt::Key_A);
+    EXPECT_EQ(form.line.text(), "aaaa");
+    form.memo.setFocus();
+    hold(Qt::Key_Return);
+    repeat(Qt::Key_Return, {}, 1);
+    EXPECT_EQ(form.memo.text(), "\n\n");
+    stand(form.check);
+    hold(Qt::Key_Space);
+    repeat(Qt::Key_Space);
+    letGo(Qt::Key_Space);
+    EXPECT_EQ(taken(), "check.Click");
+    hold(Qt::Key_F1);
+    EXPECT_TRUE(openedHelp());
+    repeat(Qt::Key_F1);
+    EXPECT_FALSE(openedHelp());
+
     useRealBoxes();
     form.askAtOk();
     for (const Qt::KeyboardModifiers modifiers : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::AltModifier)}) {
@@ -166,26 +183,6 @@ TEST_F(Hands, AKeyThatClosesAListDoesNothingElse)
         press(Qt::Key_Return);
         EXPECT_EQ(taken(), "ok.Click");
     }
-}
-
-TEST_F(Hands, AHeldKeyRepeatsWhatItTypesAndNothingElse)
-{
-    hold(Qt::Key_A);
-    repeat(Qt::Key_A);
-    EXPECT_EQ(form.line.text(), "aaaa");
-    form.memo.setFocus();
-    hold(Qt::Key_Return);
-    repeat(Qt::Key_Return, {}, 1);
-    EXPECT_EQ(form.memo.text(), "\n\n");
-    stand(form.check);
-    hold(Qt::Key_Space);
-    repeat(Qt::Key_Space);
-    letGo(Qt::Key_Space);
-    EXPECT_EQ(taken(), "check.Click");
-    hold(Qt::Key_F1);
-    EXPECT_TRUE(openedHelp());
-    repeat(Qt::Key_F1);
-    EXPECT_FALSE(openedHelp());
 }
 
 } // namespace
