@@ -1,25 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Ends that the program doesn't choose: what was confirmed stays, and nothing is made that was not there.
 
-# types CITY: into the personal information.
-types() {
-    go frmGenInfo alt+r
-    enter frmGenInfo City "$1"
-}
-
-killed() {
-    step "killed in the middle of an entry, and started again"
-    household killed
-    start_at_menu
-    types Saved
-    go frmMain alt+s
-    types Typed
-    kill_program
-    start_at_menu
-    expect "select City from Personal_Info" Saved
-    tell_to_end
-}
-
 killed_in_a_search() {
     step "killed in the midst of a search, which writes what it finds"
     household killed-search "$(assets 30000 "'Indoor', 'Attic', 'Art', 'Clock ' || i, '2001', 'A', 'B', i, '1/2/2020',
@@ -57,7 +38,8 @@ moved_away() {
     step "the database is moved away under the program: the next write says so"
     household moved
     start_at_menu
-    types Lost
+    go frmGenInfo alt+r
+    enter frmGenInfo City Lost
     mv "$Database" "$Place/elsewhere.db"
     keys alt+s
     until_true "the reason on the error output" grep -q 'KTL.db was moved' "$Log"
@@ -96,7 +78,6 @@ far_below() {
     unset XDG_DATA_HOME
 }
 
-killed
 killed_in_a_search
 told_to_end
 moved_away

@@ -72,5 +72,9 @@ elif sys.argv[1] == "place":
 else:
     tell(window, window.getRoleName(), window.name.strip())
     for item, role, name in shown(window):
-        if role not in BARE and (name or role != "frame"):  # a frame without a name is a line around others
+        size = item.queryComponent().getSize()
+        if role == "scroll bar" and size[0] > size[1]:
+            sys.exit("it has to be scrolled sideways")
+        told = role not in BARE or (role == "label" and window.getRoleName() == "alert")
+        if told and (name or role != "frame"):  # a frame without a name is a line around others
             tell(item, role, name)

@@ -26,21 +26,12 @@ QString told(const forms::Message& box)
     return QStringLiteral("%1 [%2, flags %3]").arg(box.text, box.title).arg(box.flags);
 }
 
-// A box runs in a call of the toolkit all along; a screen is ready once the layer has come back from showing it.
-bool modalIsReady()
-{
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) || !forms::insideToolkitCall();
-}
-
 } // namespace
 
 // Before the forms that a test has as members.
 FormsTest::FormsTest()
 {
-    [[maybe_unused]] static const bool prepared = [] {
-        forms::prepare(*qApp);
-        return true;
-    }();
+    [[maybe_unused]] static const bool prepared = (forms::prepare(*qApp), true);
     forms::setMessageDoor([this](const forms::Message& shown) { return answer(shown); });
     forms::setProcessEnder([this](int status) {
         endStatus_ = status;
@@ -97,7 +88,9 @@ void FormsTest::whileModal(std::function<void()> script)
 
 void FormsTest::attendModals()
 {
-    const bool waits = modalsUp() > scriptsRunning_ && modalIsReady();
+    // A box runs in a call of the toolkit all along; a screen is ready once the layer has come back from showing it.
+    const bool isReady = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) || !forms::insideToolkitCall();
+    const bool waits = isReady && modalsUp() > scriptsRunning_;
     polls_ = waits ? polls_ + 1 : 0;
     if (!waits)
         return;

@@ -2,6 +2,7 @@
 #include "support/scene.h"
 
 #include "core/frmStartup.h"
+#include "support/user.h"
 
 #include <QApplication>
 #include <QWidget>
@@ -57,4 +58,14 @@ QString contents(const forms::Form& form)
         all += told(*control);
     all.removeAll(QString());
     return all.join(", ");
+}
+
+QString ring(const forms::Form& form)
+{
+    QStringList names;
+    do {
+        names += form.activeControl()->name();
+        user::tab();
+    } while (form.activeControl()->name() != names.first() && names.size() < 40);
+    return names.join(' ');
 }

@@ -15,6 +15,9 @@ QString scene();
 /// hidden. "cmbArea=Indoor off, txtLoc=None locked, chkWar on, cmdUpdate off"
 QString contents(const forms::Form& form);
 
+/// Where the Tab key goes from here until it is back: "cmdIn cmdOut".
+QString ring(const forms::Form& form);
+
 /// Texts, numbers and truths as one line, to be compared at once: "2 frmMain: cmdIn, 3, true".
 template <class... Things>
 QString line(const Things&... things)

@@ -9,9 +9,7 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QTest>
 #include <QTimer>
@@ -58,11 +56,6 @@ Spot spotOf(forms::Control& control, QPoint position)
 }
 
 QPoint lastPlace; // of a click, on the display
-
-Spot middleOf(forms::Control& control)
-{
-    return spotOf(control, control.widget()->rect().center());
-}
 
 QWindow& frontWindow()
 {
@@ -172,14 +165,14 @@ bool rightClick(forms::Control& control, const QString& command)
         }
     });
     inMenu.start(0);
-    const Spot spot = middleOf(control);
+    const Spot spot = spotOf(control, control.widget()->rect().center());
     QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
     return opened;
 }
 
 bool drop(forms::Control& control, const QString& text)
 {
-    const Spot spot = middleOf(control);
+    const Spot spot = spotOf(control, control.widget()->rect().center());
     QMimeData data;
     data.setText(text);
     QDragEnterEvent enter(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
@@ -293,7 +286,7 @@ void setByAssistant(forms::Control& control, const QString& text)
     QAccessible::queryAccessibleInterface(line ? line : widget)->setText(QAccessible::Value, text);
 }
 
-// ---- lists and boxes
+// ---- lists
 
 void clickArrow(forms::ComboBox& box)
 {
@@ -312,16 +305,6 @@ QStringList itemsOf(const forms::ComboBox& box)
     for (int index = 0; index < box.listCount(); ++index)
         items += box.list(index);
     return items;
-}
-
-void clickInBox(const QString& caption)
-{
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>())
-        if (button->text().remove(u'&') == caption)
-            return QTest::mouseClick(
-                box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
-    throw std::logic_error("No message box is up that has a button " + caption.toStdString());
 }
 
 void pick(forms::ComboBox& box, const QString& item)

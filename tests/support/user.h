@@ -84,9 +84,6 @@ bool isListOpen();
 
 QStringList itemsOf(const forms::ComboBox& box);
 
-/// Clicks a button of the real message box that is up.
-void clickInBox(const QString& caption);
-
 /// Presses the close box in the title bar.
 void closeBox(forms::Form& form);
 

@@ -47,6 +47,7 @@ TEST_F(WindowsTest, ADamagedHouseholdIsBroughtBackByKeys)
 
     showAndReadAll();
     EXPECT_EQ(told(), "Today's file: damaged or foreign, This backup can be read to its last page.");
+    EXPECT_EQ(ring(restore()), "lstBackups cmdRestore cmdClose");
     press(Qt::Key_Down);
     EXPECT_EQ(restore().lstBackups.record(1)[4], "Damaged or foreign");
     EXPECT_TRUE(restore().lblState.caption().startsWith("This backup can't be restored: file is "));
@@ -117,6 +118,7 @@ TEST_F(WindowsTest, TheExportAsksForAFolderAndSaysWhatItWrote)
     answer = below("chosen");
     QDir().mkdir(answer);
     accessKey('f');
+    EXPECT_EQ(ring(window), "cmdClose cmdChoose");
     click(window.cmdChoose);
     const QString name = "Kestrill " + QDate::currentDate().toString(Qt::ISODate);
     EXPECT_EQ(QDir(answer).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),

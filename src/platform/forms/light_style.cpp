@@ -4,7 +4,9 @@
 #include "platform/forms/look.h"
 #include "platform/forms/style_painting.h"
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QListView>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -87,6 +89,13 @@ void LightStyle::drawPrimitive(
         else
             paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
         return;
+    case PE_FrameFocusRect:
+        // The row on which the keys stand, also before one is chosen.
+        if (qobject_cast<const QAbstractItemView*>(widget)) {
+            paint::focusFrame(*painter, option->rect);
+            return;
+        }
+        break;
     case PE_FrameGroupBox:
         paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
         return;
@@ -190,6 +199,9 @@ int LightStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         // The columns of a list of records keep their texts apart, those on the right too.
         if (isRecordList(widget))
             return grid(1) / 2;
+        // The texts of a list begin below that of its box: frame and toolkit add a pixel each.
+        if (qobject_cast<const QListView*>(widget))
+            return textInset() - 2;
         break;
     default:
         break;

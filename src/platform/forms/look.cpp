@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPalette>
+#include <QProcess>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -77,11 +78,27 @@ QPalette memoPalette()
     return palette;
 }
 
+// How much larger than its font a desktop wants texts. By X11 it tells so in dots an inch, which the toolkit heeds; by
+// Wayland it doesn't tell, and its settings have to be read.
+double largeText()
+{
+    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        return 1;
+    constexpr int patience = 500; // milliseconds
+    constexpr double most = 3;
+    QProcess settings;
+    settings.start(QStringLiteral("gsettings"),
+        {QStringLiteral("get"), QStringLiteral("org.gnome.desktop.interface"), QStringLiteral("text-scaling-factor")});
+    if (!settings.waitForFinished(patience))
+        return 1; // nor does such a desktop have any
+    return std::clamp(settings.readAllStandardOutput().trimmed().toDouble(), 1.0, most);
+}
+
 QFont bodyFont()
 {
     QFont font = QApplication::font();
     const double points = font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
-    font.setPointSizeF(std::max(points, leastPoints));
+    font.setPointSizeF(std::max(points * largeText(), leastPoints));
     return font;
 }
 

@@ -5,6 +5,7 @@
 #include "platform/forms/keyboard.h"
 #include "platform/forms/look.h"
 #include "platform/forms/month_calendar.h"
+#include "platform/forms/style_painting.h"
 
 #include <QAbstractTableModel>
 #include <QDate>
@@ -120,6 +121,8 @@ public:
         painter->setPen(chosen ? colours.field : model_.isInMonth(cell) ? colours.text : colours.quiet);
         painter->drawText(option.rect, Qt::AlignCenter, QString::number(date.day()));
         painter->restore();
+        if (option.state & QStyle::State_HasFocus)
+            look::paint::focusFrame(*painter, option.rect);
     }
 
 private:

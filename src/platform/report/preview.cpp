@@ -143,8 +143,9 @@ void Preview::saveAs()
     dialog.selectFile(document_->names.file + QStringLiteral(".pdf"));
     connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
         dialog.setDefaultSuffix(filter.contains(QStringLiteral("csv")) ? QStringLiteral("csv") : QStringLiteral("pdf"));
-        const QFileInfo chosen(dialog.selectedFiles().value(0));
-        dialog.selectFile(chosen.completeBaseName() + u'.' + dialog.defaultSuffix());
+        const QString name = QFileInfo(dialog.selectedFiles().value(0)).completeBaseName();
+        if (!name.isEmpty()) // a desktop's own dialogue tells of its filter before it has a name
+            dialog.selectFile(name + u'.' + dialog.defaultSuffix());
     });
     if (dialog.exec() != QDialog::Accepted)
         return;

@@ -5,11 +5,8 @@ using forms::TextEntry;
 
 namespace {
 
-/// A way in which text gets into a box that has the focus.
-struct Way {
-    const char* name;
-    void (*enter)(TextEntry& box, const QString& text);
-};
+/// A way in which text gets into a box that has the focus, and its name.
+using Way = std::pair<const char*, void (*)(TextEntry& box, const QString& text)>;
 
 const Way ways[] = {
     {"Typed", [](TextEntry&, const QString& text) { type(text); }},
@@ -27,7 +24,7 @@ using Entry = FormInFront;
 class TextEnters : public Entry, public testing::WithParamInterface<Way> { };
 
 INSTANTIATE_TEST_SUITE_P(
-    By, TextEnters, testing::ValuesIn(ways), [](const auto& way) { return std::string(way.param.name); });
+    By, TextEnters, testing::ValuesIn(ways), [](const auto& way) { return std::string(way.param.first); });
 
 TEST_P(TextEnters, CharacterByCharacterThroughKeyPressThenThroughTheLimitAndNoLockedBox)
 {
@@ -37,14 +34,14 @@ TEST_P(TextEnters, CharacterByCharacterThroughKeyPressThenThroughTheLimitAndNoLo
         TextEntry& box = control<TextEntry>(form, name);
         click(box);
         box.setMaxLength(4);
-        GetParam().enter(box, "ab" + grin + grin + "c");
+        GetParam().second(box, "ab" + grin + grin + "c");
         EXPECT_EQ(box.text(), "ab" + grin + grin) << "whole characters";
 
         box.Change = [this] { journal += "Change"; };
         box.setText("ab");
         box.setLocked(true);
         taken();
-        GetParam().enter(box, "x");
+        GetParam().second(box, "x");
         press(Qt::Key_Backspace);
         press(Qt::Key_Delete);
         EXPECT_EQ(box.text() + taken(), "ab") << "a locked box";
@@ -56,7 +53,7 @@ TEST_P(TextEnters, CharacterByCharacterThroughKeyPressThenThroughTheLimitAndNoLo
             strokes += QString(" %1").arg(keyAscii);
             keyAscii = keyAscii >= 'a' ? forms::key::Refused : keyAscii == 'B' ? int('X') : keyAscii;
         };
-        GetParam().enter(box, "1aB2");
+        GetParam().second(box, "1aB2");
         EXPECT_EQ(strokes, " 49 97 66 50");
         EXPECT_EQ(box.text(), "1X2");
     }
@@ -137,19 +134,7 @@ protected:
     forms::ComboBox* const boxes[2] = {&form.combo, &form.choice};
 };
 
-TEST_F(Combo, IsClearedWithoutAnEvent)
-{
-    form.combo.setText("typed text");
-    form.choice.setListIndex(2);
-    taken();
-    for (forms::ComboBox* each : boxes) {
-        EXPECT_EQ(after([each] { each->clear(); }), "") << each->name().toStdString();
-        EXPECT_EQ(each->text() + itemsOf(*each).join(' '), "");
-        EXPECT_EQ(each->listIndex(), -1);
-    }
-}
-
-TEST_F(Combo, FiresClickAtAPickAndChangeOrClickAtATextByCode)
+TEST_F(Combo, FiresClickAtAPickChangeOrClickAtATextByCodeAndNothingWhenItIsCleared)
 {
     for (forms::ComboBox* each : boxes) {
         SCOPED_TRACE(each->name().toStdString());
@@ -167,6 +152,8 @@ TEST_F(Combo, FiresClickAtAPickAndChangeOrClickAtATextByCode)
         EXPECT_EQ(after([each] { each->setListIndex(2); }), "Click:gamma");
         EXPECT_EQ(after([each] { each->setListIndex(2); }), "");
         EXPECT_EQ(each->text(), "gamma");
+        EXPECT_EQ(after([each] { each->clear(); }), "");
+        EXPECT_EQ(each->text() + itemsOf(*each).join(u' ') + QString::number(each->listIndex()), "-1");
     }
 }
 

@@ -67,20 +67,18 @@ TEST_F(Keys, TheDefaultButtonAnswersEnterButInTheMemoAndOnAnotherButton)
 
 // ---- focus and activation
 
-class Focus : public FormInFront {
-protected:
-    TrialForm other{journal, "Other"};
-};
+using Focus = FormInFront;
 
 TEST_F(Focus, SetOnAFormThatIsNotInFrontIsTakenWhenItComes)
 {
-    EXPECT_EQ(after([this] { other.memo.setFocus(); }), "");
+    TrialForm other(journal, "Other");
+    EXPECT_EQ(after([&other] { other.memo.setFocus(); }), "");
     EXPECT_FALSE(other.memo.hasFocus());
     EXPECT_EQ(other.activeControl(), &other.memo);
-    EXPECT_EQ(after([this] { other.show(); }), "Form.Deactivate Other.Activate memo.GotFocus");
+    EXPECT_EQ(after([&other] { other.show(); }), "Form.Deactivate Other.Activate memo.GotFocus");
     EXPECT_EQ(after([this] { form.memo.setFocus(); }), "");
     EXPECT_EQ(after([this] { form.show(); }), "Other.Deactivate Form.Activate line.LostFocus memo.GotFocus");
-    EXPECT_EQ(after([this] { other.hide(); }), "") << "a screen behind goes without an event";
+    EXPECT_EQ(after([&other] { other.hide(); }), "") << "a screen behind goes without an event";
     EXPECT_FALSE(other.isVisible());
 }
 
@@ -107,15 +105,16 @@ TEST_F(Focus, AndActivationDoNotStirForABoxAMenuOrAnotherProgram)
 
 TEST_F(Focus, OfAModalScreenAndBackOfItsOwner)
 {
-    form.answers["ok.Click"] = [this] {
+    TrialForm other(journal, "Other");
+    form.answers["ok.Click"] = [&] {
         other.show_Modal(form);
         journal += "returned";
     };
-    other.answers["ok.Click"] = [this] {
+    other.answers["ok.Click"] = [&] {
         other.hide();
         other.show_Modal(form); // an event in between: the first call hasn't returned yet
     };
-    whileModal([this] {
+    whileModal([&] {
         EXPECT_EQ(taken(), "line.LostFocus ok.GotFocus Form.Deactivate Other.Activate line.GotFocus");
         type("x");
         click(other.ok);

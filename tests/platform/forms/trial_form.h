@@ -5,7 +5,6 @@
 
 #include <QStringList>
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include <functional>
 #include <map>
