@@ -162,19 +162,19 @@ TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndLeavesNoRowWhereItIsRefus
     EXPECT_EQ(Data1.rsPrint.RecordCount(), 0);
 }
 
-TEST_F(AssetChange, LeavesToTheResultsByCancelAndToTheMenuWithoutTouchingTheLists)
+TEST_F(AssetChange, IsLeftAfterAQuestionForWhereTheUserCameFrom)
 {
-    auto& results = screen<frmSearchResults>();
-    results.FromSearchScreen = true;
-    expectToStay([] { click(asset().cmdCancel); }, LeaveQuestion);
-    EXPECT_TRUE(results.FromSearchScreen);
-    clickTold(asset().cmdCancel, LeaveQuestion, YesNoQuestion, Answer::Yes);
-    EXPECT_EQ(line(front(), asset().isEnabled(), results.FromSearchScreen), "5 frmSearchResults, true, false");
-    EXPECT_EQ(asset().cmbLoc.listCount() + asset().cmbCat.listCount() + asset().cmbType.listCount(), 0);
-
-    openFound("2");
-    leaveToMainMenu();
-    EXPECT_EQ(line(front(), asset().cmbLoc.listCount() > 0, screen<frmMain>().FromResults), "2 frmMain, true, true");
+    const auto listed = [] {
+        return asset().cmbLoc.listCount() + asset().cmbCat.listCount() + asset().cmbType.listCount();
+    };
+    for (const QString origin : {"5 frmSearchResults", "13 frmAuto"}) {
+        expectToStay([] { closeBox(asset()); }, LeaveQuestion);
+        clickTold(asset().cmdCancel, LeaveQuestion, YesNoQuestion, Answer::Yes);
+        EXPECT_EQ(line(front(), asset().isEnabled(), asset().isVisible(), listed()), origin + ", true, false, 0");
+        origin == "13 frmAuto" ? openFound("2") : openToAdd();
+    }
+    leaveToMainMenu(); // which touches nothing
+    EXPECT_EQ(line(front(), listed() > 0, screen<frmMain>().FromResults), "2 frmMain, true, true");
 }
 
 } // namespace

@@ -42,13 +42,18 @@ TEST_F(SearchMatching, TheWordIsLookedForInEveryColumnButTheWarranty)
     EXPECT_FALSE(isProgressShown());
 }
 
-TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordToo)
+TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordTooAndAllIsShownOnlyAfterAQuestion)
 {
     addThree();
-    openFromMenu();
+    findAll(Answer::No);
+    EXPECT_EQ(line(scene(), models()), "4 frmSearch: txtKey, ");
+    findAll();
+    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), isProgressShown()),
+        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, false");
+    click(results().cmdBack);
     pick(search().cmbArea, "Indoor");
     press(Qt::Key_Return);
-    EXPECT_EQ(models(), "M1 M2");
+    EXPECT_EQ(line(models(), search().pbSearch.value(), search().pbSearch.max()), "M1 M2, 2, 2");
     click(results().cmdBack); // New Search keeps the lists
     pick(search().cmbLocation, "Attic");
     type(search().txtKey, "ACME\n");
@@ -65,16 +70,6 @@ TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordToo)
     forms::setMessageDoor([](const forms::Message&) { return Answer::OK; });
     press(Qt::Key_Return); // a part of a value is none
     EXPECT_EQ(models(), "");
-}
-
-TEST_F(SearchMatching, AllAssetsAreShownOnlyAfterAQuestion)
-{
-    addThree();
-    findAll(Answer::No);
-    EXPECT_EQ(line(scene(), models()), "4 frmSearch: txtKey, ");
-    findAll();
-    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), isProgressShown()),
-        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, false");
 }
 
 TEST_F(SearchMatching, AHeaderSortsThisSearchAndAllLaterOnes)
@@ -116,20 +111,25 @@ TEST_F(SearchMatching, MoreMatchesThanCanBeCountedEndTheProgramWithNothingLost)
     EXPECT_EQ(line(failedHandler(), Data1.rsInventory.RecordCount()), "frmSearch.cmdContinue_Click, 32768");
 }
 
-TEST_F(SearchMatching, AStagingThatDoesNotFitOnTheDiskIsReportedAndLeavesTheHousehold)
+TEST_F(SearchMatching, AStagingThatCannotBeWrittenIsReportedAndLeavesTheHousehold)
 {
     addThree();
     put(Data1.rsInventory, {{Inventory::Description, QString(100'000, u'x')}});
     const QStringList household = columnOf(Data1.rsInventory, Inventory::Description);
-    {
-        const FullDisk full(QFileInfo(databaseFile()).size());
+    for (const std::string cause : {"readonly", "too large"}) {
+        std::optional<FullDisk> full;
+        if (cause == "readonly")
+            storage::execute(Data1.Home.handle(), "PRAGMA query_only = ON");
+        else
+            full.emplace(QFileInfo(databaseFile()).size());
         find("acme");
+        EXPECT_THAT(reportedFailure().value().failure.toStdString(), testing::HasSubstr(cause));
+        EXPECT_EQ(models(), "") << cause;
+        full.reset();
+        reopenData();
+        EXPECT_EQ(models(), "") << cause;
+        EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Description), household) << cause;
     }
-    EXPECT_THAT(reportedFailure().value().failure.toStdString(), testing::HasSubstr("too large"));
-    EXPECT_EQ(models(), "");
-    reopenData();
-    EXPECT_EQ(models(), "");
-    EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Description), household);
     find("acme");
     EXPECT_EQ(models(), "M1 M3");
 }
