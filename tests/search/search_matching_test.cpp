@@ -39,7 +39,7 @@ TEST_F(SearchMatching, TheWordIsLookedForInEveryColumnButTheWarranty)
         EXPECT_EQ(models(), found) << word;
     }
     EXPECT_FALSE(forms::detail::findScreen(typeid(frmProgress))) << "which would close the program";
-    EXPECT_FALSE(isProgressShown());
+    EXPECT_EQ(hiddenOfSearch(), "pbSearch hidden");
 }
 
 TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordTooAndAllIsShownOnlyAfterAQuestion)
@@ -48,8 +48,8 @@ TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordTooAndAllIsShownOnl
     findAll(Answer::No);
     EXPECT_EQ(line(scene(), models()), "4 frmSearch: txtKey, ");
     findAll();
-    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), isProgressShown()),
-        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, false");
+    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), hiddenOfSearch()),
+        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, pbSearch hidden");
     click(results().cmdBack);
     pick(search().cmbArea, "Indoor");
     press(Qt::Key_Return);

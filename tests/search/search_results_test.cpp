@@ -52,6 +52,7 @@ TEST_F(SearchResults, ShowsEachResultInItsColumnsAndLeavesEmptyBoxesBehind)
     EXPECT_EQ(results().txtMake[1].text(), make);
 
     click(results().cmdBack);
+    EXPECT_EQ(scene(), "4 frmSearch: txtKey");
     type("bolt\n");
     EXPECT_EQ(line(results().txtMake[0].text(), results().lblRecsFound.caption()), "Bolt, 1 Asset Found!");
     for (const auto& [boxes, text] : columns)
@@ -64,7 +65,7 @@ TEST_F(SearchResults, PagesAndRowsAreSteppedThroughByMouseAndByKeys)
     findAll();
     EXPECT_EQ(page(), "Page 1 of 1: 1-10");
     click(results().cmdMain);
-    EXPECT_EQ(line(front(), results().txtMore[0].isVisible()), "2 frmMain, false");
+    EXPECT_EQ(line(scene(), results().txtMore[0].isVisible()), "2 frmMain: cmdSearch, false");
 
     addAssets(11);
     findAll();
@@ -126,13 +127,13 @@ TEST_F(SearchResults, ComingBackSearchesAgainWithoutQuestionAndMayLeaveAnEmptyPa
     EXPECT_EQ(line(front(), page()), "5 frmSearchResults, Page 1 of 2: 1-10 next");
 
     click(results().cmdBack);
-    type("item 11\n");
+    type(search().txtKey, "item 11\n");
     click(results().txtMore[0]);
     put(Data1.rsInventory, {{Inventory::Type, "Gone"}});
     comeBack();
     press(Qt::Key_Down);
-    EXPECT_EQ(line(front(), results().lblRecsFound.caption(), results().lblPage.caption(), isProgressShown()),
-        "5 frmSearchResults, 1 Asset Found!, Page 1 of 1, false");
+    EXPECT_EQ(line(front(), results().lblRecsFound.caption(), results().lblPage.caption(), hiddenOfSearch()),
+        "5 frmSearchResults, 1 Asset Found!, Page 1 of 1, pbSearch hidden");
     EXPECT_EQ(shown(results().txtItem), QStringList());
 }
 
@@ -145,7 +146,7 @@ TEST_F(SearchResults, ArePrintedWhileNoOtherReportIsOpen)
     const QWidget* const report = reportWindow();
     EXPECT_TRUE(report);
     click(results().cmdBack);
-    type("item 2\n");
+    type(search().txtKey, "item 2\n");
     EXPECT_EQ(line(front(), staged(Print::Type).join(' ')), "5 frmSearchResults, Item 2");
     clickTold(results().cmdPrint, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
     EXPECT_EQ(report, reportWindow());
