@@ -139,6 +139,7 @@ TEST_F(AssetChange, ADeleteThatFailsIsReportedWithTheRowWholeOrGone)
 
 TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndNothingElseWhereItIsRefusedOrFails)
 {
+    addRow(Data1.rsPrint, {{Print::Type, "Found before"}});
     enterPrice("1/2");
     clickTold(asset().cmdPrint, PrintError, Stop);
     asset().txtMake.setText("Acme"); // not updated

@@ -96,8 +96,8 @@ TEST_F(SearchResults, PagesAndRowsAreSteppedThroughByMouseAndByKeys)
         sorts += QString::number(results().SortColumn);
     }
     press(Qt::Key_F1);
-    EXPECT_EQ(line(sorts.join(' '), place(), openedHelp().value()),
-        "5 6 7 7 6 5 4 2 1 1, Page 1 of 3: 1-10 next, txtMore(1), 5001");
+    EXPECT_EQ(line(sorts.join(' '), place(), openedHelp().value(), results().FromSearchScreen),
+        "5 6 7 7 6 5 4 2 1 1, Page 1 of 3: 1-10 next, txtMore(1), 5001, false");
     press({Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return});
     EXPECT_EQ(line(front(), results().SelectedAsset), "10 frmAddUpDel, 1");
 }

@@ -78,6 +78,7 @@ protected:
                     "SHED|tools|Saw", "2nd|Tools|saw", "0|ART|< Add/Edit Item >", "0|Art|10th", "0|Art|2nd"})
                 addNames(*table, QString(names).split('|'));
         }
+        addNames(Data1.rsOutdoor, {"Pond", "0", "0"});
         atOnce.commit();
         openFromMenu();
     }
@@ -95,14 +96,15 @@ TEST_F(SearchLists, EachListHoldsEveryNameOnceAndNarrowsTheNext)
     };
     for (const QString name : {"Indoor", "Outdoor", "Mobile"}) {
         pick(area, name);
-        EXPECT_EQ(lists(), QStringList({"2nd|Any|Attic|shed", "", ""}));
+        const QString places = name == "Outdoor" ? "2nd|Any|Attic|Pond|shed" : "2nd|Any|Attic|shed";
+        EXPECT_EQ(lists(), QStringList({places, "", ""}));
         EXPECT_EQ(location.text(), "Any");
         pick(location, "Attic");
         EXPECT_EQ(lists()[1], "Any|Art|tools"); // of the area, not of the attic
         pick(category, "Art");
         EXPECT_EQ(lists()[2], (name == "Indoor" ? "" : "< Add/Edit Item >|") + QString("10th|2nd|Any|Vase"));
         pick(location, "shed");
-        EXPECT_EQ(line(category.text(), lists().join('/')), "Any, 2nd|Any|Attic|shed/Any|Art|tools/");
+        EXPECT_EQ(line(category.text(), lists().join('/')), "Any, " + places + "/Any|Art|tools/");
         pick(category, "Art");
         pick(item, "Vase");
         pick(category, "tools");
