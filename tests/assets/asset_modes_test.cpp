@@ -38,7 +38,7 @@ TEST_F(AssetModes, AddsInTheAreaThatTheMenuNames)
 TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
 {
     addAssetRow({"Outdoor", "Barn", "Animal Care", "Dog House", "2026", "Acme", "Unknown", "Unknown", "11/24/2026",
-        "$1234.50", "Yes", "Desk", "None", "Used"});
+        "$1234.50", "Yes", "Desk", "Oak", "Used"});
     openToAdd("Indoor");
     leaveToMainMenu();
     openFound("1");
@@ -46,7 +46,7 @@ TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
     EXPECT_EQ(contents(asset()),
         "cmbArea=Outdoor, cmbLoc=Barn, cmbCat=Animal Care, cmbType=Dog House, cmbYear=2026, txtMake=Acme, "
         "txtMod=Unknown, txtSerial=Unknown, optPurNewUsed(1) on, txtPur=11/24/2026, txtPPrice=$1,234.50, "
-        "optRecOnFile(0) on, txtLoc=Desk locked, txtDescription=None, chkWar off, chkClear on off, cmdAdd off, "
+        "optRecOnFile(0) on, txtLoc=Desk locked, txtDescription=Oak, chkWar off, chkClear on off, cmdAdd off, "
         "cmdClear off");
     EXPECT_EQ(screen<frmAuto>().lblHead1[0].caption(), "Outdoor Asset Management");
 
@@ -85,17 +85,17 @@ TEST_F(AssetModes, ClearEmptiesTheFormAndLeavesNoReceiptOptionChosen)
     fillIn();
     save();
     EXPECT_EQ(row(1), QString(Desk).arg("$1234.50"));
+    clickTold(asset().cmdClear, LeaveQuestion, YesNoQuestion, Answer::Yes); // with "No" chosen
+    EXPECT_EQ(contents(asset()), empty("Indoor", "txtLoc=None locked"));
 }
 
 // ---- the fields, each by itself
 
-class AssetFields : public AssetScreenTest {
-protected:
-    AssetFields() { openToAdd(); }
-};
+using AssetFields = AssetScreenTest;
 
 TEST_F(AssetFields, TakeTheirDefaultBackWhenTheyAreLeftEmpty)
 {
+    openToAdd();
     asset().txtMake.setText("AB");
     asset().cmbYear.setFocus();
     EXPECT_EQ(scene(), "10 frmAddUpDel: cmbYear [20]") << "as much of the year is selected as the make is long";
@@ -114,6 +114,7 @@ TEST_F(AssetFields, TakeTheirDefaultBackWhenTheyAreLeftEmpty)
 
 TEST_F(AssetFields, ReceiptLocationIsEmptiedByTheFocusAndUnlockedByTheFirstKey)
 {
+    openToAdd();
     const auto receipt = [] { return contents(asset()).section(", ", 11, 12); };
     click(asset().optRecOnFile[1]);
     EXPECT_EQ(receipt(), "optRecOnFile(1) on, txtLoc=None locked");
@@ -125,6 +126,7 @@ TEST_F(AssetFields, ReceiptLocationIsEmptiedByTheFocusAndUnlockedByTheFirstKey)
 
 TEST_F(AssetFields, ListsOfNamesAreUsedByMouseAndCursorKeysOnly)
 {
+    openToAdd();
     const auto names = [] { return line(asset().cmbLoc.text(), asset().cmbCat.text()); };
     pick(asset().cmbLoc, "Library");
     type("xyz");

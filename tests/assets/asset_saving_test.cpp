@@ -31,7 +31,7 @@ TEST_F(AssetSaving, KeepsTheScreenForASimilarAssetAndLearnsNewNamesWithTheOldOne
 {
     openToAdd("Mobile");
     const int known = Data1.rsMobile.RecordCount();
-    setClearBox(false);
+    click(asset().chkClear);
     fillIn("Car", "Aircraft", "drone", "10"); // known in another spelling, in other rows
     save();
     EXPECT_EQ(line(asset().cmbLoc.text(), asset().txtPPrice.text(), scene()), "Car, $10.00, 10 frmAddUpDel: cmbLoc");
@@ -47,7 +47,6 @@ TEST_F(AssetSaving, IndoorAloneIsClearedBeforeTheUserIsToldOfAnAssetWithANewName
 {
     for (const QString area : {"Indoor", "Outdoor", "Mobile"}) {
         openToAdd(area);
-        setClearBox(true);
         fillIn(asset().cmbLoc.list(1), asset().cmbCat.list(1), "Never Seen");
         QString whenTold = "nothing";
         forms::setMessageDoor([&whenTold](const forms::Message&) {
@@ -71,7 +70,7 @@ TEST_F(AssetSaving, SettlesTheReceiptLocation)
         {true, "\n", "Yes None"},
     };
     openToAdd();
-    setClearBox(false);
+    click(asset().chkClear);
     fillIn();
     for (const auto& [overNo, typed, location] : cases) {
         click(asset().optRecOnFile[overNo ? 1 : 0]);

@@ -205,9 +205,7 @@ TEST_F(Warranty, ThatTheFileRefusesIsReportedWithTheRowWholeAndOfARowThatIsGoneI
 TEST_F(AssetScreenTest, AWarrantyIsAskedForBehindASaveUnlessTheNumberIsBeyondSixteenBits)
 {
     openToAdd();
-    setClearBox(true);
-    if (asset().chkWar.value() == 0)
-        click(asset().chkWar);
+    click(asset().chkWar);
     fillIn();
     save();
     auto& warranty = screen<frmWar>();

@@ -32,10 +32,7 @@ TEST_F(SearchMatching, TheWordIsLookedForInEveryColumnButTheWarranty)
         {"outdoor", "M3"}, {"TOOLS", "M2"}, {"gnome", "M3"}, {"1950", "M2"}, {"bolt", "M2"}, {"1/2/2022", "M3"},
         {"$99", "M2"}, {"safe", "M1"}, {"parts only", ""}, {"art oak", ""}, {"m1", "M1"}};
     for (const auto& [word, found] : words) {
-        if (*found)
-            find(word);
-        else
-            findNothing(word);
+        *found ? find(word) : findNothing(word);
         EXPECT_EQ(models(), found) << word;
     }
     EXPECT_FALSE(forms::detail::findScreen(typeid(frmProgress))) << "which would close the program";

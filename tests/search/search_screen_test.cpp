@@ -118,6 +118,9 @@ TEST_F(SearchLists, EachListHoldsEveryNameOnceAndNarrowsTheNext)
     }
     pick(area, "Indoor");
     EXPECT_EQ(category.text() + lists()[1], "Any");
+    location.setText("Attic"); // by code
+    category.setText("Art");
+    EXPECT_EQ(lists()[2], "10th|2nd|Any|Vase");
 }
 
 TEST_F(SearchLists, ASecondAnyComesWhereTheFirstLiesBeyondTheEndOfTheCategories)
