@@ -48,16 +48,19 @@ TEST_F(AssetModes, ShowsAFoundAssetForUpdateAndTakesTheAreaMenuAlong)
         "txtMod=Unknown, txtSerial=Unknown, optPurNewUsed(1) on, txtPur=11/24/2026, txtPPrice=$1,234.50, "
         "optRecOnFile(0) on, txtLoc=Desk locked, txtDescription=Oak, chkWar off, chkClear on off, cmdAdd off, "
         "cmdClear off");
-    EXPECT_EQ(screen<frmAuto>().lblHead1[0].caption(), "Outdoor Asset Management");
+    const auto& editor = screen<frmAddField>();
+    EXPECT_EQ(line(screen<frmAuto>().lblHead1[0].caption(), editor.SavedLocation, editor.SavedCategory),
+        "Outdoor Asset Management, Barn, Animal Care");
 
     // Another area has other names; the asset's category keeps its items.
     pick(asset().cmbArea, "Mobile");
     EXPECT_TRUE(itemsOf(asset().cmbLoc).contains("Car") && !itemsOf(asset().cmbLoc).contains("Barn"));
+    EXPECT_FALSE(itemsOf(asset().cmbCat).contains("Animal Care"));
     pick(asset().cmbCat, "Aircraft");
     EXPECT_EQ(asset().cmbType.text(), "Dog House");
     asset().hide();
     openToAdd("Mobile"); // from the menu an asset is added again
-    EXPECT_EQ(asset().lblHead.caption(), "Add Mobile Asset To Inventory");
+    EXPECT_EQ(contents(asset()), empty("Mobile", "optRecOnFile(1) on, txtLoc=None locked"));
     openFound("99"); // which is gone
     EXPECT_EQ(
         contents(asset()).section(", chkWar", 1), " off, chkClear on off, cmdUpdate off, cmdDelete off, cmdClear off");
