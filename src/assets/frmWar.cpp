@@ -120,10 +120,9 @@ void frmWar::picDate_Click(const Expiry& end)
     if (end.year.text().isEmpty() || end.month.text().isEmpty() || end.day.text().isEmpty()) {
         calendar.calDate.setValue(values::Today());
     } else {
-        calendar.calDate.setDay(0); // while month and year change, lest the day be cut to the length of a wrong month
+        calendar.calDate.setDay(end.day.text().toInt());
         calendar.calDate.setMonth(static_cast<int>(frmCalendar::MonthNames.indexOf(end.month.text())) + 1);
         calendar.calDate.setYear(end.year.text().toInt());
-        calendar.calDate.setDay(end.day.text().toInt());
     }
     calendar.show_Modal(*this);
 }

@@ -53,7 +53,7 @@ QLayout* headerLine(frmSearchResults& form, int header, forms::Alignment alignme
     auto* line = new QHBoxLayout;
     line->setDirection(right ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
     line->setSpacing(forms::look::grid(1) / 3);
-    line->setContentsMargins(forms::look::grid(2) / 3, 0, forms::look::grid(2) / 3, 0);
+    line->setContentsMargins(forms::look::textInset(), 0, forms::look::textInset(), 0);
     line->addWidget(form.lblSubHead[header].widget());
     if (form.lblSorted.has(header))
         line->addWidget(form.lblSorted[header].widget());

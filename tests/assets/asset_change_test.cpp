@@ -137,44 +137,46 @@ TEST_F(AssetChange, ADeleteThatFailsIsReportedWithTheRowWholeOrGone)
     EXPECT_EQ(line(columnOf(Data1.rsInventory, Inventory::Amount).join(' '), inventory()), "$10.00 $30.00, 2: $60.00");
 }
 
-TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndLeavesNoRowWhereItIsRefusedOrFails)
+TEST_F(AssetChange, PrintStagesWhatStandsOnTheScreenAndNothingElseWhereItIsRefusedOrFails)
 {
+    addRow(Data1.rsPrint, {{Print::Type, "Found before"}});
+    enterPrice("1/2");
+    clickTold(asset().cmdPrint, PrintError, Stop);
     asset().txtMake.setText("Acme"); // not updated
     enterPrice("25");
-    const QString onScreen = "1|Indoor|Library|Antiques|Antique Desk|2026|Acme|Unknown|Unknown|11/24/2026|$25.00|No";
+    const QStringList onScreen("1|Indoor|Library|Antiques|Antique Desk|2026|Acme|Unknown|Unknown|11/24/2026|$25.00|No");
     click(asset().cmdPrint);
-    EXPECT_EQ(cellsOf(Data1.rsPrint, Print::ID, Print::Receipt).join('|'), onScreen);
+    EXPECT_EQ(rowsOf(Data1.rsPrint, Print::ID, Print::Receipt), onScreen);
     EXPECT_EQ(line(row(2), inventory()), line(desk20_, "3: $60.00"));
 
     asset().cmbType.setText({});
     clickTold(asset().cmdPrint, "Please Close Print Window Before Selecting Another Report To Print!", Exclamation);
-    EXPECT_EQ(cellsOf(Data1.rsPrint, Print::ID, Print::Receipt).join('|'), onScreen) << "under the open report";
+    EXPECT_EQ(rowsOf(Data1.rsPrint, Print::ID, Print::Receipt), onScreen) << "under the open report";
     closeReport();
     clickTold(asset().cmdPrint, "An Item Must Be Selected Before Saving Asset!", Exclamation);
     asset().cmbType.setText("Antique Desk");
-    enterPrice("1/2");
-    clickTold(asset().cmdPrint, PrintError, Stop);
     enterPrice("2");
     refuseWrites("INSERT", "Print");
     clickTold(asset().cmdPrint, PrintError, Stop);
     EXPECT_FALSE(reportWindow());
     reopenData();
-    EXPECT_EQ(Data1.rsPrint.RecordCount(), 0);
+    EXPECT_EQ(rowsOf(Data1.rsPrint, Print::ID, Print::Receipt), onScreen);
 }
 
-TEST_F(AssetChange, LeavesToTheResultsByCancelAndToTheMenuWithoutTouchingTheLists)
+TEST_F(AssetChange, IsLeftAfterAQuestionForWhereTheUserCameFrom)
 {
-    auto& results = screen<frmSearchResults>();
-    results.FromSearchScreen = true;
-    expectToStay([] { click(asset().cmdCancel); }, LeaveQuestion);
-    EXPECT_TRUE(results.FromSearchScreen);
-    clickTold(asset().cmdCancel, LeaveQuestion, YesNoQuestion, Answer::Yes);
-    EXPECT_EQ(line(front(), asset().isEnabled(), results.FromSearchScreen), "5 frmSearchResults, true, false");
-    EXPECT_EQ(asset().cmbLoc.listCount() + asset().cmbCat.listCount() + asset().cmbType.listCount(), 0);
-
-    openFound("2");
-    leaveToMainMenu();
-    EXPECT_EQ(line(front(), asset().cmbLoc.listCount() > 0, screen<frmMain>().FromResults), "2 frmMain, true, true");
+    const auto listed = [] {
+        return asset().cmbLoc.listCount() + asset().cmbCat.listCount() + asset().cmbType.listCount();
+    };
+    for (const QString origin : {"5 frmSearchResults", "13 frmAuto"}) {
+        expectToStay([] { closeBox(asset()); }, LeaveQuestion);
+        clickTold(asset().cmdCancel, LeaveQuestion, YesNoQuestion, Answer::Yes);
+        EXPECT_EQ(line(front(), asset().isEnabled(), asset().isVisible(), listed()), origin + ", true, false, 0");
+        origin == "13 frmAuto" ? openFound("2") : openToAdd();
+    }
+    leaveToMainMenu(); // which touches nothing
+    EXPECT_EQ(line(front(), asset().isVisible(), listed() > 0, screen<frmMain>().FromResults),
+        "2 frmMain, false, true, true");
 }
 
 } // namespace

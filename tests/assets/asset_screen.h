@@ -94,12 +94,6 @@ protected:
         type("Oak\nold");
     }
 
-    static void setClearBox(bool ticked)
-    {
-        if ((asset().chkClear.value() == 1) != ticked)
-            click(asset().chkClear);
-    }
-
     void save(const QString& message = Added, int flags = Information) { clickTold(asset().cmdAdd, message, flags); }
 
     void leaveToMainMenu() { clickTold(asset().cmdMain, LeaveQuestion, YesNoQuestion, Answer::Yes); }

@@ -34,7 +34,7 @@ protected:
 
 TEST_F(MoneyFieldTest, GrowsTheDollarSignAndTakesDigitsAndOnePointHoweverTheyCome)
 {
-    const std::pair<const char*, const char*> entries[] = {{"5", "$5"}, {"5.25", "$5.25"}, {"5.259", "$5.25"},
+    const std::pair<const char*, const char*> entries[] = {{"5", "$5"}, {"5.25", "$5.25"}, {"5.909", "$5.90"},
         {"$1a b,2-3\n", "$123"}, {"1/2", "$1/2"}, {"1..5.", "$1.5"}};
     for (const auto& [keys, text] : entries) {
         come({});

@@ -9,6 +9,7 @@ found_by_word() {
     text CAMcord
     keys Return
     see frmSearchResults results
+    expect "select ID, Type from Print" '1|Camcorder'
     click frmSearchResults 'Update, row 1'
     see frmAddUpDel asset-opened
 }

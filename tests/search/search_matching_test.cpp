@@ -32,23 +32,25 @@ TEST_F(SearchMatching, TheWordIsLookedForInEveryColumnButTheWarranty)
         {"outdoor", "M3"}, {"TOOLS", "M2"}, {"gnome", "M3"}, {"1950", "M2"}, {"bolt", "M2"}, {"1/2/2022", "M3"},
         {"$99", "M2"}, {"safe", "M1"}, {"parts only", ""}, {"art oak", ""}, {"m1", "M1"}};
     for (const auto& [word, found] : words) {
-        if (*found)
-            find(word);
-        else
-            findNothing(word);
+        *found ? find(word) : findNothing(word);
         EXPECT_EQ(models(), found) << word;
     }
     EXPECT_FALSE(forms::detail::findScreen(typeid(frmProgress))) << "which would close the program";
-    EXPECT_FALSE(isProgressShown());
+    EXPECT_EQ(hiddenOfSearch(), "pbSearch hidden");
 }
 
-TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordToo)
+TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordTooAndAllIsShownOnlyAfterAQuestion)
 {
     addThree();
-    openFromMenu();
+    findAll(Answer::No);
+    EXPECT_EQ(line(scene(), models()), "4 frmSearch: txtKey, ");
+    findAll();
+    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), hiddenOfSearch()),
+        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, pbSearch hidden");
+    click(results().cmdBack);
     pick(search().cmbArea, "Indoor");
     press(Qt::Key_Return);
-    EXPECT_EQ(models(), "M1 M2");
+    EXPECT_EQ(line(models(), search().pbSearch.value(), search().pbSearch.max()), "M1 M2, 2, 2");
     click(results().cmdBack); // New Search keeps the lists
     pick(search().cmbLocation, "Attic");
     type(search().txtKey, "ACME\n");
@@ -65,16 +67,6 @@ TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordToo)
     forms::setMessageDoor([](const forms::Message&) { return Answer::OK; });
     press(Qt::Key_Return); // a part of a value is none
     EXPECT_EQ(models(), "");
-}
-
-TEST_F(SearchMatching, AllAssetsAreShownOnlyAfterAQuestion)
-{
-    addThree();
-    findAll(Answer::No);
-    EXPECT_EQ(line(scene(), models()), "4 frmSearch: txtKey, ");
-    findAll();
-    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), isProgressShown()),
-        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, false");
 }
 
 TEST_F(SearchMatching, AHeaderSortsThisSearchAndAllLaterOnes)
@@ -116,20 +108,25 @@ TEST_F(SearchMatching, MoreMatchesThanCanBeCountedEndTheProgramWithNothingLost)
     EXPECT_EQ(line(failedHandler(), Data1.rsInventory.RecordCount()), "frmSearch.cmdContinue_Click, 32768");
 }
 
-TEST_F(SearchMatching, AStagingThatDoesNotFitOnTheDiskIsReportedAndLeavesTheHousehold)
+TEST_F(SearchMatching, AStagingThatCannotBeWrittenIsReportedAndLeavesTheHousehold)
 {
     addThree();
     put(Data1.rsInventory, {{Inventory::Description, QString(100'000, u'x')}});
     const QStringList household = columnOf(Data1.rsInventory, Inventory::Description);
-    {
-        const FullDisk full(QFileInfo(databaseFile()).size());
+    for (const std::string cause : {"readonly", "too large"}) {
+        std::optional<FullDisk> full;
+        if (cause == "readonly")
+            storage::execute(Data1.Home.handle(), "PRAGMA query_only = ON");
+        else
+            full.emplace(QFileInfo(databaseFile()).size());
         find("acme");
+        EXPECT_THAT(reportedFailure().value().failure.toStdString(), testing::HasSubstr(cause));
+        EXPECT_EQ(models(), "") << cause;
+        full.reset();
+        reopenData();
+        EXPECT_EQ(models(), "") << cause;
+        EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Description), household) << cause;
     }
-    EXPECT_THAT(reportedFailure().value().failure.toStdString(), testing::HasSubstr("too large"));
-    EXPECT_EQ(models(), "");
-    reopenData();
-    EXPECT_EQ(models(), "");
-    EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Description), household);
     find("acme");
     EXPECT_EQ(models(), "M1 M3");
 }

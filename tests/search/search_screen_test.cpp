@@ -9,13 +9,6 @@ class SearchWays : public SearchScreenTest {
 protected:
     SearchWays() { addAssets(1); }
 
-    static void leaveTo(const forms::Form& form)
-    {
-        accessKey('c');
-        EXPECT_EQ(forms::activeForm(), &form);
-        EXPECT_TRUE(!search().isVisible() && search().activeControl() == &search().cmdContinue);
-    }
-
     // An area that a menu has chosen is off.
     static void expectScreen(const QString& heading, const QString& area, const QString& word)
     {
@@ -28,29 +21,27 @@ protected:
 
 TEST_F(SearchWays, EachMenuPreparesTheScreenAndGetsTheUserBack)
 {
+    // What each way in leaves alone of the flags decides where Cancel leads to.
+    const struct {
+        forms::CommandButton frmMain::*areaMenu;
+        QString heading, area, word, flags, back;
+    } ways[] = {
+        {&frmMain::cmdAuto, "Search For Asset To Update", "Mobile off", "", "true, true", "3 frmPrint"},
+        {nullptr, "Search For Assets", "Any", "", "true, true", "2 frmMain"},
+        {&frmMain::cmdOut, "Search For Asset To Delete", "Outdoor off", "lamp", "false, false", "2 frmMain"},
+        {&frmMain::cmdIn, "Search For Asset To Update", "Indoor off", "", "true, false", "13 frmAuto"},
+    };
     screen<frmPrint>().CustomPrint = true;
-    openFromArea(&frmMain::cmdAuto);
-    expectScreen("Search For Asset To Update", "Mobile off", "");
-    leaveTo(screen<frmPrint>()); // the update search has left CustomPrint alone
-
-    openFromMenu();
-    expectScreen("Search For Assets", "Any", "");
-    EXPECT_FALSE(menu().isVisible());
-    type(search().txtKey, "lamp");
-    leaveTo(menu());
-
-    menu().FromResults = true;
-    openFromArea(&frmMain::cmdOut, true);
-    expectScreen("Search For Asset To Delete", "Outdoor off", "lamp");
-    EXPECT_FALSE(menu().FromResults || screen<frmPrint>().CustomPrint);
-    leaveTo(menu()); // the delete search has left FromMenu alone
-
-    menu().FromResults = true;
-    openFromArea(&frmMain::cmdIn);
-    expectScreen("Search For Asset To Update", "Indoor off", "");
-    EXPECT_TRUE(menu().FromResults);
-    leaveTo(screen<frmAuto>());
-
+    for (const auto& way : ways) {
+        menu().FromResults = true;
+        way.areaMenu ? openFromArea(way.areaMenu, way.heading.endsWith("Delete")) : openFromMenu();
+        expectScreen(way.heading, way.area, way.word);
+        EXPECT_EQ(line(menu().isVisible(), menu().FromResults, screen<frmPrint>().CustomPrint), "false, " + way.flags);
+        type(search().txtKey, "lamp");
+        accessKey('c');
+        EXPECT_EQ(
+            line(front(), search().isVisible(), search().activeControl()->name()), way.back + ", false, cmdContinue");
+    }
     removeRows(Data1.rsInventory);
     expectBox("There Are No Available Assets To Search...Please Add An Asset Before Continuing!", Information);
     openFromMenu();
@@ -87,17 +78,9 @@ protected:
                     "SHED|tools|Saw", "2nd|Tools|saw", "0|ART|< Add/Edit Item >", "0|Art|10th", "0|Art|2nd"})
                 addNames(*table, QString(names).split('|'));
         }
+        addNames(Data1.rsOutdoor, {"Pond", "0", "0"});
         atOnce.commit();
         openFromMenu();
-    }
-
-    // A list that is opened asks for what has to stand above it.
-    void expectDemand(forms::ComboBox& box, const QString& message, const forms::ComboBox& instead)
-    {
-        search().txtKey.setFocus();
-        expectBox(message, Exclamation);
-        clickArrow(box);
-        EXPECT_TRUE(!isListOpen() && search().activeControl() == &instead) << qPrintable(message);
     }
 
     forms::ComboBox& area = search().cmbArea;
@@ -113,12 +96,16 @@ TEST_F(SearchLists, EachListHoldsEveryNameOnceAndNarrowsTheNext)
     };
     for (const QString name : {"Indoor", "Outdoor", "Mobile"}) {
         pick(area, name);
-        EXPECT_EQ(lists(), QStringList({"2nd|Any|Attic|shed", "", ""}));
+        const QString places = name == "Outdoor" ? "2nd|Any|Attic|Pond|shed" : "2nd|Any|Attic|shed";
+        EXPECT_EQ(lists(), QStringList({places, "", ""}));
         EXPECT_EQ(location.text(), "Any");
         pick(location, "Attic");
         EXPECT_EQ(lists()[1], "Any|Art|tools"); // of the area, not of the attic
         pick(category, "Art");
         EXPECT_EQ(lists()[2], (name == "Indoor" ? "" : "< Add/Edit Item >|") + QString("10th|2nd|Any|Vase"));
+        pick(location, "shed");
+        EXPECT_EQ(line(category.text(), lists().join('/')), "Any, " + places + "/Any|Art|tools/");
+        pick(category, "Art");
         pick(item, "Vase");
         pick(category, "tools");
         EXPECT_EQ(lists()[2] + ", " + item.text(), "Any|Saw, Any");
@@ -131,6 +118,9 @@ TEST_F(SearchLists, EachListHoldsEveryNameOnceAndNarrowsTheNext)
     }
     pick(area, "Indoor");
     EXPECT_EQ(category.text() + lists()[1], "Any");
+    location.setText("Attic"); // by code
+    category.setText("Art");
+    EXPECT_EQ(lists().mid(1).join('/'), "Any|Art|tools/10th|2nd|Any|Vase");
 }
 
 TEST_F(SearchLists, ASecondAnyComesWhereTheFirstLiesBeyondTheEndOfTheCategories)
@@ -145,22 +135,26 @@ TEST_F(SearchLists, ASecondAnyComesWhereTheFirstLiesBeyondTheEndOfTheCategories)
     pick(category, "Any");
     EXPECT_EQ(itemsOf(item).join('|'), QString(once).replace("Any", "Any|Any"));
     pick(item, "< Add/Edit Item >");
-    QStringList passed(item.text());
-    for (int strokes = 0; strokes < 7; ++strokes) {
-        press(Qt::Key_Down);
-        passed += item.text();
-    }
-    EXPECT_EQ(passed, itemsOf(item)) << "the cursor key goes past both";
+    press(std::vector<Qt::Key>(7, Qt::Key_Down));
+    EXPECT_EQ(item.text(), "Vase") << "the cursor key goes past both";
 }
 
 TEST_F(SearchLists, ALowerListAsksForWhatStandsAbove)
 {
-    expectDemand(location, "Please Select An Area Before Selecting A Location!", area);
-    expectDemand(category, "Please Select An Area Before Selecting A Category!", area);
-    expectDemand(item, "Please Select An Area Before Selecting An Item!", area);
-    pick(area, "Outdoor");
-    expectDemand(category, "Please Select A Location Before Selecting A Category!", location);
-    expectDemand(item, "Please Select A Location Before Selecting An Item!", location);
+    const std::tuple<const char*, forms::ComboBox&, const char*, const forms::ComboBox&> demands[] = {
+        {"Any", location, "Please Select An Area Before Selecting A Location!", area},
+        {"Any", category, "Please Select An Area Before Selecting A Category!", area},
+        {"Any", item, "Please Select An Area Before Selecting An Item!", area},
+        {"Outdoor", category, "Please Select A Location Before Selecting A Category!", location},
+        {"Outdoor", item, "Please Select A Location Before Selecting An Item!", location},
+    };
+    for (const auto& [above, box, message, instead] : demands) {
+        pick(area, above);
+        search().txtKey.setFocus();
+        expectBox(message, Exclamation);
+        clickArrow(box);
+        EXPECT_TRUE(!isListOpen() && search().activeControl() == &instead) << message;
+    }
     pick(location, "Attic");
     click(item); // without a category
     EXPECT_EQ(search().activeControl(), &item);
