@@ -148,22 +148,31 @@ TEST_F(ReportLayouts, FillOutFormStandsAsPrescribed)
     }
 }
 
-// The file holds the letters of such a script one by one, in the forms that they have beside each other, and an emoji
-// as a picture.
+// The file holds the letters of some scripts one by one, in the forms that they have beside each other, and an emoji as
+// a picture, once however often it stands there.
 TEST_F(ReportLayouts, AScriptFromRightToLeftAndAnEmojiStandWholeInTheirFields)
 {
-    const QString cupboard = QString::fromUtf8("خزانة");
-    addRow(Data1.rsPrint, {{Print::Model, cupboard}, {Print::Type, QString::fromUtf8("Fox \U0001F98A red")}});
+    const QString arabic = QString::fromUtf8("خزانة");
+    const QString hebrew = QString::fromUtf8("ארון ספרים");
+    const QString foxes = QString::fromUtf8("Fox \U0001F98A\U0001F98A red");
+    addRow(Data1.rsPrint,
+        {{Print::Make, hebrew}, {Print::Model, arabic}, {Print::Type, foxes}, {Print::Description, foxes}});
     const pdf::Page page = printed(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
-    const QRectF field(middleOf(QPageSize::Letter) - 5445 + 4845, 720 + detail + 690, 2100, 285);
-    QMap<double, QString> fromTheRight;
-    for (const pdf::Word& word : page.words)
-        if (field.contains(word.place.center()))
-            fromTheRight[-word.place.left()] = word.text.normalized(QString::NormalizationForm_KC);
-    EXPECT_EQ(fromTheRight.values().join(""), cupboard);
-    const QStringList images = pdf::output("pdfimages", {"-list", path_}).split(u'\n', Qt::SkipEmptyParts).mid(2);
-    EXPECT_EQ(images.filter("smask").size(), 2) << "the logo and the emoji";
-    EXPECT_EQ(placesOf(page, "Fox").size() + placesOf(page, "red").size(), 2) << page.text().toStdString();
+    for (const auto& [top, text] : {std::pair(405, hebrew), {690, arabic}}) {
+        const QRectF field(middleOf(QPageSize::Letter) - 5445 + 4845, 720 + detail + top, 2100, 285);
+        QMap<double, QString> fromTheRight;
+        for (const pdf::Word& word : page.words)
+            if (field.contains(word.place.center()))
+                fromTheRight[-word.place.left()] = word.text.normalized(QString::NormalizationForm_KC);
+        EXPECT_EQ(fromTheRight.values().join(""), QString(text).remove(u' '));
+    }
+    QStringList pictures = pdf::output("pdfimages", {"-list", path_}).split(u'\n').filter("smask");
+    pictures.replaceInStrings(QRegularExpression(".* no +(\\d+) .*"), "\\1"); // the object that holds it
+    EXPECT_EQ(pictures.removeDuplicates(), 3) << "the emoji stands there four times";
+    EXPECT_EQ(pictures.size(), 2) << "the logo and the emoji";
+    for (const std::size_t at : {0, 1})
+        EXPECT_GT(placesOf(page, "red").at(at).left() - placesOf(page, "Fox").at(at).right(), 2 * 9 * 20)
+            << "no room for two emoji of 9 points";
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "support/print.h"
 #include "trial_report.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -93,7 +94,7 @@ TEST_F(ReportPages, SplitOnlyARowThatIsHigherThanAPage)
 TEST_F(ReportPages, WrapEveryScriptWithinTheField)
 {
     const double right = 6120 - 4500 + trial::Left + trial::NoteWidth;
-    for (const char* pattern : {"W", "Twenty-three pieces, one of which is chipped. ", "\u5BB6",
+    for (const char* pattern : {"W", "Twenty-three pieces, one of which is chipped. ", "one\ttwo\t", "\u5BB6",
              "\u05E9\u05DC\u05D5\u05DD \U0001F98A \u0E01\u0E32\u0E23 "}) {
         const QString note = QString(pattern).repeated(120);
         QString joined;
@@ -151,6 +152,8 @@ TEST_F(SavedReport, IsADocumentWithItsNamesOfAllOrSomePages)
     const QString told = pdf::output("pdfinfo", {path("a.pdf")}).simplified();
     for (const char* line : {"Title: Trial ", "Author: A. Author ", "Pages: 4 ", "Page size: 612 x 792 pts (letter) "})
         EXPECT_TRUE(told.contains(line)) << line << "is not in " << told.toStdString();
+    const QStringList fonts = pdf::output("pdffonts", {path("a.pdf")}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_EQ(fonts.filter(QRegularExpression(" yes +(yes|no) +yes ")).size(), 1) << "embedded, with its letters";
     ASSERT_EQ(report::savePdf(pages_, {3, 1}, path("some.pdf")), Outcome::Done);
     const std::vector<pdf::Page> some = pdf::read(path("some.pdf"));
     ASSERT_EQ(some.size(), 2);
@@ -184,12 +187,12 @@ TEST_F(SavedReport, LeavesAnOlderFileUntilItIsWhole)
 TEST_F(SavedReport, IsATableForASpreadsheet)
 {
     const auto document = trial::document({{"Sofa, \"blue\"", "$1,234.50", "two\nlines"},
-        {QString::fromUtf8("Caf\u00E9 \U0001F98A"), "-$15.00", " blank"}, {"Lamp", "None", ""}});
+        {QString::fromUtf8("Caf\u00E9 \U0001F98A"), "-$15.00", " blank"}, {"Lamp ", "None", "a\tb"}});
     ASSERT_TRUE(report::hasTable(*document));
     ASSERT_TRUE(report::saveCsv(*document, path("a.csv")));
     EXPECT_EQ(bytesOf(path("a.csv")),
         "\xEF\xBB\xBFName,Amount,Note\r\n\"Sofa, \"\"blue\"\"\",1234.50,\"two\nlines\"\r\nCaf\xC3\xA9 "
-        "\xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\nLamp,None,\r\n");
+        "\xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\n\"Lamp \",None,a\tb\r\n");
     document->layout.detail.fields.clear();
     document->layout.detail.growing.reset();
     EXPECT_FALSE(report::hasTable(*document));
