@@ -9,10 +9,8 @@ start_print_service() {
     mkdir -p "$Service"/{spool/tmp,cache,state,bin/backend}
     ln -s /usr/lib/cups/daemon "$Service/bin/daemon"
     install -m 700 "$Here/cups/keep" "$Service/bin/backend"
-    local file
-    for file in cupsd.conf cups-files.conf; do
-        sed "s|@service@|$Service|" "$Here/cups/$file" >"$Service/$file"
-    done
+    cp "$Here"/cups/*.conf "$Service"
+    sed -i "s|@service@|$Service|" "$Service"/*.conf
     export CUPS_SERVER=$Service/socket
     /usr/sbin/cupsd -f -c "$Service/cupsd.conf" -s "$Service/cups-files.conf" &
     PrintService=$!
@@ -26,28 +24,25 @@ print_dialogue() {
     until_true "the dialogue to print" has_title Print
 }
 
-# printed PAGES COPIES TEXT...: what has come out last.
+# printed PAGES COPIES SHARING TEXT...: what has come out last; so many pages share a sheet.
 printed() {
     until_true "the printed report" test -s "$Printed.copies"
-    same "$(pdfinfo "$Printed" | sed -n 's/^Pages: *//p') $(cat "$Printed.copies")" "$1 $2" "other pages or copies than $1, $2"
-    holds "$Printed" "${@:3}"
+    same "$(pdfinfo "$Printed" | sed -n 's/^Pages: *//p') $(grep -Eo '^[0-9]+|(media|number-up)=\w+' "$Printed.copies" | xargs)" \
+        "$1 $2 media=A4 number-up=$3" "other pages or options than $1, $2, $3: $(cat "$Printed.copies")"
+    holds "$Printed" "${@:4}"
     rm "$Printed.copies"
 }
 
 an_area() {
-    step "an area: looked at, guarded, printed, saved"
+    step "an area: looked at, printed, saved"
     go frmPrint alt+p
     shot print-menu
     go AssetReport alt+i
     keys ctrl+0 ctrl+Next
     shot asset-report-whole-page
-    front frmPrint
-    keys alt+s
-    answer print-guard Return
-    front AssetReport
     print_dialogue
     keys Return
-    printed 2 1 "Asset Report" "Total Pages: 2" "Spanner 11" "\$1,080.00" "chipped near the hinge"
+    printed 2 1 1 "Asset Report" "Total Pages: 2" "Spanner 11" "\$1,080.00" "chipped near the hinge"
     save_as "$Pictures/asset-report.csv"
     grep -q 'Indoor,Attic,Art,Spanner 2,1931,.*,1080.00,None' "$Pictures/asset-report.csv" ||
         fail "the table: $(cat "$Pictures/asset-report.csv")"
@@ -55,7 +50,7 @@ an_area() {
 }
 
 some_pages_of_many() {
-    step "two copies of two pages, of a report on a thousand assets"
+    step "two copies of two pages on one sheet, of a report on a thousand assets"
     front frmPrint
     go AssetReport alt+a
     print_dialogue
@@ -64,8 +59,11 @@ some_pages_of_many() {
     keys Tab Tab Tab Tab Down Down # the third kind of range
     texts '' 2-3 '' 2
     shot print-dialogue
+    keys_seen alt+r
+    keys shift+Tab shift+Tab shift+Tab shift+Tab Down Return
+    until_true "the dialogue to print again" has_title Print
     keys Return
-    printed 2 2 "Page: 2" "Page: 3" "Spanner 9"
+    printed 2 2 2 "Page: 2" "Page: 3" "Spanner 9"
     go frmPrint Escape
 }
 
@@ -97,8 +95,8 @@ troubled_printing() {
     keys ctrl+p
     answer print-without-service Return
     front AssetReport
-    save_as "$Place/outdoor.pdf"
-    holds "$Place/outdoor.pdf" "Spanner 1"
+    save_as "$Pictures/Asset Report $(date +%F).pdf" suggested
+    holds "$Pictures/Asset Report $(date +%F).pdf" "Spanner 1"
     front frmPrint
     go frmMain alt+c
     leave print-exit

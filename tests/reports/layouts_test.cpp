@@ -99,23 +99,15 @@ protected:
         });
     }
 
-    static double middleOf(QPageSize::PageSizeId paper) { return report::Paper{QPageSize(paper)}.size().width() / 2; }
-
     const QTemporaryDir folder_;
     const QString path_ = folder_.filePath("report.pdf");
 };
 
-TEST_F(ReportLayouts, AssetReportStandsAsPrescribed)
+TEST_F(ReportLayouts, StandAsPrescribedOnBothPapers)
 {
     addRow(Data1.rsPrint, Print::ID,
         {"1", "Indoor", "Library", "Antiques", "Antique Desk", "1931", "Northlight", "V-300", "SN 0042/7", "7/4/2006",
             "123456789", "Yes", "Fire safe", "With two keys."});
-    for (const auto paper : {QPageSize::Letter, QPageSize::A4})
-        expectPlaced(printed(layouts::AssetReport(), Data1.rsPrint, paper), assetReport, {middleOf(paper) - 5445, 720});
-}
-
-TEST_F(ReportLayouts, CoverSheetStandsAsPrescribed)
-{
     put(Data1.rsGeneral,
         {{General::First, "Ann"}, {General::Middle, "Q"}, {General::Last, "Fairbanks"},
             {General::Address, "Orchard Lane"}, {General::City, "Albany"}, {General::State, "NY"},
@@ -124,27 +116,24 @@ TEST_F(ReportLayouts, CoverSheetStandsAsPrescribed)
             {General::PolicyExpiration, "12/31/2027"}, {General::AssetValue, "1234.5"}, {General::HomePhone1, "518"},
             {General::HomePhone2, "555"}, {General::HomePhone3, "0101"}});
     for (const auto paper : {QPageSize::Letter, QPageSize::A4}) {
-        pdf::Page page = printed(layouts::CoverSheet(), Data1.rsGeneral, paper);
-        const QString text = page.text().remove(u' ');
+        const QSizeF size = report::Paper{QPageSize(paper)}.size();
+        expectPlaced(
+            printed(layouts::AssetReport(), Data1.rsPrint, paper), assetReport, {size.width() / 2 - 5445, 720});
+
+        pdf::Page cover = printed(layouts::CoverSheet(), Data1.rsGeneral, paper);
+        const QString text = cover.text().remove(u' ');
         EXPECT_TRUE(text.contains("HomePhone=>(518)555-0101")) << text.toStdString();
         EXPECT_TRUE(text.contains("WorkPhone=>(---)--------")) << text.toStdString();
         // The pieces of the telephones have no places of their own to hold to.
-        std::erase_if(page.words, [](const pdf::Word& word) {
+        std::erase_if(cover.words, [](const pdf::Word& word) {
             return QString(word.text).remove(QRegularExpression("[0-9()-]")).isEmpty() && word.text != "12/31/2027";
         });
-        expectPlaced(page, coverSheet, {middleOf(paper) - 5715, 720});
-    }
-}
+        expectPlaced(cover, coverSheet, {size.width() / 2 - 5715, 720});
 
-// The form is higher than what is printable, and set smaller as a whole.
-TEST_F(ReportLayouts, FillOutFormStandsAsPrescribed)
-{
-    for (const auto paper : {QPageSize::Letter, QPageSize::A4}) {
-        const double printable = report::Paper{QPageSize(paper)}.size().height() - 2 * 360;
-        const double scale = std::min(1.0, printable / 15825);
-        EXPECT_EQ(scale < 1, paper == QPageSize::Letter);
+        // The form is higher than what is printable of Letter, and set smaller as a whole there.
+        const double scale = paper == QPageSize::Letter ? (15840 - 2 * 360) / 15825.0 : 1;
         expectPlaced(printed(layouts::FillOutForm(), Data1.rsGeneral, paper), fillOutForm,
-            {middleOf(paper) - 5505 * scale, 360}, scale);
+            {size.width() / 2 - 5505 * scale, 360}, scale);
     }
 }
 
@@ -159,7 +148,7 @@ TEST_F(ReportLayouts, AScriptFromRightToLeftAndAnEmojiStandWholeInTheirFields)
         {{Print::Make, hebrew}, {Print::Model, arabic}, {Print::Type, foxes}, {Print::Description, foxes}});
     const pdf::Page page = printed(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
     for (const auto& [top, text] : {std::pair(405, hebrew), {690, arabic}}) {
-        const QRectF field(middleOf(QPageSize::Letter) - 5445 + 4845, 720 + detail + top, 2100, 285);
+        const QRectF field(6120 - 5445 + 4845, 720 + detail + top, 2100, 285);
         QMap<double, QString> fromTheRight;
         for (const pdf::Word& word : page.words)
             if (field.contains(word.place.center()))

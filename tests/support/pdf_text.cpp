@@ -14,11 +14,6 @@ namespace {
 
 constexpr double twipsPerPoint = 20;
 
-double attribute(const QXmlStreamReader& xml, const char* name)
-{
-    return xml.attributes().value(QLatin1String(name)).toDouble() * twipsPerPoint;
-}
-
 } // namespace
 
 QString output(const QString& program, const QStringList& arguments)
@@ -35,14 +30,13 @@ std::vector<Page> read(const QString& path)
     QXmlStreamReader xml(output(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), path, QStringLiteral("-")}));
     std::vector<Page> pages;
     while (!xml.atEnd()) {
-        if (!xml.readNextStartElement() && !xml.isStartElement())
-            continue;
-        if (xml.name() == QLatin1String("page"))
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == QLatin1String("page"))
             pages.emplace_back();
-        if (xml.name() != QLatin1String("word"))
+        if (!xml.isStartElement() || xml.name() != QLatin1String("word"))
             continue;
-        const QRectF place(QPointF(attribute(xml, "xMin"), attribute(xml, "yMin")),
-            QPointF(attribute(xml, "xMax"), attribute(xml, "yMax")));
+        const auto at = [&xml](const char* edge) { return xml.attributes().value(edge).toDouble() * twipsPerPoint; };
+        const QRectF place(QPointF(at("xMin"), at("yMin")), QPointF(at("xMax"), at("yMax")));
         pages.back().words.push_back({xml.readElementText(), place});
     }
     return pages;

@@ -59,9 +59,6 @@ inline std::vector<QStringList> rows(int count, const QString& note = "short")
     return rows;
 }
 
-inline report::Paper letter()
-{
-    return {QPageSize(QPageSize::Letter)};
-}
+inline const report::Paper letter{QPageSize(QPageSize::Letter)};
 
 } // namespace trial
