@@ -19,10 +19,8 @@ start_print_service() {
 
 add_queue() { /usr/sbin/lpadmin -p Paper -v "keep:$Printed" -E -m raw && /usr/sbin/lpadmin -d Paper; } 2>/dev/null
 
-print_dialogue() {
-    keys ctrl+p
-    until_true "the dialogue to print" has_title Print
-}
+print_dialogue() { keys ctrl+p && until_true "the dialogue to print" has_title Print; }
+print_all() { print_dialogue && keys Return; }
 
 # printed PAGES COPIES SHARING TEXT...: what has come out last; so many pages share a sheet.
 printed() {
@@ -40,12 +38,10 @@ an_area() {
     go AssetReport alt+i
     keys ctrl+0 ctrl+Next
     shot asset-report-whole-page
-    print_dialogue
-    keys Return
+    print_all
     printed 2 1 1 "Asset Report" "Total Pages: 2" "Spanner 11" "\$1,080.00" "chipped near the hinge"
     save_as "$Pictures/asset-report.csv"
-    grep -q 'Indoor,Attic,Art,Spanner 2,1931,.*,1080.00,None' "$Pictures/asset-report.csv" ||
-        fail "the table: $(cat "$Pictures/asset-report.csv")"
+    grep -q 'Indoor,Attic,Art,Spanner 2,1931,.*,1080.00,None' "$Pictures/asset-report.csv" || fail "another table"
     report_saved AssetReport asset-report-saved "Page: 2" "Spanner 11"
 }
 
@@ -70,7 +66,7 @@ some_pages_of_many() {
 cover_sheet_and_form() {
     step "the cover sheet and the form"
     keys alt+s
-    report_saved CoverSheet cover-sheet "Fairbanks" "Tidewater Mutual" "\$7,834.29"
+    report_saved CoverSheet cover-sheet "Fairbanks" "Tidewater" "\$7,834.29"
     front frmPrint
     keys alt+f
     report_saved FillOutForm form "Year Asset Was Made =>" "(Select One)"
@@ -81,13 +77,11 @@ troubled_printing() {
     front frmPrint
     go AssetReport alt+o
     cupsdisable Paper
-    print_dialogue
-    keys Return
+    print_all
     until_true "the job that waits" job_waits
     wait_screen AssetReport
     cupsreject Paper
-    print_dialogue
-    keys Return
+    print_all
     answer print-refused Return
     kill "$PrintService"
     until_true "the end of the print service" has_ended "$PrintService"
@@ -104,8 +98,7 @@ troubled_printing() {
 
 job_waits() { [ -n "$(lpstat -o)" ]; }
 
-household printing "update Personal_Info set [Last] = 'Fairbanks', [Policy Company] = 'Tidewater Mutual',
-        [AssetValue] = 78342900;
+household printing "update Personal_Info set [Last] = 'Fairbanks', [Policy Company] = 'Tidewater', [AssetValue] = 78342900;
     $(assets 1000 "case when i = 1 then 'Outdoor' when i < 12 then 'Indoor' else 'Mobile' end, 'Attic', 'Art', 'Spanner ' || i,
         '1931', 'A', 'B', i, '1/2/2020', '\$1,080.00', 'No', 'None',
         case i when 2 then 'None' else 'The veneer of the right door is chipped near the hinge.' end, 'New'")"

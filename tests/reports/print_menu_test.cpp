@@ -37,9 +37,8 @@ TEST_F(PrintMenu, StagesTheAssetsOfAnAreaOrAllInTheOrderOfTheInventoryAndOpensTh
     clickTold(menu().cmdAllPrint[3], "             No Assets Found To Print!", Exclamation);
     EXPECT_EQ(state(), " in nothing, cmdAllPrint(3), progress"); // until the next run
     addAssetRow({"Indoor", "", "", "Desk", "1", "2", "3", "4", "5", "$6.00", "7", "8", "text"});
-    addAssetRow({"OUTDOOR", "", "", "Rake"});
-    addAssetRow({"Indoor", "", "", "Lamp"});
-    addAssetRow({"Outdoors", "", "", "Swing"});
+    for (const auto& [area, item] : {std::pair("OUTDOOR", "Rake"), {"Indoor", "Lamp"}, {"Outdoors", "Swing"}})
+        addAssetRow({area, "", "", item});
     menu().cmdCustom[4].setFocus();
     accessKey('i');
     EXPECT_EQ(state(), "Desk Lamp in AssetReport, cmdInPrint(0), custom");

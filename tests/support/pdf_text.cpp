@@ -10,11 +10,7 @@
 
 namespace pdf {
 
-namespace {
-
-constexpr double twipsPerPoint = 20;
-
-} // namespace
+static constexpr double twipsPerPoint = 20;
 
 QString output(const QString& program, const QStringList& arguments)
 {
@@ -48,6 +44,18 @@ QString Page::text() const
     for (const Word& word : words)
         texts.append(word.text);
     return texts.join(u' ');
+}
+
+QImage picture(const QString& path)
+{
+    output("pdftoppm", {"-r", "144", "-gray", "-singlefile", path, path});
+    return QImage(path + ".pgm");
+}
+
+bool hasInk(const QImage& picture, QPointF place)
+{
+    const QImage around = picture.copy(QRect((place / 10).toPoint() - QPoint(2, 2), QSize(4, 4)));
+    return qGray(around.scaled(1, 1, {}, Qt::SmoothTransformation).pixel(0, 0)) < 240;
 }
 
 std::vector<QRectF> placesOf(const Page& page, const QString& text)

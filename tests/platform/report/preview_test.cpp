@@ -37,12 +37,12 @@ protected:
             preview_->activateWindow();
             QTest::keySequence(preview_->windowHandle(), QKeySequence(step));
         }
+        settle();
     }
 
     /// The page, what its number says, and the buttons that are off.
     QString state()
     {
-        settle();
         QString all = QString("%1: %2 ").arg(preview_->page()).arg(part<QSpinBox>("page")->value());
         all += part<QLabel>("count")->text();
         for (const QPushButton* button : preview_->findChildren<QPushButton*>())
@@ -77,7 +77,8 @@ TEST_F(ReportPreview, HasZoomAndPaperOfTheWindowBefore)
     for (const auto& [key, chosen] : {std::pair("End", "300 %, A4"), {"Home", "Page Width, Letter"}}) {
         for (const char* step : {"zoom", key, "paper", key})
             take(step);
-        delete preview_;
+        take("Ctrl+W");
+        ASSERT_FALSE(preview_);
         preview_ = new report::Preview("Trial", trial::document({}), [] {});
         preview_->open();
         EXPECT_EQ(part<QComboBox>("zoom")->currentText() + ", " + part<QComboBox>("paper")->currentText(), chosen);
@@ -92,9 +93,6 @@ TEST_F(ReportPreview, IsNoScreenOfTheProgram)
     }
     EXPECT_EQ(forms::activeForm(), &form);
     user::click(form.ok);
-    take("Ctrl+W");
-    settle();
-    EXPECT_FALSE(preview_);
     EXPECT_EQ(taken(), "line.LostFocus ok.GotFocus ok.Click");
 }
 
