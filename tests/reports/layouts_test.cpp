@@ -133,21 +133,25 @@ TEST_F(ReportLayouts, StandAsPrescribedOnBothPapers)
 }
 
 // The file holds the letters of some scripts one by one, in the forms that they have beside each other, and an emoji as
-// a picture, once however often it stands there.
+// a picture, once however often it stands there. A line runs as its paragraph does, whatever it begins with.
 TEST_F(ReportLayouts, AScriptFromRightToLeftAndAnEmojiStandWholeInTheirFields)
 {
     const QString arabic = QString::fromUtf8("خزانة");
-    const QString hebrew = QString::fromUtf8("ארון ספרים");
     const QString foxes = QString::fromUtf8("Fox \U0001F98A\U0001F98A red");
+    QString hebrew;
+    for (int number = 10; number < 30; ++number)
+        hebrew += QString::fromUtf8("ארון ספרים A%1 ").arg(number);
     addRow(Data1.rsPrint,
-        {{Print::Make, hebrew}, {Print::Model, arabic}, {Print::Type, foxes}, {Print::Description, foxes}});
+        {{Print::Area, foxes}, {Print::Type, foxes}, {Print::Model, arabic}, {Print::Description, hebrew}});
     const pdf::Page page = printed(layouts::AssetReport(), Data1.rsPrint, QPageSize::Letter);
-    for (const auto& [top, text] : {std::pair(405, hebrew), {690, arabic}}) {
-        const QRectF field(6120 - 5445 + 4845, 720 + detail + top, 2100, 285);
-        QMap<double, QString> fromTheRight;
+    for (const auto& [field, text] :
+        {std::pair(QRectF(4845, 690, 2100, 285), arabic), {QRectF(1770, 1380, 8445, 1500), hebrew}}) {
+        const QRectF place = field.translated(6120 - 5445, 720 + detail);
+        QMap<std::pair<int, double>, QString> fromTheRight; // line by line
         for (const pdf::Word& word : page.words)
-            if (field.contains(word.place.center()))
-                fromTheRight[-word.place.left()] = word.text.normalized(QString::NormalizationForm_KC);
+            if (const QPointF at = word.place.center(); place.contains(at))
+                fromTheRight[{int((at.y() - place.top()) / report::lineHeightOf({9})), -at.x()}] =
+                    word.text.normalized(QString::NormalizationForm_KC);
         EXPECT_EQ(fromTheRight.values().join(""), QString(text).remove(u' '));
     }
     QStringList pictures = pdf::output("pdfimages", {"-list", path_}).split(u'\n').filter("smask");

@@ -91,6 +91,9 @@ bool paintPictures(QPainter& painter, QPointF baseLine, const QString& text)
     if (!mayHoldPictures(text))
         return false;
     QTextLayout layout(text, painter.font());
+    QTextOption option;
+    option.setTextDirection(painter.layoutDirection());
+    layout.setTextOption(option);
     layout.beginLayout();
     const QTextLine line = layout.createLine();
     layout.endLayout();
