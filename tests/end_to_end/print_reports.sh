@@ -45,7 +45,7 @@ an_area() {
     report_saved AssetReport asset-report-saved "Page: 2" "Spanner 11"
 }
 
-some_pages_of_many() {
+some_pages_and_the_other_reports() {
     step "two copies of two pages on one sheet, of a report on a thousand assets"
     front frmPrint
     go AssetReport alt+a
@@ -61,9 +61,6 @@ some_pages_of_many() {
     keys Return
     printed 2 2 2 "Page: 2" "Page: 3" "Spanner 9"
     go frmPrint Escape
-}
-
-cover_sheet_and_form() {
     step "the cover sheet and the form"
     keys alt+s
     report_saved CoverSheet cover-sheet "Fairbanks" "Tidewater" "\$7,834.29"
@@ -105,7 +102,6 @@ household printing "update Personal_Info set [Last] = 'Fairbanks', [Policy Compa
 start_print_service
 start_at_menu
 an_area
-some_pages_of_many
-cover_sheet_and_form
+some_pages_and_the_other_reports
 troubled_printing
 unset CUPS_SERVER
