@@ -25,8 +25,8 @@ print_all() { print_dialogue && keys Return; }
 # printed PAGES COPIES SHARING TEXT...: what has come out last; so many pages share a sheet.
 printed() {
     until_true "the printed report" test -s "$Printed.copies"
-    same "$(pdfinfo "$Printed" | sed -n 's/^Pages: *//p') $(grep -Eo '^[0-9]+|(media|number-up)=\w+' "$Printed.copies" | xargs)" \
-        "$1 $2 media=A4 number-up=$3" "other pages or options than $1, $2, $3: $(cat "$Printed.copies")"
+    same "$(pdfinfo "$Printed" | sed -En 's/^(Author|Pages): *//p' | xargs) $(cat "$Printed.copies")" \
+        "Fairbanks $1 $2 media=A4 number-up=$3" "another author, pages or options than $1, $2, $3"
     holds "$Printed" "${@:4}"
     rm "$Printed.copies"
 }
