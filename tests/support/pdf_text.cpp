@@ -10,16 +10,7 @@
 
 namespace pdf {
 
-namespace {
-
-constexpr double twipsPerPoint = 20;
-
-double attribute(const QXmlStreamReader& xml, const char* name)
-{
-    return xml.attributes().value(QLatin1String(name)).toDouble() * twipsPerPoint;
-}
-
-} // namespace
+static constexpr double twipsPerPoint = 20;
 
 QString output(const QString& program, const QStringList& arguments)
 {
@@ -35,14 +26,13 @@ std::vector<Page> read(const QString& path)
     QXmlStreamReader xml(output(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), path, QStringLiteral("-")}));
     std::vector<Page> pages;
     while (!xml.atEnd()) {
-        if (!xml.readNextStartElement() && !xml.isStartElement())
-            continue;
-        if (xml.name() == QLatin1String("page"))
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == QLatin1String("page"))
             pages.emplace_back();
-        if (xml.name() != QLatin1String("word"))
+        if (!xml.isStartElement() || xml.name() != QLatin1String("word"))
             continue;
-        const QRectF place(QPointF(attribute(xml, "xMin"), attribute(xml, "yMin")),
-            QPointF(attribute(xml, "xMax"), attribute(xml, "yMax")));
+        const auto at = [&xml](const char* edge) { return xml.attributes().value(edge).toDouble() * twipsPerPoint; };
+        const QRectF place(QPointF(at("xMin"), at("yMin")), QPointF(at("xMax"), at("yMax")));
         pages.back().words.push_back({xml.readElementText(), place});
     }
     return pages;
@@ -54,6 +44,18 @@ QString Page::text() const
     for (const Word& word : words)
         texts.append(word.text);
     return texts.join(u' ');
+}
+
+QImage picture(const QString& path)
+{
+    output("pdftoppm", {"-r", "144", "-gray", "-singlefile", path, path});
+    return QImage(path + ".pgm");
+}
+
+bool hasInk(const QImage& picture, QPointF place)
+{
+    const QImage around = picture.copy(QRect((place / 10).toPoint() - QPoint(2, 2), QSize(4, 4)));
+    return qGray(around.scaled(1, 1, {}, Qt::SmoothTransformation).pixel(0, 0)) < 240;
 }
 
 std::vector<QRectF> placesOf(const Page& page, const QString& text)

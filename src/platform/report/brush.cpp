@@ -23,6 +23,14 @@ QImage notLargerThan(const QImage& image, const QSize& shown)
     return shrinks ? image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : image;
 }
 
+// A line runs as its paragraph does, whatever it begins with.
+Qt::LayoutDirection directionOf(QStringView line, const QString& text)
+{
+    const QStringView before = QStringView(text).first(line.data() - text.data());
+    const QStringView paragraph = QStringView(text).mid(before.lastIndexOf(u'\n') + 1);
+    return paragraph.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
 bool isBelowGrowing(const Section& section, const Place& place)
 {
     return section.growing && place.top > section.growing->place.top;
@@ -74,8 +82,12 @@ void Brush::paintLines(const Field& field, int row, int firstLine, int lines, do
     const std::vector<QStringView> all = linesOf(text, field.type, field.place.width);
     const double height = lineHeightOf(field.type);
     double baseLine = top + ascentOf(field.type);
-    for (int line = firstLine; line < firstLine + lines; ++line, baseLine += height)
-        writeLine(all[static_cast<std::size_t>(line)].toString(), field.place.left, baseLine, field.type);
+    for (int number = firstLine; number < firstLine + lines; ++number, baseLine += height) {
+        const QStringView line = all[static_cast<std::size_t>(number)];
+        painter_.setLayoutDirection(line.isEmpty() ? Qt::LayoutDirectionAuto : directionOf(line, text));
+        writeLine(line.toString(), field.place.left, baseLine, field.type);
+    }
+    painter_.setLayoutDirection(Qt::LayoutDirectionAuto);
 }
 
 QString Brush::decoded(const QString& text) const

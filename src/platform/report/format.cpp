@@ -18,17 +18,16 @@ QString withMinus(const QString& amount)
 QString formatted(const QString& value, Format format)
 {
     if (format == Format::Text)
-        return value;
+        return QString(value).replace(u'\t', u' '); // a tab is as wide as the device pleases
     const auto amount = values::Currency::tryParse(value);
     return amount ? withMinus(amount->toText()) : value;
 }
 
 QString plain(const QString& value, Format format)
 {
-    QString printed = formatted(value, format);
-    if (format == Format::Amount && values::Currency::tryParse(value))
-        printed.remove(u'$').remove(u',');
-    return printed;
+    if (format == Format::Text || !values::Currency::tryParse(value))
+        return value;
+    return formatted(value, format).remove(u'$').remove(u',');
 }
 
 } // namespace report

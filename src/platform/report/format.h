@@ -6,7 +6,7 @@
 namespace report {
 
 enum class Format {
-    Text, ///< as it is stored
+    Text, ///< as it is stored, a tab as a blank
     Amount, ///< "$1,234.50", and "-$15.00" below zero; a text that is no amount as it is stored
 };
 

@@ -3,6 +3,7 @@
 #include "platform/report/preview.h"
 #include "trial_report.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -17,27 +18,31 @@ protected:
     ReportPreview() { preview_->open(); }
     ~ReportPreview() override { delete preview_; }
 
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
-    {
-        preview_->activateWindow();
-        QTest::keyClick(preview_->windowHandle(), key, modifiers);
-    }
-
-    void click(const char* button) { QTest::mouseClick(part<QPushButton>(button), Qt::LeftButton); }
-
     template <class Widget>
-    Widget* part(const char* name)
+    Widget* part(const QString& name)
     {
         return preview_->findChild<Widget*>(name);
     }
 
-    report::PageView& view() { return *part<report::PageView>("pageView"); }
-    void turnWheel(int eighths) { wheel(*view().viewport(), eighths); }
+    /// A button clicked, another part given the focus, the wheel turned, or keys pressed.
+    void take(const QString& step)
+    {
+        if (auto* button = part<QPushButton>(step))
+            QTest::mouseClick(button, Qt::LeftButton);
+        else if (auto* other = part<QWidget>(step))
+            other->setFocus();
+        else if (step.startsWith("wheel "))
+            wheel(*part<QAbstractScrollArea>("pageView")->viewport(), step.mid(6).toInt());
+        else {
+            preview_->activateWindow();
+            QTest::keySequence(preview_->windowHandle(), QKeySequence(step));
+        }
+        settle();
+    }
 
     /// The page, what its number says, and the buttons that are off.
     QString state()
     {
-        settle();
         QString all = QString("%1: %2 ").arg(preview_->page()).arg(part<QSpinBox>("page")->value());
         all += part<QLabel>("count")->text();
         for (const QPushButton* button : preview_->findChildren<QPushButton*>())
@@ -51,30 +56,36 @@ protected:
 
 TEST_F(ReportPreview, TurnsPagesByKeysButtonsNumberAndWheel)
 {
-    const std::pair<std::function<void()>, QString> steps[] = {
-        {[] {}, "1: 1 of 4, no first, no previous"},
-        {[this] { key(Qt::Key_PageDown, Qt::ControlModifier); }, "2: 2 of 4"},
-        {[this] { click("last"); }, "4: 4 of 4, no next, no last"}, {[this] { click("previous"); }, "3: 3 of 4"},
-        {[this] { key(Qt::Key_G, Qt::ControlModifier); }, "3: 3 of 4"},
-        {[this] { key(Qt::Key_2); }, "3: 3 of 4"}, // not before the number is complete
-        {[this] { key(Qt::Key_Return); }, "2: 2 of 4"}, {[this] { click("next"); }, "3: 3 of 4"},
-        {[this] { click("first"); }, "1: 1 of 4, no first, no previous"},
-        {[this] { view().setFocus(); }, "1: 1 of 4, no first, no previous"},
-        {[this] { key(Qt::Key_PageDown); }, "1: 1 of 4, no first, no previous"}, // down the page first
-        {[this] { turnWheel(-12000); }, "1: 1 of 4, no first, no previous"}, {[this] { turnWheel(-120); }, "2: 2 of 4"},
-        {[this] { turnWheel(+120); }, "1: 1 of 4, no first, no previous"},
-        {[this] { key(Qt::Key_PageDown); }, "2: 2 of 4"}, // it had come to the bottom
-        {[this] { key(Qt::Key_End); }, "4: 4 of 4, no next, no last"},
-        {[this] { key(Qt::Key_Home); }, "1: 1 of 4, no first, no previous"},
-        {[this] { key(Qt::Key_0, Qt::ControlModifier); }, "1: 1 of 4, no first, no previous"},
-        {[this] { key(Qt::Key_PageDown); }, "2: 2 of 4"}, // the whole page is in sight
-    };
+    const QString top = "1: 1 of 4, no first, no previous";
+    const QString end = "4: 4 of 4, no next, no last";
+    const std::pair<const char*, QString> steps[] = {{"pageView", top}, {"Ctrl+PgDown", "2: 2 of 4"}, {"last", end},
+        {"previous", "3: 3 of 4"}, {"Ctrl+G", "3: 3 of 4"}, {"2", "3: 3 of 4"}, // not before the number is complete
+        {"Return", "2: 2 of 4"}, {"next", "3: 3 of 4"}, {"first", top}, {"pageView", top}, {"PgDown", top},
+        {"wheel -12000", top}, {"wheel -120", "2: 2 of 4"}, // down the page first
+        {"wheel 120", top}, {"PgDown", "2: 2 of 4"}, // it had come to the bottom
+        {"End", end}, {"Home", top}, {"Ctrl+0", top}, {"PgDown", "2: 2 of 4"}}; // the whole page is in sight
     for (const auto& [step, leadsTo] : steps) {
-        step();
-        EXPECT_EQ(state(), leadsTo);
+        take(step);
+        EXPECT_EQ(state(), leadsTo) << step;
     }
-    EXPECT_EQ(view().accessibleName(), "Page 2 of 4");
+    EXPECT_EQ(part<QWidget>("pageView")->accessibleName(), "Page 2 of 4");
     EXPECT_EQ(preview_->windowTitle(), "Trial - Window");
+}
+
+TEST_F(ReportPreview, HasZoomAndPaperOfTheWindowBefore)
+{
+    const std::pair<QStringList, const char*> cases[] = {
+        {{"zoom", "End", "zoomOut", "zoomOut", "zoomIn", "paper", "End"}, "200 %, A4"},
+        {{"zoom", "Home", "paper", "Home"}, "Page Width, Letter"}};
+    for (const auto& [steps, chosen] : cases) {
+        for (const QString& step : steps)
+            take(step);
+        take("Ctrl+W");
+        ASSERT_FALSE(preview_);
+        preview_ = new report::Preview("Trial", trial::document({}), [] {});
+        preview_->open();
+        EXPECT_EQ(part<QComboBox>("zoom")->currentText() + ", " + part<QComboBox>("paper")->currentText(), chosen);
+    }
 }
 
 TEST_F(ReportPreview, IsNoScreenOfTheProgram)
@@ -85,9 +96,6 @@ TEST_F(ReportPreview, IsNoScreenOfTheProgram)
     }
     EXPECT_EQ(forms::activeForm(), &form);
     user::click(form.ok);
-    key(Qt::Key_W, Qt::ControlModifier);
-    settle();
-    EXPECT_FALSE(preview_);
     EXPECT_EQ(taken(), "line.LostFocus ok.GotFocus ok.Click");
 }
 

@@ -11,25 +11,14 @@
 /// A small report for tests: a head with the page numbers, a name and an amount for each row, and a note that grows.
 namespace trial {
 
-class Table : public report::Rows {
-public:
-    explicit Table(std::vector<QStringList> rows)
-        : rows_(std::move(rows))
-    {
-    }
+struct Table : report::Rows {
+    std::vector<QStringList> rows;
 
-    int count() const override { return static_cast<int>(rows_.size()); }
-    QString text(int row, int column) const override { return rows_[static_cast<std::size_t>(row)][column]; }
-
-private:
-    std::vector<QStringList> rows_;
+    int count() const override { return static_cast<int>(rows.size()); }
+    QString text(int row, int column) const override { return rows[static_cast<std::size_t>(row)][column]; }
 };
 
-inline constexpr double HeaderHeight = 1000;
-inline constexpr double DetailHeight = 2000;
-inline constexpr double NoteTop = 1000;
-inline constexpr double NoteWidth = 6000;
-inline constexpr double Left = 1000;
+inline constexpr double HeaderHeight = 1000, DetailHeight = 2000, NoteTop = 1000, NoteWidth = 6000, Left = 1000;
 
 inline std::shared_ptr<report::Document> document(std::vector<QStringList> rows)
 {
@@ -45,7 +34,9 @@ inline std::shared_ptr<report::Document> document(std::vector<QStringList> rows)
         {1, "Amount", {5000, 100, 2000, 300}, {9}, report::Align::Left, report::Format::Amount}};
     layout.detail.growing = report::Field{2, "Note", {Left, NoteTop, NoteWidth, 300}, {9}};
     layout.detail.rules = {{{Left, 1800, 7000, 0}}};
-    document->rows = std::make_shared<Table>(std::move(rows));
+    auto table = std::make_shared<Table>();
+    table->rows = std::move(rows);
+    document->rows = table;
     document->names = {"Trial - Window", "Trial", "A. Author", "Trial 2026-11-24"};
     document->moment = {"11/24/2026", "9:05:00 AM"};
     return document;
@@ -59,9 +50,6 @@ inline std::vector<QStringList> rows(int count, const QString& note = "short")
     return rows;
 }
 
-inline report::Paper letter()
-{
-    return {QPageSize(QPageSize::Letter)};
-}
+inline const report::Paper letter{QPageSize(QPageSize::Letter)};
 
 } // namespace trial
