@@ -123,12 +123,12 @@ TEST_F(ReportPages, LeaveAnOlderFileUntilTheirsIsWholeWithAllItsNamesAndFonts)
     putFile(path("a.pdf"), "older");
     QWidget window;
     report::ProgressWindow shown("Saving...", pages_.count(), &window);
-    const auto cancelled = report::savePdf(pages_, path("a.pdf"), [&, progress = shown.progress()](int done) {
+    const report::Progress cancelling = [&, progress = shown.progress()](int done) {
         if (done == 2)
             window.findChild<QProgressDialog*>()->cancel();
         return progress(done);
-    });
-    EXPECT_EQ(cancelled, Outcome::Cancelled);
+    };
+    EXPECT_EQ(report::savePdf(pages_, path("a.pdf"), cancelling), Outcome::Cancelled);
     EXPECT_EQ(report::savePdf(pages_, path("no such folder/a.pdf")), Outcome::Failed);
     EXPECT_FALSE(report::saveCsv(*pages_.document(), path("no such folder/a.csv")));
     {
