@@ -81,11 +81,13 @@ TEST_F(ReportPreview, HasZoomAndPaperOfTheWindowBefore)
     for (const auto& [steps, chosen] : cases) {
         for (const QString& step : steps)
             take(step);
+        const QSize sheet = part<QScrollArea>("pageView")->widget()->size();
         take("Ctrl+W");
         ASSERT_FALSE(preview_);
         preview_ = new report::Preview("Trial", trial::document({}), [] {});
         preview_->open();
         EXPECT_EQ(part<QComboBox>("zoom")->currentText() + ", " + part<QComboBox>("paper")->currentText(), chosen);
+        EXPECT_EQ(part<QScrollArea>("pageView")->widget()->size(), sheet);
     }
 }
 
