@@ -107,12 +107,11 @@ void frmUpdate::change(const editing::List& list)
     change_Assets(list);
 }
 
-// The whole rows go, with the other names in them: on purpose, unlike a deletion.
+// The whole rows go, with the other names in them: on purpose, unlike a deletion. A typed "0" finds the rows without a
+// name of this kind.
 void frmUpdate::remove_Old_Name(const editing::List& list)
 {
     storage::TableView& table = list.names();
-    if (cmbCat.text() == names::Blank)
-        return; // a blank cell holds no name, and its row is another name's
     for (rewind(table); !table.atEOF(); table.MoveNext()) {
         if (!isNameIn(list, cmbCat.text(), 0))
             continue;

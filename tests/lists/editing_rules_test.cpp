@@ -121,10 +121,10 @@ TEST_F(ListEditors, ChangeRemovesTheUsersRowsWholeAndAddsTheNameUnlessAUsersRowH
     for (const char* row : {"Tower|Bells|Handbell", "TOWER|0|0", "Spire|0|0", "0|Bells|0", "tower|0|0", "Barn|0|0"})
         addNames(Data1.rsIndoor, QString(row).split('|'));
     const std::tuple<const char*, const char*, QString> changes[] = {
-        {"0", "Spire", "Tower|Bells|Handbell TOWER|0|0 Spire|0|0 0|Bells|0 tower|0|0 Barn|0|0"}, // no name at all
         {"tower", "sPIRE", "Spire|0|0 0|Bells|0 Barn|0|0"}, // a user's row has it
         {"Barn", "Library", "Spire|0|0 0|Bells|0 Library|0|0"}, // beside a standard row
         {"Spire", "SPIRE", "0|Bells|0 Library|0|0 SPIRE|0|0"},
+        {"0", "Den", "Library|0|0 SPIRE|0|0 Den|0|0"}, // a row without a location
     };
     const auto refuseUnlessWaiting = [](void*) { return QApplication::overrideCursor() ? 0 : 1; };
     for (const auto& [current, name, left] : changes) {
