@@ -34,6 +34,7 @@ TEST_F(SearchWays, EachMenuPreparesTheScreenAndGetsTheUserBack)
     screen<frmPrint>().CustomPrint = true;
     for (const auto& way : ways) {
         menu().FromResults = true;
+        search().raise_Progress(); // as a print of one asset leaves it
         way.areaMenu ? openFromArea(way.areaMenu, way.heading.endsWith("Delete")) : openFromMenu();
         expectScreen(way.heading, way.area, way.word);
         EXPECT_EQ(line(menu().isVisible(), menu().FromResults, screen<frmPrint>().CustomPrint), "false, " + way.flags);
