@@ -179,6 +179,11 @@ TEST_F(Hands, AKeyThatClosesAListDoesNothingElse)
         press(Qt::Key_Return);
         EXPECT_EQ(taken(), "ok.Click");
     }
+    form.combo.setListIndex(2);
+    form.combo.setText("no item");
+    stand(form.combo);
+    press({Qt::Key_F4, Qt::Key_Escape});
+    EXPECT_EQ(form.combo.text() + taken(), "no item");
 }
 
 } // namespace
