@@ -56,6 +56,7 @@ TEST_F(PrintMenu, StagesTheAssetsOfAnAreaOrAllInTheOrderOfTheInventoryAndOpensTh
 
     click(menu().cmdOutPrint[2]);
     EXPECT_EQ(state(), "Rake in AssetReport, cmdOutPrint(2), custom");
+    EXPECT_EQ(screen<frmSearch>().pbSearch.max(), 4) << "all assets";
     closeReport();
     clickTold(menu().cmdAutoPrint[1], "           No Assets Found To Print!", Exclamation);
     EXPECT_EQ(state(), " in nothing, cmdAutoPrint(1)");

@@ -135,6 +135,14 @@ void clickAt(forms::Control& control, QPoint position)
     QTest::mouseClick(spot.window, Qt::LeftButton, {}, spot.position);
 }
 
+void drag(forms::Control& control, QPoint from, QPoint to)
+{
+    const Spot begin = spotOf(control, from);
+    QTest::mousePress(begin.window, Qt::LeftButton, {}, begin.position);
+    QTest::mouseMove(begin.window, spotOf(control, to).position);
+    QTest::mouseRelease(begin.window, Qt::LeftButton, {}, spotOf(control, to).position);
+}
+
 void clickAgain()
 {
     QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval; // which the release has added

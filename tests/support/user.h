@@ -27,6 +27,7 @@ Kind& control(forms::Form& form, const QString& name)
 
 void click(forms::Control& control);
 void clickAt(forms::Control& control, QPoint position);
+void drag(forms::Control& control, QPoint from, QPoint to);
 
 /// The second click of a double click: at once and where the last one was, on whatever is there by now.
 void clickAgain();

@@ -50,6 +50,21 @@ TEST_F(Hands, TheSecondClickCountsAloneOrBringsTheFocusWhereTheFirstHasClosedALi
     EXPECT_EQ(after([&other] { click(other.ok); }), "line.LostFocus ok.GotFocus ok.Click");
 }
 
+TEST_F(Hands, ADraggedMouseSelectsAndATremblingOneLeavesWhatTheFocusHasSelected)
+{
+    for (forms::TextEntry* each : std::initializer_list<forms::TextEntry*>{&form.line, &form.memo}) {
+        form.answers[each->name() + ".GotFocus"] = [each] { each->selectAll(); };
+        each->setText("some words");
+        stand(form.ok);
+        drag(*each, {9, 16}, {12, 16});
+        type("some words");
+        EXPECT_EQ(each->text(), "some words");
+        drag(*each, {each->widget()->width() - 40, 16}, {2, 16});
+        type("x");
+        EXPECT_EQ(each->text(), "x");
+    }
+}
+
 TEST_F(Hands, ABoxThatTheFocusBringsComesOnceWithNoListBehindIt)
 {
     useRealBoxes();
