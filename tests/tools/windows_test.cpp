@@ -91,6 +91,7 @@ TEST_F(WindowsTest, WithoutABackupOrWhileTheProgramRunsNothingIsRestored)
     addAsset("Lamp", "$10.00"); // which the close puts into another backup
     backUp();
     clickTold(restore().cmdRestore, "There are other backups by now. Choose again.", Exclamation);
+    EXPECT_EQ(static_cast<std::size_t>(restore().lstBackups.recordCount()), backups::all().size());
 
     sys::makePrivateFolder(places::earlierBackupsFolder());
     const sys::RunLock another(places::earlierBackupsFolder() + "/.restoring");
