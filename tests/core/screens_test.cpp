@@ -101,6 +101,13 @@ forms::Form& warranty()
     return screen<frmWar>();
 }
 
+forms::Form& totals()
+{
+    shown<frmMain>();
+    click(screen<frmMain>().cmdValue);
+    return screen<frmTotals>();
+}
+
 // With a date that is still to come, without which the notice asks for one.
 forms::Form& policy()
 {
@@ -149,7 +156,7 @@ constexpr Walk walks[] = {
     {shown<frmPrint>,
         "cmdInPrint(0) cmdOutPrint(2) cmdAutoPrint(1) cmdAllPrint(3) cmdCustom(4) cmdCover(0) "
         "cmdFillOutForm(0) cmdBack(0)"},
-    {shown<frmTotals>, "cmdOK"},
+    {totals, "cmdOK"},
     {shown<frmGenInfo>,
         "txtInfo(1) txtInfo(2) txtInfo(0) txtInfo(3) txtInfo(4) cmbState txtInfo(6) txtInfo(7) "
         "txtInfo(8) txtInfo(9) txtInfo(10) txtInfo(11) txtInfo(12) txtInfo(13) txtInfo(14) "
@@ -172,6 +179,14 @@ protected:
         }
     }
 
+    static bool isBlank(QWidget& widget)
+    {
+        const QImage shown = widget.grab().toImage();
+        QImage blank = shown;
+        blank.fill(shown.pixelColor(0, 0));
+        return shown == blank;
+    }
+
     static void expectAccessKeys(const forms::Form& form)
     {
         AccessKeys keys;
@@ -188,7 +203,7 @@ protected:
     }
 };
 
-TEST_F(AllScreens, AreGoneThroughByKeysAndFitOnASmallDesktop)
+TEST_F(AllScreens, AreGoneThroughByKeysFitOnASmallDesktopAndShowAllThatTheyHave)
 {
     for (const Walk& walk : walks) {
         const forms::Form& form = walk.open();
@@ -202,6 +217,8 @@ TEST_F(AllScreens, AreGoneThroughByKeysAndFitOnASmallDesktop)
         for (const auto* button : form.canvas()->findChildren<QPushButton*>())
             EXPECT_GE(button->icon().actualSize({999, 999}).width(), 2 * button->iconSize().width())
                 << button->objectName().toStdString() << " is blurred on a sharp screen";
+        for (const forms::Control* control : form.controls())
+            EXPECT_FALSE(control->isVisible() && isBlank(*control->widget())) << control->name().toStdString();
         forms::destroyScreens();
     }
 }
