@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/pdf.h"
 
+#include "platform/report/page_choice.h"
 #include "platform/report/pdf_information.h"
 #include "platform/report/whole_file.h"
 
 #include <QPainter>
 #include <QPdfWriter>
-
-#include <numeric>
 
 namespace report {
 
@@ -40,7 +39,7 @@ Outcome paintAll(QPdfWriter& writer, const Pages& pages, const std::vector<int>&
 
 Outcome savePdf(const Pages& pages, const QString& path, const Progress& progress)
 {
-    return savePdf(pages, allPages(pages), path, progress);
+    return savePdf(pages, chosenPages({}, pages.count(), 0), path, progress);
 }
 
 Outcome savePdf(const Pages& pages, const std::vector<int>& chosen, const QString& path, const Progress& progress)
@@ -56,13 +55,6 @@ Outcome savePdf(const Pages& pages, const std::vector<int>& chosen, const QStrin
         return outcome; // what was written goes with the file object
     const bool isWhole = information.add(pages.document()->names) && commitWhole(file);
     return isWhole ? Outcome::Done : Outcome::Failed;
-}
-
-std::vector<int> allPages(const Pages& pages)
-{
-    std::vector<int> all(static_cast<std::size_t>(pages.count()));
-    std::iota(all.begin(), all.end(), 0);
-    return all;
 }
 
 } // namespace report

@@ -13,7 +13,4 @@ Outcome savePdf(const Pages& pages, const QString& path, const Progress& progres
 /// The same with some of its pages, counted from 0, in this order.
 Outcome savePdf(const Pages& pages, const std::vector<int>& chosen, const QString& path, const Progress& progress = {});
 
-/// The numbers of all pages.
-std::vector<int> allPages(const Pages& pages);
-
 } // namespace report

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/printing.h"
 
+#include "platform/report/page_choice.h"
 #include "platform/report/pdf.h"
 #include "platform/report/print_service.h"
 
@@ -28,29 +29,17 @@ Paper paperOf(const QPrinter& printer)
     return paper;
 }
 
-// For sheets that are turned by hand and printed on both sides.
-void keepPageSet(std::vector<int>& pages, const QStringList& kept)
+PageChoice choiceOf(const QPrinter& printer)
 {
-    const auto name = kept.indexOf(QStringLiteral("page-set"));
-    const QString set = name < 0 ? QString() : kept.value(name + 1);
-    if (set == QStringLiteral("odd"))
-        std::erase_if(pages, [](int page) { return page % 2 != 0; }); // counted from 0
-    else if (set == QStringLiteral("even"))
-        std::erase_if(pages, [](int page) { return page % 2 == 0; });
-}
-
-std::vector<int> chosenPages(const QPrinter& printer, const Pages& pages, int currentPage)
-{
-    if (printer.printRange() == QPrinter::CurrentPage)
-        return {std::min(currentPage, pages.count() - 1)};
-    const QPageRanges ranges = printer.pageRanges();
-    std::vector<int> chosen = allPages(pages);
-    if (printer.printRange() == QPrinter::PageRange && !ranges.isEmpty())
-        std::erase_if(chosen, [&ranges](int page) { return !ranges.contains(page + 1); });
-    keepPageSet(chosen, keptForService(printer));
-    if (printer.pageOrder() == QPrinter::LastPageFirst)
-        std::reverse(chosen.begin(), chosen.end());
-    return chosen;
+    PageChoice choice;
+    choice.currentOnly = printer.printRange() == QPrinter::CurrentPage;
+    if (printer.printRange() == QPrinter::PageRange)
+        choice.ranges = printer.pageRanges();
+    const QStringList kept = keptForService(printer);
+    if (const auto name = kept.indexOf(QStringLiteral("page-set")); name >= 0)
+        choice.set = kept.value(name + 1);
+    choice.lastFirst = printer.pageOrder() == QPrinter::LastPageFirst;
+    return choice;
 }
 
 bool asksUser(QPrinter& printer, const Pages& pages, QWidget* window)
@@ -75,7 +64,7 @@ bool asksUser(QPrinter& printer, const Pages& pages, QWidget* window)
 Outcome printTo(const QPrinter& printer, const Pages& pages, int currentPage, QWidget* window)
 {
     const Pages printed(pages.document(), paperOf(printer));
-    const std::vector<int> chosen = chosenPages(printer, printed, currentPage);
+    const std::vector<int> chosen = chosenPages(choiceOf(printer), printed.count(), currentPage);
     if (chosen.empty())
         return Outcome::NothingChosen;
     ProgressWindow progress(QStringLiteral("Printing..."), static_cast<int>(chosen.size()), window);

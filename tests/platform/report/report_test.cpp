@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pages of a report, read from PDF files by another program, and the files themselves.
 #include "platform/report/csv.h"
+#include "platform/report/page_choice.h"
 #include "platform/report/pdf.h"
 #include "platform/report/progress.h"
 #include "support/files.h"
@@ -161,6 +162,16 @@ TEST_F(ReportPages, HaveAmountsInOneFormAndMakeATableForASpreadsheet)
         "\xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\n\"Lamp \",None,a\tb\r\nLoan,-1000.00,\r\n");
     document->layout.detail = {};
     EXPECT_FALSE(report::hasTable(*document));
+}
+
+TEST(PageChoice, TakesRangesOneSideOfTheSheetsAndTheOrder)
+{
+    const QPageRanges some = QPageRanges::fromString("2-4,6");
+    const std::pair<report::PageChoice, std::vector<int>> choices[] = {{{}, {0, 1, 2, 3, 4, 5, 6}},
+        {{true, some, "odd", true}, {6}}, {{false, some}, {1, 2, 3, 5}}, {{false, some, "odd"}, {2}},
+        {{false, some, "even", true}, {5, 3, 1}}, {{false, QPageRanges::fromString("8-9")}, {}}};
+    for (const auto& [choice, pages] : choices)
+        EXPECT_EQ(report::chosenPages(choice, 7, 9), pages) << choice.set.toStdString();
 }
 
 } // namespace
