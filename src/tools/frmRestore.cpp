@@ -9,8 +9,20 @@
 #include "tools/restoring.h"
 
 #include <algorithm>
+#include <utility>
 
 using conventions::MsgBox;
+
+namespace {
+
+// A close while the window is open makes another file the last backup, under the name of the one that is listed.
+bool areSame(const std::vector<Backup>& now, const std::vector<Backup>& listed)
+{
+    return std::ranges::equal(
+        now, listed, [](const Backup& a, const Backup& b) { return a.made == b.made && a.file == b.file; });
+}
+
+} // namespace
 
 frmRestore::frmRestore()
     : forms::Form("frmRestore")
@@ -20,7 +32,7 @@ frmRestore::frmRestore()
 
 void frmRestore::Form_Load()
 {
-    fill_List();
+    fill_List(backups::all());
 }
 
 void frmRestore::Form_Unload(bool& cancel)
@@ -51,8 +63,9 @@ void frmRestore::lstBackups_Click()
 
 void frmRestore::cmdRestore_Click()
 {
-    if (is_List_Old()) {
-        fill_List();
+    std::vector<Backup> now = backups::all();
+    if (!areSame(now, list_)) {
+        fill_List(std::move(now));
         MsgBox("There are other backups by now. Choose again.", forms::box::Exclamation);
         return;
     }
@@ -88,9 +101,9 @@ void frmRestore::restore(const Backup& chosen)
 }
 
 // The list stands at once; what is in each backup follows, one at a time.
-void frmRestore::fill_List()
+void frmRestore::fill_List(std::vector<Backup> backups)
 {
-    list_ = backups::all();
+    list_ = std::move(backups);
     lstBackups.clear();
     for (const Backup& backup : list_)
         lstBackups.addRecord(backups::columnsOf(backup));
@@ -101,14 +114,6 @@ void frmRestore::fill_List()
     pbRestore.setVisible(true);
     show_State();
     tmRead.setEnabled(true);
-}
-
-// A close while the window is open makes another file the last backup, under the name of the one that is listed.
-bool frmRestore::is_List_Old() const
-{
-    const std::vector<Backup> now = backups::all();
-    return !std::equal(now.begin(), now.end(), list_.begin(), list_.end(),
-        [](const Backup& a, const Backup& b) { return a.made == b.made && a.file == b.file; });
 }
 
 void frmRestore::read_Today()

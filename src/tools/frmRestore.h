@@ -33,8 +33,7 @@ private:
     void tmRead_Timer();
     void lstBackups_Click();
     void cmdRestore_Click();
-    void fill_List();
-    bool is_List_Old() const;
+    void fill_List(std::vector<Backup> backups);
     void read_Today();
     void read_Backup(std::size_t index);
     void show_State();

@@ -2,7 +2,6 @@
 #include "tools/household.h"
 
 #include "core/data_store.h"
-#include "platform/storage/file_lock.h"
 #include "platform/system/files.h"
 
 #include <QFileInfo>
@@ -16,14 +15,22 @@ using values::RuntimeFailure;
 
 namespace {
 
+// What a failure says behind its kind.
+QString reasonOf(const RuntimeFailure& failure)
+{
+    return failure.text().section(QStringLiteral(": "), 1);
+}
+
 // Runs a step of the reading; what fails in it is told with what that means.
 template <class Step>
 auto orUnreadable(const QString& state, Step step)
 {
     try {
         return step();
+    } catch (const storage::FileInUse& failure) {
+        throw UnreadableHousehold(QStringLiteral("In use"), reasonOf(failure));
     } catch (const RuntimeFailure& failure) {
-        throw UnreadableHousehold(state, failure.text().section(QStringLiteral(": "), 1)); // without its kind
+        throw UnreadableHousehold(state, reasonOf(failure));
     }
 }
 
@@ -34,9 +41,7 @@ FileReader openedReader(const QString& file, FileReader::Locks locks)
         throw UnreadableHousehold(QStringLiteral("Missing"), file + QStringLiteral(" does not exist"));
     if (!found.isReadable())
         throw UnreadableHousehold(QStringLiteral("No right to read"), file + QStringLiteral(" can't be read"));
-    const bool isInUse = locks == FileReader::Locks::Respected && storage::isInUse(file);
-    return orUnreadable(isInUse ? QStringLiteral("In use") : QStringLiteral("Damaged or foreign"),
-        [&] { return FileReader(file, databaseKey(), locks); });
+    return orUnreadable(QStringLiteral("Damaged or foreign"), [&] { return FileReader(file, databaseKey(), locks); });
 }
 
 std::optional<Currency> sumOf(const Snapshot& assets)

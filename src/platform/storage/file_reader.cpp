@@ -7,7 +7,6 @@
 #include "platform/storage/sql.h"
 #include "platform/storage/sqlcipher.h"
 #include "platform/storage/statement.h"
-#include "platform/values/failure.h"
 
 #include <QFileInfo>
 
@@ -21,11 +20,16 @@ namespace {
 JournalBeside journalOf(const QString& path, const QByteArray& key, FileReader::Locks locks)
 {
     if (locks == FileReader::Locks::Respected && isInUse(path))
-        throw RuntimeFailure(FailureKind::Database, path + QStringLiteral(" is in use by another program"));
+        throw FileInUse(path);
     return journalBeside(path, key);
 }
 
 } // namespace
+
+FileInUse::FileInUse(const QString& path)
+    : RuntimeFailure(FailureKind::Database, path + QStringLiteral(" is in use by another program"))
+{
+}
 
 FileReader::FileReader(const QString& path, const QByteArray& key, Locks locks)
     : journal_(journalOf(path, key, locks))

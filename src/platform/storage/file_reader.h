@@ -4,10 +4,17 @@
 #include "platform/storage/engine.h"
 #include "platform/storage/journal.h"
 #include "platform/storage/snapshot.h"
+#include "platform/values/failure.h"
 
 #include <optional>
 
 namespace storage {
+
+/// The Database failure of a reader that finds a file in which another process may be writing.
+class FileInUse : public values::RuntimeFailure {
+public:
+    explicit FileInUse(const QString& path);
+};
 
 /// A database file as it lies, read and never written: the file, its folder and its journal stay as they are. Nobody
 /// stores anything in it while the object lives. Where a journal has to be played back first, that is done on a copy.
@@ -18,7 +25,7 @@ public:
         Passed, ///< for a file that this process keeps others out of
     };
 
-    /// Opens the file. Failures: Database, with the reason, as at `Connection::open`.
+    /// Opens the file. Failures: FileInUse; Database, with the reason, as at `Connection::open`.
     FileReader(const QString& path, const QByteArray& key, Locks locks = Locks::Respected);
 
     /// Reads it to its last page: each page's checksum, its structure. Failures: Database.
