@@ -31,7 +31,10 @@ QString told(const forms::Message& box)
 // Before the forms that a test has as members.
 FormsTest::FormsTest()
 {
-    [[maybe_unused]] static const bool prepared = (forms::prepare(*qApp), true);
+    [[maybe_unused]] static const bool prepared = [] {
+        forms::prepare(*qApp);
+        return true;
+    }();
     forms::setMessageDoor([this](const forms::Message& shown) { return answer(shown); });
     forms::setProcessEnder([this](int status) {
         endStatus_ = status;

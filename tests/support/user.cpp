@@ -55,6 +55,11 @@ Spot spotOf(forms::Control& control, QPoint position)
     return spot;
 }
 
+Spot middleOf(forms::Control& control)
+{
+    return spotOf(control, control.widget()->rect().center());
+}
+
 QPoint lastPlace; // of a click, on the display
 
 QWindow& frontWindow()
@@ -114,8 +119,6 @@ void chooseIn(QMenu& menu, const QString& command)
 
 } // namespace
 
-// ---- the mouse
-
 forms::Control& control(forms::Form& form, const QString& name)
 {
     QString names;
@@ -128,6 +131,8 @@ forms::Control& control(forms::Form& form, const QString& name)
         QStringLiteral("%1 has no control %2. There are:%3").arg(form.name(), name, names).toStdString());
 }
 
+// ---- the mouse
+
 void clickAt(forms::Control& control, QPoint position)
 {
     const Spot spot = spotOf(control, position);
@@ -138,9 +143,10 @@ void clickAt(forms::Control& control, QPoint position)
 void drag(forms::Control& control, QPoint from, QPoint to)
 {
     const Spot begin = spotOf(control, from);
+    const Spot end = spotOf(control, to);
     QTest::mousePress(begin.window, Qt::LeftButton, {}, begin.position);
-    QTest::mouseMove(begin.window, spotOf(control, to).position);
-    QTest::mouseRelease(begin.window, Qt::LeftButton, {}, spotOf(control, to).position);
+    QTest::mouseMove(end.window, end.position);
+    QTest::mouseRelease(end.window, Qt::LeftButton, {}, end.position);
 }
 
 void clickAgain()
@@ -173,14 +179,14 @@ bool rightClick(forms::Control& control, const QString& command)
         }
     });
     inMenu.start(0);
-    const Spot spot = spotOf(control, control.widget()->rect().center());
+    const Spot spot = middleOf(control);
     QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
     return opened;
 }
 
 bool drop(forms::Control& control, const QString& text)
 {
-    const Spot spot = spotOf(control, control.widget()->rect().center());
+    const Spot spot = middleOf(control);
     QMimeData data;
     data.setText(text);
     QDragEnterEvent enter(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
