@@ -11,7 +11,6 @@
 #include <QFileInfo>
 
 using values::FailureKind;
-using values::RuntimeFailure;
 
 namespace storage {
 
