@@ -46,6 +46,12 @@ inline std::map<std::string, std::string> treeOf(const QString& folder)
     return tree;
 }
 
+/// How many files this process has open.
+inline auto openFiles()
+{
+    return QDir("/proc/self/fd").count();
+}
+
 /// Runs in a process of its own, to its end; gives its status.
 inline int inProcess(const std::function<void()>& work)
 {
@@ -77,3 +83,20 @@ public:
 private:
     rlimit former_{};
 };
+
+/// Compares each line of a kept list with what follows from its beginning: "step = what follows". A heading, "# ", is
+/// followed too. With KESTRILL_KEEP=1 the list is kept as it is now.
+inline void expectKept(const QString& path, const std::function<QString(const QString& step)>& follow)
+{
+    const bool isToKeep = qEnvironmentVariableIsSet("KESTRILL_KEEP");
+    QString now;
+    for (const QString& line : QString::fromUtf8(bytesOf(path)).split('\n', Qt::SkipEmptyParts)) {
+        const QString step = line.section(" = ", 0, 0);
+        const QString told = follow(step);
+        const QString followed = line.startsWith("# ") ? line : step + " = " + told;
+        EXPECT_TRUE(isToKeep || followed == line) << followed.toStdString() << "\n  kept: " << line.toStdString();
+        now += followed + '\n';
+    }
+    if (isToKeep)
+        putFile(path, now.toUtf8());
+}

@@ -12,6 +12,7 @@ int main(int argc, char** argv)
     for (const auto& [variable, value] : usual)
         if (qEnvironmentVariableIsEmpty(variable))
             qputenv(variable, value);
+    qputenv("QT_FONT_DPI", "96"); // by which sizes go that tests keep
     // The platform without a screen tells at each window what it doesn't support.
     static const QtMessageHandler usualHandler =
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {

@@ -22,6 +22,15 @@ protected:
     /// A way out that asks first: with No, the same screens stand there as before.
     void expectToStay(const std::function<void()>& leave, const QString& question = CloseKestrill);
 
+    /// Does what a file below tests/ keeps of a user's way, and compares all that it shows with what is kept there; or
+    /// what the test tells after each step.
+    void replay(const char* file, const std::function<QStringList()>& tells = {});
+
+    /// What else than the user's hands a line of such a file can mean, for a test that knows it: what is seen then. And
+    /// what of all that is told, where and when the test runs apart, can be kept.
+    virtual std::optional<QString> happen(const QString& /*line*/) { return {}; }
+    virtual QString lasting(const QString& told) const { return told; }
+
     /// Opens all views of Data1, each on its first row; closes them, for tests of the start and of the end.
     static void openData();
     static void closeData() { Data1.Home.close(); }
@@ -46,5 +55,8 @@ protected:
     }
 
 private:
+    static bool arranges(const QString& line);
+    QStringList played(const QString& line);
+
     QTemporaryDir folder_;
 };

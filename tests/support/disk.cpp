@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// These stand before the system's own, for the libraries too.
+#include "support/disk.h"
+
+#include <QRegularExpression>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+
+#include <fcntl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+QRegularExpression refused("never");
+int reasonOfRefusal = 0;
+
+QString nameOf(const std::filesystem::path& path)
+{
+    return QString::fromStdString(path.filename());
+}
+
+template <class... Arguments>
+int call(const QString& told, long number, Arguments... arguments)
+{
+    Disk::told.append(told);
+    if (refused.match(told).capturedStart() != 0)
+        return static_cast<int>(::syscall(number, arguments...));
+    errno = reasonOfRefusal;
+    return -1;
+}
+
+} // namespace
+
+void Disk::refuse(const QString& calls, int reason)
+{
+    refused.setPattern(calls);
+    reasonOfRefusal = reason;
+}
+
+int fsync(int file)
+{
+    std::error_code unknown;
+    const auto path = std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file), unknown);
+    return call("sync " + nameOf(path), SYS_fsync, file);
+}
+
+int link(const char* from, const char* to) noexcept
+{
+    return call("link " + nameOf(from) + ' ' + nameOf(to), SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0);
+}
+
+int rename(const char* from, const char* to) noexcept
+{
+    return renameat2(AT_FDCWD, from, AT_FDCWD, to, 0);
+}
+
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept
+{
+    const QString told = (flags & RENAME_EXCHANGE ? "exchange " : "name ") + nameOf(from) + ' ' + nameOf(to);
+    return call(told, SYS_renameat2, fromFolder, from, toFolder, to, flags);
+}
