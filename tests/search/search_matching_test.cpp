@@ -5,6 +5,9 @@
 #include "platform/storage/statement.h"
 #include "support/files.h"
 
+#include <QApplication>
+#include <QProgressBar>
+
 namespace {
 
 class SearchMatching : public SearchScreenTest {
@@ -15,7 +18,7 @@ protected:
         addAssetRow({"INDOOR", "attic", "Art", "Vase", "1931", "Acme", "M1", "SN-7", "1/2/2020", "$12.50", "Yes",
             "Safe", "Étagère of oak"});
         addAssetRow({"Indoor", "Attic", "Tools", "Saw", "1950", "Bolt", "M2", "SN-8", "1/2/2021", "$99.00", "No",
-            "None", "oaken "});
+            "None", "oaken  beam"});
         addAssetRow({"Outdoor", "Barn", "Art", "Gnome", "2000", "Acme", "M3", "SN-9", "1/2/2022", "$7.00", "No", "None",
             "50% % * ?"});
         put(Data1.rsInventory, {{Inventory::WarrantyDescription, "parts only"}});
@@ -28,45 +31,46 @@ TEST_F(SearchMatching, TheWordIsLookedForInEveryColumnButTheWarranty)
 {
     addThree();
     const std::pair<const char*, const char*> words[] = {{"attic", "M1 M2"}, {"OAK", "M1 M2"}, {"Oak ", ""},
-        {"oaken ", "M2"}, {"étagÈre", "M1"}, {"yes", "M1"}, {"sn-9", "M3"}, {"3", "M1 M3"}, {"% *", "M3"}, {"*", "M3"},
+        {"oaken  ", "M2"}, {"étagÈre", "M1"}, {"yes", "M1"}, {"sn-9", "M3"}, {"3", "M1 M3"}, {"% *", "M3"}, {"*", "M3"},
         {"outdoor", "M3"}, {"TOOLS", "M2"}, {"gnome", "M3"}, {"1950", "M2"}, {"bolt", "M2"}, {"1/2/2022", "M3"},
-        {"$99", "M2"}, {"safe", "M1"}, {"parts only", ""}, {"art oak", ""}, {"m1", "M1"}};
+        {"$99", "M2"}, {"safe", "M1"}, {"art oak", ""}, {"m1", "M1"}, {"parts only", ""}};
     for (const auto& [word, found] : words) {
         *found ? find(word) : findNothing(word);
         EXPECT_EQ(models(), found) << word;
     }
+    paste(QString(300, u'x'));
+    EXPECT_EQ(search().txtKey.text().size(), 254);
     EXPECT_FALSE(forms::detail::findScreen(typeid(frmProgress))) << "which would close the program";
     EXPECT_EQ(hiddenOfSearch(), "pbSearch hidden");
 }
 
-TEST_F(SearchMatching, TheListsAskForWholeValuesAndForTheWordTooAndAllIsShownOnlyAfterAQuestion)
+TEST_F(SearchMatching, IsGoneThrough)
 {
     addThree();
-    findAll(Answer::No);
-    EXPECT_EQ(line(scene(), models()), "4 frmSearch: txtKey, ");
+    menu().show();
+    replay("search/results.txt");
+}
+
+// It fills for the assets, and again for those found.
+TEST_F(SearchMatching, ABarStandsOnTheScreenMeanwhileAndAnHourglassWhereAllIsShownOrSorted)
+{
+    addThree();
+    QStringList full;
+    const auto* bar = dynamic_cast<const QProgressBar*>(search().pbSearch.widget());
+    QObject::connect(bar, &QProgressBar::valueChanged, bar, [&](int value) {
+        if (value == bar->maximum())
+            full += line(value, hiddenOfSearch(), QApplication::overrideCursor() != nullptr);
+    });
+    find("m1");
+    EXPECT_EQ(full.join("; "), "3, lblHead(3) hidden, false; 1, pbSearch hidden, false");
+    full.clear();
+    click(results().lblSubHead[1]);
+    click(results().cmdMain);
     findAll();
-    EXPECT_EQ(line(scene(), models(), results().lblRecsFound.caption(), hiddenOfSearch()),
-        "5 frmSearchResults: cmdBack, M1 M2 M3, 3 Assets Found!, pbSearch hidden");
+    EXPECT_EQ(full.join("; "), "3, lblHead(3) hidden, true; 3, lblHead(3) hidden, true; 3, pbSearch hidden, true");
+    EXPECT_FALSE(QApplication::overrideCursor());
     click(results().cmdBack);
-    pick(search().cmbArea, "Indoor");
-    press(Qt::Key_Return);
-    EXPECT_EQ(line(models(), search().pbSearch.value(), search().pbSearch.max()), "M1 M2, 2, 2");
-    click(results().cmdBack); // New Search keeps the lists
-    pick(search().cmbLocation, "Attic");
-    type(search().txtKey, "ACME\n");
-    Data1.rsPrint.MoveFirst();
-    EXPECT_EQ(cellsOf(Data1.rsPrint, Print::ID, Print::Description).join('|'),
-        "1|INDOOR|attic|Art|Vase|1931|Acme|M1|SN-7|1/2/2020|$12.50|Yes|Safe|Étagère of oak");
-    click(results().cmdBack);
-    pick(search().cmbCat, "Tools");
-    press(Qt::Key_Return);
-    EXPECT_EQ(models(), "M2") << "the word is gone";
-    click(results().cmdBack);
-    pick(search().cmbCat, "Art");
-    search().cmbType.setText("Va");
-    forms::setMessageDoor([](const forms::Message&) { return Answer::OK; });
-    press(Qt::Key_Return); // a part of a value is none
-    EXPECT_EQ(models(), "");
+    EXPECT_EQ(line(search().pbSearch.value(), results().txtArea[0].text()), "0, ");
 }
 
 TEST_F(SearchMatching, AHeaderSortsThisSearchAndAllLaterOnes)

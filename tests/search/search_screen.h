@@ -46,12 +46,11 @@ protected:
         type(word + "\n");
     }
 
-    void findAll(Answer answer = Answer::Yes)
+    void findAll()
     {
         openFromMenu();
-        expectBox(
-            "This Search Will Display All Assets...Continue?", forms::box::Information + forms::box::YesNo, answer);
-        click(search().cmdContinue);
+        clickTold(search().cmdContinue, "This Search Will Display All Assets...Continue?",
+            forms::box::Information + forms::box::YesNo, Answer::Yes);
     }
 
     void findNothing(const QString& word)
