@@ -27,6 +27,8 @@ protected:
     {
         closeProgram();
         EXPECT_TRUE(reportedFailure());
+        closeBox(screen<frmProgress>()); // refuses
+        EXPECT_EQ(front(), "2 frmProgress; frmMain");
         EXPECT_FALSE(Data1.Home.isOpen()) << "the views are closed before the copy is made";
         EXPECT_EQ(bytesOf(backupFile()), backup);
         EXPECT_THAT(this->known(), known);
@@ -42,9 +44,10 @@ TEST_F(Closing, OverwritesTheLastBackupLeavesWhatIsNotItsOwnAndEndsWithTheGoodby
     putFile(backupFile(), "an older copy");
     putFile(places::backupFolder() + "/letter.txt", "not ours");
     putFile(file() + "-foreign-journal", "put aside");
+    putFile(places::databaseFolder() + "/notes.txt", "beside it");
     closeProgram();
     EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
-    EXPECT_EQ(QDir(places::backupFolder()).entryList(QDir::Files), QStringList({"KTL.db", "letter.txt"}));
+    EXPECT_EQ(QDir(places::backupFolder()).entryList(QDir::Files), QStringList({"KTL.db", "letter.txt", "notes.txt"}));
     EXPECT_EQ(known(), AllSafe);
     closeBox(screen<frmExit>()); // refuses
     EXPECT_EQ(line(scene(), Data1.Home.isOpen(), endStatus().has_value()), "2 frmExit, false, false");
@@ -108,6 +111,12 @@ TEST_F(Closing, OfAFailedRunTellsOfRowsThatTheFileDoesNotHold)
     EXPECT_THAT(known(), HasSubstr("Indoor_Items doesn't hold its"));
     putFile(file() + "-journal", QByteArray(2000, 'j'));
     EXPECT_THAT(known(), HasSubstr("Leave KTL.db-journal beside it"));
+    QFile::remove(file() + "-journal");
+    openData();
+    QFile::remove(file());
+    internal::CaptureStderr();
+    EXPECT_FALSE(ending::close_Store());
+    EXPECT_THAT(internal::GetCapturedStderr(), HasSubstr("KTL.db was moved"));
 }
 
 class EarlierBackups : public Closing {

@@ -1,16 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/manual.h"
 #include "platform/help/book.h"
 #include "platform/help/word_index.h"
-#include "support/print.h"
+#include "support/harness.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QPushButton>
 #include <QSet>
 #include <QTextBlock>
 #include <QTextDocument>
 
-#include <gtest/gtest.h>
-
 namespace {
+
+using Manual = ScreenTest;
+
+TEST_F(Manual, OpensAtATopicOrElseAtAWindow)
+{
+    QStringList titles;
+    QWidget* viewer = nullptr;
+    for (const auto& [number, window] : {std::pair(1001, "frmCalendar"), {0, "frmCalendar"}}) {
+        manual::open(number, window);
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (each->windowRole() == "help")
+                viewer = each;
+        titles += viewer->windowTitle();
+    }
+    EXPECT_EQ(titles, QStringList({"Main Menu - Kestrill Help", "The Calendar - Kestrill Help"}));
+    EXPECT_FALSE(viewer->findChild<QPushButton*>()->icon().isNull());
+    delete viewer;
+}
 
 class HelpPages : public testing::Test {
 protected:

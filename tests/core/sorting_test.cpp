@@ -23,7 +23,7 @@ TEST_F(Sorting, OrdersByColumnsWithoutRegardToCaseAndEqualRowsAsTheyWereStored)
     add("d", "", "$1,000.00");
     add("e", "barn", "$9.00");
     const std::pair<const char*, const char*> orders[] = {{"Location", "dacbe"}, {"location DESC", "beacd"},
-        {"[Amount]", "aebcd"}, {" Amount desc , Location ASC", "dcbae"}, {"ID DESC", "edcba"}, {"", "abcde"},
+        {"Amount", "aebcd"}, {" Amount desc , Location ASC", "dcbae"}, {"ID DESC", "edcba"}, {"", "abcde"},
         {"Serial/ VIN / ID", "abcde"}};
     for (const auto& [order, rows] : orders) {
         view.Sort(order);

@@ -39,26 +39,26 @@ protected:
         frmStartup::list_Processes = [processes] { return processes; };
     }
 
-    // As the program starts: the splash screen stands until its timer fires. No start changes the file.
-    static void expectStart(const QString& leadsTo)
+    // As the program starts: the splash screen stands until its timer fires. What is said, where it leads and how it
+    // ends. No start changes the file.
+    QString start()
     {
+        QStringList told;
+        forms::setMessageDoor([&told](const forms::Message& box) {
+            told += QString("%1 \"%2\"").arg(box.flags).arg(box.text);
+            return forms::Answer::OK;
+        });
         const QByteArray before = bytesOf(places::databaseFile());
         screen<frmBW_Splash>().show();
         screen<frmBW_Splash>().tmrLoad.elapse();
-        EXPECT_EQ(scene(), leadsTo);
+        told += scene();
+        if (const auto status = endStatus())
+            told += QString("ends with %1").arg(*status);
         forms::destroyScreens();
         closeData();
         EXPECT_EQ(bytesOf(places::databaseFile()), before) << "the file has been made or changed";
+        return told.join("; ");
     }
-
-    void expectRefusal(const QString& text, int flags)
-    {
-        expectBox(text, flags);
-        expectStart("20 nothing");
-        EXPECT_EQ(endStatus(), flags == Stop ? 3 : 1) << "the launcher offers a restore after a 3";
-    }
-
-    void expectLoadFailure() { expectRefusal("Unable To Load Database...Closing Program!", Stop); }
 };
 
 TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
@@ -75,48 +75,31 @@ TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
         EXPECT_FALSE(view->atBOF() || view->atEOF());
 }
 
-TEST_F(StartUp, OfAFirstRunLeadsToTheIntroductionWithoutAnAlert)
+TEST_F(StartUp, LeadsToTheIntroductionOrSaysWhenThePolicyExpires)
 {
-    for (const char* introduced : {"None", "", "0", "01", " 1"}) {
-        SCOPED_TRACE(introduced);
-        store({{General::Introduced, introduced}, {General::PolicyNotify, "Yes"}}); // and no day that could be read
-        expectStart("17 frmIntroduction: cmdOK");
+    QFile kept(QFileInfo(__FILE__).dir().filePath("starts.txt"));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    for (const QString& each : QString::fromUtf8(kept.readAll()).split('\n', Qt::SkipEmptyParts)) {
+        const QString row = each.section(" > ", 0, 0);
+        const QStringList values = row.split('|');
+        store({{General::Introduced, values[0]}, {General::PolicyNotify, values[1]},
+            {General::PolicyExpiration, values[2]}});
+        EXPECT_EQ(row + " > " + start(), each);
     }
 }
 
-TEST_F(StartUp, SaysWhenThePolicyExpiresAndBlamesTheDatabaseForADateThatIsNoneOrTooFarAway)
-{
-    const QString expired = "Your Insurance Policy Has Expired...Please Renew Your Insurance Policy So You Can "
-                            "Ensure Coverage In The Event Of Theft Or Disaster!";
-    const std::tuple<const char*, const char*, QString> alerts[] = {{"No", "None", {}}, {"Yes ", "11/24/2026", {}},
-        {"Yes", "11/25/1950", expired}, {"Yes", "11/23/2026", expired},
-        {"yES", "11/24/2026", "    Your Insurance Policy Expires Today! "},
-        {"Yes", "11/25/2026", "   Your Insurance Policy Expires In 1 Day!"},
-        {"Yes", "11/26/2026", "Your Insurance Policy Expires In 2 Days!"},
-        {"Yes", "12/24/2026", "Your Insurance Policy Expires In 30 Days!"}, {"Yes", "12/25/2026", {}}};
-    for (const auto& [notify, expiration, text] : alerts) {
-        SCOPED_TRACE(testing::Message() << notify << ", " << expiration);
-        store({{General::PolicyNotify, notify}, {General::PolicyExpiration, expiration}});
-        if (!text.isEmpty())
-            expectBox(text, Information);
-        expectStart("2 frmMain: cmdIn");
-    }
-    for (const char* expiration : {"None", "1/1/2200"}) {
-        store({{General::PolicyNotify, "Yes"}, {General::PolicyExpiration, expiration}});
-        expectLoadFailure();
-    }
-}
-
+// By a 3 the launcher knows when to offer a restore.
 TEST_F(StartUp, RefusesAFileThatIsNoneAMissingOneAndBeforeBothAnotherInstanceWhoseNameHoldsThePhrase)
 {
     running({"Kestrill", "kestrill", "KESTRILL", "kestrel"}); // the case counts
-    expectStart("2 frmMain: cmdIn");
+    EXPECT_EQ(start(), "2 frmMain: cmdIn");
+    const char* const unable = "16 \"Unable To Load Database...Closing Program!\"; 20 nothing; ends with 3";
     putFile(places::databaseFile(), QByteArray(8192, 'x'));
-    expectLoadFailure();
+    EXPECT_EQ(start(), unable);
     QFile::remove(places::databaseFile());
-    expectLoadFailure();
+    EXPECT_EQ(start(), unable);
     running({"Kestrill", "MyKestrillViewer.exe"});
-    expectRefusal("Kestrill Is Already Running!", Exclamation);
+    EXPECT_EQ(start(), "48 \"Kestrill Is Already Running!\"; 20 nothing; ends with 1");
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "platform/forms/look.h"
 #include "platform/help/parts.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -96,13 +95,8 @@ void FindBar::showWords(const QString& words)
 
 void FindBar::tell(const QString& words, bool isFailure)
 {
-    state_->setText(words);
-    state_->setVisible(!words.isEmpty());
     parts::colour(*words_, isFailure ? forms::look::colours().error : forms::look::colours().field);
-    if (words.isEmpty())
-        return;
-    QAccessibleEvent alert(state_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    parts::tell(*state_, words);
 }
 
 } // namespace help

@@ -35,8 +35,6 @@ PageBrowser::PageBrowser(QWidget* parent)
 {
     setObjectName(QStringLiteral("page"));
     setFrameShape(QFrame::NoFrame);
-    setOpenExternalLinks(false);
-    setUndoRedoEnabled(false);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // pictures are fitted into what it leaves
     document()->setDocumentMargin(forms::look::grid(2));
 }
@@ -96,8 +94,7 @@ QVariant PageBrowser::loadResource(int type, const QUrl& name)
     }
     if (type != QTextDocument::ImageResource)
         return loaded;
-    const QImage picture = QImage::fromData(loaded.toByteArray());
-    return picture.isNull() || room() <= 0 ? QVariant(picture) : fitted(picture);
+    return fitted(QImage::fromData(loaded.toByteArray()));
 }
 
 void PageBrowser::resizeEvent(QResizeEvent* event)
@@ -115,12 +112,11 @@ void PageBrowser::loadAgain()
     const int anchor = selected.anchor();
     const int end = selected.position();
     reload();
-    const int last = document()->characterCount() - 1;
     QTextCursor cursor(document());
-    cursor.setPosition(std::min(anchor, last));
-    cursor.setPosition(std::min(end, last), QTextCursor::KeepAnchor);
+    cursor.setPosition(anchor);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
     setTextCursor(cursor);
-    cursor.setPosition(std::min(top, last));
+    cursor.setPosition(top);
     verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(cursor).top());
 }
 

@@ -3,6 +3,8 @@
 
 #include "platform/forms/look.h"
 
+#include <QAccessible>
+#include <QLabel>
 #include <QPushButton>
 
 namespace help::parts {
@@ -13,7 +15,6 @@ QPushButton* button(QWidget& parent, const ButtonLook& look)
         QString::fromLatin1(look.caption), &parent);
     const QByteArray words = QByteArray(look.toolTip).split('(').first().trimmed();
     name(*made, look.name, words.constData(), look.toolTip);
-    made->setAutoDefault(false);
     return made;
 }
 
@@ -22,6 +23,16 @@ void name(QWidget& widget, const char* objectName, const char* accessibleName, c
     widget.setObjectName(QString::fromLatin1(objectName));
     widget.setAccessibleName(QString::fromLatin1(accessibleName));
     widget.setToolTip(QString::fromLatin1(toolTip));
+}
+
+void tell(QLabel& line, const QString& words)
+{
+    line.setText(words);
+    line.setVisible(!words.isEmpty());
+    if (words.isEmpty())
+        return;
+    QAccessibleEvent alert(&line, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void colour(QWidget& entry, const QColor& colour)

@@ -5,6 +5,7 @@
 #include <QString>
 
 class QColor;
+class QLabel;
 class QPushButton;
 class QWidget;
 
@@ -22,6 +23,9 @@ QPushButton* button(QWidget& parent, const ButtonLook& look);
 
 /// The name under which tests know a part, the one under which assistive tools know it, and its tool tip.
 void name(QWidget& widget, const char* objectName, const char* accessibleName, const char* toolTip);
+
+/// Words in a line of their own, which screen readers say at once; without words there is no line.
+void tell(QLabel& line, const QString& words);
 
 void colour(QWidget& entry, const QColor& colour);
 

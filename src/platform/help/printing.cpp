@@ -46,12 +46,17 @@ Outcome print(QTextBrowser& page, QWidget* window)
         | QAbstractPrintDialog::PrintToFile);
     if (dialog.exec() != QDialog::Accepted)
         return Outcome::Cancelled;
+    return printTo(printer, page);
+}
+
+Outcome printTo(const QPrinter& chosen, QTextBrowser& page)
+{
     const QTemporaryDir folder;
-    const bool toFile = !printer.outputFileName().isEmpty();
-    const QString file = toFile ? printer.outputFileName() : folder.filePath(QStringLiteral("help.pdf"));
-    if (!writePdf(page, printer, file))
+    const bool toFile = !chosen.outputFileName().isEmpty();
+    const QString file = toFile ? chosen.outputFileName() : folder.filePath(QStringLiteral("help.pdf"));
+    if (!writePdf(page, chosen, file))
         return Outcome::Failed;
-    return toFile || report::handOver(printer, file) ? Outcome::Done : Outcome::Failed;
+    return toFile || report::handOver(chosen, file) ? Outcome::Done : Outcome::Failed;
 }
 
 } // namespace help

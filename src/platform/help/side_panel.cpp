@@ -5,7 +5,6 @@
 #include "platform/help/hit_delegate.h"
 #include "platform/help/parts.h"
 
-#include <QAccessible>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,6 +27,14 @@ void onKey(QWidget& widget, Qt::Key key, const std::function<void()>& action)
     auto* shortcut = new QShortcut(QKeySequence(key), &widget);
     shortcut->setContext(Qt::WidgetShortcut);
     QObject::connect(shortcut, &QShortcut::activated, &widget, action);
+}
+
+QString told(const QString& sought, std::size_t hits)
+{
+    if (hits == 0)
+        return QStringLiteral("Nothing was found about \"%1\". Try another word.").arg(sought);
+    return hits == 1 ? QStringLiteral("1 topic was found:")
+                     : QStringLiteral("%1 topics were found, the best first:").arg(hits);
 }
 
 } // namespace
@@ -122,20 +129,15 @@ void SidePanel::search()
 {
     const QString sought = sought_->text().trimmed();
     pages_->setCurrentWidget(sought.isEmpty() ? static_cast<QWidget*>(contents_) : found_);
-    state_->setVisible(!sought.isEmpty());
     found_->clear();
     if (sought.isEmpty())
-        return;
+        return parts::tell(*state_, {});
     if (!index_)
         index_.emplace(book_);
     hits_ = index_->find(sought);
     for (const Hit& hit : hits_)
         found_->addItem(hit.title + u'\n' + hit.excerpt);
-    if (hits_.empty())
-        tell(QStringLiteral("Nothing was found about \"%1\". Try another word.").arg(sought));
-    else
-        tell(hits_.size() == 1 ? QStringLiteral("1 topic was found:")
-                               : QStringLiteral("%1 topics were found, the best first:").arg(hits_.size()));
+    parts::tell(*state_, told(sought, hits_.size()));
 }
 
 void SidePanel::openHit(int row)
@@ -144,13 +146,6 @@ void SidePanel::openHit(int row)
         return;
     found_->setCurrentRow(row);
     Found(hits_[static_cast<std::size_t>(row)].page, sought_->text().trimmed());
-}
-
-void SidePanel::tell(const QString& words)
-{
-    state_->setText(words);
-    QAccessibleEvent alert(state_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace help

@@ -36,7 +36,6 @@ private:
     void fill();
     void search();
     void openHit(int row);
-    void tell(const QString& words);
 
     const Book& book_;
     std::optional<WordIndex> index_; // made by the first search

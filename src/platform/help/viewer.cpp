@@ -11,7 +11,6 @@
 #include "platform/help/printing.h"
 #include "platform/help/side_panel.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -37,6 +36,15 @@ constexpr parts::ButtonLook buttons[] = {
     {"close", "Cl&ose", "cancel", "Close Help (Esc)"},
 };
 
+QString toldOf(report::Outcome printing)
+{
+    if (printing == report::Outcome::Failed)
+        return QStringLiteral("The page could not be printed. Look whether there is a printer, and whether it is on.");
+    if (printing == report::Outcome::Done)
+        return QStringLiteral("The page has been handed to the printer.");
+    return {};
+}
+
 } // namespace
 
 Viewer::Viewer(const Book& book, const QString& title)
@@ -48,7 +56,6 @@ Viewer::Viewer(const Book& book, const QString& title)
     , find_(new FindBar(*page_, this))
     , status_(new QLabel(this))
 {
-    setObjectName(QStringLiteral("help"));
     setWindowRole(QStringLiteral("help"));
     status_->setObjectName(QStringLiteral("status"));
     for (const parts::ButtonLook& look : buttons)
@@ -72,7 +79,6 @@ void Viewer::open(const QString& topic)
 
 void Viewer::go(const QString& place)
 {
-    tell({});
     page_->setSource(book_.url(place));
 }
 
@@ -82,10 +88,31 @@ void Viewer::showState()
     setWindowTitle(title.isEmpty() ? title_ : title + QStringLiteral(" - ") + title_);
     page_->setAccessibleName(title);
     panel_->mark(page_->page() + (page_->source().hasFragment() ? u'#' + page_->source().fragment() : QString()));
-    button("back")->setEnabled(page_->isBackwardAvailable());
-    button("forward")->setEnabled(page_->isForwardAvailable());
-    button("smaller")->setEnabled(page_->canChangeType(-1));
-    button("larger")->setEnabled(page_->canChangeType(+1));
+    const struct {
+        const char* button;
+        const char* counterpart;
+        bool leadsOn;
+    } ways[] = {
+        {"back", "forward", page_->isBackwardAvailable()},
+        {"forward", "back", page_->isForwardAvailable()},
+        {"smaller", "larger", page_->canChangeType(-1)},
+        {"larger", "smaller", page_->canChangeType(+1)},
+    };
+    for (const auto& way : ways)
+        if (way.leadsOn)
+            button(way.button)->setEnabled(true);
+    for (const auto& way : ways)
+        if (!way.leadsOn)
+            switchOff(*button(way.button), *button(way.counterpart));
+}
+
+// The focus goes to the counterpart, lest the next Space presses whatever stands beside the button. Of a pair that has
+// had the focus one always leads on.
+void Viewer::switchOff(QWidget& button, QWidget& counterpart)
+{
+    if (focusWidget() == &button)
+        counterpart.setFocus();
+    button.setEnabled(false);
 }
 
 // What was opened last is closed first.
@@ -101,22 +128,7 @@ void Viewer::escape()
 
 void Viewer::print()
 {
-    tell({});
-    const report::Outcome outcome = help::print(*page_, this);
-    if (outcome == report::Outcome::Failed)
-        tell(QStringLiteral("The page could not be printed. Look whether there is a printer, and whether it is on."));
-    if (outcome == report::Outcome::Done)
-        tell(QStringLiteral("The page has been handed to the printer."));
-}
-
-void Viewer::tell(const QString& words)
-{
-    status_->setText(words);
-    status_->setVisible(!words.isEmpty());
-    if (words.isEmpty())
-        return;
-    QAccessibleEvent alert(status_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    parts::tell(*status_, toldOf(help::print(*page_, this)));
 }
 
 // ---- look
@@ -149,12 +161,7 @@ void Viewer::react()
         {nullptr, {"F1"}, [this] { go(book_.contents().front().place); }},
     };
     for (const auto& each : actions) {
-        const auto handler = [this, action = each.action] {
-            forms::runAsHandler(QStringLiteral("Help"), [this, &action] {
-                action();
-                showState();
-            });
-        };
+        const auto handler = [action = each.action] { forms::runAsHandler(QStringLiteral("Help"), action); };
         if (each.button)
             connect(button(each.button), &QPushButton::clicked, this, handler);
         for (const char* keys : each.keys)
@@ -165,7 +172,10 @@ void Viewer::react()
         go(page);
         find_->showWords(words);
     };
-    connect(page_, &QTextBrowser::sourceChanged, this, [this] { showState(); });
+    connect(page_, &QTextBrowser::sourceChanged, this, [this] {
+        parts::tell(*status_, {}); // what it says is of the page before
+        showState();
+    });
     connect(page_, &QTextBrowser::historyChanged, this, [this] { showState(); });
 }
 
@@ -184,7 +194,7 @@ void Viewer::layOut()
     auto* reading = new QVBoxLayout(right);
     reading->setContentsMargins({});
     reading->setSpacing(0);
-    reading->addWidget(page_, 1);
+    reading->addWidget(page_);
     reading->addWidget(find_);
 
     auto* halves = new QSplitter(this);

@@ -35,9 +35,9 @@ private:
 
     void go(const QString& place);
     void showState();
+    void switchOff(QWidget& button, QWidget& counterpart);
     void escape();
     void print();
-    void tell(const QString& words);
 
     Book book_;
     QString title_;

@@ -1,20 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/look.h"
 #include "platform/forms/trial_form.h"
+#include "platform/help/printing.h"
 #include "platform/help/viewer.h"
-#include "platform/help/word_index.h"
 #include "support/files.h"
+#include "support/pdf_text.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPrinter>
 #include <QPushButton>
-#include <QScrollBar>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
+
+using forms::look::fieldWidth;
+using report::Outcome;
 
 namespace {
 
@@ -23,33 +31,16 @@ class HelpViewer : public FormInFront {
 protected:
     HelpViewer()
     {
-        put("contents.csv",
-            "level,title,page\n1,Welcome,index.html\n2,\"Lists, long and short\",lists.html#short\n"
-            "1,Backup,backup.html\n");
-        put("topics.csv", "number,page,anchor\n1001,index.html,\n2001,lists.html,short\ntrial,backup.html,\n");
-        putPage("index.html", "Welcome",
-            "<p>Each receipt has its backup in a drawer.</p><p><a href='backup.html'>More</a></p>"
-            "<p><img src='wide.png' width='9'></p>");
-        putPage("lists.html", "Lists",
-            QByteArray("<p>Line</p>").repeated(80) + "<h2 id='short'>Short</h2>"
-                + QByteArray("<p>Receipts, Line</p>").repeated(80));
-        putPage("backup.html", "Backup", "<p>A copy of all.</p>");
-        QImage(160, 40, QImage::Format_RGB32).save(folder_.filePath("wide.png"));
-        viewer_.emplace(help::Book(folder_.path()), "Help");
+        makeViewer();
         forms::setHelpDoor([this](int number, const QString&) { viewer_->open(QString::number(number)); });
         form.setHelpNumber(2001);
         modal.setHelpNumber(2001);
+        qputenv("CUPS_SERVER", "/nowhere");
     }
 
-    void put(const char* name, const QByteArray& text) { putFile(folder_.filePath(name), text); }
+    void makeViewer() { viewer_.emplace(help::Book(beside("book")), "Help"); }
 
-    void putPage(const char* name, const QByteArray& title, const QByteArray& body)
-    {
-        put(name,
-            "<html><head><title>" + title + "</title></head><body><h1>" + title + "</h1>" + body + "</body></html>");
-    }
-
-    template <class Widget>
+    template <class Widget = QWidget>
     Widget& part(const char* name)
     {
         return *viewer_->findChild<Widget*>(name);
@@ -57,84 +48,217 @@ protected:
 
     QTextBrowser& text() { return part<QTextBrowser>("page"); }
 
-    /// The page, the part that has the focus, what is selected, what search and find say, which ways are shut.
+    /// "open TOPIC", "click PART", "choose CHAPTER", "hit NUMBER", "seek WORDS", "type TEXT", or keys.
+    void take(const QString& step)
+    {
+        const QString more = step.section(' ', 1);
+        auto& contents = part<QTreeWidget>("contents");
+        auto& found = part<QListWidget>("found");
+        if (step.startsWith("open "))
+            viewer_->open(more);
+        else if (step.startsWith("click "))
+            QTest::mouseClick(&part(more.toLatin1()), Qt::LeftButton);
+        else if (step.startsWith("choose "))
+            clickIn(contents, contents.visualItemRect(contents.findItems(more, Qt::MatchRecursive).at(0)));
+        else if (step.startsWith("hit "))
+            clickIn(found, found.visualItemRect(found.item(more.toInt() - 1)));
+        else if (step.startsWith("seek ")) {
+            QTest::keySequence(viewer_->windowHandle(), QKeySequence("Ctrl+K"));
+            QTest::keyClicks(QApplication::focusWidget(), more);
+        } else if (step == "minimise")
+            viewer_->showMinimized();
+        else if (step.startsWith("type "))
+            QTest::keyClicks(QApplication::focusWidget(), more);
+        else
+            QTest::keySequence(viewer_->windowHandle(), QKeySequence(step));
+        settle();
+    }
+
+    static void clickIn(const QAbstractScrollArea& list, const QRect& item)
+    {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, item.center());
+    }
+
+    /// All that the window tells: "Title: focus [selected] at TOP OF PAGE in CHAPTER, hits and words, ways that are
+    /// shut".
     QString state()
     {
         settle();
-        QString all = viewer_->windowTitle().remove(" - Help") + ", " + QApplication::focusWidget()->objectName();
-        if (text().textCursor().hasSelection())
-            all += " [" + text().textCursor().selectedText() + ']';
-        for (const char* words : {"searchState", "findState"})
-            all += part<QLabel>(words).isVisible() ? ": " + part<QLabel>(words).text() : QString();
-        for (const char* way : {"back", "forward"})
-            all += part<QPushButton>(way).isEnabled() ? QString() : QString(", no ") + way;
+        const QTextCursor cursor = text().textCursor();
+        QString all = viewer_->isMinimized() ? "minimised " : "";
+        all += viewer_->windowTitle() + (text().accessibleName() == text().documentTitle() ? "" : " misnamed");
+        all += ": " + QApplication::focusWidget()->objectName();
+        if (cursor.hasSelection())
+            all += " [" + cursor.selectedText() + ']';
+        all += " at " + text().cursorForPosition({0, 0}).block().text();
+        const QTreeWidgetItem* chapter = part<QTreeWidget>("contents").currentItem();
+        all += chapter ? " in " + chapter->text(0) : QString();
+        if (part("findWords").isVisible())
+            all += ", find " + part<QLineEdit>("findWords").text()
+                + (part("findWords").palette().base() == forms::look::colours().field ? "" : " in red");
+        for (const char* words : {"searchState", "findState", "status"})
+            if (part(words).isVisible())
+                all += ", " + part<QLabel>(words).text();
+        if (const int size = qRound(100 * text().font().pointSizeF() / QApplication::font().pointSizeF()); size != 100)
+            all += QString(", type of %1 %").arg(size);
+        for (const char* way : {"back", "forward", "smaller", "larger"})
+            all += part(way).isEnabled() ? QString() : QString(", no ") + way;
+        const auto& found = part<QListWidget>("found");
+        for (int row = 0; found.isVisible() && row < found.count(); ++row)
+            all += (row == found.currentRow() ? " * " : " - ") + found.item(row)->text().replace('\n', " \"") + '"';
         return all;
     }
 
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString& thenTyped = {})
+    /// What assistive tools and a pointer that waits are told of each part, and its caption.
+    QStringList parts()
     {
-        QTest::keyClick(viewer_->windowHandle(), key, modifiers);
+        QStringList all;
+        for (const QWidget* each : viewer_->findChildren<QWidget*>())
+            if (!each->accessibleName().isEmpty())
+                all += QStringList{each->objectName(), each->accessibleName(), each->toolTip(),
+                    each->property("text").toString()}
+                           .join("; ");
+        return all;
+    }
+
+    QRect placeOf(const char* name) { return {part(name).mapTo(&*viewer_, QPoint()), part(name).size()}; }
+
+    /// The share that the contents have of more width.
+    double shareOfContents()
+    {
+        const int before = placeOf("ways").width();
+        viewer_->resize(viewer_->width() + 700, viewer_->height());
         settle();
-        QTest::keyClicks(QApplication::focusWidget(), thenTyped);
-        settle();
+        return (placeOf("ways").width() - before) / 700.0;
+    }
+
+    /// The first and the last row of a hit in which a colour is.
+    std::pair<int, int> rowsOf(const QColor& colour)
+    {
+        auto& found = part<QListWidget>("found");
+        const QImage hit = found.viewport()->grab(found.visualItemRect(found.item(0))).toImage();
+        std::pair rows(-1, -1);
+        for (int dot = 0; dot < hit.width() * hit.height(); ++dot)
+            if (hit.pixelColor(dot % hit.width(), dot / hit.width()) == colour)
+                rows = {rows.first < 0 ? dot / hit.width() : rows.first, dot / hit.width()};
+        return rows;
     }
 
     /// F1, a search and Esc.
     void read(const char* where)
     {
-        SCOPED_TRACE(where);
         press(Qt::Key_F1);
-        EXPECT_TRUE(state().startsWith("Lists, page"));
+        EXPECT_TRUE(state().startsWith("Lists - Help: page")) << where;
         EXPECT_TRUE(viewer_->isActiveWindow());
-        key(Qt::Key_K, Qt::ControlModifier, "backup\r");
+        take("seek backup");
+        take("Return");
         EXPECT_TRUE(state().startsWith("Backup"));
-        key(Qt::Key_Escape);
+        take("Esc");
         EXPECT_FALSE(viewer_->isVisible());
         settle();
     }
 
-    QTemporaryDir folder_;
+    static QString beside(const char* name) { return QFileInfo(__FILE__).dir().filePath(name); }
+
+    static QStringList kept(const char* name)
+    {
+        return QString::fromUtf8(bytesOf(beside(name))).split('\n', Qt::SkipEmptyParts);
+    }
+
     TrialForm modal{journal, "Modal"};
     std::optional<help::Viewer> viewer_;
 };
 
 TEST_F(HelpViewer, LeadsByTopicsLinksContentsFindingAndSearch)
 {
-    const std::pair<std::function<void()>, QString> steps[] = {
-        {[this] { viewer_->open("9"); }, "Welcome, page, no back, no forward"},
-        {[this] { key(Qt::Key_Tab, {}, "\r"); }, "Backup, page, no forward"},
-        {[this] { key(Qt::Key_Left, Qt::AltModifier); }, "Welcome, page [More], no back"},
-        {[this] { QTest::mouseClick(&part<QPushButton>("forward"), Qt::LeftButton); },
-            "Backup, toContents, no forward"},
-        {[this] { key(Qt::Key_F1); }, "Welcome, toContents, no forward"},
-        {[this] { key(Qt::Key_F, Qt::ControlModifier, "RECEIPT"); }, "Welcome, findWords [receipt], no forward"},
-        {[this] { key(Qt::Key_F3, Qt::ShiftModifier); },
-            "Welcome, findWords [receipt]: From the bottom again., no forward"},
-        {[this] { key(Qt::Key_Escape); }, "Welcome, page [receipt], no forward"},
-        {[this] { key(Qt::Key_K, Qt::ControlModifier, "nowhere"); },
-            "Welcome, sought [receipt]: Nothing was found about \"nowhere\". Try another word., no forward"},
-        {[this] { key(Qt::Key_A, Qt::ControlModifier, "receipts"); },
-            "Welcome, sought [receipt]: 2 topics were found, the best first:, no forward"},
-        {[this] { key(Qt::Key_Down, {}, "\r"); },
-            "Lists, found [Receipts]: 2 topics were found, the best first:, no forward"},
-    };
-    for (const auto& [step, leadsTo] : steps) {
-        step();
-        EXPECT_EQ(state(), leadsTo);
+    for (const QString& each : kept("reading.txt")) {
+        const QString step = each.section(" > ", 0, 0);
+        take(step);
+        EXPECT_EQ(step + " > " + state(), each);
     }
-    viewer_->open("2001");
-    settle();
-    EXPECT_GT(text().verticalScrollBar()->value(), text().viewport()->height()) << "not at the place of the topic";
-    const auto hits = help::WordIndex(help::Book(folder_.path())).find("back up");
-    EXPECT_TRUE(hits.at(0).title == "Backup" && hits.at(1).excerpt.contains("has its backup in a drawer"));
+    QDialog own(&*viewer_); // of its own, which is to be answered first
+    own.open();
+    const QString before = viewer_->windowTitle();
+    take("F1");
+    EXPECT_EQ(viewer_->windowTitle(), before);
+}
+
+TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheDesktop)
+{
+    const QRect desktop = viewer_->screen()->availableGeometry();
+    viewer_->open("9");
+    EXPECT_EQ(desktop.right() - viewer_->x() - viewer_->width(), forms::look::grid(1));
+    EXPECT_NEAR(shareOfContents(), 2 / 5.0, 0.03) << "in little room";
+    const QFont usual = QApplication::font();
+    QFont small = usual;
+    small.setPixelSize(5);
+    QApplication::setFont(small); // which leaves room for the captions
+    const int gap = forms::look::grid(1);
+    makeViewer();
+    for (const char* step : {"open 9", "Ctrl+P", "seek lamps", "Ctrl+F", "type q"})
+        take(step);
+    EXPECT_EQ(parts(), kept("parts.txt"));
+    EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(0)->child(0)->toolTip(0), "Lists, long and short");
+    EXPECT_EQ(viewer_->y(), (desktop.height() - forms::look::grid(88)) / 2);
+    const QRect back = placeOf("back"), halves = placeOf("halves"), page = placeOf("page"), find = placeOf("findState");
+    const QList<int> gaps{back.left(), back.top(), halves.top() - back.bottom() - 1, placeOf("sought").left(),
+        halves.bottom() - placeOf("ways").bottom(), find.left() - page.left(), halves.bottom() - find.bottom(),
+        text().cursorRect(QTextCursor(text().document())).left() / 2,
+        placeOf("findWords").width() - fieldWidth(30) + gap};
+    EXPECT_EQ(gaps, QList<int>(gaps.size(), gap));
+    EXPECT_EQ(placeOf("forward").left() - back.right() - 1, gap / 2);
+    EXPECT_EQ(QPoint(page.right(), placeOf("status").bottom()), viewer_->rect().bottomRight());
+    EXPECT_GT(find.top(), placeOf("findWords").bottom());
+    EXPECT_NEAR(shareOfContents(), 2 / 7.0, 0.02);
+    EXPECT_GT(placeOf("print").left() - placeOf("larger").right(), 700);
+    part<QSplitter>("halves").setSizes({0, 900});
+    EXPECT_GT(placeOf("ways").width(), 0) << "the divider hides nothing";
+    QApplication::setFont(usual);
+}
+
+TEST_F(HelpViewer, PrintsAPageAsItIsChosenInTypeOfTheUsualSize)
+{
+    const QTemporaryDir folder;
+    QPrinter chosen;
+    chosen.setDocName("Pages");
+    chosen.setPageSize(QPageSize(QPageSize::A5));
+    chosen.setOutputFileName(folder.filePath("page.pdf"));
+    QList<int> heights;
+    for (const char* step : {"open 1001", "Ctrl++"}) {
+        take(step);
+        EXPECT_EQ(help::printTo(chosen, text()), Outcome::Done);
+        const pdf::Page page = pdf::read(chosen.outputFileName()).at(0);
+        EXPECT_EQ(page.text(), "Welcome Each receipt has its backup in a drawer. More 1");
+        heights += qRound(page.words.at(1).place.height());
+    }
+    EXPECT_EQ(heights.at(0), heights.at(1));
+    const QString told = pdf::output("pdfinfo", {chosen.outputFileName()}).simplified();
+    EXPECT_TRUE(told.contains("Title: Pages") && told.contains("(A5)")) << told.toStdString();
+    for (const QString& nowhere : {folder.filePath("nowhere/page.pdf"), QString()}) {
+        chosen.setOutputFileName(nowhere);
+        EXPECT_EQ(help::printTo(chosen, text()), Outcome::Failed) << "no folder, and no service that takes it";
+    }
+}
+
+TEST_F(HelpViewer, PaintsTheTitleOfAHitAboveItsExcerptAndTheChosenOneOnTheAccent)
+{
+    const forms::look::Colours& colours = forms::look::colours();
+    viewer_->open("9");
+    take("seek theft");
+    const auto [top, bottom] = std::pair(rowsOf(colours.accent).first, rowsOf(colours.text).second);
+    EXPECT_LT(rowsOf(colours.accent).second, rowsOf(colours.text).first);
+    EXPECT_NEAR(top, part<QListWidget>("found").sizeHintForRow(0) - 1 - bottom, 4);
+    take("Down");
+    part<QListWidget>("found").setCurrentRow(0);
+    EXPECT_EQ(rowsOf(colours.text), std::pair(-1, -1));
+    EXPECT_EQ(rowsOf(colours.field), std::pair(top, bottom));
 }
 
 TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
 {
     viewer_->open("1001");
-    const double size = text().font().pointSizeF();
     for (int steps = 0; steps < 20; ++steps)
-        key(Qt::Key_Plus, Qt::ControlModifier);
+        take("Ctrl++");
     viewer_->resize(viewer_->minimumSizeHint());
     viewer_->close();
     viewer_->open("1001");
@@ -144,11 +268,10 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
     settle();
     const auto& found = part<QListWidget>("found");
     EXPECT_EQ(found.visualItemRect(found.item(0)).height(), found.sizeHintForRow(0)) << "the hits overlap";
-    EXPECT_GE(text().font().pointSizeF(), 2 * size);
     const QVariant picture = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
     EXPECT_LT(picture.value<QImage>().width(), text().viewport()->width());
-    key(Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(text().font().pointSizeF(), size);
+    EXPECT_FALSE(text().toHtml().contains("width=\"9\"")) << "a size of the page's";
+    take("Ctrl+0");
     const QVariant usual = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
     EXPECT_LT(usual.value<QImage>().width(), picture.value<QImage>().width());
 }
@@ -172,7 +295,7 @@ TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
         EXPECT_TRUE(viewer_->isVisible());
         viewer_->activateWindow();
         settle();
-        key(Qt::Key_W, Qt::ControlModifier);
+        take("Ctrl+W");
         EXPECT_FALSE(viewer_->isVisible());
         EXPECT_EQ(taken(), "");
         EXPECT_EQ(forms::activeForm(), &modal);
