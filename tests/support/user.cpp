@@ -55,11 +55,6 @@ Spot spotOf(forms::Control& control, QPoint position)
     return spot;
 }
 
-Spot middleOf(forms::Control& control)
-{
-    return spotOf(control, control.widget()->rect().center());
-}
-
 QPoint lastPlace; // of a click, on the display
 
 QWindow& frontWindow()
@@ -179,21 +174,22 @@ bool rightClick(forms::Control& control, const QString& command)
         }
     });
     inMenu.start(0);
-    const Spot spot = middleOf(control);
+    const Spot spot = spotOf(control, control.widget()->rect().center());
     QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
     return opened;
 }
 
 bool drop(forms::Control& control, const QString& text)
 {
-    const Spot spot = middleOf(control);
+    const Spot spot = spotOf(control, control.widget()->rect().center());
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
     QMimeData data;
     data.setText(text);
-    QDragEnterEvent enter(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-    QDragMoveEvent move(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-    QDropEvent end(spot.position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QDragEnterEvent enter(spot.position, offered, &data, Qt::LeftButton, {});
+    QDragMoveEvent move(spot.position, offered, &data, Qt::LeftButton, {});
+    QDropEvent end(spot.position, offered, &data, Qt::LeftButton, {});
     bool copies = true;
-    for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&move), &end}) {
+    for (QDropEvent* event : std::initializer_list<QDropEvent*>{&enter, &move, &end}) {
         QCoreApplication::sendEvent(spot.window, event);
         copies = copies && event->isAccepted() && event->dropAction() == Qt::CopyAction;
     }
@@ -265,20 +261,15 @@ void tab()
     press(Qt::Key_Tab);
 }
 
-void backTab()
-{
-    press(Qt::Key_Backtab, Qt::ShiftModifier);
-}
-
 void accessKey(char letter)
 {
     press(QTest::asciiToKey(letter), Qt::AltModifier);
 }
 
-void paste(const QString& text, Qt::Key key, Qt::KeyboardModifiers modifiers)
+void paste(const QString& text)
 {
     QGuiApplication::clipboard()->setText(text);
-    press(key, modifiers);
+    press(Qt::Key_V, Qt::ControlModifier);
 }
 
 void commit(const QString& text)
@@ -308,11 +299,6 @@ void clickArrow(forms::ComboBox& box)
     clickAt(box, {box.widget()->width() - height / 2, height / 2});
 }
 
-bool isListOpen()
-{
-    return QApplication::activePopupWidget();
-}
-
 QStringList itemsOf(const forms::ComboBox& box)
 {
     QStringList items;
@@ -336,13 +322,6 @@ void pick(forms::ComboBox& box, const QString& item)
     QTest::mouseMove(popup->windowHandle(), {1, 1});
     QTest::mouseMove(popup->windowHandle(), middle);
     QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, {}, middle);
-}
-
-void pasteByMenu(forms::Control& control, const QString& text)
-{
-    QGuiApplication::clipboard()->setText(text);
-    if (!rightClick(control, QStringLiteral("&Paste")))
-        throw std::logic_error("No menu opens on " + control.name().toStdString());
 }
 
 } // namespace user

@@ -57,7 +57,6 @@ void repeat(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, int times = 3);
 void letGo(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 
 void tab();
-void backTab();
 
 /// Alt with a letter.
 void accessKey(char letter);
@@ -65,8 +64,7 @@ void accessKey(char letter);
 // ---- other ways in which text gets into a box
 
 /// Copies elsewhere and pastes.
-void paste(const QString& text, Qt::Key key = Qt::Key_V, Qt::KeyboardModifiers modifiers = Qt::ControlModifier);
-void pasteByMenu(forms::Control& control, const QString& text);
+void paste(const QString& text);
 
 /// Drags a text in from a program that would rather move it; true when the answer is a copy all along.
 bool drop(forms::Control& control, const QString& text);
@@ -81,7 +79,6 @@ void setByAssistant(forms::Control& control, const QString& text);
 
 /// Opens the list with the mouse and clicks an item.
 void pick(forms::ComboBox& box, const QString& item);
-bool isListOpen();
 
 QStringList itemsOf(const forms::ComboBox& box);
 

@@ -35,7 +35,6 @@ CommandButton::CommandButton(Form& form, const QString& name)
     : Button(form, name)
 {
     auto* push = new ButtonWidget<QPushButton>(form.canvas(), *this);
-    push->setAutoDefault(false);
     adopt(push);
     QObject::connect(push, &QAbstractButton::clicked, push, [this] { clicked(); });
 }

@@ -167,7 +167,6 @@ private:
     {
         setEditable(true);
         entry_ = new ComboLine(this, box_);
-        entry_->setFrame(false);
         setLineEdit(entry_);
         setCompleter(nullptr);
         entry_->setContextMenuPolicy(Qt::DefaultContextMenu);

@@ -103,9 +103,8 @@ protected:
         event->accept();
     }
 
-    void moveEvent(QMoveEvent* event) override
+    void moveEvent(QMoveEvent*) override
     {
-        QWidget::moveEvent(event);
         if (isVisible() && !isModal())
             centre_ = geometry().center();
     }
@@ -130,7 +129,8 @@ private:
         move(inside.topLeft() - QPoint(frameMargins_.left(), frameMargins_.top()));
     }
 
-    // On a small desktop the pictures give up their room first, then the gaps; what is left scrolls.
+    // On a small desktop the pictures give up their room first, then the gaps; what is left scrolls. They don't come
+    // back into what the gaps have given up: a screen looks the same at each visit.
     void makeFit(const QSize& room)
     {
         const auto fits = [this, &room] {
@@ -139,7 +139,7 @@ private:
             return size.width() <= room.width() && size.height() <= room.height();
         };
         for (const double share : {1.0, 0.75, 0.5, 0.0}) {
-            showPictures(share);
+            showPictures(tight_ ? 0 : share);
             if (fits())
                 return;
         }

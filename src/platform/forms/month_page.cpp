@@ -183,7 +183,6 @@ QPushButton* MonthPage::makeTurner(const QString& sign, const QString& name, int
     auto* turner = new QPushButton(sign, this);
     turner->setFont(look::fontOf(TextRole::Heading));
     turner->setFixedSize(look::grid(4), look::grid(3));
-    turner->setAutoDefault(false);
     turner->setFocusPolicy(Qt::TabFocus);
     turner->setAccessibleName(name);
     turner->setToolTip(name);

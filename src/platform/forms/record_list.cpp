@@ -25,12 +25,10 @@ public:
         setRootIsDecorated(false);
         setUniformRowHeights(true);
         setAllColumnsShowFocus(true);
-        setTabKeyNavigation(false);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
         header()->setSectionsMovable(false);
         header()->setSectionResizeMode(QHeaderView::Fixed);
-        header()->setStretchLastSection(true);
         connect(this, &QTreeWidget::currentItemChanged, this, [this] { pickedByAssistant(); });
     }
 

@@ -3,59 +3,43 @@
 
 #include "platform/values/failure.h"
 
+#include <QApplication>
+#include <QMessageBox>
+
 #include <cstdio>
 
 namespace {
 
-[[noreturn]] void fail(const QString& detail = "why")
-{
-    throw values::RuntimeFailure(values::FailureKind::InvalidCall, detail);
-}
-
 using Failures = FormInFront;
-
-TEST_F(Failures, InsideAHandlerInsideAHandlerNameTheInnerOneOnce)
-{
-    form.line.Change = [] { fail(); };
-    form.answers["memo.GotFocus"] = [this] { form.line.setText("bad"); };
-    form.answers["ok.Click"] = [this] { form.memo.setFocus(); };
-    click(form.ok);
-    EXPECT_EQ(failedHandler(), "Form.line_Change");
-}
-
-TEST_F(Failures, AreCaughtByTheHandlerAroundThemAndGiveTheirNameToNoOther)
-{
-    TrialForm other(journal, "Other");
-    form.line.Change = form.answers["memo.GotFocus"] = other.answers["Other.Activate"] = [] { fail(); };
-    form.answers["ok.Click"] = [&] {
-        EXPECT_THROW(form.line.setText("bad"), values::RuntimeFailure);
-        EXPECT_THROW(form.memo.setFocus(), values::RuntimeFailure);
-        EXPECT_THROW(other.show(), values::RuntimeFailure);
-        other.hide();
-        EXPECT_THROW(other.show_Modal(form), values::RuntimeFailure);
-        other.hide();
-        fail("second");
-    };
-    click(form.ok);
-    EXPECT_EQ(form.line.text(), "bad") << "the text was set all the same";
-    const auto report = reportedFailure().value();
-    EXPECT_EQ(report.handler + report.failure.section(':', -1), "Form.ok_Click second");
-}
 
 TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe"); // the toolkit has threads of its own
-    form.answers["ok.Click"] = [] { fail(); };
-    const auto run = [this] {
+    const auto cleanUp = [] {
+        std::fputs("cleaned up, ", stderr);
+        forms::runAsHandler("late", [] { std::fputs("no handler may run any more", stderr); });
+    };
+    form.answers["ok.Click"] = [] { throw values::RuntimeFailure(values::FailureKind::InvalidCall, "why"); };
+    const auto run = [&] {
         forms::setFailureReporter({});
-        forms::onEnd([] { std::fputs("cleaned up, ", stderr); });
-        whileModal([] {
-            std::fputs("shown", stderr);
+        forms::setReportWords("Title, ", [] { return QString("All is safe."); });
+        forms::onEnd(cleanUp);
+        whileModal([&] {
+            const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
+            std::fputs(qPrintable(box.windowTitle() + box.text()), stderr);
             press(Qt::Key_Return);
         });
         click(form.ok);
     };
-    EXPECT_EXIT(run(), testing::ExitedWithCode(1), "cleaned up, Form.ok_Click: .*why\nshown");
+    EXPECT_EXIT(run(), testing::ExitedWithCode(1),
+        "^cleaned up, Form.ok_Click: .*why\nTitle, The program has to close: an operation failed.\n\n.*why\n\n"
+        "Where: Form.ok_Click\n\nAll is safe.$");
+    const auto end = [&] {
+        forms::setProcessEnder({});
+        forms::onEnd(cleanUp);
+        forms::endProcess(3);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(3), "^cleaned up, $");
     EXPECT_DEATH(
         form.ok.Click = [] {}, "Form.ok_Click has a handler already");
 }

@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
-#include "platform/forms/look.h"
-#include "platform/forms/record_list.h"
+#include "platform/forms/style_painting.h"
+#include "support/files.h"
 
 #include <QApplication>
-#include <QImage>
+#include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QPainter>
+#include <QPlainTextEdit>
 #include <QScreen>
-#include <QStyle>
+#include <QStyleOption>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTreeWidget>
 
 #include <algorithm>
 #include <cmath>
 
 namespace look = forms::look;
+namespace paint = forms::look::paint;
 
 namespace {
 
@@ -48,120 +52,39 @@ void expectWholeText(const QLabel& words, const QString& text)
     EXPECT_TRUE(words.window()->rect().contains(words.geometry())) << text.toStdString();
 }
 
-TEST_F(Looks, AMessageBoxShowsItsWholeTextAtEveryTypeSize)
+TEST_F(Looks, AMessageBoxShowsItsWholeTextInTheMiddleOfItsScreenAtEveryTypeSize)
 {
-    const QString texts[] = {"          Account Has Been Updated!",
-        "You Must Select A Future Policy Expiration Date Before Selecting This Option!",
-        QString("Several lines of several words\n\n") + QString("A sentence of five words. ").repeated(9),
-        "A folder without a blank: /home/someone/" + QString(40, u'x')};
+    const std::tuple<int, QString, QString> boxes[] = {
+        {forms::box::Information, "Information", "          Account Has Been Updated!"},
+        {forms::box::Exclamation, "Warning", "You Must Select A Future Policy Expiration Date Before This Option!"},
+        {forms::box::Question, "Question", "Several words\n\n" + QString("A sentence of five words. ").repeated(9)},
+        {forms::box::Stop, "Error", "A folder without a blank: <b>/home/someone/</b>" + QString(40, u'x')}};
     useRealBoxes();
     for (const double points : {9.0, 12.0, 16.0}) {
         setDesktopFont(points);
-        for (const QString& text : texts) {
-            whileModal([&text] {
+        for (const auto& each : boxes) {
+            const forms::WaitPointer pointer;
+            whileModal([&] {
+                const auto& [_, name, text] = each;
                 const QWidget& box = *QApplication::activeModalWidget();
                 expectWholeText(*box.findChild<QLabel*>("qt_msgbox_label"), text);
                 EXPECT_LE(box.width(), box.screen()->availableGeometry().width());
+                EXPECT_LE((box.geometry().center() - form.window()->geometry().center()).manhattanLength(), 2);
+                const auto& sign = *box.findChild<QLabel*>("qt_msgboxex_icon_label");
+                EXPECT_EQ(sign.accessibleName() + box.windowTitle(), name + "Title");
+                EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
                 press(Qt::Key_Enter);
             });
-            EXPECT_EQ(forms::MsgBox(text, forms::box::Question + forms::box::YesNo, "Title"), forms::Answer::Yes);
+            EXPECT_EQ(
+                forms::MsgBox(std::get<2>(each), std::get<0>(each) + forms::box::YesNo, "Title"), forms::Answer::Yes);
+            EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
         }
     }
+    EXPECT_FALSE(QApplication::overrideCursor());
+    EXPECT_FALSE(QApplication::quitOnLastWindowClosed()) << "a box that closes alone ends nothing";
 }
 
-// ---- the focus
-
-QImage pictureOf(const forms::Control& control)
-{
-    settle();
-    return control.widget()->grab().toImage();
-}
-
-// Pixels that look otherwise now.
-int changeOf(const forms::Control& control, const QImage& before)
-{
-    const QImage now = pictureOf(control);
-    int count = 0;
-    for (int y = 0; y < now.height(); ++y)
-        for (int x = 0; x < now.width(); ++x)
-            count += now.pixel(x, y) != before.pixel(x, y) ? 1 : 0;
-    return count;
-}
-
-TEST_F(Looks, EveryKindOfControlShowsThatItHasTheFocus)
-{
-    forms::RecordList records(form, "records");
-    records.setColumns({"Made"}, {"2026-11-24"});
-    forms::MonthCalendar month(form, "month");
-    forms::CommandButton filled(form, "filled");
-    look::mainAction(filled);
-    for (const forms::Control* more : std::initializer_list<forms::Control*>{&records, &month, &filled})
-        form.canvas()->layout()->addWidget(more->widget());
-    form.hide();
-    form.show(); // in its new size
-    month.setValue(values::Date::fromDayMonthYear(24, 11, 2026));
-    form.memo.setText("Some words");
-    for (forms::Control* control : form.controls()) {
-        if (control == &form.other)
-            continue;
-        form.other.setFocus();
-        const QImage without = pictureOf(*control);
-        control->setFocus();
-        // More than a caret, which comes and goes: a frame.
-        EXPECT_GT(changeOf(*control, without), 150) << control->name().toStdString();
-        if (control == &form.memo) {
-            form.memo.selectAll();
-            EXPECT_GT(changeOf(form.memo, without), 1000) << "the selection shows";
-        }
-        form.other.setFocus();
-        EXPECT_EQ(changeOf(*control, without), 0) << "nor is a selection left: " << control->name().toStdString();
-    }
-    form.combo.openList();
-    settle();
-    const QImage list = QApplication::activePopupWidget()->grab().toImage();
-    int marks = 0;
-    for (int y = 0; y < list.height(); ++y)
-        marks += list.pixelColor(list.width() / 2, y) == look::colours().accent ? 1 : 0;
-    EXPECT_GE(marks, 2) << "above the row that the keys are on, before one is chosen, and below it";
-}
-
-// ---- colours and sizes
-
-double luminance(const QColor& colour)
-{
-    const auto linear = [](double share) {
-        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
-void expectToStandOut(double least, const std::vector<QColor>& marks, const std::vector<QColor>& grounds)
-{
-    for (const QColor& mark : marks)
-        for (const QColor& ground : grounds)
-            EXPECT_GE(contrast(mark, ground), least) << mark.name().toStdString() << ground.name().toStdString();
-}
-
-TEST_F(Looks, TextAndFramesStandOutFromWhatIsBehindThem)
-{
-    const QPalette palette = QApplication::palette();
-    const look::Colours& the = look::colours();
-    expectToStandOut(4.5, {the.text, the.quiet, the.accent, the.link}, {the.ground, the.field, the.buttonFace});
-    expectToStandOut(4.5, {the.text}, {the.pressed, the.error});
-    expectToStandOut(3, {the.line, the.accent, the.warning, the.danger}, {the.ground, the.field, the.buttonFace});
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        expectToStandOut(4.5, {palette.color(group, QPalette::Text)}, {palette.color(group, QPalette::Base)});
-        expectToStandOut(
-            4.5, {palette.color(group, QPalette::HighlightedText)}, {palette.color(group, QPalette::Highlight)});
-    }
-    expectToStandOut(4.5, {palette.color(QPalette::ToolTipText)}, {palette.color(QPalette::ToolTipBase)});
-}
+// ---- sizes
 
 TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithItButColoursAndSidesAreItsOwn)
 {
@@ -183,35 +106,305 @@ TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithItButColoursAndSidesAreIt
     EXPECT_NEAR(QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth) / indicator, 16.0 / 11, 0.15);
 }
 
-// ---- windows
+// ---- windows, on a desktop of 800 by 800 pixels, each in a frame of 2
 
-TEST_F(Looks, AScreenLargerThanTheDesktopScrollsToTheControlThatHasTheFocus)
+TEST_F(Looks, AScreenLargerThanTheDesktopShrinksItsPicturesThenItsGapsThenScrollsToTheFocus)
 {
-    TrialForm tall(journal);
-    tall.memo.widget()->setMinimumHeight(2000);
-    tall.show();
     settle();
-    const QWidget& last = *tall.ok.widget();
-    EXPECT_LE(tall.window()->height(), tall.window()->screen()->availableGeometry().height());
-    EXPECT_TRUE(last.visibleRegion().isEmpty());
-    tall.ok.setFocus(); // as a handler does; the toolkit itself follows the Tab key
-    EXPECT_EQ(last.visibleRegion().boundingRect(), last.rect());
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("picture.png");
+    QPixmap(8, 200).save(file);
+    const auto shown = [&](QSize beyond) {
+        TrialForm large(journal, "Large");
+        forms::Picture ornament(large, "ornament");
+        auto* column = qobject_cast<QVBoxLayout*>(large.canvas()->layout());
+        auto* inner = new QVBoxLayout;
+        ornament.setPicture(file, "A picture");
+        inner->addWidget(ornament.widget());
+        column->addLayout(inner);
+        const int full = ornament.widget()->height();
+        const double gap = column->spacing();
+        for (forms::Control* each : large.controls())
+            each->setVisible(each == &large.memo || each == &ornament || each == &large.ok);
+        QWidget& memo = *large.memo.widget();
+        memo.setFixedSize(500, 100);
+        memo.setFixedSize(memo.size() + QSize(796, 796) + beyond - large.canvas()->sizeHint());
+        large.show();
+        settle();
+        large.hide();
+        large.show();
+        const QSize window = large.window()->size();
+        const QSize seen = large.canvas()->parentWidget()->size();
+        const QSize hidden = large.canvas()->size() - seen;
+        const QSizeF bars = (window - seen).toSizeF() / QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        large.ok.setFocus(); // as a handler does; the toolkit itself follows the Tab key
+        EXPECT_EQ(large.ok.widget()->visibleRegion().boundingRect().height(), large.ok.widget()->height());
+        const QString told = QString("picture %1, gap %2, cut %3 %4, bars %5 %6")
+                                 .arg(ornament.isVisible() ? 100 * ornament.widget()->height() / full : 0)
+                                 .arg(column->spacing() / gap)
+                                 .arg(hidden.width() > 0)
+                                 .arg(hidden.height() > 0)
+                                 .arg(bars.width())
+                                 .arg(bars.height());
+        large.hide();
+        memo.setFixedHeight(100);
+        large.show();
+        EXPECT_EQ(large.window()->size(), window) << "no screen shrinks between two visits";
+        return told;
+    };
+    EXPECT_EQ(shown({0, 0}), "picture 100, gap 1, cut 0 0, bars 0 0");
+    EXPECT_EQ(shown({0, 1}), "picture 75, gap 1, cut 0 0, bars 0 0");
+    EXPECT_EQ(shown({0, 70}), "picture 50, gap 1, cut 0 0, bars 0 0");
+    EXPECT_EQ(shown({0, 150}), "picture 0, gap 1, cut 0 0, bars 0 0");
+    EXPECT_EQ(shown({0, 210}), "picture 0, gap 0.5, cut 0 0, bars 0 0");
+    EXPECT_EQ(shown({1, 0}), "picture 0, gap 0.5, cut 0 0, bars 0 0");
+    EXPECT_EQ(shown({0, 900}), "picture 0, gap 0.5, cut 1 1, bars 1 1");
+    EXPECT_EQ(shown({-100, 900}), "picture 0, gap 0.5, cut 0 1, bars 1 0");
+    EXPECT_EQ(shown({900, -300}), "picture 0, gap 0.5, cut 1 0, bars 0 1");
 }
 
-TEST_F(Looks, AScreenOpensWhereTheOneBeforeStoodWithinTheDesktop)
+// ---- painting
+
+// A letter for each colour of the program, "*" for all others.
+char letterOf(const QColor& colour)
 {
-    TrialForm first(journal);
-    TrialForm second(journal);
-    first.show();
-    const QRect room = first.window()->screen()->availableGeometry();
-    first.window()->move(room.topLeft() + QPoint(7, 5));
-    second.show();
-    first.hide();
-    EXPECT_EQ(second.window()->geometry().top(), first.window()->geometry().top());
-    second.window()->move(room.bottomRight());
-    first.show();
-    EXPECT_TRUE(room.contains(first.window()->geometry()));
-    EXPECT_GT(first.window()->geometry().top(), room.top() + 50) << "as near as it can be";
+    const look::Colours& the = look::colours();
+    const QColor colours[] = {the.accent, the.field, the.line, the.faded, the.buttonFace, the.pressed, the.quiet,
+        the.text, the.warning, the.danger, the.ground, colour};
+    return "a lfbpqtwd.*"[std::find(std::begin(colours), std::end(colours), colour) - std::begin(colours)];
+}
+
+QString drawn(const QImage& image)
+{
+    QString rows;
+    for (int y = 0; y < image.height(); ++y, rows += "|\n")
+        for (int x = 0; x < image.width(); ++x)
+            rows += letterOf(image.pixelColor(x, y));
+    return rows;
+}
+
+QImage painted(const QSize& size, const std::function<void(QPainter&)>& act)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(look::colours().ground);
+    QPainter painter(&image);
+    act(painter);
+    return image;
+}
+
+const QStyle::State on = QStyle::State_Enabled;
+
+// What a part of the style looks like in each state, side by side, and its colour there.
+QString band(const char* name, void (*act)(QPainter& painter, QStyleOptionButton& option))
+{
+    const QStyle::State states[] = {{}, on, on | QStyle::State_HasFocus, QStyle::State_HasFocus,
+        on | QStyle::State_MouseOver, on | QStyle::State_Sunken, on | QStyle::State_On, QStyle::State_On};
+    QString title = QString("== ") + name;
+    const QImage image = painted({146, 17}, [&](QPainter& painter) {
+        QStyleOptionButton option;
+        option.palette = QApplication::palette();
+        option.rect = QRect(1, 1, 16, 15);
+        for (const QStyle::State state : states) {
+            option.state = state;
+            act(painter, option);
+            option.rect.translate(18, 0);
+        }
+    });
+    for (int x = 9; x < image.width(); x += 18)
+        title += ' ' + image.pixelColor(x, 5).name();
+    return title + '\n' + drawn(image);
+}
+
+// Upright and lying: a bar that can be moved, one that is held, one with nothing to scroll and one that is off.
+void bars(QPainter& painter)
+{
+    for (int at = 0; at < 8; ++at) {
+        const int kind = at % 4;
+        const auto part = [&](int from, int length) {
+            const QRect upright(kind * 22 + 1, from, 20, length);
+            return at < 4 ? upright : QRect(90 + from, upright.x(), length, 20);
+        };
+        QStyleOptionSlider option;
+        option.orientation = at < 4 ? Qt::Vertical : Qt::Horizontal;
+        option.maximum = kind == 2 ? 0 : 9;
+        option.state = kind == 3 ? QStyle::State_None : kind == 1 ? on | QStyle::State_Sunken : on;
+        option.activeSubControls = kind < 2 ? QStyle::SC_ScrollBarSlider : QStyle::SC_None;
+        option.rect = part(0, 50);
+        paint::scrollBar(painter, option, part(0, 12), part(38, 12), part(12, 26), part(15, 14));
+    }
+}
+
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double share) {
+        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+// The contrasts of text, hints, accents and links, which are 4.5 at least, and of lines and signs, 3 at least, to the
+// ground, a field, a button, a pressed button and an error, of which the last two have text alone. Then colours of the
+// palette by pairs, those of letters first, and of letters elsewhere.
+QString colours()
+{
+    const look::Colours& the = look::colours();
+    QString all = "== colours";
+    for (const QColor& mark : {the.text, the.quiet, the.accent, the.link, the.line, the.warning, the.danger}) {
+        all += '\n' + mark.name();
+        for (const QColor& behind : {the.ground, the.field, the.buttonFace, the.pressed, the.error})
+            all += QString(" %1").arg((luminance(behind) + 0.05) / (luminance(mark) + 0.05), 0, 'f', 1);
+    }
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        all += '\n';
+        for (const auto role : {QPalette::Text, QPalette::Base, QPalette::HighlightedText, QPalette::Highlight,
+                 QPalette::ToolTipText, QPalette::ToolTipBase, QPalette::WindowText, QPalette::ButtonText})
+            all += QApplication::palette().color(group, role).name() + ' ';
+    }
+    return all + '\n';
+}
+
+// The upper part of the signs of message boxes, and whether a mark is on them.
+QString signs()
+{
+    QString all = "== signs\n";
+    for (const auto kind : {QStyle::SP_MessageBoxQuestion, QStyle::SP_MessageBoxInformation,
+             QStyle::SP_MessageBoxWarning, QStyle::SP_MessageBoxCritical, QStyle::SP_ArrowBack}) {
+        const QPixmap sign = paint::sign(kind, 24, 1);
+        const QString rows = drawn(painted({24, 24}, [&sign](QPainter& painter) { painter.drawPixmap(0, 0, sign); }));
+        all += rows.left(6 * 26) + (rows.mid(6 * 26, 12 * 26).contains(' ') ? "with a mark\n" : "without one\n");
+    }
+    return all;
+}
+
+// Corners of days and the colour of their numbers: the first of the month, the 18th, the 24th and one of the next
+// month.
+QString daysOf(forms::MonthCalendar& month)
+{
+    auto& days = *month.widget()->findChild<QTableView*>();
+    QFont font = days.font();
+    font.setPixelSize(24);
+    font.setBold(true); // so that a number has a whole pixel of its colour
+    days.setFont(font);
+    settle();
+    QString all = "== month\n" + drawn(month.widget()->grab().toImage().copy(0, 0, 6, 5));
+    const QImage image = days.viewport()->grab().toImage();
+    for (const auto& [row, column] : {std::pair(0, 0), std::pair(2, 3), std::pair(3, 2), std::pair(4, 2)}) {
+        const QRect day = days.visualRect(days.model()->index(row, column));
+        const QString whole = drawn(image.copy(day));
+        for (const char letter : {'a', 't', 'q', ' '})
+            all += whole.contains(letter) ? letter : '-';
+        all += '\n' + drawn(image.copy(day.x() - 3, day.y() - 3, 14, 10));
+    }
+    return all;
+}
+
+TEST_F(Looks, ThePartsOfTheStyleAndAMonthArePaintedAsKept)
+{
+    setDesktopFont(12); // by which the inset of scroll bars goes
+    using Option = QStyleOptionButton;
+    QString all = colours();
+    all += band("button", [](QPainter& p, Option& option) { paint::button(p, option, false); });
+    all += band("filled button", [](QPainter& p, Option& option) { paint::button(p, option, true); });
+    all += band("default button and its icon", [](QPainter& p, Option& option) {
+        option.features = Option::DefaultButton;
+        paint::button(p, option, false);
+        QPixmap dark(4, 8);
+        dark.fill(look::colours().text);
+        option.icon = dark;
+        option.iconSize = dark.size();
+        paint::buttonLabel(p, option, option.state & QStyle::State_HasFocus);
+    });
+    all += band("square", [](QPainter& p, Option& option) { paint::square(p, option); });
+    all += band("ring", [](QPainter& p, Option& option) { paint::ring(p, option); });
+    all += band("arrow", [](QPainter& p, Option& option) {
+        paint::arrow(p, option.rect, paint::Heading((option.rect.x() / 18) % 4), look::colours().line);
+        paint::focusFrame(p, option.rect);
+    });
+    all += "== bars\n" + drawn(painted({142, 90}, bars)) + signs();
+    values::setToday(values::Date::fromDayMonthYear(24, 11, 2026));
+    form.month.widget()->setFixedSize(600, 400);
+    for (const int day : {18, 24}) {
+        form.month.setValue(values::Date::fromDayMonthYear(day, 11, 2026));
+        all += daysOf(form.month);
+        form.month.setFocus();
+    }
+    values::setToday({});
+    EXPECT_EQ(all, QString::fromUtf8(bytesOf(KESTRILL_TESTS "/platform/forms/painting.txt")));
+}
+
+// What isn't of the colour of a field.
+QRect inkOf(const QImage& image)
+{
+    QRegion ink;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) != look::colours().field)
+                ink += QRect(x, y, 1, 1);
+    return ink.boundingRect();
+}
+
+QImage picture(const forms::Control& control)
+{
+    return control.widget()->grab().toImage();
+}
+
+TEST_F(Looks, BoxesAndListsHaveRoomForWhatTheyAreMadeFor)
+{
+    const QStringList widest{"2026-11-24", "$1,000,000"};
+    form.records.setColumns({"Made", "Price"}, widest);
+    form.records.alignRight(1);
+    form.records.addRecord(widest);
+    form.records.addRecord({"", "$5"});
+    form.memo.setSizeInCharacters(20, 3);
+    form.line.setWidthInCharacters(20);
+    form.combo.setWidthInCharacters(20);
+    const QSize size = form.choice.widget()->sizeHint();
+    form.choice.addItems(QStringList(30, QString(99, 'm')));
+    EXPECT_EQ(form.choice.widget()->sizeHint(), size) << "whatever is in the list";
+    form.choice.openList();
+    settle();
+    const auto& list = *QApplication::activePopupWidget()->findChild<QAbstractItemView*>();
+    EXPECT_EQ(list.viewport()->height() / list.sizeHintForRow(0), 16);
+    press(Qt::Key_Escape);
+    auto& tree = *qobject_cast<QTreeWidget*>(form.records.widget());
+    const int row = tree.visualItemRect(tree.topLevelItem(0)).height();
+    EXPECT_NEAR(tree.viewport()->height(), 3 * row + 1, 1);
+    EXPECT_EQ(tree.header()->length(), tree.viewport()->width());
+    for (const int column : {0, 1})
+        EXPECT_NEAR(tree.columnWidth(column) - look::grid(2), tree.fontMetrics().horizontalAdvance(widest[column]), 4);
+    const QRect price(tree.columnWidth(0), row, tree.columnWidth(1), row);
+    EXPECT_GT(inkOf(tree.viewport()->grab(price).toImage()).x(), price.width() / 2) << "on the right";
+    const auto& memo = *qobject_cast<QPlainTextEdit*>(form.memo.widget());
+    EXPECT_EQ(memo.viewport()->height() / memo.fontMetrics().lineSpacing(), 3);
+    EXPECT_EQ(form.line.widget()->width(), form.combo.widget()->width());
+    EXPECT_EQ(form.line.widget()->width(), form.memo.widget()->width());
+}
+
+TEST_F(Looks, TextsStandWhereTheyBelong)
+{
+    form.ok.setFocus();
+    form.line.setText("III");
+    for (const auto alignment : {forms::Alignment::Left, forms::Alignment::Centre, forms::Alignment::Right}) {
+        form.line.setAlignment(alignment);
+        const QImage inside = picture(form.line).copy(5, 5, form.line.widget()->width() - 10, 15);
+        EXPECT_EQ(inkOf(inside).center().x() * 3 / inside.width(), static_cast<int>(alignment));
+    }
+    form.line.setText(QString(200, 'm'));
+    const QImage whole = picture(form.line);
+    form.line.setElided(true);
+    EXPECT_EQ(inkOf(picture(form.line)).size(), inkOf(whole).size());
+    EXPECT_NE(picture(form.line), whole);
+
+    const int room = QFontMetrics(look::fontOf(forms::TextRole::Heading)).horizontalAdvance(".00)");
+    const std::tuple<forms::TextRole, QString, QString> amounts[] = {{forms::TextRole::Heading, "($5.00)", ".00)"},
+        {forms::TextRole::Body, "$1,234.56", ".56"}, {forms::TextRole::Body, "None", ""}};
+    form.label.alignAmounts();
+    const QWidget& label = *form.label.widget();
+    for (const auto& [role, amount, cents] : amounts) {
+        form.label.setRole(role);
+        form.label.setCaption(amount);
+        EXPECT_EQ(label.contentsMargins().right() + label.fontMetrics().horizontalAdvance(cents), room);
+    }
 }
 
 } // namespace

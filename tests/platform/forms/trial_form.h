@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/forms/look.h"
+#include "platform/forms/record_list.h"
 #include "support/forms_test.h"
 
 #include <QStringList>
@@ -26,23 +28,15 @@ public:
         for (forms::ComboBox* each : {&combo, &locked, &choice})
             each->addItems({"alpha", "beta", "gamma"});
         locked.setLocked(true);
-        auto* column = new QVBoxLayout(canvas());
-        for (forms::Control* each : controls()) {
-            each->setTabIndex(column->count());
-            column->addWidget(each->widget());
-            each->GotFocus = [this, each] { happened(each->name() + ".GotFocus"); };
-            each->LostFocus = [this, each] { happened(each->name() + ".LostFocus"); };
-            each->Click = [this, each] { happened(each->name() + ".Click"); };
-        }
-    }
-
-    /// Has the button ask, and notes the answer.
-    void askAtOk()
-    {
-        answers["ok.Click"] = [this] {
-            const auto answer = forms::MsgBox("Sure?", forms::box::Question + forms::box::YesNo, "Title");
-            journal_ += answer == forms::Answer::Yes ? "Yes" : "No";
-        };
+        records.setColumns({"Made", "Price"}, {"2026-11-24", "$1,000"});
+        records.setRows(3);
+        picture.widget()->setFixedSize(40, 40);
+        month.widget()->setFixedSize(forms::look::grid(50), forms::look::grid(40));
+        month.setValue(values::Date::fromDayMonthYear(31, 1, 2007));
+        ticker.Timer = [this] { happened("tick"); };
+        new QVBoxLayout(canvas());
+        for (forms::Control* each : controls())
+            add(*each);
     }
 
     /// What happens instead of a note of the event: answers["ok.Click"].
@@ -59,10 +53,28 @@ public:
     forms::OptionButton garage{*this, "garage"};
     forms::CommandButton other{*this, "other"};
     forms::CommandButton ok{*this, "ok"};
+    forms::OptionButton yard{*this, "yard"};
+    forms::RecordList records{*this, "records"};
+    forms::MonthCalendar month{*this, "month"};
+    forms::Label label{*this, "label", "Words"};
+    forms::Picture picture{*this, "picture"};
+    forms::ProgressBar bar{*this, "bar"};
+    forms::Ticker ticker{*this, "ticker", 1'000'000};
 
 private:
+    // Puts a control below the others.
+    void add(forms::Control& control)
+    {
+        control.setTabIndex(canvas()->layout()->count());
+        canvas()->layout()->addWidget(control.widget());
+        control.GotFocus = [this, &control] { happened(control.name() + ".GotFocus"); };
+        control.LostFocus = [this, &control] { happened(control.name() + ".LostFocus"); };
+        control.Click = [this, &control] { happened(control.name() + ".Click"); };
+    }
+
     void Form_Activate() override { happened(name() + ".Activate"); }
     void Form_Deactivate() override { happened(name() + ".Deactivate"); }
+    void Form_KeyPress(int& keyAscii) override { happened(name() + QString(".KeyPress%1").arg(keyAscii)); }
 
     void happened(const QString& event)
     {
@@ -85,22 +97,8 @@ protected:
         taken();
     }
 
-    /// Puts the focus there and forgets what has happened until then.
-    void stand(forms::Control& control)
-    {
-        control.setFocus();
-        taken();
-    }
-
     /// What has happened since the last question, in order: "line.LostFocus ok.Click".
     QString taken() { return std::exchange(journal, {}).join(' '); }
-
-    /// What happens at a step of the user or of the code.
-    QString after(const std::function<void()>& step)
-    {
-        step();
-        return taken();
-    }
 
     QStringList journal;
     TrialForm form{journal};

@@ -1,0 +1,495 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "trial_form.h"
+
+#include "platform/forms/folder_choice.h"
+#include "platform/values/failure.h"
+#include "support/files.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QLabel>
+#include <QListView>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWindow>
+
+#include <cmath>
+#include <deque>
+#include <stdexcept>
+
+namespace {
+
+struct Scene {
+    std::string title;
+    QStringList lines;
+
+    friend void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.title; }
+};
+
+/// What a user and the code of screens do one after the other, and what comes of each step: the events, then all that
+/// looks otherwise than before. The scenes stand in screens.txt, which tells how its lines read, and in controls.txt.
+class Played : public FormsTest, public testing::WithParamInterface<Scene> {
+protected:
+    Played()
+    {
+        useRealBoxes();
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path()); // of the folder dialog
+        forms::setHelpDoor(
+            [this](int number, const QString& name) { note(QString("(help %1 %2)").arg(number).arg(name)); });
+        QPixmap red(40, 20);
+        red.fill(Qt::red);
+        red.save(folder.filePath("red.png"));
+        {
+            TrialForm first(journal, "First"); // tells the frame that the display gives to windows
+            first.show();
+            settle();
+            first.window()->move(134, 0);
+        }
+        screen("Form").show();
+        whatCame();
+    }
+
+    void playTo(const std::function<bool()>& end)
+    {
+        while (!end() && next < lines.size()) {
+            const qsizetype here = ++next;
+            try {
+                play(lines[here - 1].section(" => ", 0, 0));
+            } catch (const values::RuntimeFailure& refusal) {
+                note('(' + refusal.text() + ')');
+            }
+            if (here == next)
+                compare();
+        }
+    }
+
+private:
+    using Words = const QStringList&;
+
+    void play(const QString& step)
+    {
+        QStringList words = step.split(' ');
+        const auto& deed = deeds.at(words.takeFirst());
+        deed(words);
+    }
+
+    void compare()
+    {
+        const QString step = lines[next - 1].section(" => ", 0, 0);
+        const QString came = whatCame();
+        EXPECT_EQ(came.isEmpty() ? step : step + " => " + came, lines[next - 1]);
+    }
+
+    void note(const QString& event) { journal += event; }
+
+    // ---- of what a step speaks
+
+    // What it says behind its first words, with the escapes of JSON.
+    static QString text(Words words, qsizetype from = 1)
+    {
+        const QString quoted = "[\"" + words.mid(from).join(' ') + "\"]";
+        return QJsonDocument::fromJson(quoted.toUtf8()).array().first().toString();
+    }
+
+    static bool isYes(Words words) { return words.last() == "yes"; }
+
+    TrialForm& screen(const QString& name)
+    {
+        auto& made = screens[name];
+        if (!made) {
+            made = std::make_unique<TrialForm>(journal, name);
+            changes();
+        }
+        return *made;
+    }
+
+    template <class Kind = forms::Control>
+    Kind& of(Words words)
+    {
+        const QString& name = words.first();
+        return control<Kind>(screen(name.contains('.') ? name.section('.', 0, 0) : "Form"), name.section('.', -1));
+    }
+
+    forms::TextEntry& entry(Words words) { return of<forms::TextEntry>(words); }
+    forms::ComboBox& combo(Words words) { return of<forms::ComboBox>(words); }
+
+    // In percents of the control's size; the middle where nothing is said.
+    QPoint place(Words words, qsizetype at = 1)
+    {
+        const QSize size = of(words).widget()->size();
+        const auto share = [&](qsizetype index) { return index < words.size() ? words[index].toInt() : 50; };
+        return {size.width() * share(at) / 100, size.height() * share(at + 1) / 100};
+    }
+
+    // Several steps with commas between.
+    std::function<void()> answerBy(const QString& steps)
+    {
+        return [this, steps] {
+            for (const QString& each : steps.split(", "))
+                play(each);
+        };
+    }
+
+    void when(const QString& event, const QString& steps)
+    {
+        const QString name = event.at(0).isUpper() ? event.section('.', 0, 0) : "Form";
+        screen(name).answers[event.section('.', -2)] = answerBy(steps);
+    }
+
+    // Has events noted. Of a key also its code, which "!" refuses; "~" refuses small letters and turns a B into an X.
+    void noteEvents(Words words)
+    {
+        forms::Control& control = of(words);
+        auto* entry = dynamic_cast<forms::TextEntry*>(&control);
+        auto* combo = dynamic_cast<forms::ComboBox*>(&control);
+        const std::map<QString, forms::Event<>*> plain{{"MouseDown", &control.MouseDown}, {"MouseUp", &control.MouseUp},
+            {"DblClick", &control.DblClick}, {"Change", entry ? &entry->Change : nullptr},
+            {"DropDown", combo ? &combo->DropDown : nullptr}};
+        const std::map<QString, forms::Event<int&>*> ofKeys{
+            {"KeyDown", &control.KeyDown}, {"KeyPress", &control.KeyPress}, {"KeyUp", &control.KeyUp}};
+        for (QString event : words.mid(1)) {
+            const bool all = event.endsWith('!');
+            const bool some = event.endsWith('~');
+            event.remove(QRegularExpression("\\W"));
+            const QString name = control.name() + '.' + event;
+            if (const auto found = plain.find(event); found != plain.end())
+                *found->second = [this, name] { note(name); };
+            else
+                *ofKeys.at(event) = [this, name, all, some](int& code) {
+                    note(name + QString(" %1").arg(code));
+                    code = all || (some && code >= 'a') ? forms::key::Refused : some && code == 'B' ? int('X') : code;
+                };
+        }
+    }
+
+    // ---- what a user does
+
+    static void eachStroke(Words names, void (*act)(Qt::Key, Qt::KeyboardModifiers))
+    {
+        for (const QString& name : names) {
+            const QKeyCombination stroke = QKeySequence(name)[0];
+            act(stroke.key(), stroke.keyboardModifiers());
+        }
+    }
+
+    static void repeatTwice(Qt::Key key, Qt::KeyboardModifiers modifiers) { repeat(key, modifiers, 2); }
+
+    // As a window system tells it: with the code of the place on the keyboard and the time, the same for a repeat.
+    void tell(QEvent::Type type, const QString& key, ulong when)
+    {
+        const auto code = Qt::Key(QKeySequence(key)[0].key());
+        const QString text = code == Qt::Key_Delete ? "\x7f" : code == Qt::Key_F1 ? "" : key.toLower();
+        QKeyEvent event(type, code, {}, quint32(code), 0, 0, text);
+        event.setTimestamp(when);
+        QCoreApplication::sendEvent(forms::activeForm()->window()->windowHandle(), &event);
+    }
+
+    // As long as a list is open it has the keys; a key that is on its way then comes to the screen.
+    static void pressBehind(Qt::Key key, Qt::KeyboardModifiers)
+    {
+        QTest::keyClick(forms::activeForm()->window()->windowHandle(), key);
+    }
+
+    void turnWheel(Words words)
+    {
+        QWidget& whole = *of(words).widget();
+        QWidget* under = whole.childAt(place(words, 2));
+        wheel(under ? *under : whole, words[1].toInt());
+    }
+
+    // A box, by mouse.
+    static void confirm()
+    {
+        auto* button = QApplication::activeModalWidget()->findChild<QPushButton*>();
+        const QPoint place = button->mapTo(button->window(), QPoint(9, 9));
+        QTest::mouseClick(button->window()->windowHandle(), Qt::LeftButton, {}, place);
+    }
+
+    // Plays the next lines in front of a modal window.
+    void playInFront()
+    {
+        whileModal([this] {
+            compare();
+            const QPointer<QWidget> modal = QApplication::activeModalWidget();
+            playTo([&modal] { return !modal || !modal->isVisible(); });
+        });
+    }
+
+    void ask()
+    {
+        playInFront();
+        const auto answer = forms::MsgBox("Sure?", forms::box::Question + forms::box::YesNo, "Title");
+        note(answer == forms::Answer::Yes ? "Yes" : "No");
+    }
+
+    // What is set is all that differs from the usual.
+    void paint(forms::Control& control, const QColor& colour)
+    {
+        control.setBackColour(colour);
+        control.setTextColour(colour);
+        for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Text})
+            note(control.widget()->palette().color(role).name());
+    }
+
+    // ---- what there is to see
+
+    // As assistive tools tell it.
+    static QString nameOf(QWidget& window)
+    {
+        const auto& told = *QAccessible::queryAccessibleInterface(&window);
+        EXPECT_EQ(told.role(), QAccessible::Window);
+        return told.text(QAccessible::Name);
+    }
+
+    // The screen in front and its focus.
+    void look()
+    {
+        const forms::Form* front = forms::activeForm();
+        note(front ? front->name() : "nothing");
+        if (front && !front->window()->isActiveWindow())
+            note("behind");
+        if (front && front->activeControl())
+            note(front->activeControl()->name());
+    }
+
+    static QString told(const forms::TextEntry& box)
+    {
+        QString text = box.text();
+        const int end = box.selectionStart() + box.selectionLength();
+        text.insert(end, end > box.selectionStart() ? "]" : "|");
+        text.insert(box.selectionStart(), end > box.selectionStart() ? "[" : "");
+        const QString shown = text.size() < 99 ? text : QString("%1 characters").arg(text.size() - 1);
+        return '"' + shown + '"' + (box.toolTip().isEmpty() ? QString() : " tip " + box.toolTip());
+    }
+
+    static QString told(const QLabel& label)
+    {
+        const double share = label.font().pointSizeF() / QApplication::font().pointSizeF();
+        return QString("\"%1\" %2 %3%%4")
+            .arg(label.text(), label.palette().color(QPalette::WindowText).name())
+            .arg(std::lround(share * 100))
+            .arg(label.alignment() & Qt::AlignHCenter ? " centred" : "");
+    }
+
+    static QString told(const forms::RecordList& records)
+    {
+        QString all = QString("%1 of %2:").arg(records.picked()).arg(records.recordCount());
+        for (int index = 0; index < records.recordCount(); ++index)
+            all += ' ' + records.record(index).join(',');
+        return all;
+    }
+
+    static QString told(const forms::Picture& picture)
+    {
+        const QSizeF size = picture.widget()->size().toSizeF() / forms::look::pictureScale();
+        return picture.widget()->accessibleName()
+            + (picture.isVisible() ? QString(" %1 x %2").arg(qRound(size.width())).arg(qRound(size.height()))
+                                   : " hidden");
+    }
+
+    // The month's name and what an assistive tool says of the place of the focus.
+    static QString told(const forms::MonthCalendar& month)
+    {
+        const auto& days = *month.widget()->findChild<QTableView*>();
+        QWidget* stop = QApplication::focusWidget();
+        if (!month.widget()->isAncestorOf(stop))
+            return days.accessibleName();
+        auto& spoken = *QAccessible::queryAccessibleInterface(stop);
+        if (stop != &days)
+            return spoken.text(QAccessible::Name) + ", " + spoken.text(QAccessible::Description);
+        const QModelIndex day = days.currentIndex();
+        auto* cell = day.isValid() ? spoken.tableInterface()->cellAt(day.row(), day.column()) : nullptr;
+        return days.accessibleName() + (cell ? ": " + cell->text(QAccessible::Name) : QString());
+    }
+
+    static QString told(const forms::Control& control)
+    {
+        if (const auto* box = dynamic_cast<const forms::ComboBox*>(&control))
+            return QString("%1 %2 of %3").arg(told(*box)).arg(box->listIndex()).arg(itemsOf(*box).join(','));
+        if (const auto* box = dynamic_cast<const forms::TextEntry*>(&control))
+            return told(*box);
+        if (const auto* option = dynamic_cast<const forms::OptionButton*>(&control))
+            return option->value() ? "on" : "off";
+        if (const auto* check = dynamic_cast<const forms::CheckBox*>(&control))
+            return QString::number(check->value());
+        if (const auto* bar = dynamic_cast<const forms::ProgressBar*>(&control))
+            return QString("%1 of %2").arg(bar->value()).arg(bar->max());
+        if (const auto* records = dynamic_cast<const forms::RecordList*>(&control))
+            return told(*records);
+        if (const auto* month = dynamic_cast<const forms::MonthCalendar*>(&control))
+            return told(*month);
+        if (const auto* picture = dynamic_cast<const forms::Picture*>(&control))
+            return told(*picture);
+        const auto* label = dynamic_cast<const forms::Label*>(&control);
+        return label ? told(*qobject_cast<const QLabel*>(label->widget())) : QString();
+    }
+
+    static QString toldPopup()
+    {
+        QWidget* popup = QApplication::activePopupWidget();
+        auto* list = popup ? popup->findChild<QListView*>() : nullptr;
+        return list ? "at " + list->currentIndex().data().toString() : "closed";
+    }
+
+    // What looks otherwise than it did the last time.
+    QStringList changes()
+    {
+        std::map<QString, QString> now{{"list", toldPopup()}, {"copied", QGuiApplication::clipboard()->text()}};
+        for (const auto& [name, form] : screens)
+            for (const forms::Control* each : form->controls())
+                now.insert({(name == "Form" ? "" : name + '.') + each->name(), told(*each)});
+        QStringList changed;
+        for (const auto& [name, state] : now)
+            if (state != std::exchange(seen[name], state))
+                changed += '{' + name + ' ' + state + '}';
+        return changed;
+    }
+
+    // Since the last question.
+    QString whatCame()
+    {
+        settle();
+        if (const auto failure = reportedFailure())
+            note("(failed " + failure->handler + ' ' + failure->failure.section(": ", -1) + ')');
+        if (const auto status = endStatus())
+            note(QString("(ended %1)").arg(*status));
+        journal += changes();
+        return std::exchange(journal, {}).join(' ').replace('\n', "\\n");
+    }
+
+    const QTemporaryDir folder;
+    const QStringList lines = GetParam().lines;
+    qsizetype next = 0;
+    ulong clock = 1;
+    QStringList journal;
+    std::map<QString, QString> seen;
+    std::map<QString, std::unique_ptr<TrialForm>> screens;
+    std::deque<forms::Label> labels;
+    QWidget another; // that is no screen
+
+    const std::map<QString, std::function<void(Words)>> deeds{
+        // the user, by keys
+        {"press", [](Words w) { eachStroke(w, press); }}, {"hold", [](Words w) { eachStroke(w, hold); }},
+        {"repeat", [](Words w) { eachStroke(w, repeatTwice); }}, {"release", [](Words w) { eachStroke(w, letGo); }},
+        {"third", [](Words w) { press(Qt::Key(w[0][0].unicode()), Qt::AltModifier | Qt::GroupSwitchModifier); }},
+        {"down", [this](Words w) { tell(QEvent::KeyPress, w[0], clock); }},
+        {"up", [this](Words w) { tell(QEvent::KeyRelease, w[0], ++clock); }}, {"wait", [this](Words) { ++clock; }},
+        {"behind", [](Words w) { eachStroke(w, pressBehind); }}, {"type", [](Words w) { type(text(w, 0)); }},
+        // by mouse
+        {"click", [this](Words w) { clickAt(of(w), place(w)); }}, {"again", [](Words) { clickAgain(); }},
+        {"tremble", [this](Words w) { drag(of(w), QPoint(9, 16), QPoint(12, 16)); }},
+        {"drag", [this](Words w) { drag(of(w), place(w), place(w, 3)); }},
+        {"right", [this](Words w) { note(rightClick(of(w), text(w)) ? "(menu)" : "(no menu)"); }},
+        {"arrow", [this](Words w) { clickArrow(combo(w)); }}, {"pick", [this](Words w) { pick(combo(w), text(w)); }},
+        {"wheel", [this](Words w) { turnWheel(w); }}, {"confirm", [](Words) { confirm(); }},
+        {"closeBox", [this](Words w) { closeBox(screen(w[0])); }},
+        {"move", [this](Words w) { screen(w[0]).window()->move(w[1].toInt(), w[2].toInt()); }},
+        {"raise", [this](Words w) { screen(w[0]).window()->windowHandle()->requestActivate(); }},
+        // in other ways
+        {"drop", [this](Words w) { note(drop(of(w), text(w)) ? "(taken)" : "(not taken)"); }},
+        {"commit", [](Words w) { commit(text(w, 0)); }},
+        {"assist", [this](Words w) { setByAssistant(of(w), text(w)); }},
+        {"copied", [this](Words w) { QGuiApplication::clipboard()->setText(seen["copied"] = text(w, 0)); }},
+        // the code, with screens
+        {"show", [this](Words w) { screen(w[0]).show(); }}, {"hide", [this](Words w) { screen(w[0]).hide(); }},
+        {"open", [this](Words w) { screen(w[0]).show_Modal(screen("Form")); }},
+        {"modal", [this](Words w) { playInFront(), screen(w[0]).show_Modal(screen("Form")); }},
+        {"input", [this](Words w) { screen(w[0]).setEnabled(isYes(w)); }},
+        {"least", [this](Words w) { screen(w[0]).setLeastSize(QSize(500, 700)); }},
+        {"title", [this](Words w) { screen("Form").setTitle(w[0]); }},
+        {"help", [this](Words w) { screen(w[0]).setHelpNumber(7); }}, {"ask", [this](Words) { ask(); }},
+        {"another", [this](Words w) { another.setWindowTitle(w[0]), another.show(); }},
+        {"choose", [this](Words w) { playInFront(), note("chosen (" + forms::chooseFolder("Title", w[0]) + ')'); }},
+        // with every control
+        {"focus", [this](Words w) { of(w).setFocus(); }}, {"enable", [this](Words w) { of(w).setEnabled(isYes(w)); }},
+        {"visible", [this](Words w) { of(w).setVisible(isYes(w)); }},
+        {"skip", [this](Words w) { of(w).setTabIndex(-1); }},
+        {"colour", [this](Words w) { paint(of(w), QColor(w.value(1))); }},
+        {"refuse", [this](Words w) { forms::behaviours::noKeys(of(w)); }},
+        // with boxes
+        {"text", [this](Words w) { entry(w).setText(text(w)); }},
+        {"from", [this](Words w) { entry(w).setSelectionStart(w[1].toInt()); }},
+        {"length", [this](Words w) { entry(w).setSelectionLength(w[1].toInt()); }},
+        {"select", [this](Words w) { entry(w).selectAll(); }},
+        {"limit", [this](Words w) { entry(w).setMaxLength(w[1].toInt()); }},
+        {"lock", [this](Words w) { entry(w).setLocked(isYes(w)); }},
+        {"keep", [this](Words w) { entry(w).setDeleteRefused(true); }},
+        {"elide", [this](Words w) { of<forms::TextBox>(w).setElided(isYes(w)); }},
+        {"cap", [this](Words w) { forms::behaviours::lengthCap(entry(w), w[1].toInt()); }},
+        {"digits", [this](Words w) { forms::behaviours::digitsOnly(entry(w)); }},
+        {"add", [this](Words w) { combo(w).addItems(text(w).split(',')); }},
+        {"clear", [this](Words w) { combo(w).clear(); }},
+        {"index", [this](Words w) { combo(w).setListIndex(w[1].toInt()); }},
+        {"list", [this](Words w) { combo(w).openList(); }},
+        {"dropping", [this](Words w) { combo(w).DropDown = answerBy(text(w)); }},
+        {"codes", [this](Words w) { forms::behaviours::twoLetterCode(combo(w)); }},
+        {"movements", [this](Words w) { forms::behaviours::movementOnly(combo(w)); }},
+        {"listonly", [this](Words w) { forms::behaviours::listOnly(combo(w)); }},
+        // with the others
+        {"option", [this](Words w) { of<forms::OptionButton>(w).setValue(w[1] == "on"); }},
+        {"check", [this](Words w) { of<forms::CheckBox>(w).setValue(w[1].toInt()); }},
+        {"record", [this](Words w) { screen("Form").records.addRecord(w); }},
+        {"change", [this](Words w) { screen("Form").records.setRecord(w[0].toInt(), w.mid(1)); }},
+        {"empty", [this](Words) { screen("Form").records.clear(); }},
+        {"date", [this](Words w) { screen("Form").month.setValue(values::Date::parse(w[0])); }},
+        {"caption", [this](Words w) { screen("Form").label.setCaption(text(w, 0)); }},
+        {"role", [this](Words w) { of<forms::Label>(w).setRole(forms::TextRole(w[1].toInt())); }},
+        {"names", [this](Words w) { screen("Form").label.nameFor(of(w)); }},
+        {"label", [this](Words w) { labels.emplace_back(screen("Form"), w[0], w[0]); }},
+        {"picture", [this](Words w) { screen("Form").picture.setPicture(folder.filePath("red.png"), text(w, 0)); }},
+        {"share", [this](Words w) { screen("Form").picture.setShare(w[0].toDouble()); }},
+        {"most", [this](Words w) { screen("Form").bar.setMax(w[0].toInt()); }},
+        {"progress", [this](Words w) { screen("Form").bar.setValue(w[0].toInt()); }},
+        {"ticking", [this](Words w) { screen("Form").ticker.setEnabled(isYes(w)); }},
+        {"tick", [this](Words) { screen("Form").ticker.elapse(); }},
+        // with events and failures
+        {"note", [this](Words w) { noteEvents(w); }}, {"when", [this](Words w) { when(w[0], text(w)); }},
+        {"run", [this](Words w) { forms::runAsHandler("signal", answerBy(text(w, 0))); }},
+        {"returning", [this](Words w) { forms::onHandlerReturn(answerBy(text(w, 0))); }},
+        {"say", [this](Words w) { note(w[0]); }},
+        {"try", [this](Words w) { EXPECT_THROW(play(text(w, 0)), values::RuntimeFailure); }},
+        {"fail", [](Words w) { throw values::RuntimeFailure(values::FailureKind::InvalidCall, w[0]); }},
+        {"crash", [](Words w) { throw std::runtime_error(w[0].toStdString()); }}, {"burst", [](Words) { throw 7; }},
+        {"end", [](Words) { forms::endProcess(3); }},
+        // what there is to see
+        {"look", [this](Words) { look(); }},
+        {"where", [this](Words w) { note(QDebug::toString(screen(w[0]).window()->geometry())); }},
+        {"parent", [this](Words) { note(nameOf(*QApplication::activeModalWidget()->parentWidget())); }},
+        {"name", [this](Words) { note(nameOf(*screen("Form").window())); }},
+        {"see", [this](Words w) { note(of(w).widget()->grab().toImage().pixelColor(place(w)).name()); }},
+        {"then", [](Words) {}}, // a box or a modal screen is gone
+    };
+};
+
+// The scenes of both lists, each with its title first.
+std::vector<Scene> scenes()
+{
+    std::vector<Scene> all;
+    const QString folder = KESTRILL_TESTS "/platform/forms/";
+    const QByteArray lists = bytesOf(folder + "screens.txt") + bytesOf(folder + "controls.txt");
+    for (const QString& line : QString::fromUtf8(lists).split('\n', Qt::SkipEmptyParts))
+        if (line.startsWith("== "))
+            all.push_back({QString(line.mid(3)).remove(' ').toStdString(), {}});
+        else if (!line.startsWith('#'))
+            all.back().lines += line;
+    return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(Out, Played, testing::ValuesIn(scenes()), [](const auto& scene) { return scene.param.title; });
+
+TEST_P(Played, HasTheseConsequences)
+{
+    playTo([] { return false; });
+}
+
+} // namespace
