@@ -2,6 +2,8 @@
 #include "reports/layouts.h"
 #include "reports/report_style.h"
 
+#include <optional>
+
 namespace {
 
 constexpr double axis = 5505;
@@ -19,13 +21,11 @@ constexpr report::Place descriptionBox{boxLeft, 9216, 6195, 1440};
 struct Caption {
     double top;
     const char* text;
-    double boxLeft = ::boxLeft; ///< none where it is 0
+    std::optional<double> boxLeft = ::boxLeft;
 };
 
-constexpr double none = 0;
-
 constexpr Caption captions[] = {
-    {2448, "Area =>", none},
+    {2448, "Area =>", std::nullopt},
     {2880, "Location =>", 3790},
     {3312, "Category =>"},
     {3744, "Asset Name =>"},
@@ -33,12 +33,12 @@ constexpr Caption captions[] = {
     {4896, "Make =>"},
     {5328, "Model =>"},
     {5760, "Serial =>"},
-    {6480, "Purchased =>", none},
+    {6480, "Purchased =>", std::nullopt},
     {6912, "Purchase Date =>"},
     {7344, "Purchase Price =>"},
-    {8064, "Asset Receipt On File =>", none},
+    {8064, "Asset Receipt On File =>", std::nullopt},
     {8496, "Asset Receipt Location =>"},
-    {9216, "Description =>", none},
+    {9216, "Description =>", std::nullopt},
 };
 
 struct Words {
@@ -76,8 +76,8 @@ report::Section page()
     for (const Caption& caption : captions) {
         section.labels.push_back(style::caption(
             caption.text, {captionEnd - captionWidth, caption.top, captionWidth, style::LineHeight}, style::Form));
-        if (caption.boxLeft != none)
-            section.boxes.push_back({{caption.boxLeft, caption.top, boxWidth, boxHeight}});
+        if (caption.boxLeft)
+            section.boxes.push_back({{*caption.boxLeft, caption.top, boxWidth, boxHeight}});
     }
     for (const Words& each : words)
         section.labels.push_back({each.text, {each.left, each.top, each.width, style::LineHeight}, style::Form});

@@ -4,8 +4,6 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 
-#include <algorithm>
-#include <cmath>
 #include <stdexcept>
 
 namespace pdf {
@@ -46,31 +44,13 @@ QString Page::text() const
     return texts.join(u' ');
 }
 
-QImage picture(const QString& path)
-{
-    output("pdftoppm", {"-r", "144", "-gray", "-singlefile", path, path});
-    return QImage(path + ".pgm");
-}
-
-bool hasInk(const QImage& picture, QPointF place)
-{
-    const QImage around = picture.copy(QRect((place / 10).toPoint() - QPoint(2, 2), QSize(4, 4)));
-    return qGray(around.scaled(1, 1, {}, Qt::SmoothTransformation).pixel(0, 0)) < 240;
-}
-
 std::vector<QRectF> placesOf(const Page& page, const QString& text)
 {
-    const QStringList sought = text.split(u' ', Qt::SkipEmptyParts);
-    const auto isSame = [](const Word& word, const QString& other) { return word.text == other; };
     std::vector<QRectF> places;
-    for (auto at = page.words.begin();; ++at) {
-        at = std::search(at, page.words.end(), sought.begin(), sought.end(), isSame);
-        if (at == page.words.end())
-            return places;
-        const QRectF last = at[sought.size() - 1].place;
-        if (std::abs(last.top() - at->place.top()) <= twipsPerPoint)
-            places.push_back(at->place.united(last));
-    }
+    for (const Word& word : page.words)
+        if (word.text == text)
+            places.push_back(word.place);
+    return places;
 }
 
 } // namespace pdf

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QImage>
 #include <QRectF>
 #include <QString>
 #include <QStringList>
@@ -26,12 +25,8 @@ struct Page {
 
 std::vector<Page> read(const QString& path);
 
-/// Where the words of a text stand side by side, wherever on the page.
+/// Where a word stands, wherever on the page.
 std::vector<QRectF> placesOf(const Page& page, const QString& text);
-
-/// The first page, a dot for ten twips, and whether it has something drawn at a place.
-QImage picture(const QString& path);
-bool hasInk(const QImage& picture, QPointF place);
 
 /// What another program tells of it.
 QString output(const QString& program, const QStringList& arguments);

@@ -45,7 +45,6 @@ Brush::Brush(QPainter& painter, const Document& document, int page, int pages)
     , pages_(pages)
 {
     painter_.setPen(QPen(Qt::black, lineWidth));
-    painter_.setBrush(Qt::NoBrush);
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter_.setLayoutDirection(Qt::LayoutDirectionAuto);
 }

@@ -33,8 +33,7 @@ void widen(Extent& extent, const Section& section)
 Extent extentOf(const Layout& layout)
 {
     Extent extent{std::numeric_limits<double>::max(), 0};
-    for (const Section* section :
-        {&layout.reportHeader, &layout.pageHeader, &layout.detail, &layout.pageFooter, &layout.reportFooter})
+    for (const Section* section : {&layout.pageHeader, &layout.detail, &layout.pageFooter})
         widen(extent, *section);
     return extent;
 }

@@ -70,16 +70,13 @@ struct Section {
     std::optional<Field> growing;
 };
 
-/// A report's layout. The header and the footer stand on every page, the report's own on the first and the last; the
-/// detail is repeated for each row.
+/// A report's layout. The header and the footer stand on every page; the detail is repeated for each row.
 struct Layout {
     double axis; ///< what stands in the middle of the paper, from the left of the sections
     double margin; ///< what stays free above and below
-    Section reportHeader;
     Section pageHeader;
     Section detail;
     Section pageFooter;
-    Section reportFooter;
 };
 
 /// What a layout covers from left to right, in all its sections.

@@ -72,13 +72,10 @@ int Pages::linesThatFit(double room, bool beginning) const
 
 void Pages::breakIntoPages()
 {
-    const Layout& layout = document_->layout;
-    double room = startPage({0, 0}) - layout.reportHeader.height;
+    double room = startPage({0, 0});
     const int rows = document_->rows->count();
     for (int row = 0; row < rows; ++row)
         placeRow(row, room);
-    if (layout.reportFooter.height > room)
-        startPage({rows, 0});
 }
 
 double Pages::startPage(Start start)
@@ -144,14 +141,8 @@ void Pages::paint(QPainter& painter, int page) const
     brush.paint(layout.pageHeader, 0);
     painter.save();
     brush.moveDown(layout.pageHeader.height);
-    if (page == 0) {
-        brush.paint(layout.reportHeader, 0);
-        brush.moveDown(layout.reportHeader.height);
-    }
     for (const Piece& piece : piecesOf(page))
         paintDetail(brush, piece);
-    if (page + 1 == count())
-        brush.paint(layout.reportFooter, 0);
     painter.restore();
     brush.moveDown(layout.pageHeader.height + bodyHeight());
     brush.paint(layout.pageFooter, 0);

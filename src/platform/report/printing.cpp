@@ -29,15 +29,27 @@ Paper paperOf(const QPrinter& printer)
     return paper;
 }
 
+// The dialogue has a service in mind that counts the chosen pages alone: odd pages are even ones to it, and the other
+// way round, where the first of them is even.
+QString setOf(const QPrinter& printer)
+{
+    const QString odd = QStringLiteral("odd");
+    const QString even = QStringLiteral("even");
+    const QStringList kept = keptForService(printer);
+    const auto name = kept.indexOf(QStringLiteral("page-set"));
+    QString set = name < 0 ? QString() : kept.value(name + 1);
+    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() % 2 != 0)
+        return set;
+    return set == odd ? even : set == even ? odd : set;
+}
+
 PageChoice choiceOf(const QPrinter& printer)
 {
     PageChoice choice;
     choice.currentOnly = printer.printRange() == QPrinter::CurrentPage;
     if (printer.printRange() == QPrinter::PageRange)
         choice.ranges = printer.pageRanges();
-    const QStringList kept = keptForService(printer);
-    if (const auto name = kept.indexOf(QStringLiteral("page-set")); name >= 0)
-        choice.set = kept.value(name + 1);
+    choice.set = setOf(printer);
     choice.lastFirst = printer.pageOrder() == QPrinter::LastPageFirst;
     return choice;
 }
