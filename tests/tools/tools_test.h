@@ -24,9 +24,14 @@ protected:
         closeData();
         QFile::remove(databaseFile());
         createShippedDatabase(databaseFile(), {{{"Attic", "Art", "Frame"}}, {}, {}});
-        restoring::list_Processes = [] { return std::vector{sys::thisProcess()}; };
+        runAlone();
     }
     ~ToolsTest() override { setRounds("64000"); }
+
+    static void runAlone()
+    {
+        restoring::list_Processes = [] { return std::vector{sys::thisProcess()}; };
+    }
 
     /// Stores an asset as the program does, and counts it in the running total.
     static void addAsset(const QString& item, const QString& amount, const QString& description = "None")
@@ -39,12 +44,29 @@ protected:
         closeData();
     }
 
+    static void runOnFile(const QString& path, const QString& sql)
+    {
+        storage::execute(storage::openFile(path, databaseKey(), storage::Access::ReadWrite).get(), sql.toUtf8());
+    }
+
     static QString today() { return places::databaseFile(); }
     static QString backupFile() { return places::backupFolder() + "/KTL.db"; }
     static QString below(const QString& name) { return QFileInfo(places::databaseFolder()).path() + '/' + name; }
 
     /// What a close leaves, without the rest of it.
     static void backUp() { putFile(backupFile(), bytesOf(today())); }
+
+    /// A run that is killed in the middle of a write: its journal is left.
+    static void breakOff()
+    {
+        inProcess([] {
+            openData();
+            storage::execute(Data1.Home.handle(), "PRAGMA cache_size = 10"); // so that it goes to the file at once
+            storage::Transaction transaction(Data1.Home.handle());
+            put(Data1.rsInventory, {{Inventory::Description, QString(50'000, 'x')}});
+            _exit(0);
+        });
+    }
 
     /// Overwrites a piece of every page from one on, by its number from 0.
     static void damage(const QString& path, int from = 1)

@@ -122,10 +122,8 @@ QString Currency::toText() const
 
 Currency Currency::rounded() const
 {
-    const quint64 size = centsOf(count_) * 100;
-    if (size > quint64{std::numeric_limits<qint64>::max()})
-        throw overflow(QStringLiteral("an amount rounded to cents"));
-    return Currency(count_ < 0 ? -static_cast<qint64>(size) : static_cast<qint64>(size));
+    const auto size = static_cast<qint64>(centsOf(count_) * 100); // the cents next to the limits are below them
+    return Currency(count_ < 0 ? -size : size);
 }
 
 Currency Currency::operator-() const

@@ -61,7 +61,7 @@ int compareNames(const QString& a, const QString& b)
         if (left != right)
             return placeOf(left) - placeOf(right);
     }
-    return a.size() < b.size() ? -1 : a.size() > b.size();
+    return static_cast<int>(a.size() - b.size());
 }
 
 } // namespace values

@@ -9,25 +9,6 @@ namespace {
 
 using FailedWriteTest = StorageTest;
 
-TEST_F(FailedWriteTest, AChangeThatIsRefusedIsDropped)
-{
-    openWith({"a", "b"});
-    const std::pair<const char*, std::function<void()>> changes[] = {
-        {"UPDATE", [this] { wordsView.Fields(words::Word) = "changed", wordsView.MoveNext(); }},
-        {"INSERT", [this] { addWord(wordsView, "c"); }},
-        {"DELETE", [this] { wordsView.Delete(); }},
-    };
-    for (const auto& [statement, change] : changes) {
-        wordsView.Close();
-        const QByteArray name = statement;
-        runOnFile("CREATE TRIGGER no" + name + " BEFORE " + name + " ON Words BEGIN SELECT RAISE(ABORT, 'no'); END");
-        wordsView.Open();
-        EXPECT_EQ(failureOf(change), FailureKind::Database) << statement;
-        EXPECT_EQ(wordsView.Fields(words::Word), "a") << "the row before is current: " << statement;
-        EXPECT_EQ(walk(wordsView), QStringList({"a", "b"})) << statement;
-    }
-}
-
 TEST_F(FailedWriteTest, AFullDiskLeavesViewAndFileAsTheyWereAndTheNextWriteWorks)
 {
     openWith({"a"});

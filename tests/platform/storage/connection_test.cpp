@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage_test.h"
 
+#include "platform/storage/file_reader.h"
+
 #include <cstdio>
 #include <functional>
 
@@ -64,10 +66,19 @@ TEST_F(ConnectionTest, RefusesADamagedCutOrForeignFileAndLeavesItAsItWas)
 
 TEST_F(ConnectionTest, KeepsOthersOutOfItsOneFileAndShowsNothing)
 {
+    const auto open = openFiles();
+    const auto openAnother = [this] { storage::Connection().open(path(), key); };
     wordsView.Open();
-    EXPECT_EQ(failureOf([this] { storage::Connection().open(path(), key); }), FailureKind::Database) << "in use";
+    EXPECT_EQ(failureOf(openAnother), FailureKind::Database) << "in use";
     addWord(wordsView, "x");
     wordsView.Close();
+    {
+        const storage::FileReader reader(path(), key);
+        EXPECT_EQ(failureOf(openAnother), FailureKind::Database) << "being read";
+    }
+    EXPECT_EQ(failureOf(openAnother), std::nullopt);
+    EXPECT_EQ(openFiles(), open);
+    EXPECT_EQ(failureOf([this] { storage::createDatabase(path(), key, tables); }), FailureKind::File) << "is there";
     EXPECT_FALSE(whole.contains("wwww") || whole.contains("Words") || whole.startsWith("SQLite"));
     EXPECT_EQ(files().size(), 1U) << "the journal lay beside it";
     EXPECT_EQ(QFile::permissions(path()) & (QFile::ReadGroup | QFile::ReadOther), 0);
@@ -95,6 +106,8 @@ TEST_F(ConnectionTest, TellsAtTheNextWriteAndAtTheCloseThatTheFileHasLeftItsPlac
         stageView.AddNew();
         stageView.Update();
         EXPECT_EQ(failureOf([this] { home.commitPending(); }), FailureKind::Database);
+        stageView.AddNew();
+        stageView.Update();
         EXPECT_EQ(failureOf([this] { home.close(); }), FailureKind::Database);
         EXPECT_FALSE(home.isOpen());
     }

@@ -1,142 +1,119 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What views do, as views.txt has it: a view and a step; then how many rows there are, where the view stands and what
+// is in its row, or else what was asked for. A heading begins with a new file.
 #include "storage_test.h"
+
+#include <QVariant>
+
+#include <map>
 
 using storage::TableView;
 using values::Currency;
-using values::FailureKind;
 
 namespace {
 
-class TableViewTest : public StorageTest {
-protected:
-    // The word of the current row, or where the view stands that has none.
-    QString standing()
+class Views : public StorageTest {
+public:
+    Views()
     {
-        QString word = "deleted";
-        const auto failure = failureOf([&] { word = wordsView.Fields(words::Word).text(); });
-        if (wordsView.atBOF() || wordsView.atEOF())
-            word = wordsView.atBOF() ? "before" : "behind";
-        EXPECT_EQ(failure == FailureKind::NoCurrentRecord, QStringList({"before", "behind", "deleted"}).contains(word));
-        return word;
+        storage::createDatabase(folder.filePath("another"), key, tables);
+        another_.setFile(folder.filePath("another"), key); // with other numbers for its texts
     }
 
-    storage::Field field(int column) { return thingsView.Fields(column); }
-
-    // Stores the row; all is read anew from the file.
-    void store()
+    QString follow(const QString& step)
     {
-        thingsView.Update();
-        thingsView.Close();
-        thingsView.Open();
+        const QString first = step.section(' ', 0, 0), rest = step.section(' ', 1);
+        try {
+            if (first == "sql")
+                runOnFile(rest.toUtf8());
+            else if (first == "file")
+                return rowsInFile(rest);
+            else if (first == "home")
+                rest == "close" ? home.close() : rest == "move" ? home.setFile(path(), key) : home.commitPending();
+            else
+                return onView(views_.at(first), rest.section(' ', 0, 0), rest.section(' ', 1));
+        } catch (const values::RuntimeFailure& failure) {
+            const QString told = QString(failure.text()).replace(path(), "FILE");
+            return views_.contains(first) ? told + "; " + standing(views_.at(first)) : told;
+        }
+        return "done";
     }
+
+private:
+    void TestBody() override { }
 
     // Read from a copy: the file itself is kept to its one connection.
-    QStringList stagedInFile() const
+    QString rowsInFile(const QString& table) const
     {
         const QString copy = folder.filePath("copy.db");
-        QFile::remove(copy);
-        EXPECT_TRUE(QFile::copy(path(), copy));
-        return inFile(copy, words::stage);
+        putFile(copy, bytesOf(path()));
+        return inFile(copy, table == "stage" ? words::stage : words::table).join(", ");
     }
+
+    QString onView(TableView& view, const QString& step, const QString& given)
+    {
+        static const std::map<QString, void (TableView::*)()> steps{{"Open", &TableView::Open},
+            {"Close", &TableView::Close}, {"MoveFirst", &TableView::MoveFirst}, {"MoveNext", &TableView::MoveNext},
+            {"MovePrevious", &TableView::MovePrevious}, {"AddNew", &TableView::AddNew}, {"Update", &TableView::Update},
+            {"CancelUpdate", &TableView::CancelUpdate}, {"Delete", &TableView::Delete}};
+        if (const auto known = steps.find(step); known != steps.end())
+            (view.*known->second)();
+        else if (step == "Sort")
+            view.Sort(given);
+        else if (step == "rows")
+            return walk(view).join(", ");
+        else if (step == "row")
+            return QString::fromStdString(std::string(view.snapshot().utf8(given.toInt(), 0)));
+        else
+            return onField(view, step, given.section(' ', 0, 0).toInt(), given.section(' ', 1));
+        return standing(view);
+    }
+
+    QString onField(TableView& view, const QString& step, int column, const QString& given)
+    {
+        storage::Field field = view.Fields(column);
+        if (step == "put")
+            field = given;
+        else if (step == "count")
+            field = Currency::fromTenThousandths(given.toLongLong());
+        else if (step == "copy")
+            field = views_.at(given.section(' ', 0, 0)).Fields(given.section(' ', 1).toInt());
+        else if (step == "integer")
+            return QString::number(field.integer());
+        else if (step == "currency")
+            return QString::number(field.currency().tenThousandths());
+        else
+            return QVariant(step == "equals" ? field.equals(storage::FoldedText(given))
+                                             : field.contains(storage::FoldedText(given)))
+                .toString();
+        return standing(view);
+    }
+
+    static QString standing(TableView& view)
+    {
+        QString told = QString::number(view.RecordCount());
+        told += QString(view.atBOF() ? " before" : "") + (view.atEOF() ? " behind" : "") + ':';
+        try {
+            for (std::size_t i = 0; i < view.snapshot().definition().columns.size(); ++i)
+                told += (i == 0 ? " " : "|") + view.Fields(static_cast<int>(i)).text();
+        } catch (const values::RuntimeFailure& failure) {
+            told += ' ' + failure.text();
+        }
+        return told;
+    }
+
+    storage::Connection another_;
+    TableView other_{another_, words::table};
+    std::map<QString, TableView&> views_{
+        {"things", thingsView}, {"words", wordsView}, {"stage", stageView}, {"other", other_}};
 };
 
 } // namespace
 
-TEST_F(TableViewTest, WalksBeyondBothEndsAndOverDeletedRowsWhereNoRowIsCurrent)
+TEST(TableViews, GoThroughTheStepsThatTheListHas)
 {
-    openWith({"a", "b", "c"});
-    QStringList places;
-    for (const auto step : {&TableView::MovePrevious, &TableView::MoveNext, &TableView::MoveNext, &TableView::Delete,
-             &TableView::Update, &TableView::MoveNext, &TableView::MoveNext, &TableView::MovePrevious,
-             &TableView::Delete, &TableView::MovePrevious}) {
-        (wordsView.*step)();
-        places += standing();
-    }
-    EXPECT_EQ(places.join(' '), "before a b deleted deleted c behind c deleted a");
-    wordsView.MovePrevious();
-    EXPECT_EQ(failureOf([this] { wordsView.Delete(); }), FailureKind::NoCurrentRecord);
-    EXPECT_EQ(wordsView.RecordCount(), 1);
-    wordsView.Close();
-    EXPECT_EQ(wordsInFile(), QStringList({"a"}));
-    thingsView.Open();
-    EXPECT_TRUE(thingsView.atEOF() && thingsView.atBOF());
-    EXPECT_EQ(failureOf([this] { thingsView.MoveFirst(); }), FailureKind::NoCurrentRecord) << "an empty table";
-}
-
-TEST_F(TableViewTest, MovesStoreWhatIsPendingCancelAndCloseDropIt)
-{
-    openWith({"a", "b", "c"});
-    wordsView.Fields(words::Word) = "A";
-    wordsView.MoveNext();
-    wordsView.Fields(words::Word) = "x";
-    wordsView.CancelUpdate();
-    EXPECT_EQ(standing(), "b");
-    wordsView.AddNew();
-    wordsView.Fields(words::Word) = "d";
-    wordsView.AddNew();
-    wordsView.CancelUpdate();
-    wordsView.MoveFirst();
-    wordsView.Fields(words::Word) = "dropped";
-    wordsView.Close();
-    EXPECT_EQ(wordsInFile(), QStringList({"A", "b", "c", "d"}));
-}
-
-TEST_F(TableViewTest, NumbersAndMoneyComeBackExactlyAndWhatIsNoneIsRefusedAtThePut)
-{
-    thingsView.Open();
-    thingsView.AddNew();
-    const Currency amount = Currency::fromTenThousandths(-12'345'678);
-    field(things::Price) = "$1,234.5";
-    field(things::Total) = amount;
-    field(things::Count) = "-3";
-    for (const char* text : {"", "$1/2.00", "None", "1.2.3", "$"})
-        for (const int column : {things::Price, things::Total, things::Count})
-            EXPECT_EQ(failureOf([&] { field(column) = text; }), FailureKind::TypeMismatch) << text << " in " << column;
-    EXPECT_EQ(failureOf([this] { field(things::Name).integer(); }), FailureKind::TypeMismatch);
-    EXPECT_EQ(failureOf([this] { field(things::ID) = 7; }), FailureKind::InvalidCall);
-    store();
-    EXPECT_EQ(field(things::ID), 1);
-    EXPECT_EQ(field(things::Price), "$1,234.5") << "kept as it was given";
-    EXPECT_EQ(field(things::Total).currency(), amount);
-    EXPECT_EQ(field(things::Total), "($1,234.57)");
-    EXPECT_TRUE(field(things::Count) == -3 && field(things::Count) == "-3");
-    thingsView.Delete();
-    thingsView.AddNew();
-    store();
-    EXPECT_EQ(field(things::ID), 2) << "no number is given twice";
-}
-
-TEST_F(TableViewTest, FieldsAreComparedWithoutRegardToCaseInAllOfUnicode)
-{
-    using storage::FoldedText;
-    thingsView.Open();
-    thingsView.AddNew();
-    EXPECT_FALSE(field(things::Name).contains(FoldedText())) << "an empty field holds nothing";
-    for (const char* text : {"Oak {", "stra\u00dfe", "\u00c9tag\u00e8re"}) {
-        field(things::Name) = text;
-        const QString upper = QString(text).toUpper();
-        EXPECT_TRUE(field(things::Name).equals(FoldedText(upper))) << text;
-        EXPECT_TRUE(field(things::Name).contains(FoldedText(upper.mid(2)))) << text;
-        EXPECT_FALSE(field(things::Name).contains(FoldedText("["))) << text;
-    }
-}
-
-TEST_F(TableViewTest, StagedChangesGoToTheFileTogetherAndARowStillPendingStaysPending)
-{
-    stageView.Open();
-    addWord(stageView, "old");
-    addWord(stageView, "older");
-    EXPECT_EQ(stagedInFile(), QStringList());
-    home.commitPending();
-    EXPECT_EQ(stagedInFile(), QStringList({"old", "older"}));
-    for (stageView.MoveFirst(); !stageView.atEOF(); stageView.MoveNext())
-        stageView.Delete();
-    addWord(stageView, "new");
-    stageView.AddNew();
-    stageView.Fields(words::Word) = "pending";
-    home.commitPending();
-    EXPECT_EQ(stagedInFile(), QStringList({"new"}));
-    stageView.Update();
-    home.close();
-    EXPECT_EQ(stagedInFile(), QStringList({"new", "pending"})) << "closing writes what is staged";
+    std::optional<Views> views;
+    expectKept(KESTRILL_TESTS "/platform/storage/views.txt", [&views](const QString& step) {
+        return step.startsWith("# ") ? (views.emplace(), QString()) : views->follow(step);
+    });
 }

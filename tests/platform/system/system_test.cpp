@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system/folders.h"
 #include "platform/system/processes.h"
 #include "platform/system/signals.h"
 #include "platform/values/failure.h"
@@ -46,18 +47,32 @@ TEST(Processes, AreListedUnderTheirWholeNamesAlsoWhenTheFileIsGone)
     child.waitForFinished();
 }
 
-// Its memory is gone, and the link to its file with it, while the short name still stands in the list.
-TEST(Processes, ThatAreEndingAreLeftOut)
+// Of a process that is ending the link to its file is gone; of another user's it is kept from us.
+TEST(Processes, AreToldByWhatTheSystemLetsUsSeeUnlessTheyAreEnding)
 {
     QTemporaryDir place;
     const QString own = place.filePath(QString::number(getpid()));
-    for (const QString& folder : {own, place.filePath("1")})
-        putFile(folder + "/stat", "1 (Name (of it)) R" + QByteArray(" 7").repeated(30));
+    const auto put = [](const QString& folder, const QByteArray& status, const QByteArray& command) {
+        putFile(folder + "/stat", "1 " + status + " 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19");
+        putFile(folder + "/cmdline", command);
+    };
+    put(own, "(Name (of it)) R", "");
     QFile::link("/bin/name (deleted)", own + "/exe");
-    const auto processes = sys::runningProcesses(place.path());
-    ASSERT_EQ(processes.size(), 1U);
-    EXPECT_EQ(processes[0].executable, "/bin/name");
-    EXPECT_EQ(processes[0].started, 7U);
+    put(place.filePath("1"), "(no link) R", "");
+    const std::tuple<int, const char*, const char*> others[] = {{2, "(short) S", "/bin/short of it"},
+        {3, "(just 15 letters) S", "/bin/just 15 letters and more"}, {4, "(just 15 letters) S", "another"},
+        {5, "(ended) Z", "ended"}, {6, "(dead) X", "dead"}};
+    for (const auto& [pid, status, command] : others) {
+        put(place.filePath(QString::number(pid)), status, QByteArray(command) + QByteArray("\0-x", 3));
+        putFile(place.filePath(QString("%1/exe").arg(pid)), "no link");
+    }
+    for (const char* odd : {"", "R 1 2 3", "(a) R 1 2 3", ")("})
+        putFile(place.filePath("1%1/stat").arg(qstrlen(odd)), odd);
+    QStringList told;
+    for (const sys::Process& process : sys::runningProcesses(place.path()))
+        told += QString("%1 %2 %3").arg(process.name, process.executable).arg(process.started);
+    told.sort();
+    EXPECT_EQ(told.join('|'), "just 15 letters  19|just 15 letters and more  19|name /bin/name 19|short  19");
     QDir(own).removeRecursively();
     EXPECT_THROW(sys::runningProcesses(place.path()), values::RuntimeFailure) << "a list without this process";
 }
@@ -93,4 +108,16 @@ TEST(Termination, RunsTheCallbackOnceFromTheEventLoopAndSparesIgnoredSignals)
     EXPECT_EQ(calls, 1);
     sys::onTermination({});
     EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);
+}
+
+TEST(Folders, OfTheUsersDataDontDependOnWhereTheProgramIsStarted)
+{
+    const QByteArray usual = qgetenv("XDG_DATA_HOME");
+    for (const auto& [folder, expected] :
+        {std::pair("/data", QString("/data")), {"data", QDir::homePath() + "/.local/share"}}) {
+        qputenv("XDG_DATA_HOME", folder);
+        EXPECT_EQ(sys::dataFolder("K/L"), expected + "/K/L");
+    }
+    qputenv("XDG_DATA_HOME", usual);
+    EXPECT_EQ(sys::backupFolder("B"), QDir::homePath() + "/B");
 }

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Steps on files and folders where the system refuses a part of them, as files.txt has them: the step, the calls that
+// are refused and why; what is done on the disk in which order, or how the step fails; and what is there then.
+#include "platform/system/files.h"
+#include "platform/system/folder_copy.h"
+#include "platform/values/failure.h"
+#include "support/disk.h"
+#include "support/files.h"
+#include "support/print.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+namespace {
+
+class Folders {
+public:
+    Folders()
+    {
+        putFile(at("old/a"), "one");
+        putFile(at("new/b"), "two");
+        putFile(at("new/below/b"), "three");
+        putFile(at("kept.part"), "left by a run that was killed");
+        // All that can lie in a folder, and what can lie in its way.
+        putFile(at("rich/data"), "new");
+        putFile(at("rich/data-journal"), "left out");
+        putFile(at("rich/below/further/.hidden"), "");
+        QDir().mkdir(at("rich/empty"));
+        putFile(at("full/data"), "old");
+        putFile(at("full/dead"), "a file where a link comes");
+        putFile(at("full/mine"), "mine");
+        putFile(at("full/.folder-copy-Xy12Zz"), "left behind by a copy that was killed");
+        QDir().mkdir(at("full/.folder-copy-of-mine"));
+        for (const auto& [link, aim] : {std::pair("rich/round", "below/.."), {"rich/link", "../old"},
+                 {"rich/dead", "../nowhere"}, {"full/below", "../old"}, {"linked", "new"}})
+            std::filesystem::create_symlink(aim, at(link).toStdString());
+    }
+
+    QString run(const QString& step, const QString& refused, const QString& reason) const
+    {
+        const std::map<QString, std::function<void()>> steps{
+            {"keep", [this] { sys::keepFile(at("old/a"), at("kept")); }},
+            {"copy", [this] { sys::copyFile(at("old/a"), at("new/a")); }},
+            {"exchange", [this] { sys::exchangeFolders(at("new"), at("old")); }},
+            {"into", [&] { sys::copyFolder(at("new"), QDir(place.path()).filePath(step.section(':', 1))); }},
+            {"replace", [this] { sys::copyFolder(at("rich/"), at("full/"), {}, isJournal); }}};
+        const std::map<QString, int> reasons{{"", 0}, {"EXDEV", EXDEV}, {"EPERM", EPERM}, {"ENOTSUP", ENOTSUP},
+            {"ENOSYS", ENOSYS}, {"EMLINK", EMLINK}, {"EIO", EIO}, {"ENOSPC", ENOSPC}, {"EINVAL", EINVAL}};
+        const auto before = treeOf(place.path());
+        const Disk disk;
+        Disk::refuse(refused, reasons.at(reason));
+        std::string line = told(steps.at(step.section(':', 0, 0))).toStdString();
+        const auto now = treeOf(place.path());
+        for (const auto& [name, contents] : now)
+            if (!before.contains(name) || before.at(name) != contents)
+                line += "; " + (contents == "(folder)" ? name + '/' : name + " = " + contents);
+        for (const auto& [name, contents] : before)
+            if (!now.contains(name))
+                line += "; no " + name;
+        return QString::fromStdString(line);
+    }
+
+private:
+    static bool isJournal(const QString& file) { return file.endsWith("/data-journal"); }
+
+    QString at(const QString& name) const { return place.filePath(name); }
+
+    QString told(const std::function<void()>& step) const
+    {
+        const auto open = openFiles();
+        QString told;
+        try {
+            step();
+            told = Disk::told.join(", ");
+        } catch (const values::RuntimeFailure& failure) {
+            told = QString(failure.text()).remove(place.path()).remove("below/"); // whichever comes first
+        }
+        EXPECT_EQ(openFiles(), open);
+        return told.replace(QRegularExpression("folder-copy-\\w+( [^,]+)?"), "new")
+            .replace(QDir(place.path()).dirName(), "top");
+    }
+
+    QTemporaryDir place;
+};
+
+} // namespace
+
+TEST(Files, AndFoldersGoThroughTheStepsThatTheListHas)
+{
+    expectKept(KESTRILL_TESTS "/platform/system/files.txt", [](const QString& step) {
+        const QStringList words = step.split(' ');
+        return Folders().run(words[0], words.value(1, "never"), words.value(2));
+    });
+}

@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands and the windows, as commands.txt and windows.txt have them. In the first stands behind "#" what happens
+// to the household, behind "$" a command, behind "?" the answer of somebody who sits at a terminal. "!" stands before a
+// line on the error output, "->" before a status.
+#include "tools_test.h"
+
+#include "platform/forms/folder_choice.h"
+#include "platform/storage/file_lock.h"
+#include "support/disk.h"
+#include "support/pdf_text.h"
+#include "tools/commands.h"
+#include "tools/frmExport.h"
+#include "tools/frmRestore.h"
+#include "tools/terminal.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+#include <pty.h>
+#include <termios.h>
+
+using forms::screen;
+
+namespace {
+
+// A test whose list tells what happens to the household and its files. The windows' tickers, of a millisecond, elapse
+// where the list has it and never else.
+class ListedTest : public ToolsTest, private QObject {
+protected:
+    ListedTest() { qApp->installEventFilter(this); }
+    ~ListedTest() override { forms::setFolderDoor({}); }
+
+    std::optional<QString> happen(const QString& line) override
+    {
+        const QStringList words = QString(line).replace("~/", below({})).split(' ');
+        const QString path = words.value(1), rest = words.mid(2).join(' ');
+        QString seen;
+        const std::map<QString, std::function<void()>> events{{"asset", [&] { addAsset(path, rest); }},
+            {"sql", [&] { runOnFile(path, rest); }}, {"copy", [&] { putFile(rest, bytesOf(path)); }},
+            {"write", [&] { putFile(path, rest.toUtf8()); }},
+            {"keep", [&] { sys::makePrivateFolder(QFileInfo(rest).path()), sys::keepFile(path, rest); }},
+            {"folder", [&] { sys::makePrivateFolder(path); }}, {"remove", [&] { QDir(path).removeRecursively(); }},
+            {"damage", [&] { damage(path, rest == "last" ? static_cast<int>(QFileInfo(path).size() / 1024) - 1 : 1); }},
+            {"break", [] { breakOff(); }}, {"lock", [&] { running_.emplace(path); }},
+            {"unlock", [&] { running_.reset(), another_.reset(), runAlone(); }},
+            {"another", [&] { another_.emplace(path); }},
+            {"start", [] { restoring::list_Processes = [] {
+                               return std::vector{sys::thisProcess(), program};
+                           }; }},
+            {"refuse", [&] { Disk::refuse(rest, path.toInt()); }}, {"full", [&] { full_.emplace(path.toInt()); }},
+            {"empty", [&] { full_.reset(), Disk::refuse("never", 0); }},
+            {"files",
+                [&] {
+                    seen = "| "
+                        + QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).join("\n| ");
+                }},
+            {"disk", [&] { seen = "| " + Disk::told.join("\n| "); }},
+            {"compare", [&] { seen = bytesOf(path) == bytesOf(rest) ? "| same" : "| different"; }},
+            {"pdf", [&] { seen = inPdf(path + ' ' + words.value(2), words.mid(3).join(' ')); }},
+            {"show", [&] { seen = "| " + QString::fromUtf8(bytesOf(path)).split('\n').filter(rest).join("\n| "); }},
+            // And to the windows.
+            {"open", [&] { open(path); }}, {"read", [&] { read(path.toInt()); }},
+            {"begin", [] { screen<frmExport>().tmStart.elapse(); }},
+            {"choose", [&] { forms::setFolderDoor([path] { return path; }); }}, {"listed", [&] { seen = listed(); }},
+            {"status", [&] { seen = "| " + QString::number(endStatus().value_or(-1)); }}};
+        const auto event = events.find(words[0]);
+        if (event == events.end())
+            return {};
+        event->second();
+        return seen;
+    }
+
+    QString lasting(const QString& told) const override
+    {
+        const std::pair<const char*, const char*> changes[] = {
+            {"(?!2020)\\d{4}-\\d\\d-\\d\\d_\\d\\d-\\d\\d-\\d\\d(_put-aside)?(_\\d)?", "DATE\\1"},
+            {"\\d+-\\d\\d-\\d\\dT[\\d:]+Z", "NOW"}, {"(Kestrill )\\d+-\\d\\d-\\d\\d", "\\1DATE"},
+            {"(Kestrill |\"version\": \")\\d[\\d.]*", "\\1VERSION"}, {"Usage: \\S+", "Usage: COMMAND"},
+            {"(kestrill-export-)\\w+", "\\1NEW"}, {"(?:\r *\\d+ %)*\r( *\\d+ %)", "\\1"}, {"\t", " | "},
+            {"Unknown error|File too large", "no room"}, {"\\d+/\\d+/(?!2020)\\d+ \\d+:\\d+ [AP]M", "DAY"},
+            {"[\\x00-\\x09\\x0b-\\x1f\\x7f]", "^"}};
+        QString lasting = told;
+        for (const auto& [what, with] : changes)
+            lasting.replace(QRegularExpression(what), with);
+        return lasting.replace(below({}), "~/").replace(QDir(below({})).dirName(), "~");
+    }
+
+private:
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        const auto* timer = qobject_cast<QTimer*>(object);
+        return event->type() == QEvent::Timer && timer && timer->interval() == 1;
+    }
+
+    inline static const sys::Process program{1, "Kestrill", {}, 7, 1};
+
+    static void open(const QString& name)
+    {
+        forms::destroyScreens();
+        name == "frmRestore" ? screen<frmRestore>().show() : screen<frmExport>().show();
+    }
+
+    // So many backups, or all.
+    static void read(int count)
+    {
+        forms::Ticker& reading = screen<frmRestore>().tmRead;
+        for (int read = 0; reading.isEnabled() && (count == 0 || read < count); ++read)
+            reading.elapse();
+    }
+
+    static QString inPdf(const QString& path, const QString& text)
+    {
+        const auto pages = pdf::read(path);
+        const auto has = [&text](const pdf::Page& page) { return page.text().contains(text); };
+        return std::ranges::any_of(pages, has) ? "| it is there" : "| it is missing";
+    }
+
+    static QString listed()
+    {
+        QString seen;
+        const auto& list = screen<frmRestore>().lstBackups;
+        for (int i = 0; i < list.recordCount(); ++i)
+            seen += (i == list.picked() ? "\n> " : "\n| ") + list.record(i).join('\t');
+        return seen.trimmed();
+    }
+
+    Disk disk_;
+    std::optional<FullDisk> full_;
+    std::optional<storage::FileLock> running_;
+    std::optional<sys::RunLock> another_;
+};
+
+class CommandsTest : public ListedTest, public testing::WithParamInterface<QString> {
+protected:
+    CommandsTest()
+    {
+        for (const char* variable : {"HOME", "XDG_DATA_HOME", "QT_QPA_PLATFORM" /* no window comes up on that */})
+            environment_.insert(variable, below({}));
+    }
+
+    static int command(const QStringList& words)
+    {
+        static const std::map<QString, int (*)(const QStringList&)> commands{
+            {"check", commands::check}, {"export", commands::exportAll}, {"restore", commands::restore}};
+        return commands.at(words[0])(words);
+    }
+
+    static QString heard(int status, const std::string& output, const std::string& errors)
+    {
+        QString complaints = QString::fromStdString(errors);
+        complaints.replace(QRegularExpression("^(?=.)", QRegularExpression::MultilineOption), "! ");
+        return QString::fromStdString(output) + complaints + "-> " + QString::number(status);
+    }
+
+    static QString run(const QStringList& words)
+    {
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        const int status = command(words);
+        std::fflush(nullptr);
+        const std::string output = testing::internal::GetCapturedStdout();
+        return heard(status, output, testing::internal::GetCapturedStderr());
+    }
+
+    static QString runAttended(const QStringList& words, const QByteArray& typed)
+    {
+        termios settings{};
+        ::cfmakeraw(&settings); // without an echo
+        int terminal = -1;
+        const pid_t child = ::forkpty(&terminal, nullptr, &settings, nullptr);
+        if (child == 0) {
+            const int status = command(words);
+            std::fflush(nullptr);
+            _exit(status);
+        }
+        EXPECT_EQ(::write(terminal, typed.constData(), static_cast<std::size_t>(typed.size())), typed.size());
+        std::string said;
+        for (char byte = 0; ::read(terminal, &byte, 1) == 1;)
+            said += byte;
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ::close(terminal);
+        return heard(WEXITSTATUS(status), said, {});
+    }
+
+    /// The program itself. A word in capitals names a display that it finds.
+    QString runProgram(QStringList words) const
+    {
+        QProcess process;
+        QProcessEnvironment environment = environment_;
+        for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY"})
+            environment.insert(display, words.removeAll(display) > 0 ? "none" : "");
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(below({}));
+        process.start(QCoreApplication::applicationDirPath() + '/' + words.takeFirst(), words);
+        EXPECT_TRUE(process.waitForFinished());
+        if (process.exitStatus() == QProcess::CrashExit)
+            return "a window";
+        return heard(process.exitCode(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString());
+    }
+
+    // The files and folders that a command has brought, with their rights, has changed and has taken away.
+    static QString changes(const std::map<std::string, std::string>& before)
+    {
+        QStringList told;
+        const auto now = everything();
+        for (const auto& [name, contents] : now) {
+            const auto rights = std::filesystem::symlink_status(below({}).toStdString() + name).permissions();
+            if (!before.contains(name))
+                told += QString("+ %1 %2").arg(static_cast<int>(rights), 0, 8).arg(name.c_str());
+            else if (before.at(name) != contents && !name.starts_with("out/")) // an export tells its time
+                told += QString("~ ") + name.c_str();
+        }
+        for (const auto& [name, contents] : before)
+            if (!now.contains(name))
+                told += QString("- ") + name.c_str();
+        return told.join('\n');
+    }
+
+    QString obey(const QStringList& words, const QString& next)
+    {
+        if (words[0].startsWith("kestrill"))
+            return runProgram(words);
+        const auto before = everything();
+        const QString typed = next.mid(2) + '\n';
+        const QString heard = next.startsWith('?') ? next + '\n' + runAttended(words, typed.toUtf8()) : run(words);
+        return heard + '\n' + changes(before);
+    }
+
+    // A line of the list and what follows from it.
+    QString told(const QString& line, const QString& next)
+    {
+        if (line[0] == '#')
+            return (line + '\n' + lasting(happen(line.mid(2)).value())).trimmed();
+        Disk::told.clear();
+        const QString meant = QString(line).replace("DATE_put-aside", aside_).replace("~/", below({}));
+        const QString told = obey(meant.split(' ').mid(1), next);
+        const auto aside = QRegularExpression("\\S+_put-aside\\S*").match(told);
+        aside_ = aside.hasMatch() ? aside.captured() : aside_;
+        return (line + '\n' + lasting(told)).trimmed();
+    }
+
+    QProcessEnvironment environment_ = QProcessEnvironment::systemEnvironment();
+    QString aside_;
+};
+
+// Each under a heading of its own.
+QStringList parts()
+{
+    QStringList headings = QString::fromUtf8(bytesOf(KESTRILL_TESTS "/tools/commands.txt")).split('\n');
+    return headings.filter(QRegularExpression("^== ")).replaceInStrings("== ", "");
+}
+
+} // namespace
+
+TEST_P(CommandsTest, GoAsTheListHasIt)
+{
+    const QString part = QString("\n== ") + GetParam() + '\n';
+    const QString path = KESTRILL_TESTS "/tools/commands.txt";
+    const QString list = '\n' + QString::fromUtf8(bytesOf(path));
+    const QString kept = list.section(part, 1).section("\n== ", 0, 0).trimmed();
+    const QStringList lines = kept.split('\n');
+    QStringList all;
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        if (lines[i].startsWith("# ") || lines[i].startsWith("$ "))
+            all += told(lines[i], lines.value(i + 1));
+    if (qEnvironmentVariableIsSet("KESTRILL_KEEP"))
+        putFile(path, QString(list).replace(part + kept, part + all.join('\n')).mid(1).toUtf8());
+    else
+        EXPECT_EQ(all.join('\n').toStdString(), kept.toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, CommandsTest, testing::ValuesIn(parts()));
+
+TEST_F(ListedTest, AndWindowsGoAsTheListHasIt)
+{
+    replay("tools/windows.txt");
+}
+
+TEST(Commands, EndAtTheNextStepWhenTheyAreAsked)
+{
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        EXPECT_EQ(inProcess([signal] {
+            std::optional<terminal::Count> count(std::in_place);
+            EXPECT_TRUE(count->tell(0, 0) && count->tell(1, 3));
+            std::raise(signal);
+            EXPECT_FALSE(count->tell(2, 3));
+            count.reset();
+            EXPECT_EQ(std::signal(signal, SIG_IGN), SIG_DFL);
+            _exit(HasFailure() ? 1 : 0);
+        }),
+            0);
+}
