@@ -63,8 +63,9 @@ protected:
             {"show", [&] { seen = "| " + QString::fromUtf8(bytesOf(path)).split('\n').filter(rest).join("\n| "); }},
             // And to the windows.
             {"open", [&] { open(path); }}, {"read", [&] { read(path.toInt()); }},
-            {"begin", [] { screen<frmExport>().tmStart.elapse(); }},
-            {"choose", [&] { forms::setFolderDoor([path] { return path; }); }}, {"listed", [&] { seen = listed(); }},
+            {"begin", [&] { screen<frmExport>().tmStart.elapse(), seen = QString("| asked %1").arg(asked_); }},
+            {"choose", [&] { forms::setFolderDoor([this, path] { return ++asked_, path; }); }},
+            {"listed", [&] { seen = listed(); }},
             {"status", [&] { seen = "| " + QString::number(endStatus().value_or(-1)); }}};
         const auto event = events.find(words[0]);
         if (event == events.end())
@@ -94,6 +95,8 @@ private:
         const auto* timer = qobject_cast<QTimer*>(object);
         return event->type() == QEvent::Timer && timer && timer->interval() == 1;
     }
+
+    int asked_ = 0; // for a folder
 
     inline static const sys::Process program{1, "Kestrill", {}, 7, 1};
 
