@@ -53,6 +53,7 @@ void HitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given, co
     const bool isOnAccent = isActive && (option.state & QStyle::State_Selected);
     const forms::look::Colours& colours = forms::look::colours();
     QRect room = option.rect.adjusted(gap(), gap(), -gap(), -gap());
+    painter->save();
     painter->setFont(boldOf(option.font));
     painter->setPen(isOnAccent ? colours.field : colours.accent);
     painter->drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, title);
@@ -60,6 +61,7 @@ void HitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& given, co
     painter->setFont(option.font);
     painter->setPen(isOnAccent ? colours.field : colours.text);
     painter->drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, excerpt);
+    painter->restore();
 }
 
 QSize HitDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
