@@ -77,15 +77,12 @@ TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
 
 TEST_F(StartUp, LeadsToTheIntroductionOrSaysWhenThePolicyExpires)
 {
-    QFile kept(QFileInfo(__FILE__).dir().filePath("starts.txt"));
-    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
-    for (const QString& each : QString::fromUtf8(kept.readAll()).split('\n', Qt::SkipEmptyParts)) {
-        const QString row = each.section(" > ", 0, 0);
+    expectSteps("core/starts.txt", [this](const QString& row) {
         const QStringList values = row.split('|');
         store({{General::Introduced, values[0]}, {General::PolicyNotify, values[1]},
             {General::PolicyExpiration, values[2]}});
-        EXPECT_EQ(row + " > " + start(), each);
-    }
+        return start();
+    });
 }
 
 // By a 3 the launcher knows when to offer a restore.

@@ -84,19 +84,45 @@ private:
     rlimit former_{};
 };
 
-/// Compares each line of a kept list with what follows from its beginning: "step = what follows". A heading, "# ", is
-/// followed too. With KESTRILL_KEEP=1 the list is kept as it is now.
-inline void expectKept(const QString& path, const std::function<QString(const QString& step)>& follow)
+// ---- kept lists, which lie beside the tests
+
+inline QString kept(const QString& file)
 {
-    const bool isToKeep = qEnvironmentVariableIsSet("KESTRILL_KEEP");
+    return QStringLiteral(KESTRILL_TESTS "/") + file;
+}
+
+/// Whether lists are to be kept as they are now, instead of being compared.
+inline bool keepsLists()
+{
+    return qEnvironmentVariableIsSet("KESTRILL_KEEP");
+}
+
+/// A whole file as it is now.
+inline void expectKept(const QString& file, const QString& now)
+{
+    if (keepsLists())
+        putFile(kept(file), now.toUtf8());
+    else
+        EXPECT_EQ(now.toStdString(), bytesOf(kept(file)).toStdString()) << "KESTRILL_KEEP=1 keeps it as it is now";
+}
+
+/// Compares each line of a list with what follows from its beginning: "step => what follows", or the step alone where
+/// nothing does. What begins at a heading, "# ", begins anew.
+inline void expectSteps(
+    const QString& file, const std::function<QString(const QString& step)>& follow,
+    const std::function<void()>& begin = [] {})
+{
     QString now;
-    for (const QString& line : QString::fromUtf8(bytesOf(path)).split('\n', Qt::SkipEmptyParts)) {
-        const QString step = line.section(" = ", 0, 0);
-        const QString told = follow(step);
-        const QString followed = line.startsWith("# ") ? line : step + " = " + told;
-        EXPECT_TRUE(isToKeep || followed == line) << followed.toStdString() << "\n  kept: " << line.toStdString();
+    for (const QString& line : QString::fromUtf8(bytesOf(kept(file))).split('\n')) {
+        const bool isStep = !line.isEmpty() && !line.startsWith('#');
+        if (line.startsWith("# "))
+            begin();
+        const QString step = line.section(" => ", 0, 0);
+        const QString told = isStep ? follow(step) : QString();
+        const QString followed = isStep ? step + (told.isEmpty() ? told : " => " + told) : line;
+        EXPECT_TRUE(keepsLists() || followed == line) << followed.toStdString() << "\n  kept: " << line.toStdString();
         now += followed + '\n';
     }
-    if (isToKeep)
-        putFile(path, now.toUtf8());
+    if (keepsLists())
+        putFile(kept(file), now.chopped(1).toUtf8());
 }

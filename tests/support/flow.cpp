@@ -160,8 +160,6 @@ QStringList ScreenTest::played(const QString& line)
 
 void ScreenTest::replay(const char* file, const std::function<QStringList()>& tells)
 {
-    const QString path = QStringLiteral(KESTRILL_TESTS "/") + file;
-    const QString kept = QString::fromUtf8(bytesOf(path));
     QStringList lines;
     QStringList reactions;
     const bool isOfTheTables = Data1.Home.isOpen();
@@ -190,7 +188,7 @@ void ScreenTest::replay(const char* file, const std::function<QStringList()>& te
         const bool isYes = !reactions.isEmpty() && reactions.takeFirst() == "Yes";
         return isYes ? forms::Answer::Yes : box.flags & forms::box::YesNo ? forms::Answer::No : forms::Answer::OK;
     });
-    for (const QString& line : kept.split('\n').filter(QRegularExpression("^[>#]"))) {
+    for (const QString& line : QString::fromUtf8(bytesOf(kept(file))).split('\n').filter(QRegularExpression("^[>#]"))) {
         lines += line;
         if (line.startsWith('#'))
             continue;
@@ -207,9 +205,5 @@ void ScreenTest::replay(const char* file, const std::function<QStringList()>& te
         reopenData();
     for (const QString& change : isOfTheTables ? changes(state, stateNow(forms::activeForm())) : QStringList())
         lines += "  in the file " + change; // nothing, unless the tables were closed on the way
-    const QString now = lasting(lines.join('\n') + '\n');
-    if (qEnvironmentVariableIsSet("KESTRILL_KEEP"))
-        putFile(path, now.toUtf8());
-    else
-        EXPECT_EQ(now, kept) << "KESTRILL_KEEP=1 keeps it as it is now";
+    expectKept(file, lasting(lines.join('\n') + '\n'));
 }

@@ -12,11 +12,6 @@ static QString told(double number)
     return QString::number(std::round(number * 10) / 10, 'g', 8) + ' ';
 }
 
-QString kept(const QString& file)
-{
-    return KESTRILL_TESTS "/" + file;
-}
-
 void Painted::expect(const QString& list, const QString& name) const
 {
     const QString part = QString(bytesOf(kept(list))).section("== " + name + '\n', 1).section("\n== ", 0, 0);

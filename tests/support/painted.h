@@ -7,9 +7,6 @@
 
 #include <vector>
 
-/// Where a file lies among the tests.
-QString kept(const QString& file);
-
 /// A device, and its own engine, that keeps what is painted on it, in the units in which that is painted.
 class Painted : public QPaintDevice, private QPaintEngine {
 public:

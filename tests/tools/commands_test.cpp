@@ -254,7 +254,7 @@ protected:
 // Each under a heading of its own.
 QStringList parts()
 {
-    QStringList headings = QString::fromUtf8(bytesOf(KESTRILL_TESTS "/tools/commands.txt")).split('\n');
+    QStringList headings = QString::fromUtf8(bytesOf(kept("tools/commands.txt"))).split('\n');
     return headings.filter(QRegularExpression("^== ")).replaceInStrings("== ", "");
 }
 
@@ -263,18 +263,18 @@ QStringList parts()
 TEST_P(CommandsTest, GoAsTheListHasIt)
 {
     const QString part = QString("\n== ") + GetParam() + '\n';
-    const QString path = KESTRILL_TESTS "/tools/commands.txt";
+    const QString path = kept("tools/commands.txt");
     const QString list = '\n' + QString::fromUtf8(bytesOf(path));
-    const QString kept = list.section(part, 1).section("\n== ", 0, 0).trimmed();
-    const QStringList lines = kept.split('\n');
+    const QString was = list.section(part, 1).section("\n== ", 0, 0).trimmed();
+    const QStringList lines = was.split('\n');
     QStringList all;
     for (qsizetype i = 0; i < lines.size(); ++i)
         if (lines[i].startsWith("# ") || lines[i].startsWith("$ "))
             all += told(lines[i], lines.value(i + 1));
-    if (qEnvironmentVariableIsSet("KESTRILL_KEEP"))
-        putFile(path, QString(list).replace(part + kept, part + all.join('\n')).mid(1).toUtf8());
+    if (keepsLists())
+        putFile(path, QString(list).replace(part + was, part + all.join('\n')).mid(1).toUtf8());
     else
-        EXPECT_EQ(all.join('\n').toStdString(), kept.toStdString());
+        EXPECT_EQ(all.join('\n').toStdString(), was.toStdString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, CommandsTest, testing::ValuesIn(parts()));

@@ -329,7 +329,7 @@ TEST_F(Looks, ThePartsOfTheStyleAndAMonthArePaintedAsKept)
         form.month.setFocus();
     }
     values::setToday({});
-    EXPECT_EQ(all, QString::fromUtf8(bytesOf(KESTRILL_TESTS "/platform/forms/painting.txt")));
+    expectKept("platform/forms/painting.txt", all);
 }
 
 // What isn't of the colour of a field.

@@ -475,7 +475,7 @@ private:
 std::vector<Scene> scenes()
 {
     std::vector<Scene> all;
-    const QString folder = KESTRILL_TESTS "/platform/forms/";
+    const QString folder = kept("platform/forms/");
     const QByteArray lists = bytesOf(folder + "screens.txt") + bytesOf(folder + "controls.txt");
     for (const QString& line : QString::fromUtf8(lists).split('\n', Qt::SkipEmptyParts))
         if (line.startsWith("== "))

@@ -38,7 +38,7 @@ protected:
         qputenv("CUPS_SERVER", "/nowhere");
     }
 
-    void makeViewer() { viewer_.emplace(help::Book(beside("book")), "Help"); }
+    void makeViewer() { viewer_.emplace(help::Book(kept("platform/help/book")), "Help"); }
 
     template <class Widget = QWidget>
     Widget& part(const char* name)
@@ -158,24 +158,16 @@ protected:
         settle();
     }
 
-    static QString beside(const char* name) { return QFileInfo(__FILE__).dir().filePath(name); }
-
-    static QStringList kept(const char* name)
-    {
-        return QString::fromUtf8(bytesOf(beside(name))).split('\n', Qt::SkipEmptyParts);
-    }
-
     TrialForm modal{journal, "Modal"};
     std::optional<help::Viewer> viewer_;
 };
 
 TEST_F(HelpViewer, LeadsByTopicsLinksContentsFindingAndSearch)
 {
-    for (const QString& each : kept("reading.txt")) {
-        const QString step = each.section(" > ", 0, 0);
+    expectSteps("platform/help/reading.txt", [this](const QString& step) {
         take(step);
-        EXPECT_EQ(step + " > " + state(), each);
-    }
+        return state();
+    });
     QDialog own(&*viewer_); // of its own, which is to be answered first
     own.open();
     const QString before = viewer_->windowTitle();
@@ -197,7 +189,7 @@ TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheD
     makeViewer();
     for (const char* step : {"open 9", "Ctrl+P", "seek lamps", "Ctrl+F", "type q"})
         take(step);
-    EXPECT_EQ(parts(), kept("parts.txt"));
+    expectKept("platform/help/parts.txt", parts().join('\n') + '\n');
     EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(0)->child(0)->toolTip(0), "Lists, long and short");
     EXPECT_EQ(viewer_->y(), (desktop.height() - forms::look::grid(88)) / 2);
     const QRect back = placeOf("back"), halves = placeOf("halves"), page = placeOf("page"), find = placeOf("findState");

@@ -87,7 +87,7 @@ private:
 
 TEST(Files, AndFoldersGoThroughTheStepsThatTheListHas)
 {
-    expectKept(KESTRILL_TESTS "/platform/system/files.txt", [](const QString& step) {
+    expectSteps("platform/system/files.txt", [](const QString& step) {
         const QStringList words = step.split(' ');
         return Folders().run(words[0], words.value(1, "never"), words.value(2));
     });

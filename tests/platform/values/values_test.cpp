@@ -48,7 +48,7 @@ QString answer(const QString& kind, const QString& text)
 
 TEST(Values, AreReadAndShownAsTheListHasIt)
 {
-    expectKept(KESTRILL_TESTS "/platform/values/values.txt",
+    expectSteps("platform/values/values.txt",
         [](const QString& step) { return answer(step.section(' ', 0, 0), step.section(' ', 1)); });
     EXPECT_THAT([] { Date::fromDayMonthYear(1, 257, 2006); }, mismatches);
 }
