@@ -321,6 +321,7 @@ void pick(forms::ComboBox& box, const QString& item)
     // The pointer travels to the item: a release where the press was is taken for the end of the opening click.
     QTest::mouseMove(popup->windowHandle(), {1, 1});
     QTest::mouseMove(popup->windowHandle(), middle);
+    lastPlace = popup->mapToGlobal(middle);
     QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, {}, middle);
 }
 

@@ -27,6 +27,10 @@ bool isEnding();
 /// True while a handler runs.
 bool handlerRuns();
 
+/// True while the event loop that runs waits for a handler that it has called; false in a loop that a handler has
+/// begun.
+bool loopWaitsForHandler();
+
 /// Stands around everything that the toolkit calls.
 class HandlerFrame {
 public:
@@ -41,6 +45,7 @@ public:
 
 private:
     int toolkitCalls_;
+    int loop_;
 };
 
 /// Reports the exception being handled and ends the process.

@@ -57,7 +57,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         bool reaches = false;
-        fromToolkit([this, event, &reaches] { reaches = InputGate::instance().reaches(button_, *event); });
+        fromToolkit([this, &reaches] { reaches = InputGate::instance().reaches(button_); });
         if (!reaches) {
             event->accept();
             return;

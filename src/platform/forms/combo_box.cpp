@@ -143,8 +143,8 @@ protected:
     // Before the list opens, so that none stands open behind what a handler shows.
     void mousePressEvent(QMouseEvent* event) override
     {
-        fromToolkit([this, event] {
-            pressed_ = InputGate::instance().reaches(box_, *event);
+        fromToolkit([this] {
+            pressed_ = InputGate::instance().reaches(box_);
             if (pressed_)
                 box_.MouseDown.fire();
         });

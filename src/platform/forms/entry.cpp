@@ -312,7 +312,7 @@ void Entry::pressed(QMouseEvent& event, const ToolkitStep& step)
         }
         pressedAt_ = event.position();
         isSecondPress_ = false;
-        pressed_ = gate.reaches(box_, event);
+        pressed_ = gate.reaches(box_);
         if (pressed_)
             box_.MouseDown.fire();
     });

@@ -23,6 +23,13 @@ QWindow* homeOf(QWindow* window)
     return window;
 }
 
+// The answer to a ShortcutOverride that makes the key no access key; it then goes nowhere else.
+bool isNoAccessKey(QEvent& event)
+{
+    event.accept();
+    return true;
+}
+
 } // namespace
 
 InputGate& InputGate::instance()
@@ -38,26 +45,82 @@ void InputGate::guard(QApplication& application)
 
 bool InputGate::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched->isWindowType())
+        return filterWindow(*static_cast<QWindow*>(watched), *event);
     switch (event->type()) {
-    case QEvent::ShortcutOverride:
-    case QEvent::KeyPress:
-        return watched->isWindowType() && takesAway(*watched, *static_cast<QKeyEvent*>(event));
-    case QEvent::KeyRelease:
-        if (watched->isWindowType())
-            noteRelease(*static_cast<QKeyEvent*>(event));
+    case QEvent::Show:
+    case QEvent::Hide:
+        if (watched->isWidgetType())
+            followWindow(*static_cast<QWidget*>(watched), event->type());
         return false;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        if (!watched->isWindowType())
-            return false;
-        deliver(*static_cast<QWindow*>(watched), *static_cast<QMouseEvent*>(event));
-        return true;
+    case QEvent::ShortcutOverride: // which the toolkit sends once more for a key that isn't the window system's own
+        return static_cast<QKeyEvent*>(event)->isAutoRepeat() && isNoAccessKey(*event);
     case QEvent::ContextMenu:
         letFocusIn(); // the menu has an event loop of its own, inside the press
         return false;
     default:
         return false;
     }
+}
+
+bool InputGate::filterWindow(QWindow& window, QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel:
+    case QEvent::Close:
+        if (!held_.keeps(window, event))
+            break;
+        event.ignore();
+        return true;
+    default:
+        break;
+    }
+    switch (event.type()) {
+    case QEvent::ShortcutOverride:
+        if (held_.isWaiting())
+            return isNoAccessKey(event); // not yet
+        [[fallthrough]];
+    case QEvent::KeyPress:
+        return takesAway(window, static_cast<QKeyEvent&>(event));
+    case QEvent::KeyRelease:
+        noteRelease(static_cast<QKeyEvent&>(event));
+        return false;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        deliver(window, static_cast<QMouseEvent&>(event));
+        return true;
+    default:
+        return false;
+    }
+}
+
+// ---- questions
+
+void InputGate::followWindow(QWidget& window, QEvent::Type change)
+{
+    const bool isAsking = window.isWindow() && (window.isModal() || window.windowType() == Qt::Popup);
+    if (isAsking && change == QEvent::Show)
+        held_.opened(window);
+    else if (isAsking)
+        held_.closed(window);
+}
+
+// A press and a release stay what the window system has told, so that a press moves the focus; a key is sent anew, so
+// that the toolkit tries it as an access key.
+void InputGate::deliverLate(QWindow& window, QEvent& event)
+{
+    QObject& target = window;
+    if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick)
+        deliver(window, static_cast<QMouseEvent&>(event));
+    else if (event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::Wheel)
+        target.event(&event);
+    else
+        QCoreApplication::sendEvent(&window, &event);
 }
 
 // ---- keys
@@ -70,9 +133,10 @@ bool InputGate::takesAway(QObject& window, QKeyEvent& stroke)
         heldIn_ = &window;
         return closedList(stroke);
     }
-    const bool isForeign = stroke.key() != heldKey_ || &window != heldIn_;
-    if (stroke.type() == QEvent::ShortcutOverride || isForeign) {
-        stroke.accept(); // which makes it no access key
+    if (stroke.type() == QEvent::ShortcutOverride)
+        return isNoAccessKey(stroke);
+    if (stroke.key() != heldKey_ || &window != heldIn_) {
+        stroke.accept();
         return true;
     }
     if (stroke.isAutoRepeat())
@@ -110,23 +174,31 @@ void InputGate::noteRelease(const QKeyEvent& stroke)
 
 // ---- presses
 
+// The second press of a double click whose first has closed what it was on, or has brought something else. A press that
+// closes a list from outside is sent again to what lies below, with the time that it has.
 bool InputGate::isStray(QWindow& window, const QMouseEvent& press) const
 {
     const QStyleHints& hints = *QGuiApplication::styleHints();
     const auto distance = (press.globalPosition() - pressedAt_).manhattanLength();
-    return pressedIn_ != homeOf(&window) && distance <= hints.mouseDoubleClickDistance()
+    const bool isSecond = press.timestamp() != pressedWhen_ && distance <= hints.mouseDoubleClickDistance()
         && press.timestamp() - pressedWhen_ < static_cast<unsigned long>(hints.mouseDoubleClickInterval());
+    const bool isElsewhere = &window != pressedIn_ && (pressedInList_ || homeOf(&window) != pressedIn_);
+    return isSecond && isElsewhere;
 }
 
 void InputGate::deliver(QWindow& window, QMouseEvent& press)
 {
     if (isStray(window, press))
         return;
-    pressedIn_ = homeOf(&window);
-    pressedAt_ = press.globalPosition();
-    pressedWhen_ = press.timestamp();
+    if (press.timestamp() != pressedWhen_) {
+        pressedIn_ = &window;
+        pressedInList_ = window.type() == Qt::Popup;
+        pressedAt_ = press.globalPosition();
+        pressedWhen_ = press.timestamp();
+    }
     delivering_ = true;
     brought_ = nullptr;
+    interruptions_ = Stage::instance().interruptions();
     // The filter itself delivers the press, so that it is here when all that it was on has had it.
     static_cast<QObject&>(window).event(&press);
     letFocusIn();
@@ -146,10 +218,11 @@ bool InputGate::letFocusIn()
     return brought && Stage::instance().follow(brought);
 }
 
-bool InputGate::reaches(const Control& control, const QMouseEvent& press)
+bool InputGate::reaches(const Control& control)
 {
+    const int interruptions = interruptions_;
     const bool brought = letFocusIn();
-    return (QGuiApplication::mouseButtons() & press.button()) && (!brought || control.hasFocus());
+    return interruptions == Stage::instance().interruptions() && (!brought || control.hasFocus());
 }
 
 } // namespace forms

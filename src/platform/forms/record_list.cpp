@@ -52,7 +52,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         fromToolkit([this, event] {
-            if (InputGate::instance().reaches(control_, *event))
+            if (InputGate::instance().reaches(control_))
                 passOn([this, event] { QTreeWidget::mousePressEvent(event); });
         });
     }

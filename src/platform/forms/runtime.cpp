@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QThread>
 #include <QTimer>
 
 #include <cstdio>
@@ -24,6 +25,7 @@ namespace {
 struct Runtime {
     int toolkitCalls = 0;
     int frames = 0;
+    int loop = 0; // level of the event loop that has called the innermost handler
     bool ending = false;
     std::exception_ptr failed; // which left a handler last
     QString failedHandler;
@@ -113,8 +115,14 @@ bool handlerRuns()
     return runtime().frames > 0;
 }
 
+bool loopWaitsForHandler()
+{
+    return handlerRuns() && runtime().loop == QThread::currentThread()->loopLevel();
+}
+
 HandlerFrame::HandlerFrame()
     : toolkitCalls_(std::exchange(runtime().toolkitCalls, 0))
+    , loop_(std::exchange(runtime().loop, QThread::currentThread()->loopLevel()))
 {
     ++runtime().frames;
 }
@@ -123,6 +131,8 @@ HandlerFrame::~HandlerFrame()
 {
     --runtime().frames;
     runtime().toolkitCalls = toolkitCalls_;
+    runtime().loop = loop_;
+    InputGate::instance().handlerEnded();
 }
 
 void HandlerFrame::finish()

@@ -187,9 +187,10 @@ private:
     // As a window system tells it: with the code of the place on the keyboard and the time, the same for a repeat.
     void tell(QEvent::Type type, const QString& key, ulong when)
     {
-        const auto code = Qt::Key(QKeySequence(key)[0].key());
-        const QString text = code == Qt::Key_Delete ? "\x7f" : code == Qt::Key_F1 ? "" : key.toLower();
-        QKeyEvent event(type, code, {}, quint32(code), 0, 0, text);
+        const QKeyCombination stroke = QKeySequence(key)[0];
+        const auto code = stroke.key();
+        const QString text = code == Qt::Key_Delete ? "\x7f" : code == Qt::Key_F1 ? "" : key.right(1).toLower();
+        QKeyEvent event(type, code, stroke.keyboardModifiers(), quint32(code), 0, 0, text);
         event.setTimestamp(when);
         QCoreApplication::sendEvent(forms::activeForm()->window()->windowHandle(), &event);
     }
@@ -384,6 +385,7 @@ private:
         {"third", [](Words w) { press(Qt::Key(w[0][0].unicode()), Qt::AltModifier | Qt::GroupSwitchModifier); }},
         {"down", [this](Words w) { tell(QEvent::KeyPress, w[0], clock); }},
         {"up", [this](Words w) { tell(QEvent::KeyRelease, w[0], ++clock); }}, {"wait", [this](Words) { ++clock; }},
+        {"once", [this](Words w) { answerBy(text(w, 0))(); }}, // faster than the program answers
         {"behind", [](Words w) { eachStroke(w, pressBehind); }}, {"type", [](Words w) { type(text(w, 0)); }},
         // by mouse
         {"click", [this](Words w) { clickAt(of(w), place(w)); }}, {"again", [](Words) { clickAgain(); }},

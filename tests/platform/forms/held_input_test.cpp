@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "trial_form.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QWindow>
+
+namespace {
+
+class HeldInput : public FormInFront {
+protected:
+    HeldInput() { useRealBoxes(); }
+
+    void ask()
+    {
+        forms::MsgBox("Sure?", forms::box::YesNo, "Title");
+        journal += "asked";
+    }
+
+    static void clickDefaultButton()
+    {
+        auto* button = QApplication::activeModalWidget()->findChild<QPushButton*>();
+        const QPoint place = button->mapTo(button->window(), button->rect().center());
+        QTest::mouseClick(button->window()->windowHandle(), Qt::LeftButton, {}, place);
+    }
+
+    // What comes of a question that is answered and of a click and a key right behind the answer.
+    QString comesOf(const std::function<void()>& answer)
+    {
+        whileModal([&] {
+            answer();
+            click(form.other);
+            type("x");
+        });
+        press(Qt::Key_Return);
+        settle();
+        return taken();
+    }
+};
+
+TEST_F(HeldInput, WaitsWhicheverWayTheQuestionIsAnswered)
+{
+    form.answers["ok.Click"] = [this] { ask(); };
+    const std::function<void()> answers[] = {[] { press(Qt::Key_Return); }, [] { press(Qt::Key_Space); },
+        [] { press(Qt::Key_Escape); }, [] { QApplication::activeModalWidget()->close(); }, clickDefaultButton};
+    for (const auto& answer : answers) {
+        EXPECT_EQ(comesOf(answer), "asked line.LostFocus other.GotFocus other.Click");
+        form.line.setFocus();
+        taken();
+    }
+}
+
+TEST_F(HeldInput, IsDroppedWhenItsHandlerAsksOnceMore)
+{
+    form.answers["ok.Click"] = [this] { ask(), whileModal([] { press(Qt::Key_Return); }), ask(); };
+    EXPECT_EQ(comesOf([] { press(Qt::Key_Return); }), "asked asked");
+    click(form.other);
+    EXPECT_EQ(taken(), "line.LostFocus other.GotFocus other.Click");
+}
+
+} // namespace
