@@ -308,6 +308,7 @@ open_list_window() {
 }
 
 open_list() { [ -n "$(open_list_window)" ]; }
+no_list() { ! open_list; }
 
 # The personal information of a first start, from its first box on.
 type_household() {

@@ -13,6 +13,7 @@ hold() {
 press_arrow() {
     unfold frmAddUpDel "$1"
     keys Escape
+    until_true "the list to close" no_list
 }
 
 step "the second click of a double click presses nothing on the screen that the first has opened"

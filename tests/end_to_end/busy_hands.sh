@@ -1,0 +1,117 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Hands that are faster than the program: what they do while it is busy comes all at once when it goes on.
+
+# while_busy COMMAND...: the program is stopped meanwhile.
+while_busy() {
+    kill -STOP "$Program"
+    "$@"
+    kill -CONT "$Program"
+    wait_still
+}
+
+# locate SCREEN CONTROL...: keeps the places of controls, to be clicked when nobody can be asked for them.
+locate() {
+    local control
+    for control in "${@:2}"; do
+        find "$1" "$control"
+        Places[$control]="$((X + W / 2)) $((Y + H / 2))"
+    done
+}
+
+# shellcheck disable=SC2086 # two numbers
+press_on() { click_at ${Places[$1]}; }
+
+# answer_and_press KEY CONTROL: a click right behind the key that answers a box.
+answer_and_press() {
+    xdotool key --delay 0 "$1"
+    press_on "$2"
+}
+
+screens_shown() {
+    local window
+    for window in $(windows); do
+        role_of "$window"
+    done | sort | xargs
+}
+
+only() { same "$(screens_shown)" "$1" "there is \"$(screens_shown)\", not only \"$1\""; }
+
+hold_access_key() {
+    xdotool keydown alt keydown "$1"
+    for _ in 1 2 3 4 5; do
+        while_busy sleep 0.3
+    done
+    xdotool keyup "$1" keyup alt
+    wait_still
+}
+
+declare -A Places
+household busy "$(assets 3 "'Indoor', 'Attic', 'Art', 'Clock ' || i, '2001', 'A', 'B', 'C', '1/2/2020', '\$5.00', 'No', 'None',
+        'None', 'New'")
+    with recursive n(i) as (select 1 union all select i + 1 from n where i < 60)
+        insert into Bank_Info select null, 'Bank ' || i, 'None', 'None', 'None', 'None', i, 'None', 'None', '1/2/2020',
+            'Checking', 'None', 'None' from n;"
+start_at_menu
+
+step "a click behind the answer to a box reaches no screen that is about to go"
+go frmSearch alt+s
+text Clock
+go frmSearchResults Return
+click frmSearchResults 'Update, row 1'
+locate frmAddUpDel 'Warranty Information' 'Delete Asset' Make
+for control in 'Warranty Information' 'Delete Asset'; do
+    wait_screen frmAddUpDel
+    press_on Make
+    text x
+    keys alt+c
+    wait_screen MsgBox
+    while_busy answer_and_press Return "$control"
+    only frmSearchResults
+    click frmSearchResults 'Update, row 1'
+done
+
+step "it counts where the screen stays"
+wait_screen frmAddUpDel
+press_on Make
+text x
+keys alt+c
+wait_screen MsgBox
+while_busy answer_and_press Escape 'Delete Asset'
+wait_screen MsgBox
+shot asked-behind-the-answer
+keys n
+wait_screen frmAddUpDel
+expect "select count(*) from Inventory" 3
+
+step "an access key that is kept down counts once, however busy the program is"
+keys alt+m
+answer changes-left Return
+go frmGenInfo alt+r
+click frmGenInfo "Bank Account Information"
+wait_screen frmEditBankBoxes
+go frmBank alt+v Return
+hold_access_key n
+text Second
+keys alt+u
+answer second-account-updated Return
+expect "select ID from Bank_Info where [Financial Institution] = 'Second'" 2
+
+step "the second click on an item of a list presses nothing behind the list"
+wait_screen frmGenInfo
+keys alt+c
+answer household-left Return
+go frmAuto alt+i
+go frmAddUpDel alt+a
+pick frmAddUpDel Location location-list 2
+pick frmAddUpDel Category category-list 2
+locate frmAddUpDel 'Add Asset'
+unfold frmAddUpDel Item
+# shellcheck disable=SC2086 # two numbers
+xdotool mousemove ${Places['Add Asset']} click --repeat 2 --delay 60 1
+until_true "the list to close" no_list
+wait_still
+only frmAddUpDel
+keys alt+m
+answer asset-left Return
+wait_screen frmMain
+tell_to_end
