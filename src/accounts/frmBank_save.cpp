@@ -113,8 +113,10 @@ bool frmBank::has_All_Required()
 
 void frmBank::store_Fields()
 {
-    for (const auto& [box, column] : entries())
-        Data1.rsBank.Fields(column) = conventions::orNone(box.text());
+    for (const auto& [box, column] : entries()) {
+        const QString text = conventions::orNone(box.text());
+        Data1.rsBank.Fields(column) = column == Bank::AvailableBalance ? values::groupedByThrees(text) : text;
+    }
     Data1.rsBank.Update();
 }
 

@@ -41,6 +41,12 @@ struct frmWar::Entry {
         return kind == Amount ? values::currencyFormat(text) : text;
     }
 
+    QString stored() const
+    {
+        const QString text = textOr(kind == CoverageType ? QStringLiteral("Unknown") : None);
+        return kind == Amount ? values::groupedByThrees(text) : text;
+    }
+
     QString textOr(const QString& whenEmpty) const { return box.text().isEmpty() ? whenEmpty : box.text(); }
 };
 
@@ -135,7 +141,7 @@ void frmWar::cmdSave_Click()
         return;
     auto& asset = Data1.rsInventory;
     for (const Entry& entry : entries())
-        asset.Fields(entry.column) = entry.textOr(entry.kind == Entry::CoverageType ? "Unknown" : None);
+        asset.Fields(entry.column) = entry.stored();
     asset.Update();
     conventions::MsgBox("Your Warranty Information Has Been Saved!", forms::box::Information);
     return_To_Asset();

@@ -77,6 +77,20 @@ TEST_F(Accounts, HaveOneScreenThatSaysWhatItDoesAndWaitsForTheCalendar)
     EXPECT_TRUE(account().isEnabled() && account().cmdBack.isEnabled() && account().cmdState.isEnabled());
 }
 
+TEST_F(Accounts, ShowAndKeepABalanceWithACommaAtEachThousand)
+{
+    addRows({"Old|x|1|2|3|7|R|$1,34.50|soon|Safe|c|ME", "New|x|1|2|3|8|R|$250,000.00|soon|Safe|c|ME"});
+    open(1);
+    EXPECT_EQ(account().txtBalance.text(), "$134.50");
+    click(account().cmdNext);
+    click(account().txtBalance);
+    press({Qt::Key_Home, Qt::Key_Right, Qt::Key_Delete, Qt::Key_End});
+    press({Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Backspace});
+    EXPECT_EQ(account().txtBalance.text(), "$50,00.00");
+    clickTold(account().cmdState, "          Account Has Been Updated!", Exclamation);
+    EXPECT_EQ(columnOf(Data1.rsBank, Bank::AvailableBalance).join(' '), "$1,34.50 $5,000.00");
+}
+
 TEST_F(Accounts, AreCutToTheLengthOfTheirColumns)
 {
     const QString much = QString("1b").repeated(200);

@@ -63,7 +63,7 @@ TextId TableView::cellFor(const Column& column, const QString& value) const
         break;
     case ColumnType::Money:
         amountIn(value, column);
-        break;
+        return texts().intern(values::groupedByThrees(value));
     case ColumnType::Integer:
         return texts().intern(numberIn(value, column));
     case ColumnType::Currency:

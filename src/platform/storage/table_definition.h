@@ -10,7 +10,7 @@ enum class ColumnType {
     Text, ///< any text, as given
     Integer, ///< a whole number of 64 bits; takes its text too
     Currency, ///< an amount of money; takes what reads as one
-    Money, ///< a text, kept as given, that must read as an amount of money
+    Money, ///< a text that must read as an amount of money, kept as given but for misplaced commas
     Identity, ///< the row's number, given by the database when the row is stored, never twice; takes nothing
 };
 

@@ -33,18 +33,6 @@ std::optional<bool> takeSigns(QStringView& text)
     return signs < 2 ? std::optional(signs == 1) : std::nullopt;
 }
 
-/// A group that begins with zero is no group of thousands: "0,123" is more likely a decimal comma.
-bool isGrouped(QStringView whole)
-{
-    for (qsizetype fromEnd = 0; fromEnd < whole.size(); ++fromEnd) {
-        const QChar c = whole[whole.size() - 1 - fromEnd];
-        if (fromEnd % 4 == 3 ? c != u',' : !digits::isDigit(c)) {
-            return false;
-        }
-    }
-    return !whole.startsWith(u',') && !whole.startsWith(u'0');
-}
-
 std::optional<Amount> split(QStringView text)
 {
     const std::optional<bool> negative = takeSigns(text);
@@ -54,7 +42,7 @@ std::optional<Amount> split(QStringView text)
     const qsizetype point = text.indexOf(u'.');
     const Amount amount{
         *negative, point < 0 ? text : text.first(point), point < 0 ? QStringView() : text.sliced(point + 1)};
-    const bool reads = (digits::areAll(amount.whole) || isGrouped(amount.whole)) && digits::areAll(amount.decimals)
+    const bool reads = digits::areGrouped(amount.whole) && digits::areAll(amount.decimals)
         && amount.decimals.size() <= 4 && !(amount.whole.isEmpty() && amount.decimals.isEmpty());
     return reads ? std::optional(amount) : std::nullopt;
 }
@@ -62,17 +50,21 @@ std::optional<Amount> split(QStringView text)
 /// In ten-thousandths; nothing where it doesn't fit.
 std::optional<qint64> countOf(const Amount& amount)
 {
-    std::optional<quint64> size = 0;
-    for (const QStringView group : amount.whole.tokenize(u',')) {
-        size = digits::append(size, group);
-    }
     const QStringView zeros = QStringView(u"0000").sliced(amount.decimals.size());
-    size = digits::append(digits::append(size, amount.decimals), zeros);
+    const auto size = digits::append(digits::append(digits::append(0, amount.whole), amount.decimals), zeros);
     constexpr quint64 largest = std::numeric_limits<qint64>::max();
     if (!size || *size > largest + amount.negative) {
         return std::nullopt;
     }
     return static_cast<qint64>(amount.negative ? 0 - *size : *size);
+}
+
+QString grouped(QString whole)
+{
+    for (qsizetype comma = whole.size() - 3; comma > 0; comma -= 3) {
+        whole.insert(comma, u',');
+    }
+    return whole;
 }
 
 /// Of an amount without its sign, halves away from zero.
@@ -112,11 +104,8 @@ std::optional<Currency> Currency::tryParse(const QString& text)
 QString Currency::toText() const
 {
     const quint64 cents = centsOf(count_);
-    QString text = QString::number(cents / 100);
-    for (qsizetype comma = text.size() - 3; comma > 0; comma -= 3) {
-        text.insert(comma, u',');
-    }
-    text = u'$' + text + u'.' + QString::number(cents % 100).rightJustified(2, u'0');
+    const QString decimals = QString::number(cents % 100).rightJustified(2, u'0');
+    const QString text = u'$' + grouped(QString::number(cents / 100)) + u'.' + decimals;
     return count_ < 0 && cents > 0 ? u'(' + text + u')' : text;
 }
 
@@ -149,6 +138,16 @@ Currency& Currency::operator-=(Currency other)
     }
     count_ = difference;
     return *this;
+}
+
+QString groupedByThrees(const QString& text)
+{
+    const std::optional<Amount> amount = split(text);
+    if (!amount || !amount->whole.contains(u',')) {
+        return text;
+    }
+    const qsizetype begin = amount->whole.data() - text.data();
+    return QString(text).replace(begin, amount->whole.size(), grouped(amount->whole.toString().remove(u',')));
 }
 
 QString currencyFormat(const QString& text)

@@ -17,10 +17,10 @@ public:
     static constexpr Currency fromTenThousandths(qint64 count) { return Currency(count); }
     constexpr qint64 tenThousandths() const { return count_; }
 
-    /// Reads "1234.5", "$1,234.50", "$.50", "$5." and, below zero, "-$1.00", "$-1" and "($1.00)". Commas must group by
-    /// threes. A text that isn't exactly of this form is refused, never rounded or guessed at: an empty one, blanks,
-    /// two signs, a decimal comma, more than four decimals. Failures: TypeMismatch; Overflow, where the amount doesn't
-    /// fit.
+    /// Reads "1234.5", "$1,234.50", "$.50", "$5." and, below zero, "-$1.00", "$-1" and "($1.00)". A comma may stand
+    /// between any two digits in front of the point, where an edit has left it: "$1250,000.00", "$50,00.00". A text
+    /// that isn't exactly of this form is refused, never rounded or guessed at: an empty one, blanks, two signs, a
+    /// comma elsewhere, more than four decimals. Failures: TypeMismatch; Overflow, where the amount doesn't fit.
     static Currency parse(const QString& text);
 
     /// The same without a failure: nothing where `parse` fails.
@@ -48,6 +48,10 @@ private:
 
     qint64 count_ = 0;
 };
+
+/// An amount that has commas, with one at each thousand: "$1250,000.00" becomes "$1,250,000.00". Any other text as it
+/// stands.
+QString groupedByThrees(const QString& text);
 
 /// A text as screens show an amount: as `toText` prints it where it reads as one, as it stands where it doesn't.
 QString currencyFormat(const QString& text);

@@ -31,10 +31,24 @@ inline bool take(QStringView& text, QChar c)
     return found;
 }
 
-/// The number whose decimal digits are those of `value` and then `digits`; nothing where it passes 64 bits.
+/// Digits, with a comma between any two of them or none: people change a digit of "250,000" and leave "1250,000" or
+/// "50,00". True of the empty text, too.
+inline bool areGrouped(QStringView text)
+{
+    for (const QStringView group : text.tokenize(u',')) {
+        if (group.isEmpty() || !areAll(group))
+            return text.isEmpty();
+    }
+    return true;
+}
+
+/// The number whose decimal digits are those of `value` and then `digits`, whose commas count for nothing; nothing
+/// where it passes 64 bits.
 inline std::optional<quint64> append(std::optional<quint64> value, QStringView digits)
 {
     for (const QChar digit : digits) {
+        if (digit == u',')
+            continue;
         if (!value || qMulOverflow(*value, quint64(10), &*value)
             || qAddOverflow(*value, quint64(digit.unicode() - u'0'), &*value)) {
             return std::nullopt;

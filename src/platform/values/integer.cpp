@@ -18,11 +18,15 @@ struct Decimal {
 
 std::optional<Decimal> split(QStringView text)
 {
+    text = text.trimmed();
     const bool negative = digits::take(text, u'-');
+    if (!negative) {
+        digits::take(text, u'+');
+    }
     const qsizetype point = text.indexOf(u'.');
     const Decimal number{
         negative, point < 0 ? text : text.first(point), point < 0 ? QStringView() : text.sliced(point + 1)};
-    const bool reads = digits::areAll(number.whole) && digits::areAll(number.fraction)
+    const bool reads = digits::areGrouped(number.whole) && digits::areAll(number.fraction)
         && !(number.whole.isEmpty() && number.fraction.isEmpty());
     return reads ? std::optional(number) : std::nullopt;
 }

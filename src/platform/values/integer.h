@@ -67,8 +67,9 @@ constexpr Integer operator*(L a, R b)
     return int(Integer(a)) * int(Integer(b));
 }
 
-/// Reads "12", "-12", "007" or "3.5" as a whole number of 32 bits; halves go to the even neighbour, so "2.5" is 2 and
-/// "3.5" is 4. Failures: TypeMismatch for any other text (empty, blanks, plus signs, grouping), Overflow.
+/// Reads "12", "-12", "+12", "007", " 12 ", "1,200" or "3.5" as a whole number of 32 bits; commas may stand as in an
+/// amount, and halves go to the even neighbour, so "2.5" is 2 and "3.5" is 4. Failures: TypeMismatch for any other text
+/// (empty, two signs, an exponent, a currency sign), Overflow.
 qint32 wholeNumber(const QString& text);
 
 /// The bits of a truth value where they are combined with a number's: all set (-1) for true, none (0) for false.

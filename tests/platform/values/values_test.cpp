@@ -53,6 +53,14 @@ TEST(Values, AreReadAndShownAsTheListHasIt)
     EXPECT_THAT([] { Date::fromDayMonthYear(1, 257, 2006); }, mismatches);
 }
 
+TEST(GroupedByThrees, MovesTheCommasOfAnAmountAndNothingElse)
+{
+    const std::pair<QString, QString> texts[] = {{"$1250,000.00", "$1,250,000.00"}, {"$50,00.0050", "$5,000.0050"},
+        {"($1,2)", "($12)"}, {"$1,234.50", "$1,234.50"}, {"$1234.50", "$1234.50"}, {"$,000.00", "$,000.00"}};
+    for (const auto& [text, grouped] : texts)
+        EXPECT_EQ(groupedByThrees(text), grouped);
+}
+
 TEST(Values, OverflowIsAFailureAndLeavesTheValueAsItWas)
 {
     const Currency step = Currency::fromTenThousandths(1);
