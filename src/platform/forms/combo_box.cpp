@@ -8,8 +8,8 @@
 #include "platform/forms/line_edit.h"
 #include "platform/forms/look.h"
 #include "platform/forms/stage.h"
+#include "platform/values/collation.h"
 #include "platform/values/failure.h"
-#include "platform/values/text.h"
 
 #include <QAbstractItemView>
 #include <QAbstractListModel>

@@ -20,7 +20,8 @@ public:
     ComboBox(
         Form& form, const QString& name, ComboStyle style = ComboStyle::Editable, ItemOrder order = ItemOrder::AsAdded);
 
-    /// Adds an item at the end, or where the order without regard to case puts it. Text and selection stay.
+    /// Adds an item at the end or, sorted, where `values::compareNames` puts it, behind its equals. Text and selection
+    /// stay.
     void addItem(const QString& item);
 
     /// Adds many at once, with the result of adding them one by one.

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/storage/sort_order.h"
 
+#include "platform/values/collation.h"
 #include "platform/values/currency.h"
 #include "platform/values/failure.h"
-#include "platform/values/text.h"
 
 #include <QStringList>
+
+#include <algorithm>
+#include <utility>
 
 namespace storage {
 
@@ -44,18 +47,6 @@ int order(Number a, Number b)
     return a < b ? -1 : (b < a ? 1 : 0);
 }
 
-} // namespace
-
-std::vector<SortKey> parseSortOrder(const QString& columnList, const TableDefinition& table)
-{
-    std::vector<SortKey> keys;
-    if (columnList.trimmed().isEmpty())
-        return keys;
-    for (const QString& part : columnList.split(u','))
-        keys.push_back(parseKey(part.trimmed(), table));
-    return keys;
-}
-
 int compareCells(ColumnType type, const QString& a, const QString& b)
 {
     switch (type) {
@@ -69,6 +60,37 @@ int compareCells(ColumnType type, const QString& a, const QString& b)
         break;
     }
     return values::compareNames(a, b);
+}
+
+} // namespace
+
+std::vector<SortKey> parseSortOrder(const QString& columnList, const TableDefinition& table)
+{
+    std::vector<SortKey> keys;
+    if (columnList.trimmed().isEmpty())
+        return keys;
+    for (const QString& part : columnList.split(u','))
+        keys.push_back(parseKey(part.trimmed(), table));
+    return keys;
+}
+
+std::vector<int> placesOf(ColumnType type, const std::vector<TextId>& cells, const TextPool& texts)
+{
+    constexpr int unseen = -1;
+    std::vector<int> places(cells.empty() ? 0 : *std::ranges::max_element(cells) + std::size_t{1}, unseen); // by cell
+    std::vector<TextId> distinct; // few of many rows, mostly: they alone are compared
+    for (const TextId cell : cells)
+        if (std::exchange(places[cell], 0) == unseen)
+            distinct.push_back(cell);
+    const auto before = [type, &texts](TextId one, TextId other) {
+        return compareCells(type, texts.text(one), texts.text(other)) < 0;
+    };
+    std::ranges::stable_sort(distinct, before);
+    for (std::size_t i = 1; i < distinct.size(); ++i)
+        places[distinct[i]] = places[distinct[i - 1]] + (before(distinct[i - 1], distinct[i]) ? 1 : 0);
+    std::vector<int> result(cells.size());
+    std::ranges::transform(cells, result.begin(), [&places](TextId cell) { return places[cell]; });
+    return result;
 }
 
 } // namespace storage

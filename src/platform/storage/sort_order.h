@@ -15,11 +15,11 @@ struct SortKey {
 };
 
 /// Reads "Area, [Date Purchased] DESC": names of columns, in brackets or not, each with ASC or DESC behind it or
-/// nothing, all without regard to case. Failures: InvalidCall, where there is no such column.
+/// nothing, the words without regard to case. Failures: InvalidCall, where there is no such column.
 std::vector<SortKey> parseSortOrder(const QString& columnList, const TableDefinition& table);
 
-/// Compares two cells of a column: numbers and amounts by size, texts by their letters without regard to case. Below,
-/// at or above zero.
-int compareCells(ColumnType type, const QString& a, const QString& b);
+/// Where each of a column's cells stands among the others, counted from 0, in the order of their values: numbers and
+/// amounts by size, texts as `values::compareNames` has it. Cells of equal values share a place.
+std::vector<int> placesOf(ColumnType type, const std::vector<TextId>& cells, const TextPool& texts);
 
 } // namespace storage

@@ -127,16 +127,22 @@ void TableView::Sort(const QString& columnList)
     const std::vector<SortKey> keys = parseSortOrder(columnList, definition_);
     Update();
     std::vector<int> order = rows_.inTableOrder();
-    for (auto key = keys.rbegin(); key != keys.rend(); ++key) {
-        const ColumnType type = column(key->ordinal).type;
-        std::ranges::stable_sort(order, [&](int a, int b) {
-            const TextId left = rows_.cell(key->descending ? b : a, key->ordinal);
-            const TextId right = rows_.cell(key->descending ? a : b, key->ordinal);
-            return left != right && compareCells(type, texts().text(left), texts().text(right)) < 0;
-        });
-    }
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
+        sortBy(*key, order);
     rows_.arrange(order);
     stand(rows_.first(), Place::Behind);
+}
+
+void TableView::sortBy(const SortKey& key, std::vector<int>& order) const
+{
+    std::vector<TextId> cells(order.size());
+    std::ranges::transform(order, cells.begin(), [&](int row) { return rows_.cell(row, key.ordinal); });
+    const std::vector<int> places = placesOf(column(key.ordinal).type, cells, texts());
+    std::vector<std::pair<int, int>> placed(order.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        placed[i] = {key.descending ? -places[i] : places[i], order[i]};
+    std::ranges::stable_sort(placed, {}, &std::pair<int, int>::first);
+    std::ranges::transform(placed, order.begin(), &std::pair<int, int>::second);
 }
 
 // Values

@@ -14,6 +14,7 @@
 namespace storage {
 
 class TableView;
+struct SortKey;
 
 /// A column of a view's current row. Every operation fails with NoCurrentRecord where the view stands on no row.
 class Field {
@@ -117,9 +118,9 @@ public:
     /// the row that followed. A new row that is pending is only dropped. Failures: NoCurrentRecord; Database.
     void Delete();
 
-    /// Orders the rows by columns, "Area, Make DESC", without regard to case, numbers by size, equal rows as they were
-    /// stored, and stands on the first. An empty list gives the order in which they were stored. Rows added later come
-    /// last. Failures: InvalidCall, where there is no such column.
+    /// Orders the rows by columns, "Area, Make DESC", texts as `values::compareNames` has it, numbers by size, equal
+    /// rows as they were stored, and stands on the first. An empty list gives the order in which they were stored. Rows
+    /// added later come last. Failures: InvalidCall, where there is no such column.
     void Sort(const QString& columnList);
 
     /// The rows that are stored, in the order in which they are walked. The view stays where it stands.
@@ -145,6 +146,7 @@ private:
 
     void load();
     void shut();
+    void sortBy(const SortKey& key, std::vector<int>& order) const;
     void stand(int row, Place otherwise);
     void storeNew();
     void storeEdit();

@@ -12,8 +12,4 @@ QString upper(const QString& text);
 /// True where `upper(a) == upper(b)`, without making the two where the texts are ASCII.
 bool equalUpper(const QString& a, const QString& b);
 
-/// Orders texts for a list that people read, without regard to case: signs stand before digits and digits before
-/// letters, whatever their codes. Gives a number below, at or above zero.
-int compareNames(const QString& a, const QString& b);
-
 } // namespace values

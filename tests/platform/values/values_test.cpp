@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/values/collation.h"
 #include "platform/values/currency.h"
 #include "platform/values/date.h"
 #include "platform/values/failure.h"
@@ -90,13 +91,24 @@ TEST(EqualUpper, AgreesWithComparingTheUpperCasedTexts)
     EXPECT_EQ(upper("title ı ß"), "TITLE I SS");
 }
 
-TEST(CompareNames, PutsSignsBeforeDigitsBeforeLettersAndAShorterNameFirst)
+TEST(CompareNames, GoesByBaseLettersAndHasSignsBeforeDigitsBeforeLetters)
 {
-    const QStringList names{"", "<a", "_", "€", "0", "12", "2", "٣", "Car", "carport", "zoo", "Élan", "日", "😀"};
+    const QStringList names{"", "_", "<a", "😀", "€", "0", "12", "2", "٣", "a b", "ab", "apfel", "Apfel", "Äpfel",
+        "Apfelmus", "etüde", "étude", "Étude", "ı", "zoo", "日"};
     for (qsizetype a = 0; a < names.size(); ++a)
         for (qsizetype b = 0; b < names.size(); ++b)
             EXPECT_EQ(compareNames(names[a], names[b]) <=> 0, a <=> b) << qPrintable(names[a] + " and " + names[b]);
-    EXPECT_EQ(compareNames("CAR", "car"), 0);
+}
+
+TEST(CompareNames, HasPlainTextsInTheOrderThatTheyHaveBehindAnAccent)
+{
+    QStringList names{
+        "", "ab", "aB", "Ab", "AB", "abc", "ABC", "a-b", "a b", "ab ", "A\tb", "a\x7f", "aé", "abe\u0301"};
+    for (char c = ' '; c <= '~'; ++c)
+        names += QChar(c);
+    for (const QString& a : names)
+        for (const QString& b : names)
+            EXPECT_EQ(compareNames(a, b) <=> 0, compareNames("é" + a, "é" + b) <=> 0) << qPrintable(a + " and " + b);
 }
 
 } // namespace
