@@ -96,7 +96,8 @@ bool frmUpdate::is_Standard(const editing::List& list) const
     return false;
 }
 
-// Each row is stored by itself: what a failure in the midst leaves is whole rows, some changed and some not.
+// Each row is stored by itself and waits for the disk: what a failure in the midst leaves is whole rows, some changed
+// and some not.
 void frmUpdate::change(const editing::List& list)
 {
     const forms::WaitPointer wait;
@@ -117,6 +118,7 @@ void frmUpdate::remove_Old_Name(const editing::List& list)
             continue;
         table.Delete();
         table.Update();
+        forms::keepPainted();
     }
 }
 
@@ -146,6 +148,7 @@ void frmUpdate::change_Assets(const editing::List& list)
             continue;
         assets.Fields(list.kind.assetColumn) = txtNew.text();
         assets.Update();
+        forms::keepPainted();
     }
 }
 

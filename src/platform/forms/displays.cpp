@@ -4,6 +4,7 @@
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
 #include "platform/forms/look.h"
+#include "platform/forms/painting.h"
 #include "platform/forms/stage.h"
 #include "platform/values/failure.h"
 
@@ -228,12 +229,6 @@ void GroupBox::hold(Control& control)
 }
 
 // ---- progress bars
-
-namespace {
-
-constexpr qint64 repaintMilliseconds = 40; // as often as an eye can follow
-
-} // namespace
 
 ProgressBar::ProgressBar(Form& form, const QString& name)
     : Control(form, name)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
+#include "platform/forms/painting.h"
 #include "platform/forms/style_painting.h"
 #include "support/files.h"
 
@@ -37,6 +38,28 @@ protected:
 private:
     const double usual_ = QApplication::font().pointSizeF();
 };
+
+TEST_F(Looks, AHandlerThatWorksOnKeepsItsScreenPainted)
+{
+    struct Counter : QObject {
+        int painted = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            painted += event->type() == QEvent::Paint;
+            return false;
+        }
+    } counter;
+    form.ok.widget()->installEventFilter(&counter);
+    form.answers["ok.Click"] = [&] {
+        counter.painted = 0;
+        for (const QString& words : {QString("One"), QString("Two")}) {
+            form.ok.setCaption(words);
+            forms::keepPainted();
+            EXPECT_EQ(counter.painted, 1) << "not yet, or twice in a blink";
+        }
+    };
+    click(form.ok);
+}
 
 // ---- message boxes
 
