@@ -35,6 +35,7 @@ void frmEditBankBoxes::Form_Activate()
     frmStartup::CurrentScreen = 15;
     AccountMode = 0;
     optEdit[Add].setValue(true);
+    optEdit[Add].setFocus(); // the keys begin at the dot
 }
 
 void frmEditBankBoxes::Form_Unload(bool& cancel)
@@ -63,7 +64,10 @@ void frmEditBankBoxes::cmdUpdate_Click()
     const ModeOfAccount& mode = modes[AccountMode];
     if (mode.refusal && Data1.rsBank.RecordCount() == 0) {
         conventions::MsgBox(mode.refusal, forms::box::Information);
+        const bool isOnOptions = optEdit[AccountMode].hasFocus();
         optEdit[Add].setValue(true);
+        if (isOnOptions)
+            optEdit[Add].setFocus();
         return;
     }
     account.cmdState.setToolTip(mode.toolTip);

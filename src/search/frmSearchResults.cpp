@@ -414,6 +414,7 @@ void frmSearchResults::tell_Nothing_Found()
     search.show();
     hide();
     search.txtKey.setFocus();
+    search.txtKey.selectAll(); // where the focus has been there all along, too
     search.hide_Progress();
 }
 
