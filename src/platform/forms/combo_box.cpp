@@ -4,6 +4,7 @@
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
 #include "platform/forms/input_gate.h"
+#include "platform/forms/item_list.h"
 #include "platform/forms/keyboard.h"
 #include "platform/forms/line_edit.h"
 #include "platform/forms/look.h"
@@ -11,45 +12,12 @@
 #include "platform/values/collation.h"
 #include "platform/values/failure.h"
 
-#include <QAbstractItemView>
-#include <QAbstractListModel>
 #include <QComboBox>
-#include <QListView>
 #include <QWheelEvent>
 
 #include <algorithm>
 
 namespace forms {
-
-/// The items of a list; the toolkit's own model is slow with many.
-class ItemList : public QAbstractListModel {
-public:
-    using QAbstractListModel::QAbstractListModel;
-
-    int rowCount(const QModelIndex& parent = {}) const override
-    {
-        return parent.isValid() ? 0 : static_cast<int>(items_.size());
-    }
-
-    QVariant data(const QModelIndex& index, int role) const override
-    {
-        if (role == Qt::DisplayRole || role == Qt::EditRole)
-            return items_.at(index.row());
-        return {};
-    }
-
-    void replace(const QStringList& items)
-    {
-        beginResetModel();
-        items_ = items;
-        endResetModel();
-    }
-
-    const QStringList& items() const { return items_; }
-
-private:
-    QStringList items_;
-};
 
 /// The entry of a list; an item that is picked comes in by the toolkit.
 class ComboLine : public LineEdit {
@@ -83,9 +51,7 @@ public:
         setInsertPolicy(NoInsert);
         setFocusPolicy(Qt::StrongFocus);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-        auto* list = new QListView(this);
-        list->setUniformItemSizes(true);
-        setView(list);
+        setView(new OpenList(this));
         setModel(&items);
         setMaxVisibleItems(16);
         if (style == ComboStyle::Editable)

@@ -55,11 +55,13 @@ class DaysModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    int rowCount(const QModelIndex&) const override { return weeks; }
-    int columnCount(const QModelIndex&) const override { return daysOfWeek; }
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : weeks; }
+    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : daysOfWeek; }
 
     QVariant data(const QModelIndex& cell, int role) const override
     {
+        if (!hasIndex(cell.row(), cell.column()))
+            return {};
         if (role == Qt::DisplayRole)
             return dateAt(cell).day();
         return role == Qt::AccessibleTextRole ? spoken(dateAt(cell)) : QVariant();
@@ -67,7 +69,8 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
-        if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
+        const bool isText = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
+        if (orientation != Qt::Horizontal || !isText || section < 0 || section >= daysOfWeek)
             return {};
         const auto form = role == Qt::DisplayRole ? QLocale::ShortFormat : QLocale::LongFormat;
         return english().standaloneDayName(weekDay(section), form);

@@ -3,6 +3,8 @@
 
 #include "platform/values/failure.h"
 
+#include <QAbstractItemModelTester>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QMessageBox>
 
@@ -42,6 +44,14 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
     EXPECT_EXIT(end(), testing::ExitedWithCode(3), "^cleaned up, $");
     EXPECT_DEATH(
         form.ok.Click = [] {}, "Form.ok_Click has a handler already");
+}
+
+TEST_F(Failures, ThereAreNoneWhereAListIsAskedForWhatItDoesNotHold)
+{
+    for (const auto* view : form.window()->findChildren<QAbstractItemView*>()) {
+        const QAbstractItemModelTester asked(view->model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+        EXPECT_EQ(view->model()->data({}), QVariant()) << view->model()->metaObject()->className();
+    }
 }
 
 } // namespace

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <QStringList>
+
+namespace forms {
+
+/// The items of a combo box; for the layer itself, not for screens. The toolkit's own model is slow with many.
+class ItemList : public QAbstractListModel {
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+    void replace(const QStringList& items);
+    const QStringList& items() const { return items_; }
+
+private:
+    QStringList items_;
+};
+
+/// The list that a combo box opens; for the layer itself, not for screens.
+class OpenList : public QListView {
+public:
+    explicit OpenList(QWidget* parent);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void copyMarked() const;
+};
+
+} // namespace forms
