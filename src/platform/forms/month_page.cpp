@@ -6,6 +6,7 @@
 #include "platform/forms/look.h"
 #include "platform/forms/month_calendar.h"
 #include "platform/forms/style_painting.h"
+#include "platform/forms/wheel.h"
 
 #include <QAbstractTableModel>
 #include <QDate>
@@ -388,11 +389,7 @@ void MonthPage::wheelEvent(QWheelEvent* event)
 
 bool MonthPage::wheelTurned(const QWheelEvent& event)
 {
-    constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
-    wheel_ += event.angleDelta().y();
-    const int months = -(wheel_ / notch);
-    wheel_ %= notch;
-    calendar_.turn(months);
+    calendar_.turn(-wheelNotches(*this, event));
     return true;
 }
 

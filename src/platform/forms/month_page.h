@@ -49,7 +49,6 @@ private:
     QLabel* month_;
     QList<QPushButton*> turners_; // from left to right
     QModelIndex pressedCell_;
-    int wheel_ = 0; // of a turn that isn't complete yet
 };
 
 } // namespace forms

@@ -2,6 +2,7 @@
 #include "platform/report/page_view.h"
 
 #include "platform/forms/look.h"
+#include "platform/forms/wheel.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -134,6 +135,12 @@ void PageView::resizeEvent(QResizeEvent* event)
 
 // ---- turning pages
 
+bool PageView::isAtEnd(int direction) const
+{
+    const QScrollBar& bar = *verticalScrollBar();
+    return bar.value() == (direction > 0 ? bar.maximum() : bar.minimum());
+}
+
 void PageView::turn(int direction)
 {
     const int before = page_;
@@ -145,12 +152,11 @@ void PageView::turn(int direction)
 // Further down the page, and from its end to the next one.
 void PageView::goOn(int direction)
 {
-    QScrollBar& bar = *verticalScrollBar();
-    const int end = direction > 0 ? bar.maximum() : bar.minimum();
-    if (bar.value() == end)
+    if (isAtEnd(direction))
         turn(direction);
     else
-        bar.triggerAction(direction > 0 ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderPageStepSub);
+        verticalScrollBar()->triggerAction(
+            direction > 0 ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderPageStepSub);
 }
 
 bool PageView::turnsPage(int key)
@@ -185,14 +191,16 @@ void PageView::keyPressEvent(QKeyEvent* event)
 
 void PageView::wheelEvent(QWheelEvent* event)
 {
-    const int direction = event->angleDelta().y() < 0 ? +1 : -1;
-    const QScrollBar& bar = *verticalScrollBar();
-    const bool atEnd = bar.value() == (direction > 0 ? bar.maximum() : bar.minimum());
-    if (event->angleDelta().y() != 0 && atEnd)
-        turn(direction);
-    else
-        QScrollArea::wheelEvent(event);
     event->accept();
+    const int angle = event->angleDelta().y();
+    if (angle == 0 || !isAtEnd(angle < 0 ? +1 : -1)) {
+        forms::dropWheelSum(); // what scrolls turns no page
+        QScrollArea::wheelEvent(event);
+        return;
+    }
+    int notches = -forms::wheelNotches(*this, *event);
+    for (const int direction = notches > 0 ? +1 : -1; notches != 0 && isAtEnd(direction); notches -= direction)
+        turn(direction);
 }
 
 } // namespace report

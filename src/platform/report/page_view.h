@@ -52,6 +52,7 @@ private:
 
     QSizeF paperSize() const;
     void fitSheet();
+    bool isAtEnd(int direction) const;
     void turn(int direction);
     void goOn(int direction);
     bool turnsPage(int key);

@@ -3,6 +3,7 @@
 
 #include "platform/forms/look.h"
 #include "platform/forms/runtime.h"
+#include "platform/forms/wheel.h"
 #include "platform/report/preview_choices.h"
 
 #include <QComboBox>
@@ -128,6 +129,8 @@ void Preview::react()
     shortcut(QKeySequence("F1"), [this] { forms::openHelp(0, objectName()); });
     shortcut(QKeySequence("Ctrl+0"), [this] { pickZoom(indexOf(Zoom{Zoom::Kind::Page})); });
     shortcut(QKeySequence("Ctrl+1"), [this] { pickZoom(indexOf(Zoom{Zoom::Kind::Width})); });
+    for (QWidget* turned : std::initializer_list<QWidget*>{page_, zoom_, paper_})
+        forms::turnByNotches(*turned);
     connect(page_, &QSpinBox::valueChanged, this, [this](int page) { goTo(page); });
     connect(zoom_, &QComboBox::activated, this, [this](int index) { pickZoom(index); });
     connect(paper_, &QComboBox::activated, this, [this](int index) { setPaper(index); });

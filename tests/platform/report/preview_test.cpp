@@ -92,6 +92,13 @@ protected:
         preview_->open();
     }
 
+    /// Over the page where no other part is named.
+    void turnWheel(int eighths, const QString& over)
+    {
+        QWidget* page = part<QAbstractScrollArea>("pageView")->viewport();
+        wheel(over.isEmpty() ? *page : *part<QWidget>(over), eighths);
+    }
+
     /// A button clicked, another part given the focus, something else done, or a key pressed.
     void take(const QString& step)
     {
@@ -99,7 +106,7 @@ protected:
         if (step.startsWith("report:"))
             open(object.toInt());
         else if (step.startsWith("wheel:"))
-            wheel(*part<QAbstractScrollArea>("pageView")->viewport(), object.toInt());
+            turnWheel(object.section(u':', 0, 0).toInt(), object.section(u':', 1));
         else if (step.startsWith("folder:"))
             QDir().mkdir(object);
         else if (step == "refuse")
