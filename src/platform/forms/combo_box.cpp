@@ -51,7 +51,8 @@ public:
         setInsertPolicy(NoInsert);
         setFocusPolicy(Qt::StrongFocus);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-        setView(new OpenList(this));
+        list_ = new OpenList(this);
+        setView(list_);
         setModel(&items);
         setMaxVisibleItems(16);
         if (style == ComboStyle::Editable)
@@ -69,7 +70,14 @@ public:
         items_.replace(items);
         setCurrentIndex(selected);
         if (entry_)
-            entry_->setText(text);
+            showText(text);
+    }
+
+    /// The caret stands behind the text, but where that is longer than the box and would show its end.
+    void showText(const QString& text)
+    {
+        entry_->setText(text);
+        showBeginning();
     }
 
     bool locked() const { return locked_; }
@@ -88,6 +96,7 @@ public:
         if (locked_ || Stage::instance().interruptions() != interruptions)
             return; // no list stays open behind a box
         selectWhatTheTextSays();
+        list_->fitItems(screen()->availableSize().width());
         QComboBox::showPopup();
     }
 
@@ -141,8 +150,16 @@ private:
         QObject::disconnect(entry_, &QLineEdit::returnPressed, this, nullptr);
     }
 
+    void showBeginning()
+    {
+        if (!entry_->fits(entry_->text()))
+            entry_->setCursorPosition(0);
+    }
+
     void picked()
     {
+        if (entry_)
+            showBeginning();
         if (insideToolkitCall())
             pickedByKey_ = true;
         else
@@ -225,11 +242,12 @@ private:
             return;
         const ToolkitCall call;
         setCurrentIndex(index);
-        entry_->setText(text);
+        showText(text);
     }
 
     ComboBox& box_;
     ItemList& items_;
+    OpenList* list_ = nullptr;
     LineEdit* entry_ = nullptr;
     bool locked_ = false;
     bool pressed_ = false; // by a press that has reached the box
@@ -313,7 +331,7 @@ void ComboBox::setListIndex(int index)
         const ToolkitCall call;
         combo_->setCurrentIndex(index);
         if (combo_->entry())
-            combo_->entry()->setText(list(index));
+            combo_->showText(list(index));
     }
     Click.fire();
 }

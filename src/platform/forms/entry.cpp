@@ -16,6 +16,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QStyleHints>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <limits>
@@ -57,6 +58,11 @@ QString textOf(int character)
 {
     const auto code = static_cast<char32_t>(character);
     return QString::fromUcs4(&code, 1);
+}
+
+QString asToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : text;
 }
 
 Entry::Entry(TextEntry& box, Lines lines)

@@ -21,6 +21,9 @@ bool isTextCharacter(int character);
 
 QString textOf(int character);
 
+/// A text of the user's as a tool tip, which would take for markup what looks like it.
+QString asToolTip(const QString& text);
+
 /// The toolkit's entry in a box, of one line or of several: what both do alike with keys, mouse and all other ways in
 /// which text gets in. The toolkit's class hands its callbacks on; for the layer itself, not for screens.
 class Entry {

@@ -1,11 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/item_list.h"
 
+#include "platform/forms/entry.h"
+#include "platform/forms/look.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <algorithm>
 
 namespace forms {
+
+namespace {
+
+constexpr int longestLine = 80; // characters
+
+} // namespace
 
 // ---- the items
 
@@ -36,7 +50,48 @@ OpenList::OpenList(QWidget* parent)
     : QListView(parent)
 {
     setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideMiddle); // names of one room, one maker differ in their ends
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
+
+// ---- long items
+
+int OpenList::widthOf(const QModelIndex& item) const
+{
+    return sizeHintForIndex(item).width();
+}
+
+void OpenList::fitItems(int desktop)
+{
+    const QFontMetrics metrics = fontMetrics();
+    int longest = 0;
+    int longestAdvance = 0;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const int advance = metrics.horizontalAdvance(model()->index(row, 0).data().toString());
+        if (advance > longestAdvance)
+            longest = row;
+        longestAdvance = std::max(advance, longestAdvance);
+    }
+    const int beside = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    setMinimumWidth(std::min({widthOf(model()->index(longest, 0)) + beside, look::fieldWidth(longestLine), desktop}));
+}
+
+bool OpenList::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QListView::viewportEvent(event);
+    tellWhole(static_cast<const QHelpEvent&>(*event));
+    return true;
+}
+
+void OpenList::tellWhole(const QHelpEvent& event) const
+{
+    const QModelIndex item = indexAt(event.pos());
+    const bool isCut = item.isValid() && widthOf(item) > viewport()->width();
+    QToolTip::showText(event.globalPos(), isCut ? asToolTip(item.data().toString()) : QString(), viewport());
+}
+
+// ---- copying
 
 void OpenList::keyPressEvent(QKeyEvent* event)
 {

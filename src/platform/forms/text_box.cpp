@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/text_box.h"
 
+#include "platform/forms/entry.h"
 #include "platform/forms/form.h"
 #include "platform/forms/line_edit.h"
 #include "platform/forms/look.h"
@@ -81,16 +82,6 @@ Entry* TextBox::entry() const
 {
     return edit_;
 }
-
-namespace {
-
-// A tool tip takes what looks like markup for it, and this is the user's text.
-QString asToolTip(const QString& text)
-{
-    return Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : text;
-}
-
-} // namespace
 
 void TextBox::setText(const QString& text)
 {

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -14,6 +15,7 @@
 #include <QStyleOption>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -401,6 +403,44 @@ TEST_F(Looks, BoxesAndListsHaveRoomForWhatTheyAreMadeFor)
     EXPECT_EQ(memo.viewport()->height() / memo.fontMetrics().lineSpacing(), 3);
     EXPECT_EQ(form.line.widget()->width(), form.combo.widget()->width());
     EXPECT_EQ(form.line.widget()->width(), form.memo.widget()->width());
+}
+
+TEST_F(Looks, LongNamesAreToldApartInTheListAndBeginInTheBox)
+{
+    const QString shelf = "The shelf behind the boiler, where preserves stand in rows";
+    const QString house = "The house " + QString(99, 'x');
+    form.combo.setWidthInCharacters(20);
+    form.combo.addItems({shelf + " of twelve", shelf + " of ten", house + " A", house + " B"});
+    form.combo.openList();
+    settle();
+    auto& list = *QApplication::activePopupWidget()->findChild<QAbstractItemView*>();
+    const auto place = [&](int row) { return list.visualRect(list.model()->index(row, 0)); };
+    const auto painted = [&](int row) { return list.viewport()->grab(place(row)).toImage(); };
+    const auto tip = [&](int row) {
+        QHelpEvent asked(QEvent::ToolTip, place(row).center(), list.viewport()->mapToGlobal(place(row).center()));
+        QCoreApplication::sendEvent(list.viewport(), &asked);
+        return QToolTip::text();
+    };
+    EXPECT_GE(list.width(), list.fontMetrics().horizontalAdvance(shelf + " of twelve"));
+    EXPECT_LE(list.width(), list.screen()->availableSize().width());
+    EXPECT_NE(painted(3), painted(4));
+    EXPECT_NE(painted(5), painted(6));
+    EXPECT_EQ(tip(4), "");
+    EXPECT_EQ(tip(6), house + " B");
+    press(Qt::Key_Escape);
+    pick(form.combo, shelf + " of ten");
+    EXPECT_EQ(form.combo.selectionStart(), 0) << "the end shows";
+    press(Qt::Key_Down);
+    EXPECT_EQ(form.combo.selectionStart(), 0) << "the end shows";
+    pick(form.combo, "beta");
+    type(" 2");
+    EXPECT_EQ(form.combo.text(), "beta 2");
+    form.combo.clear();
+    form.combo.addItems({"alpha"});
+    form.combo.openList();
+    settle();
+    EXPECT_NEAR(list.width(), form.combo.widget()->width(), 4);
+    press(Qt::Key_Escape);
 }
 
 TEST_F(Looks, TextsStandWhereTheyBelong)
