@@ -120,7 +120,7 @@ search_and_asset() {
     go MsgBox ctrl+a BackSpace Return
     keys Return
     portrait frmSearchResults
-    click frmSearchResults 'Update, row 1'
+    click frmSearchResults 'Update 1'
     portrait frmAddUpDel
     click frmAddUpDel 'Purchase Date'
     portrait frmCalendar

@@ -87,7 +87,7 @@ void frmBank::lookOfEntries()
     lblSubhead[4].setCaption("State");
     lblChoice[6].setCaption("As Of");
     txtName.setText(" Enter Financial Institution ");
-    txtName.widget()->setAccessibleName("Financial Institution"); // which no label says
+    txtName.setSpokenName("Financial Institution"); // which no label says
     txtName.setTextColour(forms::look::colours().link);
     for (forms::TextBox* box : {&txtName, &txtBalance, &txtDate})
         box->setAlignment(forms::Alignment::Centre);

@@ -60,8 +60,8 @@ void address::addPhone(forms::look::FieldRows& rows, const Phone& phone)
     }
     rows.row(label, {frames[0], pieces[0], frames[1], pieces[1], frames[2], pieces[2]});
     label.nameFor(*pieces[0]);
-    pieces[1]->widget()->setAccessibleName(label.caption() + " Prefix");
-    pieces[2]->widget()->setAccessibleName(label.caption() + " 4 Digit Number");
+    pieces[1]->setSpokenName(label.caption() + " Prefix");
+    pieces[2]->setSpokenName(label.caption() + " 4 Digit Number");
 }
 
 void address::hopFrom(const forms::TextBox& piece, forms::Control& next)

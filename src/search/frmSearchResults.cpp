@@ -19,11 +19,6 @@ using forms::screen;
 
 namespace {
 
-constexpr int PageUp = 33;
-constexpr int PageDown = 34;
-constexpr int Left = 37;
-constexpr int Right = 39;
-
 // By SortColumn; 0 and 3 sort by nothing.
 constexpr const char* sortColumns[] = {"", "Area", "Location", "", "Type", "Year", "Make", "Model"};
 
@@ -168,29 +163,30 @@ void frmSearchResults::txtMore_KeyPress(int Index, int KeyAscii)
 // The rows are no stops of the Tab key: the cursor keys reach them, from wherever the focus is.
 void frmSearchResults::any_KeyDown(int& KeyCode)
 {
+    namespace key = forms::key;
     switch (KeyCode) {
-    case forms::key::Up:
+    case key::Up:
         step_Through_Rows(-1);
         break;
-    case forms::key::Down:
+    case key::Down:
         step_Through_Rows(1);
         break;
-    case Left:
-        sort_By_Neighbour(-1);
+    case key::Left:
+    case key::Right:
+        if (!key::isWithControl())
+            return; // for the caret
+        sort_By_Neighbour(KeyCode == key::Left ? -1 : 1);
         break;
-    case Right:
-        sort_By_Neighbour(1);
-        break;
-    case PageUp:
+    case key::PageUp:
         turn_Page(cmdPrevious);
         break;
-    case PageDown:
+    case key::PageDown:
         turn_Page(cmdNext);
         break;
     default:
         return;
     }
-    KeyCode = forms::key::Refused;
+    KeyCode = key::Refused;
 }
 
 int frmSearchResults::rowInFocus() const
@@ -212,11 +208,17 @@ void frmSearchResults::step_Through_Rows(int direction)
         txtMore[next].setFocus();
 }
 
+// The first header, as before any sort, where none is sorted by.
+int frmSearchResults::headerSortedBy() const
+{
+    const auto* sorted = std::find(std::begin(sortOfHeader), std::end(sortOfHeader), SortColumn);
+    return sorted == std::end(sortOfHeader) ? 0 : static_cast<int>(sorted - std::begin(sortOfHeader));
+}
+
 // By the column beside the one sorted by: a header is a label, which only the mouse reaches.
 void frmSearchResults::sort_By_Neighbour(int direction)
 {
-    const auto* sorted = std::find(std::begin(sortOfHeader), std::end(sortOfHeader), SortColumn);
-    const auto header = static_cast<int>(sorted - std::begin(sortOfHeader)) + direction;
+    const int header = headerSortedBy() + direction;
     const int row = rowInFocus();
     if (header > 0 && header < lblSubHead.count())
         lblSubHead_Click(header);
@@ -262,6 +264,24 @@ void frmSearchResults::fill_Row(int number, Showing showing)
             box.setVisible(true);
         box.setText(Data1.rsPrint.Fields(shown.column).text());
     }
+    name_Row(number);
+}
+
+// Who hears the rows goes through their first boxes and is told which asset each would open.
+void frmSearchResults::name_Row(int number)
+{
+    QStringList words;
+    for (const auto boxes : {&txtType, &txtLocation, &txtYear, &txtMake})
+        words += (*boxes)[RowIndex].text();
+    txtMore[RowIndex].setSpokenName(QStringLiteral("Update %1: %2").arg(number).arg(words.join(", ")));
+}
+
+void frmSearchResults::tell_Result()
+{
+    const int header = headerSortedBy();
+    const QString found = lblRecsFound.caption();
+    setSpokenState(found);
+    announce(header == 0 ? found : found + " Sorted By " + lblSubHead[header].caption());
 }
 
 // ---- the search
@@ -359,6 +379,7 @@ void frmSearchResults::show_First_Page()
         PageCount = MatchCount / Rows + (MatchCount % Rows > 0 ? 1 : 0);
         CurrentPage = 1;
         show_Page_Number();
+        tell_Result();
         show();
     } else if (FromSearchScreen) {
         tell_Nothing_Found();

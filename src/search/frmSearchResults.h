@@ -87,12 +87,15 @@ private:
     void count_Matches();
     void fill_First_Page();
     void fill_Row(int number, Showing showing);
+    void name_Row(int number);
+    void tell_Result();
     void tell_Nothing_Found();
     void show_Page_Number();
     void sort_By_Neighbour(int direction);
     void turn_Page(forms::CommandButton& button);
     void step_Through_Rows(int direction);
     int rowInFocus() const;
+    int headerSortedBy() const;
 
     MatchRule rule_;
 };

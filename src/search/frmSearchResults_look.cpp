@@ -83,6 +83,7 @@ void frmSearchResults::look()
 {
     setTitle(conventions::Title);
     setHelpNumber(HelpNumber);
+    window()->setAccessibleDescription("Ctrl+Left And Ctrl+Right Sort By Another Column");
     lblHead[0].setCaption("Search Results");
     lblRecsFound.setCaption("Assets Found");
     lblPage.setCaption("Page 1 of 1");
@@ -136,7 +137,7 @@ void frmSearchResults::dressRows()
             box.setBackColour(LightGrey);
             box.setAlignment(look.alignment);
             box.setWidthInCharacters(look.width);
-            box.widget()->setAccessibleName(QStringLiteral("%1, row %2").arg(look.name).arg(row + 1));
+            box.setSpokenName(QStringLiteral("%1, row %2").arg(look.name).arg(row + 1));
             box.setVisible(false);
             forms::look::keepPlace(box);
         }

@@ -70,6 +70,7 @@ void frmSearch::look()
     for (forms::ComboBox* list : {&cmbArea, &cmbLocation, &cmbCat, &cmbType})
         list->setText("Any");
     pbSearch.setVisible(false);
+    pbSearch.setSpokenName("Assets Looked Through");
     answer();
     layOut();
 }

@@ -57,7 +57,7 @@ step "a click behind the answer to a box reaches no screen that is about to go"
 go frmSearch alt+s
 text Clock
 go frmSearchResults Return
-click frmSearchResults 'Update, row 1'
+click frmSearchResults 'Update 1'
 locate frmAddUpDel 'Warranty Information' 'Delete Asset' Make
 for control in 'Warranty Information' 'Delete Asset'; do
     wait_screen frmAddUpDel
@@ -67,7 +67,7 @@ for control in 'Warranty Information' 'Delete Asset'; do
     wait_screen MsgBox
     while_busy answer_and_press Return "$control"
     only frmSearchResults
-    click frmSearchResults 'Update, row 1'
+    click frmSearchResults 'Update 1'
 done
 
 step "it counts where the screen stays"

@@ -10,7 +10,7 @@ found_by_word() {
     keys Return
     see frmSearchResults results
     expect "select ID, Type from Print" '1|Camcorder'
-    click frmSearchResults 'Update, row 1'
+    click frmSearchResults 'Update 1'
     see frmAddUpDel asset-opened
 }
 
@@ -50,7 +50,7 @@ printed_and_deleted() {
     report_saved AssetReport one-asset "Camcorder" "Northlight & Sons" "\$1,500.00" "Total Pages: 1"
     click frmAddUpDel Cancel
     answer leave-asset Return
-    click frmSearchResults 'Update, row 1'
+    click frmSearchResults 'Update 1'
     click frmAddUpDel 'Delete Asset'
     answer delete-question Return
     answer asset-deleted Return

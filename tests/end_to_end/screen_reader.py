@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What a screen reader finds of Kestrill on the accessibility bus.
 
-front: the name of the window in front. place NAME: where a control in it lies, as "left top width height". walk: the
-window and each control in it that is shown, as "role | name | description | states", with "~" for what moves with the
-date. What has no name, or takes no focus, ends with status 1."""
+front: the name of the window in front. place NAME: where a control lies whose name is that, or begins with it and a
+colon, as "left top width height". walk: the window and each control in it that is shown, as "role | name | description |
+states", with "~" for what moves with the date. What has no name, or takes no focus, ends with status 1. listen: says on
+and on what is read out unasked, each notification that is shown."""
 
 import calendar
 import re
@@ -57,13 +58,28 @@ def tell(item, role, name):
 
 
 def place(wanted):
-    found = [(role == "label", item) for item, role, name in shown(window) if name == wanted]
+    found = [
+        (role == "label", item)
+        for item, role, name in shown(window)
+        if name == wanted or name.startswith(wanted + ": ")
+    ]
     if not found:
         sys.exit(f"nothing has the name {wanted!r}")
     _, item = min(found, key=lambda each: each[0])  # before its label, which has the same name
     print(*item.queryComponent().getExtents(pyatspi.DESKTOP_COORDS))
 
 
+def listen():
+    def hears(event):
+        if event.detail1 and event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+            print(event.source.name, flush=True)
+
+    pyatspi.Registry.registerEventListener(hears, "object:state-changed:showing")
+    pyatspi.Registry.start()
+
+
+if sys.argv[1] == "listen":
+    listen()
 window = front()
 if sys.argv[1] == "front":
     print(window.name.strip())

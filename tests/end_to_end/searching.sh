@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Assets are searched by the lists and all of them, sorted, paged and opened.
 
+said() { grep -qx "$1" "$Place/said"; }
+
 search_all() {
     step "all assets, sorted and paged"
     go frmSearch alt+s
@@ -10,6 +12,8 @@ search_all() {
     see frmSearchResults results-all
     expect "select count(*) from Print" 23
     click frmSearchResults Make
+    until_true "the order read out" said "23 Assets Found! Sorted By Make"
+    keys Right Left
     expect "select ID from Print limit 1" 23
     keys Next
     shot results-page-2
@@ -27,6 +31,8 @@ search_by_lists() {
     click frmSearch Search
     see frmSearchResults results-outdoor
     expect "select count(*), min(Area), max(Location) from Print" '8|Outdoor|Barn'
+    keys ctrl+Right
+    until_true "the order read out" said "8 Assets Found! Sorted By Model"
     go frmAddUpDel Down Down Return
     shot asset-found
     keys alt+m
@@ -41,6 +47,7 @@ household searching "$(assets 23 "case i % 3 when 1 then 'Indoor' when 2 then 'O
     case i when 7 then 'Lamp with a shade of pleated silk and brass' else 'Item ' || i end, 1950 + i * 3,
     printf('Maker %02d', 24 - i), 'Model ' || i, 'SN-' || i, '1/2/2020', '\$' || i || '.00', 'No', 'None',
     'None', 'New'")"
+"$Here/screen_reader.py" listen >"$Place/said" &
 start_at_menu
 search_all
 search_by_lists

@@ -3,6 +3,9 @@
 
 #include "platform/storage/statement.h"
 
+#include <QAccessible>
+#include <QWidget>
+
 namespace {
 
 class SearchResults : public SearchScreenTest {
@@ -20,6 +23,12 @@ protected:
 
     // And with the control that has the focus.
     static QString place() { return page() + ", " + results().activeControl()->name(); }
+
+    // As a screen reader calls it.
+    static QString told(QWidget& widget)
+    {
+        return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+    }
 
     void comeBack()
     {
@@ -64,13 +73,21 @@ TEST_F(SearchResults, PagesAndRowsAreSteppedThroughByMouseAndByKeys)
     }
     QStringList sorts; // with the page, which is the first again; there is nothing beyond the first and the last
     for (const char direction : std::string("<>>><<<<<<")) {
-        press({Qt::Key_PageDown, direction == '<' ? Qt::Key_Left : Qt::Key_Right});
+        press(Qt::Key_PageDown);
+        press(direction == '<' ? Qt::Key_Left : Qt::Key_Right, Qt::ControlModifier);
         sorts += QString::number(results().SortColumn) + '.' + QString::number(results().CurrentPage);
     }
     press({Qt::Key_PageUp, Qt::Key_F1});
     EXPECT_EQ(line(sorts.join(' '), place(), openedHelp().value(), results().FromSearchScreen),
         "5.1 6.1 7.1 7.2 6.1 5.1 4.1 2.1 1.1 1.2, Page 1 of 3: 1-10 next, txtMore(1), 5001, false");
-    press({Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(told(*results().window()), "Search Results, 22 Assets Found!");
+    EXPECT_EQ(told(*results().txtMore[1].widget()), "Update 2: Item 2, Attic, 2020, " + make);
+    click(results().txtType[0]);
+    press({Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left});
+    press(Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
+    const forms::TextBox& asset = results().txtType[0];
+    EXPECT_EQ(line(int(results().SortColumn), asset.selectionStart(), asset.selectionLength()), "1, 1, 4");
+    press({Qt::Key_Down, Qt::Key_Return});
     EXPECT_EQ(line(front(), results().SelectedAsset), "10 frmAddUpDel, 1");
 }
 

@@ -5,10 +5,17 @@
 #include "platform/forms/form.h"
 #include "platform/forms/stage.h"
 
+#include <QGuiApplication>
 #include <QPalette>
 #include <QWidget>
 
 namespace forms {
+
+bool key::isWithControl()
+{
+    const Qt::KeyboardModifiers others = Qt::ShiftModifier | Qt::AltModifier | Qt::MetaModifier;
+    return (QGuiApplication::keyboardModifiers() & (Qt::ControlModifier | others)) == Qt::ControlModifier;
+}
 
 Control::Control(Form& form, const QString& name)
     : form_(form)
@@ -102,6 +109,11 @@ void Control::setToolTip(const QString& text)
 QString Control::toolTip() const
 {
     return widget_->toolTip();
+}
+
+void Control::setSpokenName(const QString& name)
+{
+    widget_->setAccessibleName(name);
 }
 
 void Control::setBackColour(const QColor& colour)

@@ -24,10 +24,17 @@ inline constexpr int Backspace = 8;
 inline constexpr int Enter = 13;
 inline constexpr int Escape = 27;
 inline constexpr int Space = 32;
+inline constexpr int PageUp = 33;
+inline constexpr int PageDown = 34;
+inline constexpr int Left = 37;
 inline constexpr int Up = 38;
+inline constexpr int Right = 39;
 inline constexpr int Down = 40;
 inline constexpr int Delete = 46;
 inline constexpr int F1 = 112;
+
+/// True while Ctrl is held down and neither Shift nor Alt is, for handlers that give a key another meaning with it.
+bool isWithControl();
 } // namespace key
 
 /// What all controls have in common. A control belongs to one form, wraps one widget of the toolkit and never shows it
@@ -64,6 +71,9 @@ public:
     /// The text shown while the pointer rests on the control.
     void setToolTip(const QString& text);
     QString toolTip() const;
+
+    /// What assistive tools call the control where no label names it. A change is read out while the focus is here.
+    void setSpokenName(const QString& name);
 
     /// The help topic that F1 opens here; 0 leaves it to the form's number.
     void setHelpNumber(int number) { helpNumber_ = number; }

@@ -7,6 +7,7 @@
 #include "platform/forms/keyboard.h"
 #include "platform/forms/stage.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -20,6 +21,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 namespace forms {
 
@@ -45,6 +47,22 @@ bool takesOutMore(const QKeyEvent& event)
         || event.matches(QKeySequence::DeleteEndOfLine) || event.matches(QKeySequence::DeleteCompleteLine)
         || (event.key() == Qt::Key_Backspace && Keyboard::isCommand(event));
 }
+
+/// Nothing is told to assistive tools. A screen reader says nothing of a text that is set where the focus isn't, and it
+/// passes over what it has to say when a hundred of them come at once.
+class Silence {
+public:
+    Silence()
+        : before_(QAccessible::installUpdateHandler([](QAccessibleEvent*) {}))
+    {
+    }
+    ~Silence() { QAccessible::installUpdateHandler(before_); }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+private:
+    const QAccessible::UpdateHandler before_;
+};
 
 } // namespace
 
@@ -84,6 +102,9 @@ void Entry::select(int start, int length)
 void Entry::put(const QString& text)
 {
     const ToolkitCall call;
+    std::optional<Silence> silence;
+    if (!box_.hasFocus())
+        silence.emplace();
     setContent(text);
     setSelection(0, 0);
 }

@@ -168,6 +168,8 @@ QAccessibleInterface* describeWindow(const QString&, QObject* object)
 {
     if (auto* window = dynamic_cast<FormWindow*>(object))
         return new ScreenInterface(*window, window->form());
+    if (auto* notice = dynamic_cast<Notice*>(object))
+        return new QAccessibleWidget(notice, QAccessible::Notification);
     // A window that is no screen, as the help; the toolkit tells of a plain one as if it were a part of another.
     auto* widget = qobject_cast<QWidget*>(object);
     const bool isPlainWindow = widget && widget->isWindow() && widget->metaObject() == &QWidget::staticMetaObject;

@@ -17,6 +17,7 @@ namespace forms {
 
 class CommandButton;
 class FormWindow;
+class Notice;
 
 /// A screen: a window of fixed size with controls. Screens are shown and hidden and keep their contents while hidden.
 ///
@@ -55,6 +56,13 @@ public:
 
     void setTitle(const QString& title);
     QString title() const;
+
+    /// What assistive tools say behind the screen's name, when the screen comes forward.
+    void setSpokenState(const QString& words);
+    const QString& spokenState() const { return spokenState_; }
+
+    /// Has assistive tools read out what has changed on the screen, wherever the focus is.
+    void announce(const QString& words);
 
     /// The help topic for controls without a number of their own.
     void setHelpNumber(int number) { helpNumber_ = number; }
@@ -104,8 +112,10 @@ private:
     Control* nextInTabOrder(bool forward) const;
 
     QString name_;
+    QString spokenState_;
     FormWindow* window_;
     QWidget* canvas_;
+    Notice* notice_ = nullptr; // once something has been announced
     std::vector<Control*> controls_;
     Control* focused_ = nullptr; // has had GotFocus
     Control* moving_ = nullptr; // about to get it, while LostFocus of another runs

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/screen_interface.h"
 
+#include "platform/forms/boundary.h"
 #include "platform/forms/displays.h"
 #include "platform/forms/form.h"
 
@@ -42,10 +43,38 @@ ScreenInterface::ScreenInterface(QWidget& window, const Form& form)
 
 QString ScreenInterface::text(QAccessible::Text kind) const
 {
-    if (kind == QAccessible::Name)
-        if (QString heading = headingOf(form_); !heading.isEmpty())
-            return heading;
-    return QAccessibleWidget::text(kind);
+    if (kind != QAccessible::Name)
+        return QAccessibleWidget::text(kind);
+    const QString heading = headingOf(form_);
+    const QString name = heading.isEmpty() ? QAccessibleWidget::text(kind) : heading;
+    return form_.spokenState().isEmpty() ? name : name + QStringLiteral(", ") + form_.spokenState();
+}
+
+// ---- what a screen has read out
+
+void Form::setSpokenState(const QString& words)
+{
+    if (words == spokenState_)
+        return;
+    spokenState_ = words;
+    QAccessibleEvent renamed(window(), QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+}
+
+void Form::announce(const QString& words)
+{
+    const ToolkitCall call;
+    delete notice_; // a screen reader may remember the name of one that it knows
+    notice_ = new Notice(canvas_);
+    notice_->setAccessibleName(words);
+    notice_->show();
+}
+
+Notice::Notice(QWidget* screen)
+    : QWidget(screen)
+{
+    setFixedSize(1, 1);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 } // namespace forms

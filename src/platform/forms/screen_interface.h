@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace forms {
 
@@ -17,6 +18,13 @@ public:
 
 private:
     const Form& form_;
+};
+
+/// A notification that nobody sees: a screen reader reads its name whenever it is shown. The toolkit has no event yet
+/// that has words read out, and those of a changed name or description are not understood.
+class Notice : public QWidget {
+public:
+    explicit Notice(QWidget* screen);
 };
 
 } // namespace forms
