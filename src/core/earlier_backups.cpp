@@ -62,14 +62,14 @@ void keep(const QString& backup)
     const QString folder = freeFolder(file.lastModified(), false, backup);
     if (holdsBackup(folder, backup))
         return;
-    sys::makePrivateFolder(folder);
-    sys::keepFile(backup, databaseIn(folder));
+    sys::Folder::made(folder).keep(sys::Folder(file.path()), file.fileName(), file.fileName());
 }
 
 void giveUp(const KeptFile& kept)
 {
-    sys::removeFile(kept.file);
-    QDir().rmdir(QFileInfo(kept.file).path()); // stays where the user has put something in
+    const sys::Folder all(places::earlierBackupsFolder());
+    all.entered(kept.name).remove(QFileInfo(kept.file).fileName());
+    all.removeEmpty(kept.name); // stays where the user has put something in
 }
 
 std::vector<KeptFile> withoutPutAside(std::vector<KeptFile> files)
@@ -104,7 +104,7 @@ void thinByRoom()
     std::vector<KeptFile> files = all();
     if (files.empty())
         return;
-    const qint64 isFree = sys::freeSpace(places::earlierBackupsFolder()) - QFileInfo(places::databaseFile()).size();
+    const qint64 isFree = sys::Folder(places::earlierBackupsFolder()).freeSpace() - QFileInfo(places::databaseFile()).size();
     qint64 taken = roomOf(files);
     files = withoutPutAside(files);
     for (; taken > isFree / LeastShareOfFreeDisk && !files.empty(); files.pop_back()) {
@@ -130,15 +130,20 @@ std::vector<KeptFile> all()
         const QDateTime made = QDateTime::fromString(name.left(LengthOfMoment), NameFormat);
         const QString file = databaseIn(folder.filePath(name));
         if (made.isValid() && QFileInfo(file).isFile())
-            files.push_back({name, made, name.mid(LengthOfMoment).startsWith(AsideMark), file});
+            files.push_back({name, made, isForPutAside(name), file});
     }
     std::stable_sort(files.begin(), files.end(), [](const KeptFile& a, const KeptFile& b) { return a.made > b.made; });
     return files;
 }
 
-QString folderFor(const QDateTime& made, bool isPutAside)
+bool isForPutAside(const QString& name)
 {
-    return freeFolder(made, isPutAside);
+    return name.mid(LengthOfMoment).startsWith(AsideMark);
+}
+
+QString freeName(const QDateTime& made, bool isPutAside)
+{
+    return QFileInfo(freeFolder(made, isPutAside)).fileName();
 }
 
 void keep_Backup()

@@ -22,8 +22,11 @@ std::vector<KeptFile> all();
 /// Whether a kept file is this backup itself, since the close that kept it broke off before it made another.
 bool isOf(const KeptFile& kept, const QString& backup);
 
-/// A folder for the database of that moment, whose name no other one has. Nothing is made.
-QString folderFor(const QDateTime& made, bool isPutAside);
+/// Whether a folder of that name is for what a restore has put aside.
+bool isForPutAside(const QString& name);
+
+/// The name of a folder for the database of that moment, which no other one has. Nothing is made.
+QString freeName(const QDateTime& made, bool isPutAside);
 
 /// Before a close replaces the backup: keeps it, and gives up those kept that are no longer wanted or whose room is.
 /// Where this fails, the reason goes to the error output, and the close goes on without it.

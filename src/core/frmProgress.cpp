@@ -46,7 +46,8 @@ void proveDatabase(const QString& copy, const std::vector<TableCount>& counts)
 // An empty journal that couldn't be removed stays where it is, and so does what a restore that was killed has left.
 bool isRemains(const QString& file)
 {
-    return file.endsWith(QLatin1String("-journal")) || file.endsWith(places::RestoringSuffix);
+    return file.endsWith(QLatin1String("-journal"))
+        || file.startsWith(places::databaseFile() + places::RestoringSuffix);
 }
 
 void back_Up_Database(const std::vector<TableCount>& counts)

@@ -10,7 +10,7 @@ QString databaseFolder();
 QString databaseFile();
 
 /// What follows the database's name while a restore prepares the file that will bear it. A restore that was killed may
-/// leave one, which belongs into no backup.
+/// leave files that begin so, which belong into no backup.
 inline const QString RestoringSuffix = QStringLiteral(".restoring");
 
 QString backupFolder();

@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -34,7 +33,7 @@ QString csvFileOf(const storage::TableDefinition& table)
 // One export under way: what is written so far, of what all there is.
 class Export {
 public:
-    Export(const Household& household, const QString& folder, const Progress& progress)
+    Export(const Household& household, const sys::Folder& folder, const Progress& progress)
         : household_(household)
         , folder_(folder)
         , progress_(progress)
@@ -54,11 +53,11 @@ public:
         writeSchema();
         for (const ReportFile& report : reports_)
             writeReport(report);
-        sys::syncFolder(folder_);
+        folder_.sync();
     }
 
 private:
-    QString file(const QString& name) const { return folder_ + u'/' + name; }
+    QString file(const QString& name) const { return folder_.wayTo(name); }
 
     bool tell(int more) const { return !progress_ || progress_(done_ + more, all_); }
 
@@ -121,13 +120,14 @@ private:
         if (outcome == report::Outcome::Cancelled)
             refuseCancelled();
         if (outcome == report::Outcome::Failed)
-            throw Refusal(exit_code::Failed, QStringLiteral("%1 could not be written.").arg(path));
+            throw Refusal(
+                exit_code::Failed, QStringLiteral("%1 could not be written.").arg(folder_.pathOf(report.name)));
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
         done_ += report.pages->count();
     }
 
     const Household& household_;
-    QString folder_;
+    const sys::Folder& folder_;
     const Progress& progress_;
     std::vector<ReportFile> reports_;
     int done_ = 0;
@@ -139,45 +139,97 @@ QStringList entriesOf(const QString& folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-// An empty folder gives way by itself. A former export goes in the same step as the new one comes.
-void putInPlace(QTemporaryDir& written, const QString& folder)
+// A folder beside the one that is to be written, for as long as it lives. What is in it at the end goes.
+class BesideIt {
+public:
+    explicit BesideIt(const sys::Folder& above)
+        : above_(above)
+        , folder_(above.madeNew(QStringLiteral(".kestrill-export-")))
+        , isUnderWay_(folder_)
+    {
+    }
+    BesideIt(const BesideIt&) = delete;
+    BesideIt& operator=(const BesideIt&) = delete;
+    ~BesideIt();
+
+    const sys::Folder& folder() const { return folder_; }
+    void putInPlace(const QString& name);
+
+private:
+    const sys::Folder& above_;
+    sys::Folder folder_;
+    sys::RunLock isUnderWay_;
+    bool isInPlace_ = false;
+};
+
+// Files of an export alone: whoever else may write there could have given the name to another folder.
+void clearAway(const sys::Folder& above, const sys::Folder& folder)
 {
-    if (!entriesOf(folder).isEmpty()) {
-        sys::exchangeFolders(written.path(), folder);
+    for (const QString& file : fileNames())
+        folder.remove(file);
+    above.removeEmpty(folder.name());
+}
+
+BesideIt::~BesideIt()
+{
+    try {
+        if (!isInPlace_)
+            clearAway(above_, above_.entered(folder_.name()));
+    } catch (const values::RuntimeFailure&) {
+        // The next export there clears it away.
+    }
+}
+
+// An empty folder gives way by itself. A former export goes in the same step as the new one comes.
+void BesideIt::putInPlace(const QString& name)
+{
+    if (above_.look(name) && !above_.entered(name).names().isEmpty()) {
+        above_.exchange(folder_.name(), name);
         return;
     }
-    sys::renameFile(written.path(), folder);
-    written.setAutoRemove(false);
+    above_.rename(folder_.name(), name);
+    isInPlace_ = true;
 }
 
 // What an export that was killed has left. The folder of a living one is locked.
-void clearLeftovers(const QString& above)
+void clearLeftovers(const sys::Folder& above)
 {
-    static const QRegularExpression name(QStringLiteral("^\\.kestrill-export-[A-Za-z]{6}$"));
-    const auto folders = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot;
-    for (const QString& leftover : QDir(above).entryList(folders).filter(name)) {
+    static const QRegularExpression name(QStringLiteral("^\\.kestrill-export-[A-Za-z0-9]{6}$"));
+    for (const QString& leftover : above.names().filter(name)) {
         try {
-            const sys::RunLock alone(above + u'/' + leftover, sys::RunLock::On::Folder);
+            const sys::Folder folder = above.entered(leftover);
+            const sys::RunLock alone(folder);
             if (alone.isHeld())
-                QDir(above + u'/' + leftover).removeRecursively();
+                clearAway(above, folder);
         } catch (const values::RuntimeFailure&) {
             // Somebody else's: it is in nobody's way.
         }
     }
 }
 
+sys::Folder openedAbove(const QString& path)
+{
+    try {
+        return sys::Folder(path);
+    } catch (const values::RuntimeFailure& failure) {
+        throw Refusal(exit_code::Failed,
+            QStringLiteral("Nothing can be written in %1: %2.").arg(path, failure.text().section(": ", -1)));
+    }
+}
+
 void writeWhole(const Household& household, const QString& folder, const Progress& progress)
 {
-    const QString above = QFileInfo(folder).path();
+    const sys::Folder above = openedAbove(QFileInfo(folder).path());
     clearLeftovers(above);
-    QTemporaryDir written(above + QStringLiteral("/.kestrill-export-XXXXXX"));
-    if (!written.isValid())
+    BesideIt written(above);
+    try {
+        Export(household, written.folder(), progress).run();
+    } catch (const values::RuntimeFailure& failure) {
         throw Refusal(
-            exit_code::Failed, QStringLiteral("Nothing can be written in %1: %2.").arg(above, written.errorString()));
-    const sys::RunLock isUnderWay(written.path(), sys::RunLock::On::Folder);
-    Export(household, written.path(), progress).run();
-    putInPlace(written, folder);
-    sys::syncFolder(above);
+            exit_code::Failed, QString(failure.text()).replace(written.folder().way(), written.folder().path()));
+    }
+    written.putInPlace(QFileInfo(folder).fileName());
+    above.sync();
 }
 
 } // namespace

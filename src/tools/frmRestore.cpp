@@ -32,6 +32,7 @@ frmRestore::frmRestore()
 
 void frmRestore::Form_Load()
 {
+    restoring::part_From_Today();
     fill_List(backups::all());
 }
 
@@ -92,7 +93,7 @@ void frmRestore::restore(const Backup& chosen)
     tmRead.setEnabled(false);
     try {
         const restoring::Result result = restoring::lay_Down(chosen, [this](int step) { pbRestore.setValue(step); });
-        forms::screen<frmRestored>().tell(backups::spoken(chosen.made), result.summary, result.putAside);
+        forms::screen<frmRestored>().tell(backups::spoken(chosen.made), result);
         hide();
     } catch (const Refusal&) {
         tmRead.setEnabled(true); // reads what is left, and takes the bar away

@@ -15,9 +15,12 @@ void frmRestored::Form_Unload(bool& cancel)
     forms::endProcess(exit_code::Done);
 }
 
-void frmRestored::tell(const QString& made, const QString& summary, const QString& putAside)
+void frmRestored::tell(const QString& made, const restoring::Result& result)
 {
-    lblTell[0].setCaption(QStringLiteral("The household is as it was at the backup of %1: %2.").arg(made, summary));
+    const QString& putAside = result.putAside;
+    const QString doubt = result.doubt.isEmpty() ? QString() : u' ' + restoring::told_Doubt(result);
+    lblTell[0].setCaption(
+        QStringLiteral("The household is as it was at the backup of %1: %2.").arg(made, result.summary) + doubt);
     lblTell[1].setCaption(putAside.isEmpty()
             ? QStringLiteral("There was no file before, so there is none to go back to.")
             : QStringLiteral("The file that was there until now is put aside. To go back to it, choose Restore From "

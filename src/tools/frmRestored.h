@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "tools/restoring.h"
 
 /// What a restore has done, and how to go back.
 class frmRestored : public forms::Form {
@@ -14,7 +15,7 @@ public:
     forms::Label lblCopyright{*this, "lblCopyright"};
 
     /// Shows itself with what is there now, and the name of what was put aside, if anything was.
-    void tell(const QString& made, const QString& summary, const QString& putAside);
+    void tell(const QString& made, const restoring::Result& result);
 
 private:
     void look();

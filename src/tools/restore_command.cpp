@@ -14,6 +14,7 @@ namespace {
 
 int listBackups()
 {
+    restoring::part_From_Today();
     std::vector<Backup> list = backups::all();
     for (Backup& backup : list) {
         backups::read(backup);
@@ -60,6 +61,8 @@ int restoreBackup(const QString& name, bool isConfirmed)
     terminal::print(QStringLiteral("Restored: %1").arg(result.summary));
     if (!result.putAside.isEmpty())
         terminal::print(QStringLiteral("To go back: kestrill-restore --restore %1").arg(result.putAside));
+    if (!result.doubt.isEmpty())
+        terminal::complain(restoring::told_Doubt(result));
     return exit_code::Done;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/restoring.h"
 
-#include "core/already_running.h"
 #include "core/data_store.h"
 #include "core/earlier_backups.h"
 #include "core/places.h"
@@ -10,7 +9,6 @@
 #include "tools/exit_codes.h"
 #include "tools/household.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <optional>
@@ -20,33 +18,59 @@ using values::RuntimeFailure;
 
 namespace restoring {
 
-std::function<std::vector<sys::Process>()> list_Processes = [] { return sys::runningProcesses(); };
-
 namespace {
 
 const QString Journal = QStringLiteral("-journal");
+const QString OwnSuffix = QStringLiteral(".own"); // of a copy that is to part from today's file
 
-bool hasContents(const QString& path)
-{
-    return QFileInfo(path).size() > 0;
-}
+// A file as an entry of its open folder.
+struct Place {
+    sys::Folder folder;
+    QString name;
 
-QString fileOf(const QString& path)
+    QString file() const { return folder.pathOf(name); }
+    Place besides(const QString& suffix) const { return {folder, name + suffix}; }
+    Place journal() const { return besides(Journal); }
+    bool isThere() const { return folder.look(name).has_value(); }
+    bool hasContents() const
+    {
+        const auto found = folder.look(name);
+        return found && found->size > 0;
+    }
+    void copyFrom(const Place& source) const { folder.copy(source.folder, source.name, name); }
+    void keepFrom(const Place& source) const { folder.keep(source.folder, source.name, name); }
+    void remove() const { folder.remove(name); }
+};
+
+// A link that its user has laid is followed once, here.
+QString realPath(const QString& path)
 {
     const QString real = QFileInfo(path).canonicalFilePath();
     return real.isEmpty() ? path : real;
 }
 
+Place placeOf(const QString& path)
+{
+    const QFileInfo file(realPath(path));
+    return {sys::Folder(file.path()), file.fileName()};
+}
+
+Place placeOfToday()
+{
+    const QFileInfo file(realPath(places::databaseFile()));
+    return {sys::Folder::made(file.path()), file.fileName()};
+}
+
 // What a run that broke off has half written is taken back, as the next start would, where that makes the file whole.
 // Else both stay as they are.
-void settle(const QString& file)
+void settle(const Place& place)
 {
-    if (!hasContents(file + Journal) || !QFileInfo::exists(file))
+    if (!place.journal().hasContents() || !place.isThere())
         return;
     try {
-        const Household triedOnACopy(file);
+        const Household triedOnACopy(place.file());
         storage::Connection connection;
-        connection.open(file, databaseKey());
+        connection.open(place.file(), databaseKey());
         connection.close();
     } catch (const RuntimeFailure&) {
         return;
@@ -56,10 +80,9 @@ void settle(const QString& file)
 class LayingDown {
 public:
     LayingDown(const QString& source, const Steps& steps)
-        : source_(source)
-        , file_(fileOf(places::databaseFile()))
-        , beside_(file_ + places::RestoringSuffix)
-        , aside_(earlier::folderFor(QDateTime::currentDateTime(), true))
+        : source_(placeOf(source))
+        , today_(placeOfToday())
+        , beside_(today_.besides(places::RestoringSuffix))
         , steps_(steps)
     {
     }
@@ -67,28 +90,27 @@ public:
     Result run();
 
 private:
-    enum class Reached { Nothing, JournalGone, LaidDown };
-
     void step();
     void lockToday();
     void layBeside();
     void putAside();
+    static void setAside(const Place& place, const Place& aside);
     void replace();
-    void proveInPlace();
+    QString doubt();
     void takeBack();
+    void putJournalBack();
     void forgetAside();
     void removeBeside();
-    QString asideFile() const { return aside_ + u'/' + QFileInfo(places::databaseFile()).fileName(); }
 
-    QString source_;
-    QString file_;
-    QString beside_;
-    QString aside_;
+    Place source_;
+    Place today_;
+    Place beside_;
+    std::optional<Place> aside_; // once its folder is made
+    bool isAside_ = false;
     const Steps& steps_;
     int done_ = 0;
-    Reached reached_ = Reached::Nothing;
-    std::optional<storage::FileLock> today_;
-    std::optional<storage::FileLock> laid_;
+    std::optional<storage::FileLock> lockOfToday_;
+    std::optional<storage::FileLock> lockOfBackup_;
     QString summary_;
 };
 
@@ -99,32 +121,30 @@ void LayingDown::step()
         steps_(done_);
 }
 
+// Up to the moment at which the backup gets its name a failure leaves today's file, and behind it there is none.
 Result LayingDown::run()
 {
-    sys::makePrivateFolder(QFileInfo(file_).path());
-    settle(file_);
+    settle(today_);
     lockToday();
     try {
         layBeside();
         putAside();
         replace();
-        proveInPlace();
     } catch (...) {
         takeBack();
         throw;
     }
-    const bool isAside = QFileInfo::exists(asideFile());
-    return {summary_, isAside ? QFileInfo(aside_).fileName() : QString()};
+    return {summary_, isAside_ ? aside_->folder.name() : QString(), doubt()};
 }
 
 // A file that can't be written can't be locked either. The program doesn't start on it.
 void LayingDown::lockToday()
 {
-    if (!QFileInfo::exists(file_))
+    if (!today_.isThere())
         return;
-    today_.emplace(file_);
-    if (!today_->isHeld() && storage::isInUse(file_))
-        throw Refusal(exit_code::InUse, QStringLiteral("%1 is in use by another program.").arg(file_));
+    lockOfToday_.emplace(today_.file());
+    if (!lockOfToday_->isHeld() && storage::isInUse(today_.file()))
+        throw Refusal(exit_code::InUse, QStringLiteral("%1 is in use by another program.").arg(today_.file()));
 }
 
 // Whole, on the disk and read through before it is in anybody's way, and out of reach until all is done.
@@ -132,36 +152,48 @@ void LayingDown::layBeside()
 {
     removeBeside(); // of a restore that was killed
     step();
-    sys::copyFile(source_, beside_);
-    if (hasContents(source_ + Journal)) {
+    beside_.copyFrom(source_);
+    if (source_.journal().hasContents()) {
         step();
-        sys::copyFile(source_ + Journal, beside_ + Journal);
+        beside_.journal().copyFrom(source_.journal());
         step();
         settle(beside_);
-        sys::removeFile(beside_ + Journal);
+        beside_.journal().remove();
     }
-    summary_ = Household(beside_, FileReader::Locks::Passed).summary();
-    laid_.emplace(beside_);
+    summary_ = Household(beside_.file(), FileReader::Locks::Passed).summary();
+    lockOfBackup_.emplace(beside_.file());
 }
 
-// Under a second name: the file stays where it is.
 void LayingDown::putAside()
 {
-    const bool isThere = QFileInfo(file_).isFile();
-    const bool hasJournal = hasContents(file_ + Journal);
-    if (!isThere && !hasJournal)
+    const bool hasJournal = today_.journal().hasContents();
+    isAside_ = today_.isThere();
+    if (!isAside_ && !hasJournal)
         return;
     step();
-    sys::makePrivateFolder(aside_);
+    const sys::Folder kept(places::earlierBackupsFolder());
+    const QString name = earlier::freeName(QDateTime::currentDateTime(), true);
+    aside_.emplace(Place{kept.madeEntered(name), QFileInfo(places::databaseFile()).fileName()});
     step();
-    if (isThere)
-        sys::keepFile(file_, asideFile());
+    if (isAside_)
+        setAside(today_, *aside_);
     step();
     if (hasJournal)
-        sys::keepFile(file_ + Journal, asideFile() + Journal);
+        setAside(today_.journal(), aside_->journal());
     step();
-    sys::syncFolder(aside_);
-    sys::syncFolder(QFileInfo(aside_).path());
+    aside_->folder.sync();
+    kept.sync();
+}
+
+// A file of its own, which nothing changes that is stored in today's later, should this be killed. A file that its disk
+// doesn't give any more, or for which there is no room, gets a second name, which is its only one when all is done.
+void LayingDown::setAside(const Place& place, const Place& aside)
+{
+    try {
+        aside.copyFrom(place);
+    } catch (const RuntimeFailure&) {
+        aside.keepFrom(place);
+    }
 }
 
 // The journal goes first, which by now belongs to a file that it doesn't mend: beside the new file the next start might
@@ -169,73 +201,131 @@ void LayingDown::putAside()
 void LayingDown::replace()
 {
     step();
-    reached_ = Reached::JournalGone;
-    sys::removeFile(file_ + Journal);
+    today_.journal().remove();
     step();
-    sys::renameFile(beside_, file_);
-    reached_ = Reached::LaidDown;
-    step();
-    sys::syncFolder(QFileInfo(file_).path());
+    today_.folder.rename(beside_.name, today_.name);
 }
 
-void LayingDown::proveInPlace()
-{
-    step();
-    if (Household(file_, FileReader::Locks::Passed).summary() != summary_)
-        throw Refusal(exit_code::Failed, QStringLiteral("%1 does not hold what was laid down.").arg(file_));
-}
-
-// Each step is a step back to today's file, whatever has failed.
-void LayingDown::takeBack()
+// The backup is in place, and no failure changes that any more.
+QString LayingDown::doubt()
 {
     try {
-        removeBeside();
-        if (reached_ == Reached::LaidDown && QFileInfo::exists(asideFile())) {
-            sys::keepFile(asideFile(), beside_);
-            sys::renameFile(beside_, file_);
-        }
-        if (reached_ != Reached::Nothing && QFileInfo::exists(asideFile() + Journal)
-            && !QFileInfo::exists(file_ + Journal))
-            sys::keepFile(asideFile() + Journal, file_ + Journal);
-        forgetAside();
+        step();
+        today_.folder.sync();
+        return {};
     } catch (const RuntimeFailure& failure) {
-        if (reached_ == Reached::Nothing) // today's file lies where it lay
-            return;
+        return failure.text().section(QStringLiteral(": "), -1);
+    }
+}
+
+// Whatever has failed, today's file lies where it lay. What the attempt leaves behind is in nobody's way.
+void LayingDown::takeBack()
+{
+    putJournalBack();
+    try {
+        removeBeside();
+        forgetAside();
+    } catch (const RuntimeFailure&) {
+        return;
+    }
+}
+
+void LayingDown::putJournalBack()
+{
+    if (!aside_ || !aside_->journal().isThere() || today_.journal().isThere())
+        return;
+    try {
+        today_.journal().keepFrom(aside_->journal());
+    } catch (const RuntimeFailure& failure) {
         throw Refusal(exit_code::Failed,
-            QStringLiteral("The restore failed, and today's file could not be put back (%1). It lies in %2.")
-                .arg(failure.text(), aside_));
+            QStringLiteral("The restore failed. Today's file is in its place, but its journal could not be put back "
+                           "beside it (%1). It lies in %2.")
+                .arg(failure.text(), aside_->folder.path()));
     }
 }
 
 void LayingDown::forgetAside()
 {
-    sys::removeFile(asideFile() + Journal);
-    sys::removeFile(asideFile());
-    QDir().rmdir(aside_);
+    if (!aside_)
+        return;
+    aside_->journal().remove();
+    aside_->remove();
+    sys::Folder(places::earlierBackupsFolder()).removeEmpty(aside_->folder.name());
 }
 
 void LayingDown::removeBeside()
 {
-    sys::removeFile(beside_ + Journal);
-    sys::removeFile(beside_);
+    beside_.journal().remove();
+    beside_.remove();
+}
+
+// What a restore that was killed has begun to put aside.
+void clearRemains()
+{
+    const sys::Folder all(places::earlierBackupsFolder());
+    const QString file = QFileInfo(places::databaseFile()).fileName();
+    for (const QString& name : all.names()) {
+        const auto found = all.look(name);
+        if (!earlier::isForPutAside(name) || !found || found->kind != sys::Folder::Kind::Folder)
+            continue;
+        const sys::Folder folder = all.entered(name);
+        for (const QString& begun : {file, QString(file + Journal), QString(file + OwnSuffix)})
+            folder.removePart(begun);
+        all.removeEmpty(name);
+    }
+}
+
+// A copy takes the place of the second name, in one step.
+void partFromToday(const earlier::KeptFile& kept)
+{
+    const storage::FileLock lock(kept.file); // nobody stores anything in it meanwhile
+    if (!lock.isHeld())
+        return;
+    const Place aside = placeOf(kept.file);
+    const Place own = aside.besides(OwnSuffix);
+    own.remove();
+    own.copyFrom(aside);
+    aside.folder.rename(own.name, aside.name);
+    aside.folder.sync();
 }
 
 } // namespace
 
 void refuse_While_Running()
 {
-    if (count_Running(list_Processes(), sys::thisProcess()) > 0)
+    if (storage::isInUse(places::databaseFile()))
         throw Refusal(exit_code::InUse, QStringLiteral("Kestrill is running. Close it first."));
+}
+
+QString told_Doubt(const Result& result)
+{
+    return QStringLiteral("The disk has not confirmed it: %1. Look after the disk, and check the file with "
+                          "kestrill-check before you go on.")
+        .arg(result.doubt);
+}
+
+void part_From_Today()
+{
+    for (const earlier::KeptFile& kept : earlier::all()) {
+        if (!kept.isPutAside || !sys::isSameFile(kept.file, places::databaseFile()))
+            continue;
+        try {
+            partFromToday(kept);
+        } catch (const RuntimeFailure&) {
+            continue;
+        }
+    }
 }
 
 Result lay_Down(const Backup& chosen, const Steps& steps)
 {
     try {
         refuse_While_Running();
-        sys::makePrivateFolder(places::earlierBackupsFolder());
-        const sys::RunLock alone(places::earlierBackupsFolder() + QStringLiteral("/.restoring"));
+        const sys::RunLock alone(sys::Folder::made(places::earlierBackupsFolder()), QStringLiteral(".restoring"));
         if (!alone.isHeld())
             throw Refusal(exit_code::InUse, QStringLiteral("Another restore is under way."));
+        clearRemains();
+        part_From_Today();
         return LayingDown(chosen.file, steps).run();
     } catch (const UnreadableHousehold& failure) {
         throw Refusal(

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/system/processes.h"
 #include "tools/backups.h"
 
 #include <functional>
@@ -12,13 +11,17 @@ namespace restoring {
 struct Result {
     QString summary; ///< of what is there now
     QString putAside; ///< the name under which today's file can be restored in turn; empty where there was none
+    QString doubt; ///< why it isn't sure that a power cut would leave the backup there; empty where it is
 };
+
+/// The words for a doubt.
+QString told_Doubt(const Result& result);
 
 /// Told before each step that changes a file, with its number from 1 on.
 using Steps = std::function<void(int step)>;
 
 /// How many steps there are at most.
-inline constexpr int StepCount = 11;
+inline constexpr int StepCount = 10;
 
 /// Lays a backup down in place of today's file, which is put aside with its journal.
 ///
@@ -27,10 +30,11 @@ inline constexpr int StepCount = 11;
 /// Failures: Refusal.
 Result lay_Down(const Backup& chosen, const Steps& steps = {});
 
-/// Refuses while the program runs. Failures: Refusal.
+/// Refuses while the program has the household's file open. Failures: Refusal.
 void refuse_While_Running();
 
-/// The list of processes that it looks through; tests give their own.
-extern std::function<std::vector<sys::Process>()> list_Processes;
+/// Where a restore that was killed has left a file put aside that is still today's by another name, gives it a copy of
+/// its own. What fails is tried again the next time.
+void part_From_Today();
 
 } // namespace restoring

@@ -154,9 +154,9 @@ protected:
     // Today's file, which only its user gives up.
     void putAside() const
     {
-        const QString aside = earlier::folderFor(now.addYears(-9), true);
-        sys::makePrivateFolder(aside);
-        sys::keepFile(backupFile(), aside + "/KTL.db");
+        sys::Folder::made(places::earlierBackupsFolder())
+            .madeEntered(earlier::freeName(now.addYears(-9), true))
+            .keep(sys::Folder(places::backupFolder()), "KTL.db", "KTL.db");
     }
 
     static QStringList names()
@@ -204,7 +204,7 @@ TEST_F(EarlierBackups, AreThinnedAndLeaveWhatIsNotTheirs)
 // Files without contents seem large and take no room.
 TEST_F(EarlierBackups, TakeNoMoreThanATenthOfTheFreeDisk)
 {
-    const qint64 third = sys::freeSpace(places::databaseFolder()) / 30;
+    const qint64 third = sys::Folder(places::databaseFolder()).freeSpace() / 30;
     putBackup({}, now, third / 100 * 99);
     putAside();
     for (int minute = 10; minute > 6; --minute)

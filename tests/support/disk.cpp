@@ -47,9 +47,11 @@ int fsync(int file)
     return call("sync " + nameOf(path), SYS_fsync, file);
 }
 
-int link(const char* from, const char* to) noexcept
+int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept
 {
-    return call("link " + nameOf(from) + ' ' + nameOf(to), SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0);
+    if (flags != 0) // a file that had no name yet
+        return static_cast<int>(::syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
+    return call("link " + nameOf(from) + ' ' + nameOf(to), SYS_linkat, fromFolder, from, toFolder, to, flags);
 }
 
 int rename(const char* from, const char* to) noexcept

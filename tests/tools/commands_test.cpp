@@ -41,15 +41,16 @@ protected:
         const std::map<QString, std::function<void()>> events{{"asset", [&] { addAsset(path, rest); }},
             {"sql", [&] { runOnFile(path, rest); }}, {"copy", [&] { putFile(rest, bytesOf(path)); }},
             {"write", [&] { putFile(path, rest.toUtf8()); }},
-            {"keep", [&] { sys::makePrivateFolder(QFileInfo(rest).path()), sys::keepFile(path, rest); }},
-            {"folder", [&] { sys::makePrivateFolder(path); }}, {"remove", [&] { QDir(path).removeRecursively(); }},
+            {"keep",
+                [&] {
+                    sys::Folder::made(QFileInfo(rest).path())
+                        .keep(sys::Folder(QFileInfo(path).path()), "KTL.db", "KTL.db");
+                }},
+            {"folder", [&] { sys::Folder::made(path); }}, {"remove", [&] { QDir(path).removeRecursively(); }},
             {"damage", [&] { damage(path, rest == "last" ? static_cast<int>(QFileInfo(path).size() / 1024) - 1 : 1); }},
             {"break", [] { breakOff(); }}, {"lock", [&] { running_.emplace(path); }},
-            {"unlock", [&] { running_.reset(), another_.reset(), runAlone(); }},
-            {"another", [&] { another_.emplace(path); }},
-            {"start", [] { restoring::list_Processes = [] {
-                               return std::vector{sys::thisProcess(), program};
-                           }; }},
+            {"unlock", [&] { running_.reset(), another_.reset(); }},
+            {"another", [&] { another_.emplace(sys::Folder(QFileInfo(path).path()), QFileInfo(path).fileName()); }},
             {"refuse", [&] { Disk::refuse(rest, path.toInt()); }}, {"full", [&] { full_.emplace(path.toInt()); }},
             {"empty", [&] { full_.reset(), Disk::refuse("never", 0); }},
             {"files",
@@ -97,8 +98,6 @@ private:
     }
 
     int asked_ = 0; // for a folder
-
-    inline static const sys::Process program{1, "Kestrill", {}, 7, 1};
 
     static void open(const QString& name)
     {

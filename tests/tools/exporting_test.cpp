@@ -67,5 +67,11 @@ TEST_F(ExportingTest, ClearsWhatKilledOnesHaveLeftAndNothingElse)
         return true;
     });
     EXPECT_EQ(leftovers(), QStringList(".kestrill-export-of-mine"));
+    // What others put there under such a name isn't followed and loses nothing.
+    putFile(below("photos/wedding.jpg"), "not an export's");
+    ASSERT_TRUE(QFile::link(".kestrill-export-photos", below(".kestrill-export-Linked")));
+    ASSERT_TRUE(QDir().rename(below("photos"), below(".kestrill-export-photos")));
+    write(Former::Replaced);
+    EXPECT_EQ(bytesOf(below(".kestrill-export-photos/wedding.jpg")), "not an export's");
     EXPECT_EQ(QDir(folder_).count(), exporting::fileNames().size() + 2); // with "." and ".."
 }

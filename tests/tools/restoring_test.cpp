@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools_test.h"
 
+#include "core/earlier_backups.h"
+#include "platform/storage/file_lock.h"
 #include "platform/values/failure.h"
+#include "support/disk.h"
 #include "tools/household.h"
+
+#include <QProcess>
 
 #include <algorithm>
 
@@ -18,7 +23,7 @@ protected:
         old_ = bytesOf(backupFile());
         addAsset("Chair", "$5.50");
         today_ = bytesOf(today());
-        sys::makePrivateFolder(places::earlierBackupsFolder());
+        sys::Folder::made(places::earlierBackupsFolder());
         putFile(Lock, {});
     }
 
@@ -27,6 +32,24 @@ protected:
     static std::optional<int> refused(const restoring::Steps& steps = {})
     {
         return refusal([&steps] { restoring::lay_Down(last(), steps); });
+    }
+
+    static QString refusedWords(const restoring::Steps& steps)
+    {
+        try {
+            restoring::lay_Down(last(), steps);
+        } catch (const Refusal& refusal) {
+            return refusal.words();
+        }
+        return {};
+    }
+
+    static restoring::Steps failingAt(int step)
+    {
+        return [step](int now) {
+            if (now == step)
+                throw values::RuntimeFailure(values::FailureKind::File, "the disk");
+        };
     }
 
     static QStringList inFolder() { return QDir(places::databaseFolder()).entryList(QDir::Files | QDir::Hidden); }
@@ -60,6 +83,8 @@ TEST_F(RestoringTest, KilledAtAnyStepLeavesTodaysFileOrTheBackupAndGoesOnAfterwa
                         _exit(1);
                 });
             });
+            for (const earlier::KeptFile& kept : earlier::all())
+                EXPECT_FALSE(sys::isSameFile(kept.file, today())) << "it would change with what is stored next";
             if (bytesOf(today()) == old_)
                 EXPECT_FALSE(QFile::exists(Journal)) << "which would destroy the backup";
             else if (isDamaged)
@@ -72,7 +97,7 @@ TEST_F(RestoringTest, KilledAtAnyStepLeavesTodaysFileOrTheBackupAndGoesOnAfterwa
             EXPECT_EQ(inFolder(), QStringList("KTL.db"));
             EXPECT_EQ(bytesOf(aside + "/KTL.db-journal"), hasJournal ? itsJournal : "(missing)") << "of its file";
         }
-        EXPECT_EQ(killed, 9) << "steps without a journal of the backup's own";
+        EXPECT_EQ(killed, 8) << "steps without a journal of the backup's own";
     }
     const QString aside = places::earlierBackupsFolder() + "/2020-11-20_08-00-00_put-aside/KTL.db";
     putFile(aside, brokenOff);
@@ -86,40 +111,52 @@ TEST_F(RestoringTest, AFailureAtAnyStepLeavesTodaysFileWithItsJournal)
     damage(today());
     putFile(Journal, QByteArray(2000, 'j'));
     const auto before = everything();
-    for (int step = 1; step <= 9; ++step) {
+    for (int step = 1; step <= 7; ++step) {
         SCOPED_TRACE(step);
-        const auto fail = [step](int now) {
-            if (now == step)
-                throw values::RuntimeFailure(values::FailureKind::File, "the disk");
-        };
-        EXPECT_EQ(refused(fail), exit_code::Failed);
+        EXPECT_EQ(refused(failingAt(step)), exit_code::Failed);
         EXPECT_EQ(everything(), before);
     }
     damage(backupFile());
     EXPECT_EQ(refused(), exit_code::Unreadable);
     putFile(backupFile(), old_);
-    const auto refusedWith = [](const std::function<void()>& atTheLastStep) {
-        try {
-            restoring::lay_Down(last(), [&](int step) { step == 9 ? atTheLastStep() : void(); });
-        } catch (const Refusal& refusal) {
-            return refusal.words();
-        }
-        return QString();
-    };
-    EXPECT_TRUE(refusedWith([this] { putFile(today(), today_); }).endsWith(" does not hold what was laid down."));
     EXPECT_EQ(everything(), before);
-    const QByteArray damaged = bytesOf(today());
-    const QString words = refusedWith([] {
-        QDir().mkdir(today() + ".restoring-journal"); // which can't be cleared away
-        throw values::RuntimeFailure(values::FailureKind::File, "the disk");
+    const QString words = refusedWords([](int step) {
+        Disk::refuse(step == 7 ? "link" : "never", EIO);
+        failingAt(7)(step);
     });
-    EXPECT_TRUE(
-        words.startsWith("The restore failed, and today's file could not be put back (File failure: removing "));
-    EXPECT_EQ(bytesOf(words.section("It lies in ", 1).chopped(1) + "/KTL.db"), damaged);
-    EXPECT_TRUE(refusedWith({}).startsWith("File failure: removing "));
+    Disk::refuse("never", 0);
+    EXPECT_TRUE(words.startsWith("The restore failed. Today's file is in its place, but its journal could not be put "
+                                 "back beside it (File failure: keeping "));
+    EXPECT_EQ(bytesOf(words.section("It lies in ", 1).chopped(1) + "/KTL.db-journal"), QByteArray(2000, 'j'));
+    QDir().mkdir(today() + ".restoring-journal"); // which can't be cleared away
+    EXPECT_TRUE(refusedWords({}).startsWith("File failure: removing "));
 }
 
-TEST_F(RestoringTest, NobodyOpensTheFileFromItsPuttingAsideToItsProof)
+TEST_F(RestoringTest, IsDoneOnceTheBackupIsInPlaceWhateverFailsThen)
+{
+    const restoring::Result result = restoring::lay_Down(last(), failingAt(8));
+    EXPECT_EQ(line(result.summary, result.doubt, bytesOf(today()) == old_), "1 asset, $10.00, the disk, true");
+    EXPECT_EQ(bytesOf(places::earlierBackupsFolder() + '/' + result.putAside + "/KTL.db"), today_);
+}
+
+// What can't be copied gets a second name, until the next look.
+TEST_F(RestoringTest, GivesWhatWasPutAsideAFileOfItsOwnAtTheNextLook)
+{
+    Disk::refuse("sync KTL.db.part", ENOSPC);
+    inProcess([] { restoring::lay_Down(last(), [](int step) { step == 6 ? _exit(1) : void(); }); });
+    Disk::refuse("never", 0);
+    const QString aside = earlier::all().at(0).file;
+    ASSERT_TRUE(sys::isSameFile(aside, today()));
+    {
+        const storage::FileLock running(today());
+        restoring::part_From_Today();
+    }
+    ASSERT_TRUE(sys::isSameFile(aside, today())) << "in use";
+    restoring::part_From_Today();
+    EXPECT_EQ(line(sys::isSameFile(aside, today()), bytesOf(aside) == today_), "false, true");
+}
+
+TEST_F(RestoringTest, NobodyOpensTheFileFromItsPuttingAsideToItsLastStep)
 {
     const auto open = [] {
         try {
@@ -128,11 +165,17 @@ TEST_F(RestoringTest, NobodyOpensTheFileFromItsPuttingAsideToItsProof)
             _exit(3);
         }
     };
+    // Whatever other programs are called.
+    const QString editor = below("an editor of Kestrill");
+    ASSERT_TRUE(QFile::copy("/bin/sleep", editor));
+    QProcess another;
+    another.start(editor, {"600"});
+    ASSERT_TRUE(another.waitForStarted());
     restoring::lay_Down(last(), [&open](int step) { EXPECT_EQ(inProcess(open), 3) << step; });
+    another.kill();
+    another.waitForFinished();
     EXPECT_EQ(bytesOf(today()), old_);
-    restoring::list_Processes = [] {
-        return std::vector{sys::thisProcess(), sys::Process{1, "a Kestrill 2", "/bin/x", 7, 1}};
-    };
+    const storage::FileLock running(today());
     EXPECT_EQ(refused(), exit_code::InUse);
 }
 

@@ -24,14 +24,8 @@ protected:
         closeData();
         QFile::remove(databaseFile());
         createShippedDatabase(databaseFile(), {{{"Attic", "Art", "Frame"}}, {}, {}});
-        runAlone();
     }
     ~ToolsTest() override { setRounds("64000"); }
-
-    static void runAlone()
-    {
-        restoring::list_Processes = [] { return std::vector{sys::thisProcess()}; };
-    }
 
     /// Stores an asset as the program does, and counts it in the running total.
     static void addAsset(const QString& item, const QString& amount, const QString& description = "None")

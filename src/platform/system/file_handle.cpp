@@ -6,8 +6,11 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+#include <memory>
 #include <vector>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -53,9 +56,40 @@ values::RuntimeFailure refused(const char* attempt, const fs::path& path, int re
     return refusal(values::FailureKind::File, QLatin1String(attempt) + u' ' + textOf(path), reason);
 }
 
-void copyBytes(const fs::path& source, const Handle& copy, const fs::path& target)
+Handle openedFolder(const fs::path& path)
 {
-    const Handle file(::open(source.c_str(), O_RDONLY | O_CLOEXEC));
+    return Handle(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+Handle openedFolderIn(const Handle& folder, const char* name)
+{
+    return Handle(::openat(folder.number(), name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+std::vector<Entry> entriesOf(const Handle& folder, const fs::path& path)
+{
+    // Reading moves a place in the open folder, so it is opened once more.
+    const int again = ::openat(folder.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::unique_ptr<DIR, int (*)(DIR*)> reading(again < 0 ? nullptr : ::fdopendir(again), ::closedir);
+    if (!reading)
+        throw refused("reading the folder", path);
+    std::vector<Entry> entries;
+    for (errno = 0; const dirent* found = ::readdir(reading.get()); errno = 0) {
+        struct ::stat status { };
+        const std::string name = found->d_name;
+        if (name != "." && name != ".." && ::fstatat(folder.number(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
+            entries.push_back({name, status.st_mode});
+    }
+    if (errno != 0)
+        throw refused("reading the folder", path);
+    std::ranges::sort(entries, {}, &Entry::name);
+    return entries;
+}
+
+void copyBytes(
+    const Handle& folder, const char* name, const fs::path& source, const Handle& copy, const fs::path& target)
+{
+    const Handle file(::openat(folder.number(), name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!file.isOpen())
         throw refused("reading", source);
     std::vector<char> block(BlockSize);
@@ -66,10 +100,9 @@ void copyBytes(const fs::path& source, const Handle& copy, const fs::path& targe
         throw refused("reading", source);
 }
 
-void flushFolder(const fs::path& path)
+void flushFolder(const Handle& folder, const fs::path& path)
 {
-    const Handle folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder.isOpen() || (::fsync(folder.number()) != 0 && errno != EINVAL && errno != ENOTSUP))
+    if (::fsync(folder.number()) != 0 && errno != EINVAL && errno != ENOTSUP)
         throw refused("flushing", path);
 }
 

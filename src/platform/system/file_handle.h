@@ -7,6 +7,10 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <string>
+#include <vector>
+
+#include <sys/stat.h>
 
 namespace sys {
 
@@ -17,8 +21,14 @@ public:
         : number_(number)
     {
     }
+    Handle(Handle&& other) noexcept
+        : number_(other.number_)
+    {
+        other.number_ = -1;
+    }
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
+    Handle& operator=(Handle&&) = delete;
     ~Handle();
 
     bool isOpen() const { return number_ >= 0; }
@@ -34,10 +44,25 @@ std::filesystem::path pathOf(const QString& text);
 /// The failure (File) that tells what was attempted, on what, and the system's reason.
 values::RuntimeFailure refused(const char* attempt, const std::filesystem::path& path, int reason = errno);
 
-/// Writes all bytes of a file into an open one, which is `target` in a failure's words.
-void copyBytes(const std::filesystem::path& source, const Handle& copy, const std::filesystem::path& target);
+/// Opens a folder by its path, through links; and one in an open folder, never through a link.
+Handle openedFolder(const std::filesystem::path& path);
+Handle openedFolderIn(const Handle& folder, const char* name);
+
+/// An entry of a folder by its name, and what `lstat` tells of its kind.
+struct Entry {
+    std::string name;
+    mode_t mode;
+};
+
+/// All entries of an open folder, in the order of their names. Failures: File, on `path`.
+std::vector<Entry> entriesOf(const Handle& folder, const std::filesystem::path& path);
+
+/// Writes all bytes of a file of an open folder into an open one; `source` and `target` are theirs in a failure's
+/// words.
+void copyBytes(const Handle& folder, const char* name, const std::filesystem::path& source, const Handle& copy,
+    const std::filesystem::path& target);
 
 /// Makes the names in a folder outlast a power cut. Some file systems have no such operation for folders and say so.
-void flushFolder(const std::filesystem::path& path);
+void flushFolder(const Handle& folder, const std::filesystem::path& path);
 
 } // namespace sys

@@ -3,13 +3,17 @@
 
 #include "platform/system/file_handle.h"
 
+#include <QFile>
+
 #include <algorithm>
+#include <climits>
 #include <filesystem>
-#include <set>
+#include <memory>
 #include <string_view>
 #include <vector>
 
 #include <fcntl.h>
+#include <stdio.h>
 #include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -22,142 +26,201 @@ namespace {
 
 constexpr std::string_view TemporaryPrefix = ".folder-copy-";
 
-// What a folder holds, as paths below it; a folder comes before what it holds itself.
-struct Contents {
-    std::vector<fs::path> folders;
-    std::vector<fs::path> files;
-    std::vector<fs::path> links;
+// An open folder and its path, which is for words alone.
+struct Place {
+    std::shared_ptr<const Handle> handle;
+    fs::path path;
+
+    int number() const { return handle->number(); }
 };
 
-void collect(const fs::path& top, const fs::path& below, Contents& contents)
+Place placeOf(Handle handle, const char* attempt, const fs::path& path)
 {
-    for (const fs::directory_entry& entry : fs::directory_iterator(top / below)) {
-        const fs::path path = below / entry.path().filename();
-        if (entry.is_symlink()) {
-            contents.links.push_back(path);
-        } else if (entry.is_directory()) {
-            contents.folders.push_back(path);
-            collect(top, path, contents);
-        } else if (entry.is_regular_file()) {
-            contents.files.push_back(path);
-        }
-    }
+    if (!handle.isOpen())
+        throw refused(attempt, path);
+    return {std::make_shared<const Handle>(std::move(handle)), path};
 }
 
-void removeLeftovers(const fs::path& folder)
+Place placeIn(const Place& above, const std::string& name, const char* attempt)
 {
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        if (entry.path().filename().native().starts_with(TemporaryPrefix) && !entry.is_directory())
-            fs::remove(entry.path());
+    return placeOf(openedFolderIn(*above.handle, name.c_str()), attempt, above.path / name);
+}
+
+mode_t modeOf(const Place& place, const std::string& name)
+{
+    struct ::stat found { };
+    return ::fstatat(place.number(), name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 ? found.st_mode : 0;
+}
+
+// The path by which another part of the program reaches what lies in an open folder.
+QString wayTo(const Place& place, const std::string& name)
+{
+    return QStringLiteral("/proc/self/fd/%1/").arg(place.number()) + textOf(name);
+}
+
+void removeLeftovers(const Place& place)
+{
+    for (const Entry& entry : entriesOf(*place.handle, place.path)) {
+        if (!entry.name.starts_with(TemporaryPrefix) || S_ISDIR(entry.mode))
+            continue;
+        if (::unlinkat(place.number(), entry.name.c_str(), 0) != 0 && errno != ENOENT)
+            throw refused("removing", place.path / entry.name);
     }
 }
 
 // A copy under way. What isn't put in place is taken back.
 class PendingCopy {
 public:
-    PendingCopy() = default;
+    PendingCopy(const CopyProof& proof, const CopyFilter& leavesOut)
+        : proof_(proof)
+        , leavesOut_(leavesOut)
+    {
+    }
     PendingCopy(const PendingCopy&) = delete;
     PendingCopy& operator=(const PendingCopy&) = delete;
     ~PendingCopy();
 
-    void addFolder(const fs::path& folder);
-    void addSubFolder(const fs::path& folder);
-    void addFile(const fs::path& source, const fs::path& target, const CopyProof& proof);
-    void addLink(const fs::path& source, const fs::path& target);
+    /// The target itself, which may be a link to where it shall lie.
+    Place openTarget(const fs::path& path);
+    void addContents(const Place& source, const Place& target);
     void putInPlace();
 
 private:
     struct File {
-        fs::path temporary;
-        fs::path target;
+        Place folder;
+        std::string temporary;
+        std::string name;
+    };
+    struct MadeFolder {
+        Place above;
+        std::string name;
     };
 
-    Handle openTemporaryFor(const fs::path& target);
-    std::set<fs::path> touchedFolders() const;
+    Place openSubFolder(const Place& above, const std::string& name);
+    void addFile(const Place& source, const Place& target, const std::string& name);
+    void addLink(const Place& source, const Place& target, const std::string& name);
+    Handle openTemporaryFor(const Place& folder, const std::string& name);
+    void touch(const Place& folder);
 
-    std::vector<fs::path> madeFolders_;
+    const CopyProof& proof_;
+    const CopyFilter& leavesOut_;
+    std::vector<MadeFolder> madeFolders_;
     std::vector<File> files_;
+    std::vector<Place> touched_; // folders whose names change, each once
 };
 
 PendingCopy::~PendingCopy()
 {
-    std::error_code ignored;
     for (const File& file : files_)
-        fs::remove(file.temporary, ignored);
+        ::unlinkat(file.folder.number(), file.temporary.c_str(), 0);
     for (auto folder = madeFolders_.rbegin(); folder != madeFolders_.rend(); ++folder)
-        fs::remove(*folder, ignored);
+        ::unlinkat(folder->above.number(), folder->name.c_str(), AT_REMOVEDIR);
 }
 
-void PendingCopy::addFolder(const fs::path& folder)
+Place PendingCopy::openTarget(const fs::path& path)
 {
-    if (fs::is_directory(folder)) {
-        removeLeftovers(folder);
-        return;
+    const Place above = placeOf(openedFolder(path.parent_path()), "making the folder", path);
+    const bool isThere = fs::exists(path);
+    if (!isThere && ::mkdirat(above.number(), path.filename().c_str(), S_IRWXU) != 0)
+        throw refused("making the folder", path);
+    if (!isThere) {
+        madeFolders_.push_back({above, path.filename()});
+        touch(above);
     }
-    if (::mkdir(folder.c_str(), S_IRWXU) != 0)
-        throw refused("making the folder", folder);
-    madeFolders_.push_back(folder);
+    Place target = placeOf(openedFolder(path), "making the folder", path);
+    removeLeftovers(target);
+    return target;
 }
 
 // A link in its place would lead the copy out of the target.
-void PendingCopy::addSubFolder(const fs::path& folder)
+Place PendingCopy::openSubFolder(const Place& above, const std::string& name)
 {
-    if (fs::is_symlink(folder))
-        fs::remove(folder);
-    addFolder(folder);
+    if (S_ISLNK(modeOf(above, name)) && ::unlinkat(above.number(), name.c_str(), 0) != 0)
+        throw refused("replacing", above.path / name);
+    if (::mkdirat(above.number(), name.c_str(), S_IRWXU) == 0) {
+        madeFolders_.push_back({above, name});
+        touch(above);
+    } else if (errno != EEXIST) {
+        throw refused("making the folder", above.path / name);
+    }
+    Place folder = placeIn(above, name, "making the folder");
+    removeLeftovers(folder);
+    return folder;
+}
+
+// Folders come first: where one can't be made, nothing has been copied yet.
+void PendingCopy::addContents(const Place& source, const Place& target)
+{
+    const std::vector<Entry> entries = entriesOf(*source.handle, source.path);
+    for (const Entry& entry : entries)
+        if (S_ISDIR(entry.mode))
+            addContents(placeIn(source, entry.name, "reading the folder"), openSubFolder(target, entry.name));
+    for (const Entry& entry : entries) {
+        if (S_ISREG(entry.mode) && (!leavesOut_ || !leavesOut_(textOf(source.path / entry.name))))
+            addFile(source, target, entry.name);
+        if (S_ISLNK(entry.mode))
+            addLink(source, target, entry.name);
+    }
 }
 
 // The disk begins to write before the proof and ends after it: the two overlap, and the copy is on the disk before it
 // takes its name.
-void PendingCopy::addFile(const fs::path& source, const fs::path& target, const CopyProof& proof)
+void PendingCopy::addFile(const Place& source, const Place& target, const std::string& name)
 {
-    const Handle copy = openTemporaryFor(target);
-    copyBytes(source, copy, target);
+    const Handle copy = openTemporaryFor(target, name);
+    copyBytes(*source.handle, name.c_str(), source.path / name, copy, target.path / name);
     ::sync_file_range(copy.number(), 0, 0, SYNC_FILE_RANGE_WRITE);
-    if (proof)
-        proof(textOf(source), textOf(files_.back().temporary));
+    if (proof_)
+        proof_(textOf(source.path / name), wayTo(target, files_.back().temporary));
     if (::fsync(copy.number()) != 0)
-        throw refused("writing", target);
+        throw refused("writing", target.path / name);
 }
 
-void PendingCopy::addLink(const fs::path& source, const fs::path& target)
+void PendingCopy::addLink(const Place& source, const Place& target, const std::string& name)
 {
-    openTemporaryFor(target);
-    fs::remove(files_.back().temporary);
-    fs::create_symlink(fs::read_symlink(source), files_.back().temporary);
+    std::string aim(PATH_MAX, '\0');
+    const ssize_t length = ::readlinkat(source.number(), name.c_str(), aim.data(), aim.size());
+    if (length < 0)
+        throw refused("reading", source.path / name);
+    aim.resize(static_cast<std::size_t>(length));
+    openTemporaryFor(target, name);
+    const std::string& temporary = files_.back().temporary;
+    if (::unlinkat(target.number(), temporary.c_str(), 0) != 0
+        || ::symlinkat(aim.c_str(), target.number(), temporary.c_str()) != 0)
+        throw refused("writing", target.path / name);
 }
 
 // The temporary's name doesn't hold the target's, which may be as long as a name can be.
-Handle PendingCopy::openTemporaryFor(const fs::path& target)
+Handle PendingCopy::openTemporaryFor(const Place& folder, const std::string& name)
 {
-    if (fs::is_directory(fs::symlink_status(target)))
-        throw refused("replacing", target, EISDIR);
-    std::string name = target.parent_path() / std::string(TemporaryPrefix).append("XXXXXX");
-    const int number = ::mkostemp(name.data(), O_CLOEXEC);
+    if (S_ISDIR(modeOf(folder, name)))
+        throw refused("replacing", folder.path / name, EISDIR);
+    const QByteArray beginning = QFile::encodeName(wayTo(folder, std::string(TemporaryPrefix) + "XXXXXX"));
+    std::string path = beginning.toStdString();
+    const int number = ::mkostemp(path.data(), O_CLOEXEC);
     if (number < 0)
-        throw refused("writing", target);
-    files_.push_back({name, target});
+        throw refused("writing", folder.path / name);
+    files_.push_back({folder, fs::path(path).filename(), name});
+    touch(folder);
     return Handle(number);
+}
+
+void PendingCopy::touch(const Place& folder)
+{
+    if (std::ranges::find(touched_, folder.handle, &Place::handle) == touched_.end())
+        touched_.push_back(folder);
 }
 
 void PendingCopy::putInPlace()
 {
-    const std::set<fs::path> touched = touchedFolders();
     for (const File& file : files_)
-        fs::rename(file.temporary, file.target);
+        if (::renameat2(file.folder.number(), file.temporary.c_str(), file.folder.number(), file.name.c_str(), 0) != 0)
+            throw refused("copying", file.folder.path / file.name);
     files_.clear();
     madeFolders_.clear();
-    std::for_each(touched.begin(), touched.end(), [](const fs::path& folder) { flushFolder(folder); });
-}
-
-std::set<fs::path> PendingCopy::touchedFolders() const
-{
-    std::set<fs::path> touched;
-    for (const fs::path& folder : madeFolders_)
-        touched.insert(folder.parent_path());
-    for (const File& file : files_)
-        touched.insert(file.target.parent_path());
-    return touched;
+    std::ranges::sort(touched_, {}, &Place::path);
+    for (const Place& folder : touched_)
+        flushFolder(*folder.handle, folder.path);
 }
 
 bool isInside(const fs::path& inner, const fs::path& outer)
@@ -169,17 +232,9 @@ void copyContents(const fs::path& source, const fs::path& target, const CopyProo
 {
     if (isInside(fs::weakly_canonical(target), fs::canonical(source)))
         throw refused("copying a folder into itself,", target, EINVAL);
-    Contents contents;
-    collect(source, {}, contents);
-    PendingCopy copy;
-    copy.addFolder(target);
-    for (const fs::path& folder : contents.folders)
-        copy.addSubFolder(target / folder);
-    for (const fs::path& file : contents.files)
-        if (!leavesOut || !leavesOut(textOf(source / file)))
-            copy.addFile(source / file, target / file, proof);
-    for (const fs::path& link : contents.links)
-        copy.addLink(source / link, target / link);
+    PendingCopy copy(proof, leavesOut);
+    const Place from = placeOf(openedFolder(source), "reading the folder", source);
+    copy.addContents(from, copy.openTarget(target));
     copy.putInPlace();
 }
 

@@ -7,8 +7,9 @@
 
 namespace sys {
 
-/// Proves one copied file against its source and throws to refuse it. The copy still bears a temporary name; the source
-/// is told as the folder's path as it was given, and the file's below it.
+/// Proves one copied file against its source and throws to refuse it. The copy still bears a temporary name, and is
+/// told by a way through its open folder; the source is told as the folder's path as it was given, and the file's below
+/// it.
 using CopyProof = std::function<void(const QString& source, const QString& copy)>;
 
 /// Tells the files of the source, by their paths, that are left out of the copy.
@@ -23,7 +24,8 @@ using CopyFilter = std::function<bool(const QString& source)>;
 ///
 /// `target` and missing sub-folders are made, for the user alone (0700); the folder above `target` must exist. Copies
 /// are readable and writable by the user alone (0600). Symbolic links in `source` are copied as links and never
-/// followed; pipes, sockets and devices are left out. A link below `target` with a name of `source` is replaced.
+/// followed; pipes, sockets and devices are left out. A link below `target` with a name of `source` is replaced. Both
+/// are gone through by their open folders, so that no link that somebody puts in meanwhile is followed either.
 ///
 /// No file of `source` may be open elsewhere in this process under a record lock, as a database is: closing the file
 /// after reading gives the lock up.

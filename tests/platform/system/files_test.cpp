@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Steps on files and folders where the system refuses a part of them, as files.txt has them: the step, the calls that
 // are refused and why; what is done on the disk in which order, or how the step fails; and what is there then.
-#include "platform/system/files.h"
+#include "platform/system/folder.h"
 #include "platform/system/folder_copy.h"
 #include "platform/values/failure.h"
 #include "support/disk.h"
@@ -39,9 +39,10 @@ public:
     QString run(const QString& step, const QString& refused, const QString& reason) const
     {
         const std::map<QString, std::function<void()>> steps{
-            {"keep", [this] { sys::keepFile(at("old/a"), at("kept")); }},
-            {"copy", [this] { sys::copyFile(at("old/a"), at("new/a")); }},
-            {"exchange", [this] { sys::exchangeFolders(at("new"), at("old")); }},
+            {"keep", [this] { sys::Folder(place.path()).keep(sys::Folder(at("old")), "a", "kept"); }},
+            {"copy", [this] { sys::Folder(at("new")).copy(sys::Folder(at("old")), "a", "a"); }},
+            {"enter", [this] { sys::Folder(place.path()).madeEntered("linked"); }},
+            {"exchange", [this] { sys::Folder(place.path()).exchange("new", "old"); }},
             {"into", [&] { sys::copyFolder(at("new"), QDir(place.path()).filePath(step.section(':', 1))); }},
             {"replace", [this] { sys::copyFolder(at("rich/"), at("full/"), {}, isJournal); }}};
         const std::map<QString, int> reasons{{"", 0}, {"EXDEV", EXDEV}, {"EPERM", EPERM}, {"ENOTSUP", ENOTSUP},

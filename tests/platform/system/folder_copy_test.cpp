@@ -26,6 +26,19 @@ protected:
 
 } // namespace
 
+TEST_F(FolderCopy, LeadsNowhereElseWhenSomebodyPutsALinkInTheWayMeanwhile)
+{
+    putFile(source + "/below/b", "new");
+    putFile(target + "/below/b", "old");
+    putFile(place.filePath("outside/b"), "not ours");
+    sys::copyFolder(source, target, [this](const QString&, const QString&) {
+        ASSERT_TRUE(QDir().rename(target + "/below", target + "/moved"));
+        std::filesystem::create_symlink("../outside", (target + "/below").toStdString());
+    });
+    EXPECT_EQ(bytesOf(place.filePath("outside/b")), "not ours");
+    EXPECT_EQ(bytesOf(target + "/moved/b"), "new");
+}
+
 TEST_F(FolderCopy, ThatFailsOrIsKilledLeavesTheOldOneWhole)
 {
     for (const char* name : {"/a", "/below/b"}) {
