@@ -6,13 +6,14 @@
 #include "platform/system/files.h"
 #include "platform/values/failure.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <algorithm>
 #include <cstdio>
-#include <numeric>
+#include <exception>
+#include <functional>
 
 namespace earlier {
 
@@ -20,12 +21,23 @@ namespace {
 
 const QString NameFormat = QStringLiteral("yyyy-MM-dd_HH-mm-ss");
 const QString AsideMark = QStringLiteral("_put-aside");
+const QString TroubleFile = QStringLiteral(".trouble");
 constexpr int LengthOfMoment = 19;
 constexpr qint64 LeastShareOfFreeDisk = 10; // of the free disk they take a tenth at most
 
+QString databaseName()
+{
+    return QFileInfo(places::databaseFile()).fileName();
+}
+
 QString databaseIn(const QString& folder)
 {
-    return folder + u'/' + QFileInfo(places::databaseFile()).fileName();
+    return folder + u'/' + databaseName();
+}
+
+QString lastBackup()
+{
+    return databaseIn(places::backupFolder());
 }
 
 // Where the file system has no links, a backup that is kept is a copy.
@@ -43,73 +55,97 @@ bool holdsBackup(const QString& folder, const QString& backup)
 }
 
 // The name is taken only by a folder with another file: a close that broke off may have left the rest.
-QString freeFolder(const QDateTime& made, bool isPutAside, const QString& backup = {})
+QString freeNameFor(const QDateTime& made, bool isPutAside, const QString& backup = {})
 {
-    const QString name =
-        places::earlierBackupsFolder() + u'/' + made.toString(NameFormat) + (isPutAside ? AsideMark : QString());
-    QString folder = name;
-    for (int number = 2; QFileInfo::exists(databaseIn(folder)) && !holdsBackup(folder, backup); ++number)
-        folder = name + QStringLiteral("_%1").arg(number);
-    return folder;
+    const QString all = places::earlierBackupsFolder() + u'/';
+    const QString first = made.toString(NameFormat) + (isPutAside ? AsideMark : QString());
+    QString name = first;
+    for (int number = 2; QFileInfo::exists(databaseIn(all + name)) && !holdsBackup(all + name, backup); ++number)
+        name = first + QStringLiteral("_%1").arg(number);
+    return name;
 }
 
-// A second name costs nothing now, and keeps the file when the new backup takes the first one.
-void keep(const QString& backup)
+// A second name costs nothing now, and keeps the file when the new backup takes the first one. Gives the name of its
+// folder.
+QString keepLast()
 {
-    const QFileInfo file(backup);
-    if (!file.isFile() || file.isSymLink())
-        return;
-    const QString folder = freeFolder(file.lastModified(), false, backup);
-    if (holdsBackup(folder, backup))
-        return;
-    sys::Folder::made(folder).keep(sys::Folder(file.path()), file.fileName(), file.fileName());
+    const std::optional<sys::Folder> backup = sys::Folder::found(places::backupFolder());
+    if (!backup || !backup->hasFile(databaseName()))
+        return {};
+    const sys::Folder all = sys::Folder::made(places::earlierBackupsFolder());
+    QString name = freeNameFor(QFileInfo(lastBackup()).lastModified(), false, lastBackup());
+    const sys::Folder folder = all.madeEntered(name);
+    if (!folder.look(databaseName()))
+        folder.keep(*backup, databaseName(), databaseName());
+    return name;
 }
 
-void giveUp(const KeptFile& kept)
+void giveUp(const sys::Folder& all, const KeptFile& kept)
 {
-    const sys::Folder all(places::earlierBackupsFolder());
-    all.entered(kept.name).remove(QFileInfo(kept.file).fileName());
+    all.entered(kept.name).remove(databaseName());
     all.removeEmpty(kept.name); // stays where the user has put something in
 }
 
-std::vector<KeptFile> withoutPutAside(std::vector<KeptFile> files)
+// What a restore has put aside takes room too, but only its owner gives it up.
+void thinOut(const proofs::Book& book, const QDateTime& now)
 {
-    std::erase_if(files, [](const KeptFile& file) { return file.isPutAside; });
-    return files;
+    const sys::Folder folder = sys::Folder::made(places::earlierBackupsFolder());
+    qint64 room = folder.freeSpace() / LeastShareOfFreeDisk;
+    std::vector<KeptFile> files;
+    std::vector<thinning::Kept> kept;
+    for (const KeptFile& file : all()) {
+        const qint64 size = QFileInfo(file.file).size();
+        if (file.isPutAside) {
+            room -= size;
+            continue;
+        }
+        files.push_back(file);
+        kept.push_back({file.made, size, book.of(file.file).has_value()});
+    }
+    std::exception_ptr failed; // one that can't be given up keeps none of the others
+    for (const std::size_t index : thinning::givenUp(kept, now, room)) {
+        try {
+            giveUp(folder, files[index]);
+        } catch (const values::RuntimeFailure&) {
+            failed = std::current_exception();
+        }
+    }
+    if (failed)
+        std::rethrow_exception(failed);
 }
 
-void thinByDate(const QDateTime& now)
+QString toldTrouble(const values::RuntimeFailure& failure)
 {
-    const std::vector<KeptFile> files = withoutPutAside(all());
-    std::vector<QDateTime> made;
-    made.reserve(files.size());
-    for (const KeptFile& file : files)
-        made.push_back(file.made);
-    const std::vector<bool> kept = thinning::isKept(made, now);
-    for (std::size_t i = 0; i < files.size(); ++i)
-        if (!kept[i])
-            giveUp(files[i]);
+    return QStringLiteral("The backup of %1 could not be kept: %2.")
+        .arg(QFileInfo(lastBackup()).lastModified().toString(QStringLiteral("M/d/yyyy h:mm AP")),
+            failure.text().section(QStringLiteral(": "), -1));
 }
 
-qint64 roomOf(const std::vector<KeptFile>& files)
+QString troubleFile()
 {
-    return std::accumulate(files.begin(), files.end(), qint64{0},
-        [](qint64 sum, const KeptFile& file) { return sum + QFileInfo(file.file).size(); });
+    return places::earlierBackupsFolder() + u'/' + TroubleFile;
 }
 
-// The disk is counted as it is when the new backup lies there. What a restore has put aside takes room too, but only
-// its owner gives it up.
-void thinByRoom()
+void writeTrouble(const QString& trouble)
 {
-    std::vector<KeptFile> files = all();
-    if (files.empty())
+    if (trouble.isEmpty()) {
+        sys::Folder(places::earlierBackupsFolder()).remove(TroubleFile);
         return;
-    const qint64 isFree = sys::Folder(places::earlierBackupsFolder()).freeSpace() - QFileInfo(places::databaseFile()).size();
-    qint64 taken = roomOf(files);
-    files = withoutPutAside(files);
-    for (; taken > isFree / LeastShareOfFreeDisk && !files.empty(); files.pop_back()) {
-        taken -= QFileInfo(files.back().file).size();
-        giveUp(files.back());
+    }
+    QSaveFile file(troubleFile());
+    if (!file.open(QIODevice::WriteOnly) || file.write(trouble.toUtf8()) < 0 || !file.commit())
+        throw values::RuntimeFailure(values::FailureKind::File, file.errorString());
+}
+
+// Does a step, and says what failed, unless something was said of this close before.
+void attempt(QString& said, const std::function<void()>& step)
+{
+    try {
+        step();
+    } catch (const std::exception& failure) { // whatever it is
+        if (said.isEmpty())
+            std::fprintf(stderr, "Earlier backups: %s\n", failure.what());
+        said = QString::fromUtf8(failure.what());
     }
 }
 
@@ -125,14 +161,16 @@ bool isOf(const KeptFile& kept, const QString& backup)
 std::vector<KeptFile> all()
 {
     std::vector<KeptFile> files;
-    const QDir folder(places::earlierBackupsFolder());
-    for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    if (!QFileInfo(places::earlierBackupsFolder()).isReadable())
+        return files;
+    const sys::Folder folder(places::earlierBackupsFolder());
+    for (const QString& name : folder.names()) {
         const QDateTime made = QDateTime::fromString(name.left(LengthOfMoment), NameFormat);
-        const QString file = databaseIn(folder.filePath(name));
+        const QString file = databaseIn(folder.pathOf(name));
         if (made.isValid() && QFileInfo(file).isFile())
             files.push_back({name, made, isForPutAside(name), file});
     }
-    std::stable_sort(files.begin(), files.end(), [](const KeptFile& a, const KeptFile& b) { return a.made > b.made; });
+    std::ranges::stable_sort(files, [](const KeptFile& a, const KeptFile& b) { return a.made > b.made; });
     return files;
 }
 
@@ -143,18 +181,37 @@ bool isForPutAside(const QString& name)
 
 QString freeName(const QDateTime& made, bool isPutAside)
 {
-    return QFileInfo(freeFolder(made, isPutAside)).fileName();
+    return freeNameFor(made, isPutAside);
 }
 
-void keep_Backup()
+Keeping::Keeping()
 {
-    try {
-        keep(places::backupFolder() + u'/' + QFileInfo(places::databaseFile()).fileName());
-        thinByDate(QDateTime::currentDateTime());
-        thinByRoom();
-    } catch (const std::exception& failure) { // whatever it is
-        std::fprintf(stderr, "Earlier backups: %s\n", failure.what());
-    }
+    attempt(said_, [this] {
+        proof_ = proofs::Book().of(lastBackup()); // a second name changes the file's own time
+        try {
+            kept_ = keepLast();
+        } catch (const values::RuntimeFailure& failure) {
+            trouble_ = toldTrouble(failure);
+            throw;
+        }
+    });
+}
+
+void Keeping::thin(const proofs::Contents& contents)
+{
+    proofs::Book book;
+    book.enter(proofs::stateOf(lastBackup()), contents);
+    if (proof_ && !kept_.isEmpty())
+        book.enter(proofs::stateOf(databaseIn(places::earlierBackupsFolder() + u'/' + kept_)), *proof_);
+    attempt(said_, [&book] { thinOut(book, QDateTime::currentDateTime()); });
+    attempt(said_, [&book] { book.write(); });
+    attempt(said_, [this] { writeTrouble(trouble_); });
+}
+
+QString last_Trouble()
+{
+    QFile file(troubleFile());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 } // namespace earlier

@@ -8,6 +8,13 @@ frmExit::frmExit()
     tmExit.setEnabled(true);
 }
 
+void frmExit::tell(const QString& trouble)
+{
+    lblTrouble.setCaption(trouble);
+    lblTrouble.setVisible(!trouble.isEmpty());
+    show();
+}
+
 void frmExit::Form_Unload(bool& cancel)
 {
     cancel = true;

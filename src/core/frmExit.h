@@ -11,8 +11,12 @@ public:
     forms::Picture imgHome{*this, "imgHome"};
     forms::Label lblHead{*this, "lblHead"};
     forms::Label lblHead1{*this, "lblHead1"};
+    forms::Label lblTrouble{*this, "lblTrouble"};
     forms::Label lblCopyright{*this, "lblCopyright"};
     forms::Ticker tmExit{*this, "tmExit", 1500};
+
+    /// Shows itself, with what the user is to know; empty nearly always.
+    void tell(const QString& trouble);
 
 private:
     void look();

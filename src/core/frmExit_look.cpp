@@ -3,6 +3,12 @@
 #include "core/frmExit.h"
 #include "platform/forms/look.h"
 
+namespace {
+
+constexpr int LineLength = 60; // characters
+
+} // namespace
+
 void frmExit::look()
 {
     setTitle(conventions::Title);
@@ -19,5 +25,7 @@ void frmExit::look()
     page.space(1);
     lblHead1.setRole(forms::TextRole::Heading);
     page.add(lblHead1);
+    lblTrouble.wrapAt(LineLength);
+    page.add(lblTrouble);
     page.foot(nullptr, &lblCopyright);
 }

@@ -50,7 +50,8 @@ bool isRemains(const QString& file)
         || file.startsWith(places::databaseFile() + places::RestoringSuffix);
 }
 
-void back_Up_Database(const std::vector<TableCount>& counts)
+// Nothing of the earlier backups is given up before the new one is in place.
+QString back_Up_Database(const std::vector<TableCount>& counts, const proofs::Contents& contents)
 {
     bool isProved = false;
     const auto proof = [&](const QString& source, const QString& copy) {
@@ -59,11 +60,13 @@ void back_Up_Database(const std::vector<TableCount>& counts)
         proveDatabase(copy, counts);
         isProved = true;
     };
-    earlier::keep_Backup();
+    earlier::Keeping earlierBackups;
     sys::copyFolder(places::databaseFolder(), places::backupFolder(), proof, isRemains);
     if (!isProved) // a link, say, leads to the data and is none
         throw values::RuntimeFailure(values::FailureKind::File,
             QStringLiteral("the backup holds no database, since %1 is no file").arg(places::databaseFile()));
+    earlierBackups.thin(contents);
+    return earlierBackups.trouble();
 }
 
 } // namespace
@@ -90,9 +93,10 @@ void frmProgress::close_Program()
     purge_Blank_Names({&DataStore::rsIndoor, false, false});
     purge_Blank_Names({&DataStore::rsOutdoor, true, true});
     purge_Blank_Names({&DataStore::rsMobile, true, false});
-    back_Up_Database(ending::close_Views());
+    const proofs::Contents contents = proofs::contentsOf(Data1.rsInventory.snapshot());
+    const QString trouble = back_Up_Database(ending::close_Views(), contents);
     hide();
-    forms::screen<frmExit>().show();
+    forms::screen<frmExit>().tell(trouble);
 }
 
 void frmProgress::purge_Blank_Names(const NameTable& table)

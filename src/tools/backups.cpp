@@ -3,6 +3,7 @@
 
 #include "core/earlier_backups.h"
 #include "core/places.h"
+#include "core/proofs.h"
 #include "platform/system/files.h"
 #include "tools/exit_codes.h"
 #include "tools/household.h"
@@ -29,7 +30,7 @@ void addLast(std::vector<Backup>& list)
         return;
     const QDateTime made = isHidden ? QFileInfo(file.path()).lastModified() : file.lastModified();
     list.push_back({made.toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss")), made, QStringLiteral("Last close"),
-        file.filePath(), {}, {}, 0, {}});
+        file.filePath(), {}, {}, 0, {}, {}});
 }
 
 // A folder that can't be looked into stands for all that may be in it.
@@ -38,8 +39,24 @@ void addClosedFolder(std::vector<Backup>& list)
     const QFileInfo folder(places::earlierBackupsFolder());
     if (!folder.isDir() || (folder.isReadable() && folder.isExecutable()))
         return;
-    list.push_back(
-        {folder.fileName(), folder.lastModified(), QStringLiteral("Earlier close"), folder.filePath(), {}, {}, 0, {}});
+    list.push_back({folder.fileName(), folder.lastModified(), QStringLiteral("Earlier close"), folder.filePath(), {},
+        {}, 0, {}, {}});
+}
+
+void setInOrder(Backup& backup, const proofs::Contents& contents)
+{
+    backup.assets = static_cast<int>(contents.assets);
+    backup.total = contents.total;
+    backup.reason.clear();
+    backup.state = QStringLiteral("In order");
+}
+
+void fillInWhatIsKnown(std::vector<Backup>& list)
+{
+    const proofs::Book book;
+    for (Backup& backup : list)
+        if (const std::optional<proofs::Contents> known = book.of(backup.file))
+            setInOrder(backup, *known);
 }
 
 bool isSeveral(const std::vector<const Backup*>& found)
@@ -60,24 +77,35 @@ std::vector<Backup> all()
         if (earlier::isOf(kept, lastBackupFile()))
             continue;
         const QString kind = kept.isPutAside ? QStringLiteral("Put aside") : QStringLiteral("Earlier close");
-        list.push_back({kept.name, kept.made, kind, kept.file, {}, {}, 0, {}});
+        list.push_back({kept.name, kept.made, kind, kept.file, {}, {}, 0, {}, {}});
     }
     std::stable_sort(list.begin(), list.end(), [](const Backup& a, const Backup& b) { return a.made > b.made; });
+    fillInWhatIsKnown(list);
     return list;
 }
 
 void read(Backup& backup)
 {
     try {
+        const QString before = proofs::stateOf(backup.file);
         const Household household(backup.file);
-        const std::optional<values::Currency> total = household.total();
-        backup.assets = household.assets();
-        backup.total = total ? total->toText() : QStringLiteral("?");
-        backup.reason.clear();
-        backup.state = QStringLiteral("In order");
+        setInOrder(backup, proofs::contentsOf(household.table("Inventory")));
+        backup.proved = before == proofs::stateOf(backup.file) ? before : QString();
     } catch (const UnreadableHousehold& failure) {
         backup.state = failure.state();
         backup.reason = failure.reason();
+    }
+}
+
+void remember(const std::vector<Backup>& backups)
+{
+    proofs::Book book;
+    for (const Backup& backup : backups)
+        book.enter(backup.proved, {backup.assets, backup.total});
+    try {
+        book.write();
+    } catch (const values::RuntimeFailure&) {
+        return;
     }
 }
 

@@ -18,6 +18,7 @@ struct Backup {
     QString reason; ///< why it can't be restored; empty where it can
     int assets = 0;
     QString total;
+    QString proved; ///< how it lay when it was read just now, and found to be in order
 
     bool isRead() const { return !state.isEmpty(); }
     bool isInOrder() const { return isRead() && reason.isEmpty(); }
@@ -25,11 +26,15 @@ struct Backup {
 
 namespace backups {
 
-/// All there are, the newest first, none of them read.
+/// All there are, the newest first. Those that haven't changed since they were last read count as read.
 std::vector<Backup> all();
 
 /// Opens a backup, reads it through and counts. A failure is what is found out.
 void read(Backup& backup);
+
+/// Keeps what was found out in those that are in order, for the next time. What fails costs the time to read them
+/// again.
+void remember(const std::vector<Backup>& backups);
 
 /// The one of that name; "last", or the beginning of a name, will do where it means one alone. Failures: Refusal.
 const Backup& find(const std::vector<Backup>& among, const QString& name);

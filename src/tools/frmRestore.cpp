@@ -2,6 +2,7 @@
 #include "tools/frmRestore.h"
 
 #include "core/conventions.h"
+#include "core/earlier_backups.h"
 #include "core/places.h"
 #include "tools/comparison.h"
 #include "tools/exit_codes.h"
@@ -9,6 +10,7 @@
 #include "tools/restoring.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 using conventions::MsgBox;
@@ -33,12 +35,23 @@ frmRestore::frmRestore()
 void frmRestore::Form_Load()
 {
     restoring::part_From_Today();
+    tell_Trouble();
     fill_List(backups::all());
 }
 
+// Else nobody hears that the last close has kept no earlier backup: its screen stands for a moment only.
+void frmRestore::tell_Trouble()
+{
+    const QString trouble = earlier::last_Trouble();
+    if (!trouble.isEmpty())
+        lblTell.setCaption(lblTell.caption() + u'\n' + trouble);
+}
+
+// What was read by then counts the next time.
 void frmRestore::Form_Unload(bool& cancel)
 {
     cancel = true;
+    backups::remember(list_);
     forms::endProcess(exit_code::Done);
 }
 
@@ -48,8 +61,9 @@ void frmRestore::tmRead_Timer()
         read_Today();
         return;
     }
-    const auto unread = std::find_if(list_.begin(), list_.end(), [](const Backup& backup) { return !backup.isRead(); });
+    const auto unread = std::ranges::find_if_not(list_, &Backup::isRead);
     if (unread == list_.end()) {
+        backups::remember(list_);
         tmRead.setEnabled(false);
         pbRestore.setVisible(false);
         return;
@@ -111,7 +125,7 @@ void frmRestore::fill_List(std::vector<Backup> backups)
     cmdRestore.setEnabled(!list_.empty());
     isTodayRead_ = false;
     pbRestore.setValue(0);
-    pbRestore.setMax(static_cast<int>(list_.size()) + 1);
+    pbRestore.setMax(static_cast<int>(std::ranges::count_if(list_, std::not_fn(&Backup::isRead))) + 1);
     pbRestore.setVisible(true);
     show_State();
     tmRead.setEnabled(true);

@@ -30,6 +30,7 @@ private:
     void layOut();
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
+    void tell_Trouble();
     void tmRead_Timer();
     void lstBackups_Click();
     void cmdRestore_Click();

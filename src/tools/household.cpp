@@ -2,6 +2,7 @@
 #include "tools/household.h"
 
 #include "core/data_store.h"
+#include "core/proofs.h"
 #include "platform/system/files.h"
 
 #include <QFileInfo>
@@ -44,18 +45,6 @@ FileReader openedReader(const QString& file, FileReader::Locks locks)
     return orUnreadable(QStringLiteral("Damaged or foreign"), [&] { return FileReader(file, databaseKey(), locks); });
 }
 
-std::optional<Currency> sumOf(const Snapshot& assets)
-{
-    Currency sum;
-    try {
-        for (int row = 0; row < assets.rowCount(); ++row)
-            sum += Currency::tryParse(assets.text(row, Inventory::Amount)).value_or(Currency());
-    } catch (const RuntimeFailure&) {
-        return std::nullopt;
-    }
-    return sum;
-}
-
 } // namespace
 
 UnreadableHousehold::UnreadableHousehold(const QString& state, const QString& reason)
@@ -74,7 +63,7 @@ Household::Household(const QString& file, FileReader::Locks locks)
         tables_.push_back(orUnreadable(QStringLiteral("Another version"), [&] { return reader.rows(*table); }));
     if (this->table("Personal_Info").rowCount() == 0)
         throw UnreadableHousehold(QStringLiteral("Another version"), QStringLiteral("it holds no household"));
-    total_ = sumOf(this->table("Inventory"));
+    total_ = proofs::sumOf(this->table("Inventory"));
 }
 
 const Snapshot& Household::table(std::string_view name) const

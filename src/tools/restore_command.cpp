@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/earlier_backups.h"
 #include "core/places.h"
 #include "tools/commands.h"
 #include "tools/comparison.h"
@@ -8,21 +9,49 @@
 
 #include <QCommandLineParser>
 
+#include <algorithm>
+#include <functional>
+
 namespace commands {
 
 namespace {
+
+void printLine(const Backup& backup)
+{
+    const QStringList columns = backups::columnsOf(backup);
+    terminal::print(QStringList{backup.name, backup.kind, columns[2], columns[3], backup.state}.join(u'\t'));
+}
+
+// Each line comes as soon as it is known, and what was read counts the next time, even where the user ends it here.
+void printEach(std::vector<Backup>& list)
+{
+    const auto unread = static_cast<int>(std::ranges::count_if(list, std::not_fn(&Backup::isRead)));
+    terminal::Count count;
+    int read = 0;
+    for (Backup& backup : list) {
+        if (!backup.isRead()) {
+            if (!count.tell(read, unread))
+                break;
+            backups::read(backup);
+            ++read;
+            count.clear();
+        }
+        printLine(backup);
+    }
+    backups::remember(list);
+    if (read < unread)
+        throw Refusal(exit_code::Declined, QStringLiteral("Ended before all were read."));
+}
 
 int listBackups()
 {
     restoring::part_From_Today();
     std::vector<Backup> list = backups::all();
-    for (Backup& backup : list) {
-        backups::read(backup);
-        const QStringList columns = backups::columnsOf(backup);
-        terminal::print(QStringList{backup.name, backup.kind, columns[2], columns[3], backup.state}.join(u'\t'));
-    }
+    printEach(list);
     if (list.empty())
         terminal::complain(QStringLiteral("There is no backup yet: the program makes one each time it is closed."));
+    if (const QString trouble = earlier::last_Trouble(); !trouble.isEmpty())
+        terminal::complain(trouble);
     return exit_code::Done;
 }
 
@@ -73,7 +102,8 @@ int restore(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Brings a backup back in place of today's file, which is put "
                                                     "aside. Without options, and on a display, in a window."));
-    const QCommandLineOption list(QStringLiteral("list"), QStringLiteral("Lists all backups, each read through."));
+    const QCommandLineOption list(
+        QStringLiteral("list"), QStringLiteral("Lists all backups; what has changed is read through."));
     const QCommandLineOption restore(QStringLiteral("restore"),
         QStringLiteral("Restores the backup of that name, as --list tells it, or of its beginning, or \"last\"."),
         QStringLiteral("DATE"));

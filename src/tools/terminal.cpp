@@ -30,6 +30,7 @@ constexpr int endingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 void print(const QString& line)
 {
     std::fprintf(stdout, "%s\n", qUtf8Printable(line));
+    std::fflush(stdout);
 }
 
 void complain(const QString& line)
@@ -70,6 +71,13 @@ bool Count::tell(int done, int all)
         std::fprintf(stderr, "\r%3d %%", percent);
     percent_ = percent;
     return isAskedToEnd == 0;
+}
+
+void Count::clear()
+{
+    if (isShown_ && percent_ >= 0)
+        std::fputs("\r      \r", stderr);
+    percent_ = -1;
 }
 
 int run(QCommandLineParser& parser, const QStringList& arguments, const std::function<int()>& command)

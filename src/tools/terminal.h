@@ -28,6 +28,9 @@ public:
 
     bool tell(int done, int all);
 
+    /// Takes the count away, for a line that comes in its place.
+    void clear();
+
 private:
     bool isShown_;
     int percent_ = -1;

@@ -135,13 +135,14 @@ protected:
     static void keepBackup(const QByteArray& contents, const QDateTime& made, qint64 size = -1)
     {
         putBackup(contents, made, size);
-        earlier::keep_Backup();
+        earlier::Keeping().thin({});
     }
 
     // A close that broke off and one that didn't, of which each tries to keep the backup.
     void closeTwice(bool byLink)
     {
-        keepBackup("of yesterday", yesterday);
+        putBackup("of yesterday", yesterday);
+        const earlier::Keeping brokenOff;
         EXPECT_EQ(sys::isSameFile(earlier::all().at(0).file, backupFile()), byLink);
         EXPECT_TRUE(earlier::isOf(earlier::all().at(0), backupFile()));
         closeProgram();
@@ -149,6 +150,29 @@ protected:
         ASSERT_EQ(names(), QStringList(nameOf(yesterday)));
         EXPECT_EQ(bytesOf(earlier::all().at(0).file), "of yesterday");
         EXPECT_FALSE(earlier::isOf(earlier::all().at(0), backupFile()));
+        EXPECT_EQ(line(proved(earlier::all().at(0).file), proved(backupFile())), "nothing, 0 $0.00");
+    }
+
+    // The backup of the last close is replaced; what was proved of it holds for the one that is kept, until it changes.
+    void replaceProved()
+    {
+        earlier::Keeping keeping;
+        putBackup("of today", now);
+        keeping.thin({7, "$1.00"});
+        const QString kept = earlier::all().at(0).file;
+        EXPECT_EQ(line(proved(kept), proved(backupFile())), "0 $0.00, 7 $1.00");
+        const auto times = QFileInfo(kept).lastModified();
+        putFile(kept, bytesOf(kept));
+        QFile same(kept);
+        ASSERT_TRUE(same.open(QIODevice::ReadWrite) && same.setFileTime(times, QFileDevice::FileModificationTime));
+        putFile(backupFile() + "-journal", "which makes it another one");
+        EXPECT_EQ(line(proved(kept), proved(backupFile())), "nothing, nothing");
+    }
+
+    static QString proved(const QString& file)
+    {
+        const auto found = proofs::Book().of(file);
+        return found ? QString("%1 %2").arg(found->assets).arg(found->total) : "nothing";
     }
 
     // Today's file, which only its user gives up.
@@ -176,10 +200,11 @@ protected:
 TEST_F(EarlierBackups, AreKeptByALinkOfWhatTheCloseReplaces)
 {
     closeTwice(true);
+    replaceProved();
     const QString folder = QFileInfo(earlier::all().at(0).file).path();
     EXPECT_EQ(QFile::permissions(folder), QFile::Permissions(0x7700)) << "its user alone";
-    keepBackup("another of that second", yesterday);
-    EXPECT_THAT(names(), UnorderedElementsAre(nameOf(yesterday), nameOf(yesterday) + "_2"));
+    keepBackup("one of that second", yesterday);
+    EXPECT_THAT(names(), IsSupersetOf({nameOf(yesterday), nameOf(yesterday) + "_2"}));
 }
 
 TEST_F(EarlierBackups, AreCopiedOnceWhereTheBackupLiesOnAnotherFileSystem)
@@ -189,39 +214,69 @@ TEST_F(EarlierBackups, AreCopiedOnceWhereTheBackupLiesOnAnotherFileSystem)
     closeTwice(false);
 }
 
-TEST_F(EarlierBackups, AreThinnedAndLeaveWhatIsNotTheirs)
+TEST_F(EarlierBackups, AreThinnedOnceTheNewBackupIsInPlaceAndLeaveWhatIsNotTheirs)
 {
     putBackup("aside", now);
     putAside();
     QDir(places::earlierBackupsFolder()).mkdir("notes");
-    for (int close = 0; close < 14; ++close)
-        keepBackup("x", now.addDays(-1000 - close));
-    ASSERT_EQ(names().size(), 11) << "too old, but the last ten";
+    // A folder that its user has laid elsewhere, behind a link, which is the first that should go.
+    const QString linked = places::earlierBackupsFolder() + '/' + nameOf(now.addDays(-1000).addSecs(-60 * 13 - 1));
+    putFile(places::databaseFolder() + "-elsewhere/KTL.db", "linked");
+    ASSERT_TRUE(QFile::link(places::databaseFolder() + "-elsewhere", linked));
+    for (int close = 14; close > 0; --close) {
+        putBackup("x", now.addDays(-1000).addSecs(-60 * close));
+        const earlier::Keeping brokenOff;
+    }
+    putBackup("damaged", yesterday);
+    putFile(places::databaseFolder() + "/more/letters.txt", "for the backup");
+    putFile(places::backupFolder() + "/more", "in the way");
+    failToClose("damaged", AllSafe);
+    ASSERT_EQ(names().size(), 17);
+    internal::CaptureStderr();
+    earlier::Keeping().thin({});
+    EXPECT_THAT(internal::GetCapturedStderr(), HasSubstr("Earlier backups: "));
+    EXPECT_EQ(bytesOf(linked + "/KTL.db"), "linked");
+    ASSERT_EQ(names().size(), 12) << "the last ten, and that one";
     EXPECT_TRUE(names().last().endsWith("_put-aside"));
-    EXPECT_EQ(QDir(places::earlierBackupsFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 12);
+    const QStringList all = QDir(places::earlierBackupsFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    EXPECT_EQ(all.size(), 13);
 }
 
 // Files without contents seem large and take no room.
-TEST_F(EarlierBackups, TakeNoMoreThanATenthOfTheFreeDisk)
+TEST_F(EarlierBackups, TakeNoMoreThanATenthOfTheFreeDiskExceptTheNewestAndTheOldest)
 {
     const qint64 third = sys::Folder(places::databaseFolder()).freeSpace() / 30;
     putBackup({}, now, third / 100 * 99);
     putAside();
     for (int minute = 10; minute > 6; --minute)
         keepBackup({}, now.addSecs(-60 * minute), third / 100 * 99);
+    EXPECT_EQ(names().first(2), QStringList({nameOf(now.addSecs(-420)), nameOf(now.addSecs(-600))}));
     ASSERT_EQ(names().size(), 3);
-    EXPECT_EQ(names().at(1), nameOf(now.addSecs(-480))) << "the oldest have gone";
     EXPECT_TRUE(names().last().endsWith("_put-aside"));
+    keepBackup({}, now, third * 30);
+    EXPECT_EQ(names().first(2), QStringList({nameOf(now), nameOf(now.addSecs(-600))})) << "whatever room they take";
 }
 
-TEST_F(EarlierBackups, ThatCantBeKeptEndangerNeitherTheCloseNorTheBackup)
+TEST_F(EarlierBackups, ThatCantBeKeptEndangerNeitherTheCloseNorTheBackupAndTheUserIsTold)
 {
     putBackup("of yesterday", yesterday);
-    putFile(places::earlierBackupsFolder(), "in the way");
+    putFile(places::earlierBackupsFolder() + '/' + nameOf(yesterday), "in the way");
     internal::CaptureStderr();
     closeProgram();
-    EXPECT_THAT(internal::GetCapturedStderr(), HasSubstr("Earlier backups: File failure"));
-    EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));
+    const QString told = QString::fromStdString(internal::GetCapturedStderr());
+    EXPECT_EQ(told.count("Earlier backups: File failure: opening the folder "), 1);
+    const QString trouble =
+        QString("The backup of %1 could not be kept: Not a directory.").arg(yesterday.toString("M/d/yyyy h:mm AP"));
+    EXPECT_EQ(
+        line(bytesOf(backupFile()) == bytesOf(file()), screen<frmExit>().lblTrouble.caption()), "true, " + trouble);
+    EXPECT_EQ(earlier::last_Trouble(), trouble);
+    earlier::Keeping().thin({});
+    EXPECT_EQ(earlier::last_Trouble(), "");
+    QDir(places::earlierBackupsFolder()).removeRecursively();
+    putFile(places::earlierBackupsFolder(), "in the way");
+    internal::CaptureStderr();
+    earlier::Keeping().thin({});
+    EXPECT_EQ(QString::fromStdString(internal::GetCapturedStderr()).count("Earlier backups: "), 1);
 }
 
 } // namespace
