@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/table_texts.h"
 
+#include "platform/values/csv.h"
+
 #include <QString>
 #include <QUtf8StringView>
 
@@ -36,18 +38,6 @@ std::string decimalOf(std::string_view tenThousandths)
         digits.insert(0, 5 - digits.size(), '0');
     digits.insert(digits.size() - 4, 1, '.');
     return (isNegative ? "-" : "") + digits;
-}
-
-void appendCsv(std::string& line, std::string_view text)
-{
-    if (text.find_first_of("\",\r\n") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' ')) {
-        line.append(text);
-        return;
-    }
-    line += '"';
-    for (const char byte : text)
-        line.append(byte == '"' ? 2 : 1, byte);
-    line += '"';
 }
 
 // Of an amount, its decimal, which is laid into the room.
@@ -150,8 +140,9 @@ std::string csvHeadings(const storage::TableDefinition& table)
 {
     std::string line;
     for (const Column& column : table.columns)
-        appendCsv(line.append(line.empty() ? "" : ","), column.name);
-    return line += "\r\n";
+        values::csv::addCell(line, column.name, line.empty());
+    values::csv::endLine(line);
+    return line;
 }
 
 std::string csvRow(const Snapshot& table, int row)
@@ -160,8 +151,9 @@ std::string csvRow(const Snapshot& table, int row)
     std::string room;
     const int columns = static_cast<int>(table.definition().columns.size());
     for (int column = 0; column < columns; ++column)
-        appendCsv(line.append(column == 0 ? "" : ","), cellOf(table, row, column, room));
-    return line += "\r\n";
+        values::csv::addCell(line, cellOf(table, row, column, room), column == 0);
+    values::csv::endLine(line);
+    return line;
 }
 
 std::string jsonText(std::string_view text)

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/help/book.h"
 
+#include "platform/values/csv.h"
+
 #include <QDir>
 #include <QFile>
+
+#include <algorithm>
 
 namespace help {
 
@@ -14,29 +18,21 @@ QString textOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-// A field in quotation marks may hold commas.
-QStringList fieldsOf(const QString& line)
-{
-    QStringList fields{QString()};
-    bool quoted = false;
-    for (const QChar character : line) {
-        if (character == u'"')
-            quoted = !quoted;
-        else if (character == u',' && !quoted)
-            fields.append(QString());
-        else
-            fields.back() += character;
-    }
-    return fields;
-}
-
 // The rows below the line of headings, each with as many fields as that.
 std::vector<QStringList> rowsOf(const QString& path)
 {
-    const QStringList lines = textOf(path).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    values::csv::Reader reader([&file](char* room, std::size_t size) {
+        return static_cast<std::size_t>(std::max<qint64>(file.read(room, static_cast<qint64>(size)), 0));
+    });
     std::vector<QStringList> rows;
-    for (const QString& line : lines)
-        rows.push_back(fieldsOf(line));
+    for (std::vector<std::string> cells; reader.next(cells);) {
+        QStringList& row = rows.emplace_back();
+        for (const std::string& cell : cells)
+            row.append(QString::fromStdString(cell));
+    }
     for (QStringList& row : rows)
         row.resize(rows.front().size());
     if (!rows.empty())

@@ -2,6 +2,9 @@
 #include "platform/report/csv.h"
 
 #include "platform/report/whole_file.h"
+#include "platform/values/csv.h"
+
+#include <utility>
 
 namespace report {
 
@@ -10,19 +13,14 @@ namespace {
 // Tells a spreadsheet that the file is UTF-8.
 constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
 
-QString quoted(const QString& value)
+QByteArray lineOf(const QStringList& cells)
 {
-    const bool needsQuotes = value.contains(u',') || value.contains(u'"') || value.contains(u'\n')
-        || value.contains(u'\r') || value.startsWith(u' ') || value.endsWith(u' ');
-    return needsQuotes ? u'"' + QString(value).replace(QStringLiteral("\""), QStringLiteral("\"\"")) + u'"' : value;
-}
-
-QByteArray lineOf(const QStringList& values)
-{
-    QStringList line;
-    for (const QString& value : values)
-        line.append(quoted(value));
-    return (line.join(u',') + QStringLiteral("\r\n")).toUtf8();
+    std::string line;
+    bool isFirst = true;
+    for (const QString& cell : cells)
+        values::csv::addCell(line, values::csv::neutral(cell.toStdString()), std::exchange(isFirst, false));
+    values::csv::endLine(line);
+    return QByteArray::fromStdString(line);
 }
 
 QByteArray headingsOf(const std::vector<const Field*>& fields)

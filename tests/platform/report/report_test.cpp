@@ -163,7 +163,7 @@ TEST_F(ReportPages, HaveAmountsInOneFormAndMakeATableForASpreadsheet)
 {
     const std::vector<QStringList> rows = {{"Sofa, \"blue\"", "1234.5", "two\nlines"},
         {QString::fromUtf8("Caf\u00E9 \U0001F98A"), "-$15.00", " blank"}, {"Lamp ", "None", "a\tb"},
-        {"Loan", "($1,000.00)", ""}};
+        {"Loan", "($1,000.00)", ""}, {"=A1", "-$2.00", "-2.5"}, {"@x", "+1-2", "\t1"}};
     printed(rows);
     for (const char* amount : {" $1,234.50 ", " -$15.00 ", "Lamp None ", "Loan -$1,000.00 "})
         EXPECT_TRUE(words().contains(amount)) << amount << "is not in " << words().toStdString();
@@ -171,7 +171,8 @@ TEST_F(ReportPages, HaveAmountsInOneFormAndMakeATableForASpreadsheet)
     ASSERT_TRUE(report::hasTable(*document) && report::saveCsv(*document, path("a.csv")));
     EXPECT_EQ(bytesOf(path("a.csv")),
         "\xEF\xBB\xBFName,Amount,Note\r\n\"Sofa, \"\"blue\"\"\",1234.50,\"two\nlines\"\r\nCaf\xC3\xA9 "
-        "\xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\n\"Lamp \",None,a\tb\r\nLoan,-1000.00,\r\n");
+        "\xF0\x9F\xA6\x8A,-15.00,\" blank\"\r\n\"Lamp "
+        "\",None,a\tb\r\nLoan,-1000.00,\r\n'=A1,-2.00,-2.5\r\n'@x,'+1-2,'\t1\r\n");
     document->layout.detail = {};
     EXPECT_FALSE(report::hasTable(*document));
 }

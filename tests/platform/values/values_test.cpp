@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/values/collation.h"
+#include "platform/values/csv.h"
 #include "platform/values/currency.h"
 #include "platform/values/date.h"
 #include "platform/values/failure.h"
+#include "platform/values/file_name.h"
 #include "platform/values/integer.h"
 #include "platform/values/text.h"
 #include "support/files.h"
@@ -109,6 +111,52 @@ TEST(CompareNames, HasPlainTextsInTheOrderThatTheyHaveBehindAnAccent)
     for (const QString& a : names)
         for (const QString& b : names)
             EXPECT_EQ(compareNames(a, b) <=> 0, compareNames("é" + a, "é" + b) <=> 0) << qPrintable(a + " and " + b);
+}
+
+using Rows = std::vector<std::vector<std::string>>;
+
+// In pieces of so many bytes, as a file may come.
+Rows rowsIn(std::string text, std::size_t piece, std::size_t longestRow = 1000)
+{
+    csv::Reader reader(
+        [&](char* room, std::size_t size) {
+            const std::size_t count = text.copy(room, std::min(size, piece));
+            text.erase(0, count);
+            return count;
+        },
+        longestRow);
+    Rows rows;
+    for (std::vector<std::string> cells; reader.next(cells);)
+        rows.push_back(cells);
+    return rows;
+}
+
+TEST(Csv, ReadsBackBitForBitWhatIsWritten)
+{
+    const Rows rows{{"", "a,b", "\"q\"", ""}, {" x ", "1\r\n2\n3\r4", "\xFF\xEF\xBB\xBF", std::string(1, '\0')}};
+    std::string text;
+    for (const auto& row : rows) {
+        for (std::size_t i = 0; i < row.size(); ++i)
+            csv::addCell(text, row[i], i == 0);
+        csv::endLine(text);
+    }
+    for (const std::size_t piece : {1, 2, 1000})
+        EXPECT_EQ(rowsIn(text, piece), rows);
+    EXPECT_EQ(rowsIn("\xEF\xBB\xBF"
+                     "a,b\r\rc\n\n\"d\"",
+                  9),
+        (Rows{{"a", "b"}, {"c"}, {"d"}}));
+    EXPECT_THAT(
+        [] { rowsIn("a\n\"b\n", 9); }, testing::ThrowsMessage<RuntimeFailure>(testing::HasSubstr("line 2: a quo")));
+    EXPECT_THAT([] { rowsIn("\"b\"c", 9); }, mismatches);
+    EXPECT_THAT([] { rowsIn(std::string(11, 'x'), 9, 10); }, overflows);
+}
+
+TEST(FileName, KeepsEachByte)
+{
+    for (const QByteArray bytes : {"plain", "caf\xC3\xA9", "caf\xE9/\xF0\x9F\x98\x80", "\xC3", "\xED\xB3\xA9\xFF"})
+        EXPECT_EQ(bytesOfName(textOfName(bytes)), bytes);
+    EXPECT_EQ(textOfName("caf\xC3\xA9 \xF0\x9F\x98\x80"), "café 😀");
 }
 
 } // namespace

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/values/csv.h"
+
+#include "platform/values/failure.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace values::csv {
+
+namespace {
+
+constexpr std::size_t BlockSize = std::size_t{1} << 16;
+constexpr int End = -1;
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+bool isDigit(char byte)
+{
+    return byte >= '0' && byte <= '9';
+}
+
+// "-12.50"
+bool isPlainNumber(std::string_view cell)
+{
+    if (cell.starts_with('-') || cell.starts_with('+'))
+        cell.remove_prefix(1);
+    const auto isPartOfNumber = [](char byte) { return isDigit(byte) || byte == '.'; };
+    return std::ranges::any_of(cell, isDigit) && std::ranges::all_of(cell, isPartOfNumber)
+        && std::ranges::count(cell, '.') <= 1;
+}
+
+} // namespace
+
+void addCell(std::string& line, std::string_view cell, bool isFirst)
+{
+    if (!isFirst)
+        line += ',';
+    if (cell.find_first_of("\",\r\n") == std::string_view::npos && !cell.starts_with(' ') && !cell.ends_with(' ')) {
+        line.append(cell);
+        return;
+    }
+    line += '"';
+    for (const char byte : cell)
+        line.append(byte == '"' ? 2 : 1, byte);
+    line += '"';
+}
+
+void endLine(std::string& line)
+{
+    line += "\r\n";
+}
+
+std::string neutral(std::string_view cell)
+{
+    const bool isFormula = !cell.empty() && std::string_view("=+-@\t\r\n").find(cell.front()) != std::string_view::npos;
+    return (isFormula && !isPlainNumber(cell) ? "'" : "") + std::string(cell);
+}
+
+Reader::Reader(Source source, std::size_t longestRow)
+    : source_(std::move(source))
+    , longestRow_(longestRow)
+{
+}
+
+bool Reader::next(std::vector<std::string>& cells)
+{
+    cells.clear();
+    if (rowLine_ == 0)
+        passByteOrderMark();
+    while (peek() == '\r' || peek() == '\n')
+        endCell();
+    rowLine_ = line_;
+    inRow_ = 0;
+    if (peek() == End)
+        return false;
+    while (readCell(cells.emplace_back())) { }
+    return true;
+}
+
+int Reader::peek()
+{
+    if (at_ == block_.size()) {
+        block_.resize(BlockSize);
+        block_.resize(source_(block_.data(), BlockSize));
+        at_ = 0;
+    }
+    return block_.empty() ? End : static_cast<unsigned char>(block_[at_]);
+}
+
+int Reader::take()
+{
+    const int byte = peek();
+    if (byte != End)
+        ++at_;
+    return byte;
+}
+
+void Reader::passByteOrderMark()
+{
+    if (peek() != End && std::string_view(block_).starts_with(ByteOrderMark))
+        at_ = ByteOrderMark.size();
+}
+
+// Whether another cell of the row follows.
+bool Reader::readCell(std::string& cell)
+{
+    if (peek() == '"')
+        readQuoted(cell);
+    while (!isAtSeparator())
+        add(cell, take());
+    return endCell();
+}
+
+void Reader::readQuoted(std::string& cell)
+{
+    take();
+    while (true) {
+        const int byte = take();
+        if (byte == End)
+            refuse("a quotation mark is never closed");
+        if (byte == '"' && peek() != '"')
+            break;
+        if (byte == '"')
+            take();
+        line_ += byte == '\n' ? 1 : 0;
+        add(cell, byte);
+    }
+    if (!isAtSeparator())
+        refuse("text follows behind a closing quotation mark");
+}
+
+bool Reader::isAtSeparator()
+{
+    const int byte = peek();
+    return byte == End || byte == ',' || byte == '\r' || byte == '\n';
+}
+
+bool Reader::endCell()
+{
+    const int byte = take();
+    if (byte == ',')
+        return true;
+    if (byte == '\r' && peek() == '\n')
+        take();
+    ++line_;
+    return false;
+}
+
+void Reader::add(std::string& cell, int byte)
+{
+    if (++inRow_ > longestRow_)
+        throw RuntimeFailure(FailureKind::Overflow,
+            QStringLiteral("line %1: a row of more than %2 bytes").arg(rowLine_).arg(longestRow_));
+    cell += static_cast<char>(byte);
+}
+
+void Reader::refuse(const char* why) const
+{
+    throw RuntimeFailure(
+        FailureKind::TypeMismatch, QStringLiteral("line %1: %2").arg(rowLine_).arg(QLatin1String(why)));
+}
+
+} // namespace values::csv
