@@ -31,9 +31,8 @@ void start()
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
-    name_Program();
-    forms::prepare(application);
+    const auto application = open_Program(argc, argv);
+    forms::prepare(*application);
     forms::runAsHandler("main", start);
     return QApplication::exec();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/program_name.h"
 
+#include "platform/forms/display.h"
+
 #include <QApplication>
 #include <QIcon>
 
@@ -15,6 +17,14 @@ QIcon programIcon()
 }
 
 } // namespace
+
+std::unique_ptr<QApplication> open_Program(int& argc, char* argv[])
+{
+    auto application =
+        forms::openDisplay(argc, argv, NoDisplay, "Kestrill needs a display, and finds none that it can use.");
+    name_Program();
+    return application;
+}
 
 void name_Program()
 {

@@ -16,9 +16,8 @@ namespace {
 template <class First>
 int run(int& argc, char* argv[])
 {
-    QApplication application(argc, argv);
-    name_Program();
-    forms::prepare(application);
+    const auto application = open_Program(argc, argv);
+    forms::prepare(*application);
     forms::setReportWords(conventions::Title, [] { return QStringLiteral("Nothing was lost."); });
     forms::setHelpDoor(manual::open);
     forms::runAsHandler("main", [] { forms::screen<First>().show(); });
