@@ -48,7 +48,7 @@ void checkHousehold(benchmark::State& state)
     const QString path = sampleHousehold(static_cast<int>(state.range(0)));
     for ([[maybe_unused]] auto round : state) {
         const Household household(path);
-        benchmark::DoNotOptimize(checking::odd_Entries(household));
+        benchmark::DoNotOptimize(checking::findings(household));
         benchmark::DoNotOptimize(checking::sums(household));
     }
 }

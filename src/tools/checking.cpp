@@ -2,9 +2,13 @@
 #include "tools/checking.h"
 
 #include "core/data_store.h"
+#include "lists/name_list.h"
 #include "platform/values/date.h"
+#include "platform/values/text.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 using storage::Snapshot;
 using values::Currency;
@@ -60,35 +64,78 @@ bool isChecked(const QString& text)
     return text == "Checked" || text == "Unchecked";
 }
 
+// The program starts where the days until then fit into 16 bits.
+bool isWithinReach(const QString& date)
+{
+    const std::optional<values::Date> day = values::Date::tryParse(date);
+    return !day || std::in_range<qint16>(*day - values::Today());
+}
+
+bool isNumberOf16Bits(const QString& text)
+{
+    bool isWhole = false;
+    return std::in_range<qint16>(text.toLongLong(&isWhole)) && isWhole;
+}
+
+// Where a user mends a cell.
+constexpr const char* InsuranceScreen = "Personal Information, Insurance";
+constexpr const char* PersonalScreen = "Personal Information";
+constexpr const char* AssetScreen = "the asset's screen, Update Asset";
+constexpr const char* WarrantyScreen = "the asset's screen, Warranty";
+constexpr const char* AccountScreen = "the account's screen";
+constexpr const char* ListEditor = "the list editors of the area";
+constexpr const char* NextSearch = "nothing to do: the next search writes it anew";
+constexpr const char* Backup = "no screen reaches it; a backup from before has it in order";
+constexpr const char* Mend = "kestrill-check --mend";
+
+// What a user sees of it who meets it.
+constexpr const char* ValueEnds = "Value ends the program";
+constexpr const char* OpeningEnds = "opening the asset, and Value, end the program";
+
 struct Rule {
     const char* table;
     int column;
     bool (*holds)(const QString& text);
     const char* otherwise;
+    const char* mendedAt;
+    const char* stops = nullptr; // what it is that ends the program; none, where the entry is only odd
 };
 
 constexpr Rule rules[] = {
-    {"Personal_Info", General::PolicyExpiration, isDateOrNone, "is no date"},
-    {"Personal_Info", General::PolicyCoverage, isAmountOrNone, "is no amount"},
-    {"Personal_Info", General::PolicyNotify, isYesOrNo, "is neither Yes nor No"},
-    {"Personal_Info", General::WarrantyCheck, isChecked, "is neither Checked nor Unchecked"},
-    {"Personal_Info", General::ClearCheck, isChecked, "is neither Checked nor Unchecked"},
-    {"Inventory", Inventory::Area, isArea, "is no area"},
-    {"Inventory", Inventory::DatePurchased, isDate, "is no date"},
-    {"Inventory", Inventory::Amount, isAmount, "is no amount"},
-    {"Inventory", Inventory::Receipt, isYesOrNo, "is neither Yes nor No"},
-    {"Inventory", Inventory::Purchased, isNewOrUsed, "is neither New nor Used"},
-    {"Inventory", Inventory::PartsAmount, isAmountOrNone, "is no amount"},
-    {"Inventory", Inventory::LaborAmount, isAmountOrNone, "is no amount"},
-    {"Bank_Info", Bank::AvailableBalance, isAmountOrNone, "is no amount"},
-    {"Bank_Info", Bank::AsOf, isDateOrNone, "is no date"},
-    {"Indoor_Items", Names::Standard, isNumber, "is no number"},
-    {"Outdoor_Items", Names::Standard, isNumber, "is no number"},
-    {"Mobile_Items", Names::Standard, isNumber, "is no number"},
-    {"Print", Print::ID, isNumber, "is no number"},
+    {"Personal_Info", General::PolicyCoverage, isAmount, "is no amount", InsuranceScreen, ValueEnds},
+    {"Personal_Info", General::PolicyNotify, isYesOrNo, "is neither Yes nor No", InsuranceScreen},
+    {"Personal_Info", General::WarrantyCheck, isChecked, "is neither Checked nor Unchecked",
+        "the asset screen, its box about warranties"},
+    {"Personal_Info", General::ClearCheck, isChecked, "is neither Checked nor Unchecked",
+        "the asset screen, its box about clearing"},
+    {"Inventory", Inventory::ID, isNumberOf16Bits, "is beyond 32767", Backup, "opening the asset ends the program"},
+    {"Inventory", Inventory::Area, isArea, "is no area", AssetScreen},
+    {"Inventory", Inventory::DatePurchased, isDate, "is no date", AssetScreen},
+    {"Inventory", Inventory::Amount, isAmount, "is no amount", Backup, OpeningEnds},
+    {"Inventory", Inventory::Receipt, isYesOrNo, "is neither Yes nor No", AssetScreen},
+    {"Inventory", Inventory::Purchased, isNewOrUsed, "is neither New nor Used", AssetScreen},
+    {"Inventory", Inventory::PartsAmount, isAmountOrNone, "is no amount", WarrantyScreen},
+    {"Inventory", Inventory::LaborAmount, isAmountOrNone, "is no amount", WarrantyScreen},
+    {"Bank_Info", Bank::AvailableBalance, isAmountOrNone, "is no amount", AccountScreen},
+    {"Bank_Info", Bank::AsOf, isDateOrNone, "is no date", AccountScreen},
+    {"Indoor_Items", Names::Standard, isNumber, "is no number", Backup,
+        "changing or deleting that name ends the program"},
+    {"Outdoor_Items", Names::Standard, isNumber, "is no number", Backup,
+        "closing ends with a failure, and no backup is made"},
+    {"Mobile_Items", Names::Standard, isNumber, "is no number", Backup,
+        "changing or deleting that name ends the program"},
+    {"Print", Print::ID, isNumber, "is no number", NextSearch},
 };
 
-constexpr const char* nameTables[] = {"Indoor_Items", "Outdoor_Items", "Mobile_Items"};
+// The alert is given at the start, before any screen.
+constexpr Rule alertRules[] = {
+    {"Personal_Info", General::PolicyExpiration, isDate, "is no date, and the alert is on", Mend,
+        "the program does not start"},
+    {"Personal_Info", General::PolicyExpiration, isWithinReach, "is too far from today, and the alert is on", Mend,
+        "the program does not start"},
+};
+
+constexpr Rule quietRule{"Personal_Info", General::PolicyExpiration, isDateOrNone, "is no date", InsuranceScreen};
 
 // What stands in a file may be made to upset a terminal.
 QString printable(const QString& text)
@@ -109,13 +156,42 @@ QString placeOf(const Snapshot& table, int row, int column)
             QString::fromUtf8(definition.columns[static_cast<std::size_t>(column)].name));
 }
 
-void follow(const Rule& rule, const Household& household, QStringList& odd)
+Finding findingOf(const QString& what, const char* mendedAt, const char* stops = nullptr)
+{
+    const QString seen = stops ? QStringLiteral(" - STOPS: ") + QString::fromUtf8(stops) : QString();
+    return {QStringLiteral("%1%2 (%3)").arg(what, seen, QString::fromUtf8(mendedAt)), stops != nullptr};
+}
+
+void follow(const Rule& rule, const Household& household, std::vector<Finding>& found)
 {
     const Snapshot& table = household.table(rule.table);
     for (int row = 0; row < table.rowCount(); ++row)
         if (const QString text = table.text(row, rule.column); !rule.holds(text))
-            odd.append(placeOf(table, row, rule.column)
-                + QStringLiteral(": \"%1\" %2").arg(printable(text), QString::fromUtf8(rule.otherwise)));
+            found.push_back(findingOf(placeOf(table, row, rule.column)
+                    + QStringLiteral(": \"%1\" %2").arg(printable(text), QString::fromUtf8(rule.otherwise)),
+                rule.mendedAt, rule.stops));
+}
+
+bool isAlertOn(const Household& household)
+{
+    return values::equalUpper(household.table("Personal_Info").text(0, General::PolicyNotify), QStringLiteral("Yes"));
+}
+
+void checkAlert(const Household& household, std::vector<Finding>& found)
+{
+    if (!isAlertOn(household))
+        return follow(quietRule, household, found);
+    for (const Rule& rule : alertRules)
+        follow(rule, household, found);
+}
+
+// What the screens count, they count in 16 bits.
+void countRows(const Household& household, std::vector<Finding>& found)
+{
+    constexpr int most = std::numeric_limits<qint16>::max();
+    if (const int rows = household.table("Inventory").rowCount(); rows > most)
+        found.push_back(findingOf(QStringLiteral("Inventory has %1 rows, more than %2").arg(rows).arg(most),
+            "delete assets", "Value, and a search that finds them all, end the program"));
 }
 
 // The first start finds no mark there, and leaves none but "1".
@@ -124,34 +200,56 @@ bool mayBeEmpty(const Snapshot& table, int column)
     return std::string_view(table.definition().name) == "Personal_Info" && column == General::Introduced;
 }
 
-// No entry is stored as an empty text: a mark stands in its place.
-void findEmptyCells(const Snapshot& table, QStringList& odd)
+const char* screenOf(std::string_view table, int column)
 {
-    const int columns = static_cast<int>(table.definition().columns.size());
+    if (table == "Personal_Info")
+        return column < General::Spare1 ? PersonalScreen : InsuranceScreen;
+    if (table == "Inventory")
+        return column < Inventory::PartsType ? AssetScreen : WarrantyScreen;
+    if (table == "Bank_Info")
+        return AccountScreen;
+    return table == "Print" ? NextSearch : ListEditor;
+}
+
+bool hasRule(std::string_view table, int column)
+{
+    return std::ranges::any_of(rules, [&](const Rule& rule) { return table == rule.table && column == rule.column; });
+}
+
+// No entry is stored as an empty text: a mark stands in its place. What a rule looks at is told by it.
+void findEmptyCells(const Snapshot& table, std::vector<Finding>& found)
+{
+    const auto& columns = table.definition().columns;
+    const std::string_view name = table.definition().name;
+    std::vector<int> looked;
+    for (int column = 0; column < static_cast<int>(columns.size()); ++column)
+        if (!mayBeEmpty(table, column) && !hasRule(name, column))
+            looked.push_back(column);
     for (int row = 0; row < table.rowCount(); ++row)
-        for (int column = 0; column < columns; ++column)
-            if (table.utf8(row, column).empty() && !mayBeEmpty(table, column))
-                odd.append(placeOf(table, row, column) + QStringLiteral(": empty, without the mark for that"));
+        for (const int column : looked)
+            if (table.utf8(row, column).empty())
+                found.push_back(
+                    findingOf(placeOf(table, row, column) + QStringLiteral(": empty, without the mark for that"),
+                        screenOf(name, column)));
 }
 
-bool isMarkerRow(const Snapshot& names, int row)
+bool isMarkerRow(const Snapshot& table, int row)
 {
-    return names.utf8(row, Names::Location) == "< Add/Edit Location >"
-        && names.utf8(row, Names::Category) == "< Add/Edit Category >"
-        && names.utf8(row, Names::Type) == "< Add/Edit Item >";
+    return table.text(row, Names::Location) == names::LocationMarker
+        && table.text(row, Names::Category) == names::CategoryMarker
+        && table.text(row, Names::Type) == names::ItemMarker;
 }
 
-void findMarkerRow(const Snapshot& names, QStringList& odd)
+// As it is stored, a count of ten-thousandths.
+QString storedTotal(const Household& household)
 {
-    for (int row = 0; row < names.rowCount(); ++row)
-        if (isMarkerRow(names, row))
-            return;
-    odd.append(QString::fromUtf8(names.definition().name) + QStringLiteral(": no row leads to the list editors"));
+    const std::string_view count = household.table("Personal_Info").utf8(0, General::AssetValue);
+    return QString::fromUtf8(count.data(), static_cast<qsizetype>(count.size()));
 }
 
 QString runningTotal(const Household& household)
 {
-    return household.table("Personal_Info").text(0, General::AssetValue);
+    return printable(household.table("Personal_Info").text(0, General::AssetValue));
 }
 
 QString sumOfAmounts(const Household& household)
@@ -160,36 +258,74 @@ QString sumOfAmounts(const Household& household)
     return sum ? sum->toText() : QStringLiteral("more than can be counted");
 }
 
-void compareTotals(const Household& household, QStringList& odd)
+void compareTotals(const Household& household, std::vector<Finding>& found)
 {
-    const std::optional<Currency> sum = household.total();
-    const QString exact = sum ? QString::number(sum->tenThousandths()) : QString();
-    if (household.table("Personal_Info").utf8(0, General::AssetValue) != exact.toStdString())
-        odd.append(QStringLiteral("The running total is %1, the sum of the amounts %2")
-                       .arg(printable(runningTotal(household)), sumOfAmounts(household)));
+    if (!household.total())
+        found.push_back(
+            findingOf(QStringLiteral("The sum of the amounts is more than can be counted"), AssetScreen, ValueEnds));
+    if (!is_Total_Off(household))
+        return;
+    const bool isCounted = isNumber(storedTotal(household));
+    found.push_back(findingOf(QStringLiteral("The running total is %1, the sum of the amounts %2")
+                                  .arg(runningTotal(household), sumOfAmounts(household)),
+        is_Sum_Known(household) ? Mend : "when all amounts can be read, kestrill-check --mend",
+        isCounted ? nullptr : ValueEnds));
 }
 
 } // namespace
 
-QStringList odd_Entries(const Household& household)
+bool is_Total_Off(const Household& household)
 {
-    QStringList odd;
-    compareTotals(household, odd);
+    const std::optional<Currency> sum = household.total();
+    return sum && storedTotal(household) != QString::number(sum->tenThousandths());
+}
+
+bool is_Sum_Known(const Household& household)
+{
+    const Snapshot& assets = household.table("Inventory");
+    for (int row = 0; row < assets.rowCount(); ++row)
+        if (!isAmount(assets.text(row, Inventory::Amount)))
+            return false;
+    return household.total().has_value();
+}
+
+bool does_Alert_Stop(const Household& household)
+{
+    const QString date = household.table("Personal_Info").text(0, General::PolicyExpiration);
+    return isAlertOn(household) && !(isDate(date) && isWithinReach(date));
+}
+
+bool lacks_Marker_Row(const Snapshot& table)
+{
+    for (int row = 0; row < table.rowCount(); ++row)
+        if (isMarkerRow(table, row))
+            return false;
+    return true;
+}
+
+std::vector<Finding> findings(const Household& household)
+{
+    std::vector<Finding> found;
+    compareTotals(household, found);
     if (const int rows = household.table("Personal_Info").rowCount(); rows != 1)
-        odd.append(QStringLiteral("Personal_Info has %1 rows instead of one").arg(rows));
+        found.push_back(findingOf(QStringLiteral("Personal_Info has %1 rows instead of one").arg(rows), Backup));
+    countRows(household, found);
+    checkAlert(household, found);
     for (const Rule& rule : rules)
-        follow(rule, household, odd);
+        follow(rule, household, found);
     for (const Snapshot& table : household.tables())
-        findEmptyCells(table, odd);
-    for (const char* table : nameTables)
-        findMarkerRow(household.table(table), odd);
-    return odd;
+        findEmptyCells(table, found);
+    for (const char* table : NameTables)
+        if (lacks_Marker_Row(household.table(table)))
+            found.push_back(
+                findingOf(QString::fromUtf8(table) + QStringLiteral(": no row leads to the list editors"), Mend));
+    return found;
 }
 
 QString sums(const Household& household)
 {
     return QStringLiteral("Sum of the amounts: %1\nRunning total: %2")
-        .arg(sumOfAmounts(household), printable(runningTotal(household)));
+        .arg(sumOfAmounts(household), runningTotal(household));
 }
 
 } // namespace checking

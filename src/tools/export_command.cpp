@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system/paths.h"
 #include "tools/commands.h"
 #include "tools/exit_codes.h"
 #include "tools/exporting.h"
@@ -6,7 +7,6 @@
 #include "tools/terminal.h"
 
 #include <QCommandLineParser>
-#include <QDir>
 
 namespace commands {
 
@@ -35,7 +35,7 @@ int exportTo(const QString& folder, const QString& from, bool isForced)
         terminal::Count count;
         exporting::write(household, folder, former, [&count](int done, int all) { return count.tell(done, all); });
     }
-    terminal::print(QStringLiteral("Written to %1: %2").arg(QDir(folder).absolutePath(), household.summary()));
+    terminal::print(QStringLiteral("Written to %1: %2").arg(sys::absolutePath(folder), household.summary()));
     return exit_code::Done;
 }
 

@@ -3,7 +3,9 @@
 
 #include "core/data_store.h"
 #include "platform/system/files.h"
+#include "platform/system/paths.h"
 #include "tools/exit_codes.h"
+#include "tools/export_readme.h"
 #include "tools/report_files.h"
 #include "tools/table_texts.h"
 #include "tools/text_file.h"
@@ -23,6 +25,7 @@ namespace {
 
 const QString DataFile = QStringLiteral("kestrill.json");
 const QString SchemaFile = QStringLiteral("kestrill.schema.json");
+const QString ReadmeFile = QStringLiteral("README.txt");
 constexpr int RowsBetweenTellings = 256;
 
 QString csvFileOf(const storage::TableDefinition& table)
@@ -50,7 +53,8 @@ public:
         for (const Snapshot& table : household_.tables())
             writeTable(table);
         writeData();
-        writeSchema();
+        writeText(SchemaFile, table_texts::jsonSchema(household_.tables()));
+        writeText(ReadmeFile, ExportReadme);
         for (const ReportFile& report : reports_)
             writeReport(report);
         folder_.sync();
@@ -106,22 +110,25 @@ private:
         }
     }
 
-    void writeSchema() const
+    void writeText(const QString& name, std::string_view text) const
     {
-        TextFile out(file(SchemaFile));
-        out.write(table_texts::jsonSchema(household_.tables()));
+        TextFile out(file(name));
+        out.write(text);
         out.finish();
     }
 
     void writeReport(const ReportFile& report)
     {
         const QString path = file(report.name);
-        const report::Outcome outcome = report::savePdf(*report.pages, path, [this](int page) { return tell(page); });
+        QString reason;
+        const report::Outcome outcome = report::savePdf(
+            *report.pages, path, [this](int page) { return tell(page); }, &reason);
         if (outcome == report::Outcome::Cancelled)
             refuseCancelled();
         if (outcome == report::Outcome::Failed)
-            throw Refusal(
-                exit_code::Failed, QStringLiteral("%1 could not be written.").arg(folder_.pathOf(report.name)));
+            throw Refusal(exit_code::Failed,
+                QStringLiteral("%1 could not be written%2.")
+                    .arg(folder_.pathOf(report.name), reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
         done_ += report.pages->count();
     }
@@ -133,11 +140,6 @@ private:
     int done_ = 0;
     int all_ = 0;
 };
-
-QStringList entriesOf(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
 
 // A folder beside the one that is to be written, for as long as it lives. What is in it at the end goes.
 class BesideIt {
@@ -217,9 +219,9 @@ sys::Folder openedAbove(const QString& path)
     }
 }
 
-void writeWhole(const Household& household, const QString& folder, const Progress& progress)
+void writeBelow(const Household& household, const QString& path, const QString& name, const Progress& progress)
 {
-    const sys::Folder above = openedAbove(QFileInfo(folder).path());
+    const sys::Folder above = openedAbove(path);
     clearLeftovers(above);
     BesideIt written(above);
     try {
@@ -228,7 +230,7 @@ void writeWhole(const Household& household, const QString& folder, const Progres
         throw Refusal(
             exit_code::Failed, QString(failure.text()).replace(written.folder().way(), written.folder().path()));
     }
-    written.putInPlace(QFileInfo(folder).fileName());
+    written.putInPlace(name);
     above.sync();
 }
 
@@ -236,7 +238,7 @@ void writeWhole(const Household& household, const QString& folder, const Progres
 
 QStringList fileNames()
 {
-    QStringList names{DataFile, SchemaFile};
+    QStringList names{DataFile, SchemaFile, ReadmeFile};
     for (const storage::TableDefinition* table : databaseTables())
         names.append(csvFileOf(*table));
     return names + reportFileNames();
@@ -244,12 +246,12 @@ QStringList fileNames()
 
 bool isFormerExport(const QString& folder)
 {
-    const QFileInfo there(folder);
-    if (!there.exists() && !there.isSymLink())
+    const sys::Kind kind = sys::kindOf(folder);
+    if (kind == sys::Kind::Nothing)
         return false;
-    if (!there.isDir())
+    if (kind != sys::Kind::Folder)
         throw Refusal(exit_code::Failed, QStringLiteral("%1 is no folder.").arg(folder));
-    const QStringList entries = entriesOf(folder);
+    const QStringList entries = sys::Folder(folder).names();
     const QStringList ours = fileNames();
     const auto isOurs = [&ours](const QString& entry) { return ours.contains(entry); };
     if (!std::all_of(entries.begin(), entries.end(), isOurs))
@@ -260,12 +262,13 @@ bool isFormerExport(const QString& folder)
 
 void write(const Household& household, const QString& folder, Former former, const Progress& progress)
 {
-    const QString target = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    const QString target = sys::absolutePath(folder);
     if (isFormerExport(target) && former == Former::Kept)
         throw Refusal(exit_code::Failed, QStringLiteral("There is an export in %1 already.").arg(target));
     try {
-        const QFileInfo link(target); // a link keeps leading to its folder
-        writeWhole(household, link.isSymLink() ? link.canonicalFilePath() : target, progress);
+        const QString real = sys::realPath(target); // a link keeps leading to its folder
+        const QFileInfo place(real.isEmpty() ? target : real);
+        writeBelow(household, place.path(), place.fileName(), progress);
     } catch (const values::RuntimeFailure& failure) {
         throw Refusal(exit_code::Failed, failure.text());
     }

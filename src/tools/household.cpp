@@ -4,8 +4,7 @@
 #include "core/data_store.h"
 #include "core/proofs.h"
 #include "platform/system/files.h"
-
-#include <QFileInfo>
+#include "platform/system/paths.h"
 
 #include <algorithm>
 
@@ -37,11 +36,13 @@ auto orUnreadable(const QString& state, Step step)
 
 FileReader openedReader(const QString& file, FileReader::Locks locks)
 {
-    const QFileInfo found(file);
-    if (!found.exists() && !sys::isOutOfSight(file))
+    const sys::Kind kind = sys::kindOf(file);
+    if (kind == sys::Kind::Nothing && !sys::isOutOfSight(file))
         throw UnreadableHousehold(QStringLiteral("Missing"), file + QStringLiteral(" does not exist"));
-    if (!found.isReadable())
+    if (!sys::isReadable(file))
         throw UnreadableHousehold(QStringLiteral("No right to read"), file + QStringLiteral(" can't be read"));
+    if (kind != sys::Kind::File)
+        throw UnreadableHousehold(QStringLiteral("Damaged or foreign"), file + QStringLiteral(" is no regular file"));
     return orUnreadable(QStringLiteral("Damaged or foreign"), [&] { return FileReader(file, databaseKey(), locks); });
 }
 

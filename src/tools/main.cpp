@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One program with several names: kestrill-restore, kestrill-export and kestrill-check, each a link to it.
+#include "platform/values/file_name.h"
 #include "tools/commands.h"
 #include "tools/exit_codes.h"
 #include "tools/terminal.h"
 #include "tools/windows.h"
 
-#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -29,19 +29,26 @@ bool isDisplayThere()
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-// Reports need fonts and no display: a command runs in any session, and in none.
-int runCommand(const Tool& tool, int& argc, char* argv[])
+// Reports need fonts and no display: a command runs in any session, and in none. Its options are its own, and so are
+// its words: the toolkit has neither.
+int runCommand(const Tool& tool, const QStringList& arguments, char* argv[])
 {
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& words) {
+        if (type == QtFatalMsg)
+            terminal::complain(words);
+    });
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    return tool.command(QGuiApplication::arguments());
+    int nameAlone = 1;
+    const QGuiApplication application(nameAlone, argv);
+    return tool.command(arguments);
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+int runCalled(int& argc, char* argv[])
 {
-    const QString name = QFileInfo(QString::fromLocal8Bit(argv[0])).fileName();
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(values::textOfName(argv[i]));
+    const QString name = arguments.value(0).section(u'/', -1);
     const auto* tool =
         std::find_if(std::begin(tools), std::end(tools), [&](const Tool& each) { return name == each.name; });
     if (tool == std::end(tools)) {
@@ -50,5 +57,18 @@ int main(int argc, char* argv[])
     }
     if (argc == 1 && tool->window && isDisplayThere())
         return tool->window(argc, argv);
-    return runCommand(*tool, argc, argv);
+    return runCommand(*tool, arguments, argv);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    terminal::keepStreams();
+    try {
+        return runCalled(argc, argv);
+    } catch (const std::exception& failure) {
+        terminal::complain(QString::fromLocal8Bit(failure.what()));
+        return exit_code::Failed;
+    }
 }

@@ -3,14 +3,14 @@
 
 #include "core/places.h"
 #include "platform/storage/file_lock.h"
+#include "platform/system/paths.h"
 #include "tools/backups.h"
 #include "tools/exit_codes.h"
 
-#include <QFileInfo>
-
 QString sourceFile(const QString& named)
 {
-    const bool isPath = named.contains(u'/') || QFileInfo(named).isFile();
+    const sys::Kind kind = sys::kindOf(named);
+    const bool isPath = named.contains(u'/') || kind == sys::Kind::File || kind == sys::Kind::Other;
     QString file = named.isEmpty() ? places::databaseFile()
         : isPath                   ? named
                                    : backups::find(backups::all(), named).file;

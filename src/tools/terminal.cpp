@@ -2,14 +2,17 @@
 #include "tools/terminal.h"
 
 #include "platform/values/failure.h"
+#include "platform/values/file_name.h"
 #include "tools/exit_codes.h"
+#include "tools/system_words.h"
 
 #include <QCommandLineParser>
-#include <QTextStream>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace terminal {
@@ -25,17 +28,65 @@ void noteEnd(int)
 
 constexpr int endingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
+void say(std::FILE* stream, const QString& text)
+{
+    const QByteArray bytes = values::bytesOfName(text);
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+}
+
+// A variable of a script that isn't set, mostly.
+void refuseEmptyNames(const QCommandLineParser& parser)
+{
+    QStringList names = parser.positionalArguments();
+    for (const QString& option : parser.optionNames())
+        names += parser.values(option);
+    if (names.contains(QString()))
+        throw Refusal(exit_code::Usage, QStringLiteral("An empty name is none; see --help."));
+}
+
+int outcomeOf(const std::function<int()>& command)
+{
+    try {
+        return command();
+    } catch (const Refusal& refusal) {
+        complain(refusal.words());
+        return refusal.code();
+    } catch (const values::RuntimeFailure& failure) {
+        complain(failure.text());
+        return failure.kind() == values::FailureKind::Database ? exit_code::Unreadable : exit_code::Failed;
+    } catch (const std::exception& failure) {
+        complain(QStringLiteral("Failed: %1").arg(QString::fromLocal8Bit(failure.what())));
+        return exit_code::Failed;
+    }
+}
+
+int whereHeard(int outcome)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return outcome;
+    complain(QStringLiteral("The output can't be written: %1.").arg(system_Words(errno)));
+    return exit_code::Failed;
+}
+
 } // namespace
 
 void print(const QString& line)
 {
-    std::fprintf(stdout, "%s\n", qUtf8Printable(line));
-    std::fflush(stdout);
+    say(stdout, line + u'\n');
+    std::fflush(stdout); // before the next line, which may have to be read from the disk first
 }
 
 void complain(const QString& line)
 {
-    std::fprintf(stderr, "%s\n", qUtf8Printable(line));
+    say(stderr, line + u'\n');
+}
+
+// The lowest number is given out first.
+void keepStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(stream, F_GETFD) < 0)
+            ::open("/dev/null", O_RDONLY);
 }
 
 bool isAttended()
@@ -45,8 +96,11 @@ bool isAttended()
 
 bool isConfirmed(const QString& question)
 {
-    std::fprintf(stderr, "%s [y/N] ", qUtf8Printable(question));
-    return QTextStream(stdin).readLine().startsWith(u'y', Qt::CaseInsensitive);
+    say(stderr, question + QStringLiteral(" [y/N] "));
+    const int first = std::getchar();
+    for (int rest = first; rest != '\n' && rest != EOF;)
+        rest = std::getchar();
+    return first == 'y' || first == 'Y';
 }
 
 Count::Count()
@@ -91,17 +145,12 @@ int run(QCommandLineParser& parser, const QStringList& arguments, const std::fun
     }
     if (parser.isSet(help) || parser.isSet(version)) {
         print(parser.isSet(help) ? parser.helpText().trimmed() : QStringLiteral("Kestrill " KESTRILL_VERSION));
-        return exit_code::Done;
+        return whereHeard(exit_code::Done);
     }
-    try {
+    return whereHeard(outcomeOf([&] {
+        refuseEmptyNames(parser);
         return command();
-    } catch (const Refusal& refusal) {
-        complain(refusal.words());
-        return refusal.code();
-    } catch (const values::RuntimeFailure& failure) {
-        complain(failure.text());
-        return exit_code::Unreadable;
-    }
+    }));
 }
 
 } // namespace terminal

@@ -11,8 +11,13 @@ class QCommandLineParser;
 /// What the commands have in common.
 namespace terminal {
 
+/// A line on the output, and on the error output. Names of files in it go out as the bytes that they are.
 void print(const QString& line);
 void complain(const QString& line);
+
+/// Gives the streams that are closed a place where nothing can be written. What is opened next would take their numbers
+/// else, and be written into by every word that is said.
+void keepStreams();
 
 /// Whether there is somebody to be asked; the question, and whether the answer begins with a y.
 bool isAttended();
@@ -37,7 +42,8 @@ private:
 };
 
 /// Parses the arguments, of which the first is the command's name, and runs what a command does. Answers --help and
-/// --version. Refusals become words on the error output and the exit code.
+/// --version, and refuses empty names. Whatever it throws becomes words on the error output and the exit code, and so
+/// does an output that can't be written.
 int run(QCommandLineParser& parser, const QStringList& arguments, const std::function<int()>& command);
 
 } // namespace terminal

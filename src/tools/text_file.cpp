@@ -2,7 +2,14 @@
 #include "tools/text_file.h"
 
 #include "platform/values/failure.h"
+#include "platform/values/file_name.h"
+#include "tools/system_words.h"
 
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -12,11 +19,17 @@ constexpr std::size_t PieceSize = std::size_t{1} << 20;
 } // namespace
 
 TextFile::TextFile(const QString& path)
-    : file_(path)
+    : path_(path)
+    , file_(::open(values::bytesOfName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR))
 {
-    if (!file_.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
-            QFileDevice::ReadOwner | QFileDevice::WriteOwner))
-        refuse(file_.errorString());
+    if (file_ < 0)
+        refuse();
+}
+
+TextFile::~TextFile()
+{
+    if (file_ >= 0)
+        ::close(file_);
 }
 
 void TextFile::write(std::string_view bytes)
@@ -29,21 +42,24 @@ void TextFile::write(std::string_view bytes)
 void TextFile::finish()
 {
     flush();
-    if (::fsync(file_.handle()) != 0)
-        refuse(qt_error_string());
-    file_.close();
+    if (::fsync(file_) != 0 || ::close(std::exchange(file_, -1)) != 0)
+        refuse();
 }
 
+// The system may take a part of it; the next call tells why it takes no more.
 void TextFile::flush()
 {
-    const auto count = static_cast<qint64>(pending_.size());
-    if (file_.write(pending_.data(), count) != count)
-        refuse(file_.errorString());
+    for (std::string_view rest = pending_; !rest.empty();) {
+        const ssize_t written = TEMP_FAILURE_RETRY(::write(file_, rest.data(), rest.size()));
+        if (written < 0)
+            refuse();
+        rest.remove_prefix(static_cast<std::size_t>(written));
+    }
     pending_.clear();
 }
 
-void TextFile::refuse(const QString& reason) const
+void TextFile::refuse() const
 {
     throw values::RuntimeFailure(
-        values::FailureKind::File, QStringLiteral("writing %1: %2").arg(file_.fileName(), reason));
+        values::FailureKind::File, QStringLiteral("writing %1: %2").arg(path_, system_Words(errno)));
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QFile>
+#include <QString>
 
 #include <string>
 #include <string_view>
@@ -10,6 +10,9 @@
 class TextFile {
 public:
     explicit TextFile(const QString& path);
+    TextFile(const TextFile&) = delete;
+    TextFile& operator=(const TextFile&) = delete;
+    ~TextFile();
 
     void write(std::string_view bytes);
 
@@ -18,8 +21,9 @@ public:
 
 private:
     void flush();
-    [[noreturn]] void refuse(const QString& reason) const;
+    [[noreturn]] void refuse() const;
 
-    QFile file_;
+    QString path_;
+    int file_;
     std::string pending_;
 };

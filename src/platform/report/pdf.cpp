@@ -37,12 +37,13 @@ Outcome paintAll(QPdfWriter& writer, const Pages& pages, const std::vector<int>&
 
 } // namespace
 
-Outcome savePdf(const Pages& pages, const QString& path, const Progress& progress)
+Outcome savePdf(const Pages& pages, const QString& path, const Progress& progress, QString* reason)
 {
-    return savePdf(pages, chosenPages({}, pages.count(), 0), path, progress);
+    return savePdf(pages, chosenPages({}, pages.count(), 0), path, progress, reason);
 }
 
-Outcome savePdf(const Pages& pages, const std::vector<int>& chosen, const QString& path, const Progress& progress)
+Outcome savePdf(
+    const Pages& pages, const std::vector<int>& chosen, const QString& path, const Progress& progress, QString* reason)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
@@ -51,10 +52,12 @@ Outcome savePdf(const Pages& pages, const std::vector<int>& chosen, const QStrin
     QPdfWriter writer(&information);
     prepare(writer, pages);
     const Outcome outcome = paintAll(writer, pages, chosen, progress);
+    const bool isNamed = outcome == Outcome::Done && information.add(pages.document()->names) && file.flush();
+    if (reason)
+        *reason = reasonOf(file);
     if (outcome != Outcome::Done)
         return outcome; // what was written goes with the file object
-    const bool isWhole = information.add(pages.document()->names) && commitWhole(file);
-    return isWhole ? Outcome::Done : Outcome::Failed;
+    return isNamed && commitWhole(file) ? Outcome::Done : Outcome::Failed;
 }
 
 } // namespace report

@@ -4,11 +4,12 @@
 #include "platform/storage/sqlcipher.h"
 #include "platform/storage/statement.h"
 #include "platform/values/failure.h"
+#include "platform/values/file_name.h"
 
-#include <QFile>
 #include <QFileInfo>
-#include <QUrl>
 
+#include <cstdlib>
+#include <memory>
 #include <optional>
 #include <system_error>
 
@@ -29,7 +30,7 @@ int flagsOf(Access access)
 
 int openFolder(const QString& path)
 {
-    const int folder = ::open(QFile::encodeName(path).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    const int folder = ::open(values::bytesOfName(path).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
         throw values::RuntimeFailure(values::FailureKind::Database,
             QStringLiteral("the folder %1 can't be opened (%2)")
@@ -40,8 +41,25 @@ int openFolder(const QString& path)
 // The engine refuses paths beyond 512 bytes, so it is given a short one through the open folder.
 QByteArray addressOf(int folder, const QString& name, Access access)
 {
-    QByteArray address = "file:/proc/self/fd/" + QByteArray::number(folder) + '/' + QUrl::toPercentEncoding(name);
+    QByteArray address =
+        "file:/proc/self/fd/" + QByteArray::number(folder) + '/' + values::bytesOfName(name).toPercentEncoding();
     return access == Access::AsItLies ? address + "?immutable=1" : address;
+}
+
+// Opening a pipe waits for its other end, and reading a device may never end.
+void refuseUnlessRegular(const QByteArray& name)
+{
+    struct ::stat found { };
+    if (::stat(name.constData(), &found) == 0 && !S_ISREG(found.st_mode))
+        throw values::RuntimeFailure(
+            values::FailureKind::Database, values::textOfName(name) + QStringLiteral(" is no regular file"));
+}
+
+// The engine looks for the journal beside the file that a link leads to.
+QByteArray journalOf(const QByteArray& name)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(name.constData(), nullptr), &std::free);
+    return QByteArray(real.get()) + "-journal";
 }
 
 bool hasSystemReason(int code)
@@ -52,7 +70,7 @@ bool hasSystemReason(int code)
 
 QString nameOf(sqlite3* handle)
 {
-    return QFile::decodeName(sqlite3_db_filename(handle, "main"));
+    return values::textOfName(sqlite3_db_filename(handle, "main"));
 }
 
 // A file that the engine can't make it tries once more as one to read, and then knows only that there is none.
@@ -60,7 +78,7 @@ int reasonOf(sqlite3* handle, int code)
 {
     const QString name = nameOf(handle);
     const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN && !name.isEmpty();
-    if (madeNone && ::euidaccess(QFile::encodeName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
+    if (madeNone && ::euidaccess(values::bytesOfName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
         return errno;
     return sqlite3_system_errno(handle);
 }
@@ -69,7 +87,8 @@ int reasonOf(sqlite3* handle, int code)
 void refuseCutShort(sqlite3* handle, const QString& path)
 {
     const qint64 whole = numberOf(handle, "PRAGMA page_count") * numberOf(handle, "PRAGMA page_size");
-    if (QFileInfo(path).size() < whole)
+    struct ::stat found { };
+    if (::stat(values::bytesOfName(path).constData(), &found) != 0 || found.st_size < whole)
         throw values::RuntimeFailure(values::FailureKind::Database, QStringLiteral("the file is cut short"));
 }
 
@@ -113,7 +132,7 @@ FileIdentity identityOf(sqlite3* handle)
 
 bool liesAt(FileIdentity file, const QString& path)
 {
-    return identityAt(QFile::encodeName(path).constData()) == file;
+    return identityAt(values::bytesOfName(path).constData()) == file;
 }
 
 void CloseHandle::operator()(sqlite3* handle) const
@@ -133,6 +152,9 @@ void throwEngineFailure(sqlite3* handle, int code)
 
 Handle openFile(const QString& path, const QByteArray& key, Access access)
 {
+    const QByteArray name = values::bytesOfName(path);
+    refuseUnlessRegular(name);
+    refuseUnlessRegular(journalOf(name));
     const QFileInfo file(path);
     const int folder = openFolder(file.path());
     sqlite3* opened = nullptr;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/storage/file_lock.h"
 
-#include <QFile>
+#include "platform/values/file_name.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace storage {
@@ -20,10 +21,20 @@ struct ::flock engineBytes(short type)
     return bytes;
 }
 
+// What else bears the name, a pipe or a device, may keep whoever opens it waiting.
+int openedFile(const QString& path, int flags)
+{
+    const QByteArray name = values::bytesOfName(path);
+    struct ::stat found { };
+    if (::stat(name.constData(), &found) != 0 || !S_ISREG(found.st_mode))
+        return -1;
+    return ::open(name.constData(), flags | O_NONBLOCK | O_CLOEXEC);
+}
+
 } // namespace
 
 FileLock::FileLock(const QString& path)
-    : file_(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC))
+    : file_(openedFile(path, O_RDWR))
 {
     struct ::flock bytes = engineBytes(F_WRLCK);
     isHeld_ = file_ >= 0 && ::fcntl(file_, F_OFD_SETLK, &bytes) == 0;
@@ -37,7 +48,7 @@ FileLock::~FileLock()
 
 bool isInUse(const QString& path)
 {
-    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int file = openedFile(path, O_RDONLY);
     if (file < 0)
         return false;
     struct ::flock bytes = engineBytes(F_RDLCK);

@@ -8,8 +8,6 @@
 #include "platform/storage/sqlcipher.h"
 #include "platform/storage/statement.h"
 
-#include <QFileInfo>
-
 using values::FailureKind;
 
 namespace storage {
@@ -46,7 +44,7 @@ Handle FileReader::opened(const QString& path, const QByteArray& key, Locks lock
     if (journal_ == JournalBeside::Foreign)
         return openFile(path, key, Access::AsItLies);
     if (journal_ == JournalBeside::Own)
-        return openFile(copy_.emplace(QFileInfo(path).canonicalFilePath()).file(), key, Access::ReadWrite);
+        return openFile(copy_.emplace(path).file(), key, Access::ReadWrite);
     return openFile(path, key, locks == Locks::Passed ? Access::AsItLies : Access::ReadOnly);
 }
 

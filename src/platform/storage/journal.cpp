@@ -4,13 +4,14 @@
 #include "platform/storage/engine.h"
 #include "platform/storage/file_lock.h"
 #include "platform/values/failure.h"
+#include "platform/values/file_name.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <filesystem>
 #include <optional>
 
 using values::FailureKind;
@@ -49,11 +50,27 @@ bool isForeign(const QString& file, const QByteArray& key)
     return playedBack && *lies != *playedBack && *lies != *playedBack + 1;
 }
 
+std::filesystem::path pathOf(const QString& name)
+{
+    return values::bytesOfName(name).toStdString();
+}
+
 // The file that the engine opens, under whose name it looks for the journal.
 QString fileWithJournal(const QString& path)
 {
-    const QString file = QFileInfo(path).canonicalFilePath();
-    return file.isEmpty() || QFileInfo(file + Suffix).size() == 0 ? QString() : file;
+    std::error_code isMissing;
+    const std::filesystem::path file = std::filesystem::canonical(pathOf(path), isMissing);
+    if (isMissing)
+        return {};
+    const QString name = values::textOfName(file.c_str());
+    const std::uintmax_t size = std::filesystem::file_size(pathOf(name + Suffix), isMissing);
+    return isMissing || size == 0 ? QString() : name;
+}
+
+bool isCopied(const QString& from, const QString& to)
+{
+    std::error_code failure;
+    return std::filesystem::copy_file(pathOf(from), pathOf(to), failure) && !failure;
 }
 
 } // namespace
@@ -62,9 +79,8 @@ QString fileWithJournal(const QString& path)
 CopyWithJournal::CopyWithJournal(const QString& file)
     : folder_(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/journal-XXXXXX"))
 {
-    const bool isCopied =
-        folder_.isValid() && QFile::copy(file, this->file()) && QFile::copy(file + Suffix, this->file() + Suffix);
-    if (!isCopied)
+    const QString real = fileWithJournal(file);
+    if (!folder_.isValid() || !isCopied(real, this->file()) || !isCopied(real + Suffix, this->file() + Suffix))
         throw RuntimeFailure(FailureKind::Database, QStringLiteral("no room to try the journal of ") + file);
     QFile::setPermissions(this->file(), QFile::ReadOwner | QFile::WriteOwner);
 }
@@ -85,9 +101,9 @@ void setForeignJournalAside(const QString& path, const QByteArray& key)
     const FileLock lock(file);
     if (!lock.isHeld() || !isForeign(file, key))
         return;
-    const QByteArray journal = QFile::encodeName(file + Suffix);
-    const QByteArray aside = QFile::encodeName(file + QStringLiteral("-foreign") + Suffix);
-    if (std::rename(journal.constData(), aside.constData()) != 0)
+    std::error_code failure;
+    std::filesystem::rename(pathOf(file + Suffix), pathOf(file + QStringLiteral("-foreign") + Suffix), failure);
+    if (failure)
         throw RuntimeFailure(FailureKind::Database, QStringLiteral("a foreign journal lies beside ") + file);
 }
 

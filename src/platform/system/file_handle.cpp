@@ -2,9 +2,9 @@
 #include "platform/system/file_handle.h"
 
 #include "platform/system/failures.h"
+#include "platform/values/file_name.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <algorithm>
 #include <memory>
@@ -43,12 +43,17 @@ Handle::~Handle()
 
 QString textOf(const fs::path& path)
 {
-    return QFile::decodeName(path.c_str());
+    return values::textOfName(path.c_str());
 }
 
 fs::path pathOf(const QString& text)
 {
-    return fs::absolute(QFile::encodeName(QDir::cleanPath(text)).toStdString());
+    const fs::path path = values::bytesOfName(QDir::cleanPath(text)).toStdString();
+    std::error_code failure;
+    fs::path absolute = fs::absolute(path, failure);
+    if (path.empty() || failure)
+        throw refused("finding", path, path.empty() ? ENOENT : failure.value());
+    return absolute;
 }
 
 values::RuntimeFailure refused(const char* attempt, const fs::path& path, int reason)

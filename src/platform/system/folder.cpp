@@ -2,9 +2,8 @@
 #include "platform/system/folder.h"
 
 #include "platform/system/file_handle.h"
+#include "platform/values/file_name.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <fcntl.h>
@@ -27,7 +26,7 @@ constexpr qint64 NanosecondsOfASecond = 1'000'000'000;
 class Name {
 public:
     explicit Name(const QString& name)
-        : bytes_(QFile::encodeName(name))
+        : bytes_(values::bytesOfName(name))
     {
     }
     operator const char*() const { return bytes_.constData(); } // NOLINT: it is nothing else
@@ -120,10 +119,10 @@ Folder Folder::madeEntered(const QString& name) const
 // Where others may write, one of them may be quick enough to put a folder of his own in its place.
 Folder Folder::madeNew(const QString& beginning) const
 {
-    QByteArray path = QFile::encodeName(wayTo(beginning)) + "XXXXXX";
+    QByteArray path = values::bytesOfName(wayTo(beginning)) + "XXXXXX";
     if (::mkdtemp(path.data()) == nullptr)
         throw refused("making a folder in", sys::pathOf(path_));
-    Folder folder = entered(QFile::decodeName(path.mid(path.lastIndexOf('/') + 1)));
+    Folder folder = entered(values::textOfName(path.mid(path.lastIndexOf('/') + 1)));
     struct ::stat owner { };
     if (::fstat(folder.descriptor(), &owner) != 0 || owner.st_uid != ::geteuid())
         throw refused("making a folder in", sys::pathOf(path_), EPERM);
@@ -144,7 +143,7 @@ QStringList Folder::names() const
 {
     QStringList names;
     for (const Entry& entry : entriesOf(*handle_, sys::pathOf(path_)))
-        names.append(QFile::decodeName(entry.name.c_str()));
+        names.append(values::textOfName(entry.name.c_str()));
     return names;
 }
 
