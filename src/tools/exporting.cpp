@@ -11,7 +11,6 @@
 #include "tools/text_file.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -127,8 +126,7 @@ private:
             refuseCancelled();
         if (outcome == report::Outcome::Failed)
             throw Refusal(exit_code::Failed,
-                QStringLiteral("%1 could not be written%2.")
-                    .arg(folder_.pathOf(report.name), reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
+                QStringLiteral("%1 could not be written: %2.").arg(folder_.pathOf(report.name), reason));
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
         done_ += report.pages->count();
     }

@@ -35,6 +35,17 @@ Outcome paintAll(QPdfWriter& writer, const Pages& pages, const std::vector<int>&
     return painter.end() ? Outcome::Done : Outcome::Failed;
 }
 
+Outcome write(QSaveFile& file, const Pages& pages, const std::vector<int>& chosen, const Progress& progress)
+{
+    PdfInformation information(file);
+    QPdfWriter writer(&information);
+    prepare(writer, pages);
+    const Outcome outcome = paintAll(writer, pages, chosen, progress);
+    if (outcome != Outcome::Done)
+        return outcome;
+    return information.add(pages.document()->names) && file.flush() ? Outcome::Done : Outcome::Failed;
+}
+
 } // namespace
 
 Outcome savePdf(const Pages& pages, const QString& path, const Progress& progress, QString* reason)
@@ -46,18 +57,12 @@ Outcome savePdf(
     const Pages& pages, const std::vector<int>& chosen, const QString& path, const Progress& progress, QString* reason)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return Outcome::Failed;
-    PdfInformation information(file);
-    QPdfWriter writer(&information);
-    prepare(writer, pages);
-    const Outcome outcome = paintAll(writer, pages, chosen, progress);
-    const bool isNamed = outcome == Outcome::Done && information.add(pages.document()->names) && file.flush();
-    if (reason)
+    const Outcome outcome = file.open(QIODevice::WriteOnly) ? write(file, pages, chosen, progress) : Outcome::Failed;
+    if (reason && outcome == Outcome::Failed)
         *reason = reasonOf(file);
     if (outcome != Outcome::Done)
         return outcome; // what was written goes with the file object
-    return isNamed && commitWhole(file) ? Outcome::Done : Outcome::Failed;
+    return commitWhole(file) ? Outcome::Done : Outcome::Failed;
 }
 
 } // namespace report

@@ -8,7 +8,7 @@ namespace report {
 
 /// Writes a report as a PDF file: fonts embedded, its text to be searched. It is written beside the target and takes
 /// its name when it is whole, so that an older file stays until then. Failed where the system refuses; `reason` takes
-/// why, where that is known.
+/// why.
 Outcome savePdf(const Pages& pages, const QString& path, const Progress& progress = {}, QString* reason = nullptr);
 
 /// The same with some of its pages, counted from 0, in this order.

@@ -14,14 +14,12 @@ inline bool commitWhole(QSaveFile& file)
     return file.commit();
 }
 
-/// Why a file could not be written; empty where it isn't known. The toolkit has no words for a write of which the system
-/// took a part, which it does where the disk is full.
+/// Why a file could not be written. The toolkit has no words for a write of which the system took a part, which it does
+/// where the disk is full.
 inline QString reasonOf(const QSaveFile& file)
 {
-    if (file.error() == QFileDevice::NoError)
-        return {};
-    const bool isFull = file.error() == QFileDevice::ResourceError || file.errorString() == "Unknown error";
-    return isFull ? QStringLiteral("the disk is full") : file.errorString();
+    const bool isTold = file.error() != QFileDevice::NoError && file.error() != QFileDevice::ResourceError;
+    return isTold ? file.errorString() : QStringLiteral("the disk is full");
 }
 
 } // namespace report
