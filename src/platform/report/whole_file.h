@@ -18,7 +18,8 @@ inline bool commitWhole(QSaveFile& file)
 /// where the disk is full.
 inline QString reasonOf(const QSaveFile& file)
 {
-    const bool isTold = file.error() != QFileDevice::NoError && file.error() != QFileDevice::ResourceError;
+    const bool isTold = file.error() != QFileDevice::NoError && file.error() != QFileDevice::ResourceError
+        && file.errorString() != "Unknown error";
     return isTold ? file.errorString() : QStringLiteral("the disk is full");
 }
 
