@@ -213,7 +213,8 @@ const char* screenOf(std::string_view table, int column)
 
 bool hasRule(std::string_view table, int column)
 {
-    return std::ranges::any_of(rules, [&](const Rule& rule) { return table == rule.table && column == rule.column; });
+    const auto isOfCell = [&](const Rule& rule) { return table == rule.table && column == rule.column; };
+    return isOfCell(quietRule) || std::ranges::any_of(rules, isOfCell);
 }
 
 // No entry is stored as an empty text: a mark stands in its place. What a rule looks at is told by it.

@@ -59,7 +59,7 @@ void refuseUnlessRegular(const QByteArray& name)
 QByteArray journalOf(const QByteArray& name)
 {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(name.constData(), nullptr), &std::free);
-    return QByteArray(real.get()) + "-journal";
+    return real ? QByteArray(real.get()) + "-journal" : QByteArray();
 }
 
 bool hasSystemReason(int code)
