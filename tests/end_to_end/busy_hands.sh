@@ -95,8 +95,6 @@ text Second
 keys alt+u
 answer second-account-updated Return
 expect "select ID from Bank_Info where [Financial Institution] = 'Second'" 2
-
-step "the second click on an item of a list presses nothing behind the list"
 wait_screen frmGenInfo
 keys alt+c
 answer household-left Return
@@ -105,6 +103,18 @@ go frmAddUpDel alt+a
 pick frmAddUpDel Location location-list 2
 pick frmAddUpDel Category category-list 2
 locate frmAddUpDel 'Add Asset'
+
+step "what is copied in an open list is what it marks, whatever stands in its box"
+click frmAddUpDel Location
+keys ctrl+a
+text Nowhere
+keys alt+Down
+until_true "the list of locations" open_list
+keys ctrl+c ctrl+Insert Escape
+until_true "the list to close" no_list
+pick frmAddUpDel Location location-list-anew 2
+
+step "the second click on an item of a list presses nothing behind the list"
 unfold frmAddUpDel Item
 # shellcheck disable=SC2086 # two numbers
 xdotool mousemove ${Places['Add Asset']} click --repeat 2 --delay 60 1
