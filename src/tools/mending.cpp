@@ -10,9 +10,9 @@
 #include "platform/system/files.h"
 #include "tools/checking.h"
 #include "tools/exit_codes.h"
+#include "tools/restoring.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -24,8 +24,6 @@ using storage::TableView;
 namespace mending {
 
 namespace {
-
-const QString Part = QStringLiteral(".part");
 
 [[noreturn]] void refuseInUse()
 {
@@ -49,24 +47,27 @@ std::vector<int> rowsOf(const Household& household)
     return rows;
 }
 
-// A copy of the file among those put aside, under its name once it is proved.
+// A copy of the file among those put aside.
 class Aside {
 public:
     Aside()
-        : folder_(earlier::folderFor(QDateTime::currentDateTime(), true))
+        : kept_(places::earlierBackupsFolder())
+        , folder_(kept_.madeEntered(earlier::freeName(QDateTime::currentDateTime(), true)))
     {
     }
 
     void make(const std::vector<Mend>& mends) const;
     void giveUp() const;
     qint64 generation() const { return storage::generationOf(opened().get()); }
-    QString name() const { return QFileInfo(folder_).fileName(); }
+    QString name() const { return folder_.name(); }
 
 private:
-    QString file() const { return folder_ + u'/' + QFileInfo(places::databaseFile()).fileName(); }
+    static QString fileName() { return QFileInfo(places::databaseFile()).fileName(); }
+    QString file() const { return folder_.pathOf(fileName()); }
     storage::Handle opened() const { return storage::openFile(file(), databaseKey(), storage::Access::ReadOnly); }
 
-    QString folder_;
+    sys::Folder kept_;
+    sys::Folder folder_;
 };
 
 void Aside::make(const std::vector<Mend>& mends) const
@@ -79,32 +80,17 @@ void Aside::make(const std::vector<Mend>& mends) const
     for (const Mend& mend : mends)
         if (std::find(now.begin(), now.end(), mend) == now.end())
             throw Refusal(exit_code::Failed, QStringLiteral("Nothing was changed: the file is another one by now."));
-    sys::makePrivateFolder(folder_);
-    sys::removeFile(file() + Part);
-    sys::copyFile(places::databaseFile(), file() + Part);
-    if (rowsOf(Household(file() + Part)) != rowsOf(today))
+    folder_.copy(sys::Folder(QFileInfo(places::databaseFile()).path()), fileName(), fileName());
+    if (rowsOf(Household(file())) != rowsOf(today))
         throw Refusal(exit_code::Failed, QStringLiteral("Nothing was changed: %1 is no whole copy.").arg(file()));
-    sys::renameFile(file() + Part, file());
-    sys::syncFolder(folder_);
-    sys::syncFolder(QFileInfo(folder_).path());
+    folder_.sync();
+    kept_.sync();
 }
 
 void Aside::giveUp() const
 {
-    sys::removeFile(file() + Part);
-    sys::removeFile(file());
-    QDir().rmdir(folder_);
-}
-
-// Of mends that were killed before their copy was proved.
-void clearParts()
-{
-    const QDir folder(places::earlierBackupsFolder());
-    const QString part = u'/' + QFileInfo(places::databaseFile()).fileName() + Part;
-    for (const QString& name : folder.entryList({QStringLiteral("*_put-aside*")}, QDir::Dirs | QDir::NoSymLinks)) {
-        sys::removeFile(folder.filePath(name) + part);
-        QDir().rmdir(folder.filePath(name)); // stays where anything else is in it
-    }
+    folder_.remove(fileName());
+    kept_.removeEmpty(folder_.name());
 }
 
 values::Currency sumOf(TableView& assets)
@@ -185,11 +171,10 @@ std::vector<Mend> possible(const Household& household)
 
 QString carry_Out(const std::vector<Mend>& mends)
 {
-    sys::makePrivateFolder(places::earlierBackupsFolder());
-    const sys::RunLock alone(places::earlierBackupsFolder() + QStringLiteral("/.restoring"));
+    const sys::RunLock alone(sys::Folder::made(places::earlierBackupsFolder()), restoring::LockName);
     if (!alone.isHeld())
         throw Refusal(exit_code::InUse, QStringLiteral("A restore is under way."));
-    clearParts();
+    restoring::clear_Remains();
     const Aside aside;
     try {
         settle();

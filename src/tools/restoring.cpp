@@ -259,22 +259,6 @@ void LayingDown::removeBeside()
     beside_.remove();
 }
 
-// What a restore that was killed has begun to put aside.
-void clearRemains()
-{
-    const sys::Folder all(places::earlierBackupsFolder());
-    const QString file = QFileInfo(places::databaseFile()).fileName();
-    for (const QString& name : all.names()) {
-        const auto found = all.look(name);
-        if (!earlier::isForPutAside(name) || !found || found->kind != sys::Folder::Kind::Folder)
-            continue;
-        const sys::Folder folder = all.entered(name);
-        for (const QString& begun : {file, QString(file + Journal), QString(file + OwnSuffix)})
-            folder.removePart(begun);
-        all.removeEmpty(name);
-    }
-}
-
 // A copy takes the place of the second name, in one step.
 void partFromToday(const earlier::KeptFile& kept)
 {
@@ -290,6 +274,21 @@ void partFromToday(const earlier::KeptFile& kept)
 }
 
 } // namespace
+
+void clear_Remains()
+{
+    const sys::Folder all(places::earlierBackupsFolder());
+    const QString file = QFileInfo(places::databaseFile()).fileName();
+    for (const QString& name : all.names()) {
+        const auto found = all.look(name);
+        if (!earlier::isForPutAside(name) || !found || found->kind != sys::Folder::Kind::Folder)
+            continue;
+        const sys::Folder folder = all.entered(name);
+        for (const QString& begun : {file, QString(file + Journal), QString(file + OwnSuffix)})
+            folder.removePart(begun);
+        all.removeEmpty(name);
+    }
+}
 
 void refuse_While_Running()
 {
@@ -321,10 +320,10 @@ Result lay_Down(const Backup& chosen, const Steps& steps)
 {
     try {
         refuse_While_Running();
-        const sys::RunLock alone(sys::Folder::made(places::earlierBackupsFolder()), QStringLiteral(".restoring"));
+        const sys::RunLock alone(sys::Folder::made(places::earlierBackupsFolder()), LockName);
         if (!alone.isHeld())
             throw Refusal(exit_code::InUse, QStringLiteral("Another restore is under way."));
-        clearRemains();
+        clear_Remains();
         part_From_Today();
         return LayingDown(chosen.file, steps).run();
     } catch (const UnreadableHousehold& failure) {

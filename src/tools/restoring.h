@@ -33,6 +33,12 @@ Result lay_Down(const Backup& chosen, const Steps& steps = {});
 /// Refuses while the program has the household's file open. Failures: Refusal.
 void refuse_While_Running();
 
+/// The lock in the folder of earlier backups that keeps out who else puts today's file aside.
+inline const QString LockName = QStringLiteral(".restoring");
+
+/// Removes what a restore or a mend that was killed has begun to put aside. The lock must be held.
+void clear_Remains();
+
 /// Where a restore that was killed has left a file put aside that is still today's by another name, gives it a copy of
 /// its own. What fails is tried again the next time.
 void part_From_Today();
