@@ -3,9 +3,10 @@
 """What a screen reader finds of Kestrill on the accessibility bus.
 
 front: the name of the window in front. place NAME: where a control lies whose name is that, or begins with it and a
-colon, as "left top width height". walk: the window and each control in it that is shown, as "role | name | description |
-states", with "~" for what moves with the date. What has no name, or takes no focus, ends with status 1. listen: says on
-and on what is read out unasked, each notification that is shown."""
+colon, as "left top width height". places: where each control lies, as "role, name, left, top, width, height" with tabs
+between. walk: the window and each control in it that is shown, as "role | name | description | states", with "~" for
+what moves with the date. What has no name, or takes no focus, ends with status 1. listen: says on and on what is read
+out unasked, each notification that is shown."""
 
 import calendar
 import re
@@ -85,6 +86,10 @@ if sys.argv[1] == "front":
     print(window.name.strip())
 elif sys.argv[1] == "place":
     place(sys.argv[2])
+elif sys.argv[1] == "places":
+    for item, role, name in shown(window):
+        if role in TAKEN or role not in BARE:
+            print(role, " ".join(name.split()), *item.queryComponent().getExtents(pyatspi.DESKTOP_COORDS), sep="\t")
 else:
     tell(window, window.getRoleName(), window.name.strip())
     for item, role, name in shown(window):

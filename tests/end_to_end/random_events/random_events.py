@@ -1,0 +1,193 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Random events for the programs of a build on the display, until there were enough of them or something is found.
+
+The folder of the run holds the homes to begin with ("furnished", "new"), a link to each program in "programs", and the
+display's dots."""
+
+import argparse
+import os
+import random
+import shutil
+import signal
+import subprocess
+import sys
+import time
+from collections import Counter
+from pathlib import Path
+
+from hands import Gestures, Hands
+from watch import Eyes, Finding, Watch
+from x_display import Display
+
+HERE = Path(__file__).parent
+LIFE = (1500, 12000)  # events until a run of a program is told to end
+STUCK = 3000  # events in front of the same window
+UNSEEN = 150  # events between two waits for the program
+PROGRAMS = {"Kestrill": 0.9, "kestrill-restore": 0.06, "kestrill-export": 0.04}
+
+
+class Life:
+    """One run of a program, from its start in a home to its end or to a finding."""
+
+    def __init__(self, folder, program, display):
+        self.program = program
+        self.printed = folder / "printed.log"
+        self.acts = folder / "events.log"
+        self.picture = folder / "display.png"
+        self.dots = folder / "Xvfb_screen0"
+        self.log = self.acts.open("w", buffering=1)
+        self.hands = Hands(display, self.log)
+        with self.printed.open("w") as printed:
+            self.process = subprocess.Popen(
+                [HERE / "fenced", folder, folder / "programs" / program],
+                env=dict(os.environ, HOME=str(folder / "home"), TMPDIR=str(folder)),
+                stdout=printed, stderr=printed, cwd=folder / "home",
+            )  # fmt: skip
+        self.watch = Watch(display, self.process, self.printed)
+        self.hands.process = self.process
+        self.hands.settle = self.watch.settle
+
+    def go(self, drive):
+        """Returns what is found, or nothing."""
+        try:
+            self.watch.wait_start()
+            drive(self)
+            self.end()
+        except Finding as finding:
+            subprocess.run(["convert", f"xwd:{self.dots}", self.picture], check=False)
+            return finding
+        finally:
+            self.process.kill()
+            self.process.wait()
+            self.log.close()
+            self.hands.let_go()
+        return None
+
+    def end(self):
+        if not self.watch.has_ended():
+            self.process.send_signal(signal.SIGTERM)
+        try:
+            self.process.wait(60)
+        except subprocess.TimeoutExpired:
+            raise Finding("told to end, the program goes on") from None
+        self.watch.end()
+
+
+class Run:
+    def __init__(self, options):
+        self.options = options
+        self.folder = options.folder
+        self.display = Display()
+        self.eyes = Eyes(self.display)
+        self.events = 0
+        self.lives = 0
+        self.findings = 0
+        self.seen = Counter()  # events in front of each kind of window
+        self.source = None
+
+    def home(self, origin):
+        """Puts a copy of a home in place, and keeps another for a finding."""
+        for copy in ("home", "home-before"):
+            if origin != self.folder / copy:
+                shutil.rmtree(self.folder / copy, ignore_errors=True)
+                shutil.copytree(origin, self.folder / copy, symlinks=True)
+
+    def random_life(self):
+        self.lives += 1
+        self.source = random.Random(f"{self.options.seed} {self.lives}")
+        chance = self.source.random()
+        goes_on = chance < 0.6 and (self.folder / "home").exists()
+        self.home(self.folder / ("home" if goes_on else "new" if chance < 0.65 else "furnished"))
+        life = Life(self.folder, self.source.choices(list(PROGRAMS), PROGRAMS.values())[0], self.display)
+        life.hands.note(f"{life.program}: seed {self.options.seed}, run {self.lives}")
+        self.conclude(life, life.go(self.drive))
+
+    def drive(self, life):
+        gestures = Gestures(life.hands, self.eyes, self.source)
+        budget = min(self.options.events - self.events, self.source.randrange(*LIFE))
+        unseen = same = 0
+        last = None
+        while life.hands.events < budget and same < STUCK and not life.watch.has_ended():
+            before = life.hands.events
+            gestures.burst()
+            kind = life.watch.look()
+            life.hands.note(f"-- {kind} in front, {life.hands.events} events")
+            done = life.hands.events - before
+            self.seen[kind] += done
+            same = same + done if kind == last else 0
+            last = kind
+            unseen += done
+            if unseen > UNSEEN or self.source.random() < 0.5:
+                life.hands.do("settle")
+                life.watch.look()
+                self.eyes.learn()
+                unseen = 0
+
+    def repeat(self):
+        self.home(self.options.repeat / "home")
+        acts = (self.options.repeat / "events.log").read_text().splitlines()
+        life = Life(self.folder, acts[0].strip("# ").split(":")[0], self.display)
+        life.hands.note(acts[0].strip("# "))
+        self.conclude(life, life.go(lambda life: self.play(life, acts)))
+
+    @staticmethod
+    def play(life, acts):
+        for line in acts:
+            if life.watch.has_ended():
+                return
+            if not line.startswith("#") and life.hands.repeat(line) == "settle":
+                life.watch.look()
+        life.hands.do("settle")
+        life.watch.look()
+
+    def conclude(self, life, finding):
+        self.events += life.hands.events
+        if not finding:
+            return
+        self.findings += 1
+        left = self.options.pictures / ("repeated" if self.options.repeat else f"finding-{self.findings}")
+        shutil.rmtree(left, ignore_errors=True)
+        left.mkdir()
+        for file in (life.acts, life.printed, life.picture):
+            shutil.copy(file, left)
+        shutil.copytree(self.folder / "home-before", left / "home", symlinks=True)
+        print(f"{left}: {life.program}, run {self.lives} of seed {self.options.seed}: {finding}", flush=True)
+
+    def go(self):
+        while self.events < self.options.events and (self.options.go_on or not self.findings):
+            before = self.events
+            self.random_life()
+            if self.events // 10_000 > before // 10_000:
+                self.tell()
+
+    def tell(self):
+        print(f"{time.monotonic():.0f} s: {self.events} events in {self.lives} runs of the programs", flush=True)
+
+
+def read_options():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--folder", type=Path, required=True)
+    parser.add_argument("--pictures", type=Path, required=True)
+    parser.add_argument("--events", type=int, default=200_000)
+    parser.add_argument("--seed", default=str(random.randrange(10**6)))
+    parser.add_argument("--repeat", type=Path, help="a finding's folder: its events once more, instead of random ones")
+    parser.add_argument("--go-on", action="store_true", help="after a finding")
+    return parser.parse_args()
+
+
+def main():
+    options = read_options()
+    run = Run(options)
+    if options.repeat:
+        run.repeat()
+    else:
+        print(f"seed {options.seed}", flush=True)
+        run.go()
+        run.tell()
+        for kind, events in run.seen.most_common():
+            print(f"{events:8}  {kind or 'no window, or the end'}")
+    sys.exit(1 if run.findings else 0)
+
+
+main()
