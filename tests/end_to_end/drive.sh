@@ -61,7 +61,7 @@ assets() {
 
 open_display() {
     # Any number: a server of another list of processes looks dead to one that searches for the next.
-    Xvfb ":$((RANDOM + 100))" -displayfd 3 -screen 0 "${KESTRILL_DISPLAY:-1024x768}x24" -wr -nolisten tcp -fbdir "$Place" \
+    Xvfb ":$((RANDOM + 100))" -displayfd 3 -screen 0 "${KESTRILL_DISPLAY:-1024x768}x24" -wr -noreset -nolisten tcp -fbdir "$Place" \
         3>"$Place/display" 2>"$Place/xvfb.log" &
     Server=$!
     until_true "the virtual display" test -s "$Place/display"

@@ -24,4 +24,4 @@ for tool in kestrill-restore kestrill-export; do
 done
 export ASAN_OPTIONS=exitcode=99 UBSAN_OPTIONS=print_stacktrace=1
 # shellcheck disable=SC2086 # several words
-"$Here/random_events/random_events.py" --folder "$Place" --pictures "$Pictures" ${RANDOM_EVENTS:-} || fail "something was found"
+"$Here/random_events/random_events.py" --folder "$Place" --pictures "$Pictures" ${RANDOM_EVENTS:-} || exit 1

@@ -7,6 +7,8 @@ import string
 import time
 from contextlib import contextmanager
 
+from watch import Finding
+
 TEXTS = (
     "a", "0", "12", "1250,000.00", "$50,00.00", ".5", "1/2/2026", "13/45/99999", "Attic", "attic", "Art", "Clock 7", "Brass",
     "Kestrel", "Unknown", "None", "---", "100", "100%", "<", "\"", "'; --", "5185550101", "ann@home.example", "  ", "x" * 70,
@@ -163,7 +165,7 @@ class Gestures:
             (self.click_control, 30), (self.travel, 14), (self.answer, 12), (self.access_key, 12), (self.type_text, 12),
             (self.open_list, 12), (self.answer_and_press, 12), (self.clipboard, 8), (self.special, 6),
             (self.double_click, 6), (self.edit, 5), (self.press_anywhere, 4), (self.turn_wheel, 4), (self.drag, 3),
-            (self.hold_key, 1.2), (self.another_window, 0.8), (self.wait, 6),
+            (self.pick_twice, 1), (self.hold_key, 1.2), (self.another_window, 0.8), (self.wait, 6),
         )  # fmt: skip
 
     def burst(self):
@@ -293,6 +295,28 @@ class Gestures:
             hands.stroke(random.choice(("alt+Down", "F4")))
         if not hands.is_stopped:
             hands.do(f"sleep {random.choice((0.0, 0.05, 0.2))}")
+
+    def pick_twice(self):
+        """Picks an item by one click, then the same by a double click: the second press of it must do nothing more."""
+        if self.hands.is_stopped:
+            return
+        place = self.place_of("combo box")
+        before = self.eyes.kind_in_front()
+        if before == self.pick(place, 1) and self.pick(place, 2) not in (before, None):
+            raise Finding("a double click in a list has pressed what lies behind it")
+
+    def pick(self, place, times):
+        """Returns the kind of the window in front after it; nothing where no list has opened."""
+        self.go_to(place)
+        self.hands.click()
+        self.hands.do("settle")
+        popups = self.eyes.popups()
+        if not popups:
+            return None
+        self.go_to((popups[-1].x + 20, popups[-1].y + popups[-1].height * 2 // 3))
+        self.hands.click(times=times, pause=0.05)
+        self.hands.do("settle")
+        return self.eyes.kind_in_front()
 
     def place_of(self, role):
         window = self.eyes.front()

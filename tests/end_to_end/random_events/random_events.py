@@ -41,8 +41,8 @@ class Life:
         with self.printed.open("w") as printed:
             self.process = subprocess.Popen(
                 [HERE / "fenced", folder, folder / "programs" / program],
-                env=dict(os.environ, HOME=str(folder / "home"), TMPDIR=str(folder)),
-                stdout=printed, stderr=printed, cwd=folder / "home",
+                env=dict(os.environ, HOME=str(folder / "life"), TMPDIR=str(folder)),
+                stdout=printed, stderr=printed, cwd=folder / "life",
             )  # fmt: skip
         self.watch = Watch(display, self.process, self.printed)
         self.hands.process = self.process
@@ -56,6 +56,7 @@ class Life:
             self.end()
         except Finding as finding:
             subprocess.run(["convert", f"xwd:{self.dots}", self.picture], check=False)
+            self.wait(5)  # it may be about to tell more, or to leave a core
             return finding
         finally:
             self.process.kill()
@@ -67,11 +68,16 @@ class Life:
     def end(self):
         if not self.watch.has_ended():
             self.process.send_signal(signal.SIGTERM)
-        try:
-            self.process.wait(60)
-        except subprocess.TimeoutExpired:
-            raise Finding("told to end, the program goes on") from None
+        if not self.watch.is_over and not self.wait(60):
+            raise Finding("told to end, the program goes on")
         self.watch.end()
+
+    def wait(self, seconds):
+        try:
+            self.process.wait(seconds)
+        except subprocess.TimeoutExpired:
+            return False
+        return True
 
 
 class Run:
@@ -88,7 +94,7 @@ class Run:
 
     def home(self, origin):
         """Puts a copy of a home in place, and keeps another for a finding."""
-        for copy in ("home", "home-before"):
+        for copy in ("life", "life-before"):
             if origin != self.folder / copy:
                 shutil.rmtree(self.folder / copy, ignore_errors=True)
                 shutil.copytree(origin, self.folder / copy, symlinks=True)
@@ -97,8 +103,8 @@ class Run:
         self.lives += 1
         self.source = random.Random(f"{self.options.seed} {self.lives}")
         chance = self.source.random()
-        goes_on = chance < 0.6 and (self.folder / "home").exists()
-        self.home(self.folder / ("home" if goes_on else "new" if chance < 0.65 else "furnished"))
+        goes_on = chance < 0.6 and (self.folder / "life").exists()
+        self.home(self.folder / ("life" if goes_on else "new" if chance < 0.65 else "furnished"))
         life = Life(self.folder, self.source.choices(list(PROGRAMS), PROGRAMS.values())[0], self.display)
         life.hands.note(f"{life.program}: seed {self.options.seed}, run {self.lives}")
         self.conclude(life, life.go(self.drive))
@@ -149,9 +155,9 @@ class Run:
         left = self.options.pictures / ("repeated" if self.options.repeat else f"finding-{self.findings}")
         shutil.rmtree(left, ignore_errors=True)
         left.mkdir()
-        for file in (life.acts, life.printed, life.picture):
+        for file in (life.acts, life.printed, life.picture, *(self.folder / "life").glob("core*")):
             shutil.copy(file, left)
-        shutil.copytree(self.folder / "home-before", left / "home", symlinks=True)
+        shutil.copytree(self.folder / "life-before", left / "home", symlinks=True)
         print(f"{left}: {life.program}, run {self.lives} of seed {self.options.seed}: {finding}", flush=True)
 
     def go(self):
@@ -185,8 +191,8 @@ def main():
         print(f"seed {options.seed}", flush=True)
         run.go()
         run.tell()
-        for kind, events in run.seen.most_common():
-            print(f"{events:8}  {kind or 'no window, or the end'}")
+        lines = (f"{events}\t{kind or 'no window, or the end'}\n" for kind, events in run.seen.items())
+        (options.pictures / "seen.txt").write_text("".join(lines))
     sys.exit(1 if run.findings else 0)
 
 
