@@ -53,9 +53,15 @@ household busy "$(assets 3 "'Indoor', 'Attic', 'Art', 'Clock ' || i, '2001', 'A'
             'Checking', 'None', 'None' from n;"
 start_at_menu
 
-step "a click behind the answer to a box reaches no screen that is about to go"
+step "a key behind the one that leaves a screen, and a click behind the answer to a box, reach no screen that goes"
 go frmSearch alt+s
 text Clock
+go frmSearchResults Return
+keys_seen Down
+while_busy xdotool key --delay 0 Return ctrl+Right # which would sort and show the results
+wait_screen frmAddUpDel
+only frmAddUpDel
+go MsgBox alt+c
 go frmSearchResults Return
 click frmSearchResults 'Update 1'
 locate frmAddUpDel 'Warranty Information' 'Delete Asset' Make

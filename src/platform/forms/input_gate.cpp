@@ -23,6 +23,26 @@ QWindow* homeOf(QWindow* window)
     return window;
 }
 
+bool isKey(const QEvent& event)
+{
+    return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
+}
+
+// What a hand begins, or a key that it lets go.
+bool isByHand(const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::Close:
+        return true;
+    default:
+        return isKey(event);
+    }
+}
+
 // The answer to a ShortcutOverride that makes the key no access key; it then goes nowhere else.
 bool isNoAccessKey(QEvent& event)
 {
@@ -65,6 +85,10 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
 
 bool InputGate::filterWindow(QWindow& window, QEvent& event)
 {
+    if (!window.isVisible() && isByHand(event)) {
+        passOn(window, event);
+        return true;
+    }
     switch (event.type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -97,6 +121,16 @@ bool InputGate::filterWindow(QWindow& window, QEvent& event)
     default:
         return false;
     }
+}
+
+// The window system has sent it to a window that is hidden by now. Keys behind the one that has closed a list are for
+// the screen below; all else is dropped, since another screen has come.
+void InputGate::passOn(QWindow& window, QEvent& event)
+{
+    QWindow* home = homeOf(&window);
+    if (isKey(event) && home != &window && home->isVisible())
+        QCoreApplication::sendEvent(home, &event);
+    event.setAccepted(event.type() != QEvent::Close);
 }
 
 // ---- questions

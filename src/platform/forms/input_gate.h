@@ -48,6 +48,7 @@ public:
 
 private:
     bool filterWindow(QWindow& window, QEvent& event);
+    static void passOn(QWindow& window, QEvent& event);
     bool takesAway(QObject& window, QKeyEvent& stroke);
     bool closedList(const QKeyEvent& stroke);
     bool isRepeat(const QKeyEvent& stroke) const;

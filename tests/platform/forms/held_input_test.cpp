@@ -59,4 +59,29 @@ TEST_F(HeldInput, IsDroppedWhenItsHandlerAsksOnceMore)
     EXPECT_EQ(taken(), "line.LostFocus other.GotFocus other.Click");
 }
 
+// The window system has sent it to the window that was in front by then.
+TEST_F(FormInFront, WhatComesBehindTheKeyThatLeavesAScreenDoesNotReachIt)
+{
+    TrialForm next(journal, "next");
+    form.answers["ok.Click"] = [&] { next.show(), form.hide(); };
+    QWindow* left = form.window()->windowHandle();
+    QTest::keyClick(left, Qt::Key_Return);
+    taken();
+    QTest::keyClick(left, Qt::Key_Return);
+    QTest::keyClick(left, Qt::Key_O, Qt::AltModifier);
+    QTest::mouseClick(left, Qt::LeftButton, {}, form.other.widget()->geometry().center());
+    EXPECT_EQ(taken(), "");
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(FormInFront, KeysBehindTheOneThatClosesAListAreForItsScreen)
+{
+    form.choice.setFocus();
+    form.choice.openList();
+    QWindow* list = QApplication::activePopupWidget()->windowHandle();
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_X})
+        QTest::keyClick(list, key);
+    EXPECT_EQ(form.memo.text(), "x");
+}
+
 } // namespace
