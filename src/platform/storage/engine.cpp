@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <cstdio>
 #include <optional>
 #include <system_error>
 
@@ -42,6 +43,28 @@ QByteArray addressOf(int folder, const QString& name, Access access)
 {
     QByteArray address = "file:/proc/self/fd/" + QByteArray::number(folder) + '/' + QUrl::toPercentEncoding(name);
     return access == Access::AsItLies ? address + "?immutable=1" : address;
+}
+
+// The path as it was given: some versions of the engine put the folder behind a link in the link's place, and measure
+// that.
+int keepPath(sqlite3_vfs* /*layer*/, const char* path, int size, char* kept)
+{
+    if (std::snprintf(kept, static_cast<std::size_t>(size), "%s", path) >= size)
+        return SQLITE_CANTOPEN;
+    return SQLITE_OK;
+}
+
+// The engine's way to files as it is at this moment, but for the path.
+const char* fileLayer()
+{
+    static sqlite3_vfs layer;
+    const sqlite3_vfs* usual = sqlite3_vfs_find(nullptr);
+    sqlite3_vfs_unregister(&layer);
+    layer = *usual;
+    layer.zName = "path as given";
+    layer.xFullPathname = keepPath;
+    sqlite3_vfs_register(&layer, 0);
+    return layer.zName;
 }
 
 bool hasSystemReason(int code)
@@ -137,7 +160,7 @@ Handle openFile(const QString& path, const QByteArray& key, Access access)
     const int folder = openFolder(file.path());
     sqlite3* opened = nullptr;
     const QByteArray address = addressOf(folder, file.fileName(), access);
-    int code = sqlite3_open_v2(address.constData(), &opened, flagsOf(access), nullptr);
+    int code = sqlite3_open_v2(address.constData(), &opened, flagsOf(access), fileLayer());
     Handle handle(opened, CloseHandle{folder});
     if (code == SQLITE_OK)
         code = sqlite3_key(opened, key.constData(), static_cast<int>(key.size()));
