@@ -28,6 +28,13 @@ int flagsOf(Access access)
         | (access == Access::ReadWrite ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
 }
 
+// The file behind a link: its journal belongs beside it, and some versions of the engine open no link.
+QFileInfo fileAt(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.isSymLink() && file.exists() ? QFileInfo(file.canonicalFilePath()) : file;
+}
+
 int openFolder(const QString& path)
 {
     const int folder = ::open(QFile::encodeName(path).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
@@ -70,7 +77,8 @@ const char* fileLayer()
 bool hasSystemReason(int code)
 {
     const int primary = code & 0xff;
-    return primary == SQLITE_IOERR || primary == SQLITE_FULL || primary == SQLITE_CANTOPEN;
+    return primary == SQLITE_IOERR || primary == SQLITE_FULL || primary == SQLITE_CANTOPEN
+        || code == SQLITE_READONLY_DIRECTORY;
 }
 
 QString nameOf(sqlite3* handle)
@@ -82,10 +90,23 @@ QString nameOf(sqlite3* handle)
 int reasonOf(sqlite3* handle, int code)
 {
     const QString name = nameOf(handle);
-    const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN && !name.isEmpty();
-    if (madeNone && ::euidaccess(QFile::encodeName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
+    const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN || code == SQLITE_READONLY_DIRECTORY;
+    if (madeNone && !name.isEmpty()
+        && ::euidaccess(QFile::encodeName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
         return errno;
     return sqlite3_system_errno(handle);
+}
+
+// What version 4 of the engine has to be told, and version 3 passes over: files have the form of 3, which either opens,
+// and failures are told by the caller instead of being written to the terminal.
+int unlock(sqlite3* handle, const QByteArray& key)
+{
+    int code = sqlite3_exec(handle, "PRAGMA cipher_log_level = NONE", nullptr, nullptr, nullptr);
+    if (code == SQLITE_OK)
+        code = sqlite3_key(handle, key.constData(), static_cast<int>(key.size()));
+    if (code == SQLITE_OK)
+        code = sqlite3_exec(handle, "PRAGMA cipher_compatibility = 3", nullptr, nullptr, nullptr);
+    return code;
 }
 
 // The engine takes what a last page lacks for zeros.
@@ -156,14 +177,14 @@ void throwEngineFailure(sqlite3* handle, int code)
 
 Handle openFile(const QString& path, const QByteArray& key, Access access)
 {
-    const QFileInfo file(path);
+    const QFileInfo file = fileAt(path);
     const int folder = openFolder(file.path());
     sqlite3* opened = nullptr;
     const QByteArray address = addressOf(folder, file.fileName(), access);
     int code = sqlite3_open_v2(address.constData(), &opened, flagsOf(access), fileLayer());
     Handle handle(opened, CloseHandle{folder});
     if (code == SQLITE_OK)
-        code = sqlite3_key(opened, key.constData(), static_cast<int>(key.size()));
+        code = unlock(opened, key);
     if (code != SQLITE_OK)
         throwEngineFailure(opened, code);
     sqlite3_extended_result_codes(opened, 1);
