@@ -86,6 +86,7 @@ public:
         auto* list = new QListView(this);
         list->setUniformItemSizes(true);
         setView(list);
+        list->installEventFilter(this); // before the filter that setView() has given it
         setModel(&items);
         setMaxVisibleItems(16);
         if (style == ComboStyle::Editable)
@@ -126,6 +127,18 @@ public:
     }
 
 protected:
+    // A key that opens a list closes it again and picks nothing; versions of the toolkit differ there.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+        if (!isKey || !closesTheList(static_cast<QKeyEvent&>(*event)))
+            return QComboBox::eventFilter(watched, event);
+        event->accept();
+        if (event->type() == QEvent::KeyPress)
+            hidePopup();
+        return true;
+    }
+
     void keyPressEvent(QKeyEvent* event) override
     {
         fromToolkit([this, event] { handleKey(*event); });
@@ -202,6 +215,11 @@ private:
     {
         const bool arrow = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
         return arrow && (event.modifiers() & Qt::AltModifier);
+    }
+
+    static bool closesTheList(const QKeyEvent& event)
+    {
+        return event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && opensTheList(event));
     }
 
     void handleKey(QKeyEvent& event)
