@@ -26,11 +26,9 @@ using forms::screen;
 
 namespace {
 
-// A test whose list tells what happens to the household and its files. The windows' tickers, of a millisecond, elapse
-// where the list has it and never else.
-class ListedTest : public ToolsTest, private QObject {
+// A test whose list tells what happens to the household and its files.
+class ListedTest : public ToolsTest {
 protected:
-    ListedTest() { qApp->installEventFilter(this); }
     ~ListedTest() override { forms::setFolderDoor({}); }
 
     std::optional<QString> happen(const QString& line) override
@@ -90,12 +88,6 @@ protected:
     }
 
 private:
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
-        const auto* timer = qobject_cast<QTimer*>(object);
-        return event->type() == QEvent::Timer && timer && timer->interval() == 1;
-    }
-
     int asked_ = 0; // for a folder
 
     inline static const sys::Process program{1, "Kestrill", {}, 7, 1};
