@@ -79,8 +79,8 @@ protected:
             {"\\d+-\\d\\d-\\d\\dT[\\d:]+Z", "NOW"}, {"(Kestrill )\\d+-\\d\\d-\\d\\d", "\\1DATE"},
             {"(Kestrill |\"version\": \")\\d[\\d.]*", "\\1VERSION"}, {"Usage: \\S+", "Usage: COMMAND"},
             {"(kestrill-export-)\\w+", "\\1NEW"}, {"(?:\r *\\d+ %)*\r( *\\d+ %)", "\\1"}, {"\t", " | "},
-            {"Unknown error|File too large", "no room"}, {"\\d+/\\d+/(?!2020)\\d+ \\d+:\\d+ [AP]M", "DAY"},
-            {"[\\x00-\\x09\\x0b-\\x1f\\x7f]", "^"}};
+            {"Unknown error|File too large", "no room"}, {"Tree \\d+ page", "Page"},
+            {"\\d+/\\d+/(?!2020)\\d+ \\d+:\\d+ [AP]M", "DAY"}, {"[\\x00-\\x09\\x0b-\\x1f\\x7f]", "^"}};
         QString lasting = told;
         for (const auto& [what, with] : changes)
             lasting.replace(QRegularExpression(what), with);

@@ -169,6 +169,8 @@ void CloseHandle::operator()(sqlite3* handle) const
 void throwEngineFailure(sqlite3* handle, int code)
 {
     QString words = QString::fromUtf8(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code));
+    if ((code & 0xff) == SQLITE_NOTADB) // which each version words in its own way
+        words = QStringLiteral("file is encrypted or is not a database");
     const int reason = handle ? reasonOf(handle, code) : 0;
     if (hasSystemReason(code) && reason != 0)
         words += QStringLiteral(" (%1)").arg(QString::fromStdString(std::generic_category().message(reason)));
