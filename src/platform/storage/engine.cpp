@@ -21,6 +21,9 @@ namespace storage {
 
 namespace {
 
+// Under a name in newer versions alone.
+constexpr int NoJournalInFolder = SQLITE_READONLY | (6 << 8);
+
 int flagsOf(Access access)
 {
     // Without SQLITE_OPEN_CREATE. One thread uses a handle, so the engine needs no locks around it.
@@ -77,8 +80,7 @@ const char* fileLayer()
 bool hasSystemReason(int code)
 {
     const int primary = code & 0xff;
-    return primary == SQLITE_IOERR || primary == SQLITE_FULL || primary == SQLITE_CANTOPEN
-        || code == SQLITE_READONLY_DIRECTORY;
+    return primary == SQLITE_IOERR || primary == SQLITE_FULL || primary == SQLITE_CANTOPEN || code == NoJournalInFolder;
 }
 
 QString nameOf(sqlite3* handle)
@@ -90,7 +92,7 @@ QString nameOf(sqlite3* handle)
 int reasonOf(sqlite3* handle, int code)
 {
     const QString name = nameOf(handle);
-    const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN || code == SQLITE_READONLY_DIRECTORY;
+    const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN || code == NoJournalInFolder;
     if (madeNone && !name.isEmpty()
         && ::euidaccess(QFile::encodeName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
         return errno;
