@@ -12,6 +12,8 @@ void quoteInEnglish()
     const QByteArray language = qgetenv("LC_ALL");
     if (!language.isEmpty())
         qputenv("LANG", language);
+    else if (qEnvironmentVariableIsEmpty("LANG"))
+        qputenv("LANG", "C.UTF-8"); // as on a bare system: the toolkit would complain of another encoding
     qunsetenv("LC_ALL");
     qunsetenv("LANGUAGE");
     qputenv("LC_MESSAGES", "C.UTF-8");
