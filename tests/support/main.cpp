@@ -6,7 +6,8 @@
 
 namespace {
 
-// In any language dates, numbers and order are the desktop's. The C library's own words, which tests quote, are English.
+// In any language dates, numbers and order are the desktop's. The C library's own words, which tests quote, are
+// English.
 void quoteInEnglish()
 {
     const QByteArray language = qgetenv("LC_ALL");
