@@ -51,7 +51,7 @@ QString setOf(const QPrinter& printer)
 {
     const QString odd = QStringLiteral("odd");
     const QString even = QStringLiteral("even");
-    const QString set = keptFor(printer, "page-set");
+    QString set = keptFor(printer, "page-set");
     if (printer.printRange() != QPrinter::PageRange || printer.fromPage() % 2 != 0)
         return set;
     return set == odd ? even : set == even ? odd : set;
