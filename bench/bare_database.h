@@ -16,6 +16,7 @@ public:
     {
         check(sqlite3_open_v2(path.toUtf8(), &handle_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr));
         check(sqlite3_key(handle_, databaseKey().constData(), static_cast<int>(databaseKey().size())));
+        run("PRAGMA cipher_compatibility = 3");
         run("SELECT count(*) FROM sqlite_master");
         run("PRAGMA journal_mode=TRUNCATE; PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=FULL;"
             "PRAGMA cache_size=-4096; PRAGMA temp_store=MEMORY; BEGIN EXCLUSIVE; COMMIT");

@@ -363,7 +363,11 @@ has_left() { ! is_in_front "$1"; }
 
 # ---- the second program
 
-sqlcipher_with_key() { sqlcipher -batch -cmd "PRAGMA key = '$Key'" "$@" 2>&1; }
+# Version 4 has to be told the form of the file, and answers each pragma.
+sqlcipher_with_key() {
+    sqlcipher -batch -cmd '.output /dev/null' -cmd "PRAGMA key = '$Key'" -cmd 'PRAGMA cipher_compatibility = 3' \
+        -cmd '.output stdout' "$@" 2>&1
+}
 
 # sql FILE STATEMENT: of a copy, since the program keeps its database to itself while it runs; with its journal, if it has
 # one.

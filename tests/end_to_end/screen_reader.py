@@ -18,6 +18,16 @@ BARE = {"filler", "panel", "scroll pane", "viewport", "separator", "scroll bar",
 STATES = ("editable", "multi-line", "read-only", "checkable", "default")
 DATES = re.compile(r"\b(?:%s)\b" % "|".join([r"\d+", *calendar.month_name[1:], *calendar.day_name]))
 TAKEN = {"push button", "check box", "radio button", "text", "password text", "combo box", "table"}
+# What newer versions of the bus and of the toolkit tell besides.
+UNTOLD = {("combo box", "editable"), ("check box", "checkable"), ("radio button", "checkable")}
+
+
+def role_of(item):
+    """In the words of the older versions, which call a button a push button and a framed control a frame."""
+    role = item.getRoleName()
+    if role == "panel" and item.description.strip():
+        return "frame"
+    return {"button": "push button"}.get(role, role)
 
 
 def front():
@@ -41,9 +51,9 @@ def name_of(item, role):
 
 def shown(item):
     """Each that is in sight in it, with its role and its name."""
-    for inner in item if item.getRoleName() not in ("combo box", "table") else ():
+    for inner in item if role_of(item) not in ("combo box", "table") else ():
         if inner.getState().contains(pyatspi.STATE_SHOWING):
-            role = inner.getRoleName()
+            role = role_of(inner)
             yield inner, role, name_of(inner, role)
             yield from shown(inner)
 
@@ -54,7 +64,8 @@ def tell(item, role, name):
         sys.exit(f"a {role} in {item.parent.getRoleName()} {item.parent.name!r} has no name: {item.description!r}")
     if role in TAKEN and "enabled" in states and "focusable" not in states:
         sys.exit(f"the focus can't be moved to {role} {name!r}")
-    words = (role, name, item.description.strip(), " ".join(state for state in STATES if state in states))
+    told = " ".join(state for state in STATES if state in states and (role, state) not in UNTOLD)
+    words = (role, name, item.description.strip(), told)
     print(DATES.sub("~", " | ".join(words).rstrip(" |")))
 
 

@@ -4,6 +4,24 @@
 
 #include <gmock/gmock.h>
 
+namespace {
+
+// In any language dates, numbers and order are the desktop's. The C library's own words, which tests quote, are
+// English.
+void quoteInEnglish()
+{
+    const QByteArray language = qgetenv("LC_ALL");
+    if (!language.isEmpty())
+        qputenv("LANG", language);
+    else if (qEnvironmentVariableIsEmpty("LANG"))
+        qputenv("LANG", "C.UTF-8"); // as on a bare system: the toolkit would complain of another encoding
+    qunsetenv("LC_ALL");
+    qunsetenv("LANGUAGE");
+    qputenv("LC_MESSAGES", "C.UTF-8");
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     const QTemporaryDir runtimeFolder;
@@ -12,6 +30,7 @@ int main(int argc, char** argv)
     for (const auto& [variable, value] : usual)
         if (qEnvironmentVariableIsEmpty(variable))
             qputenv(variable, value);
+    quoteInEnglish();
     qputenv("QT_FONT_DPI", "96"); // by which sizes go that tests keep
     // The platform without a screen tells at each window what it doesn't support.
     static const QtMessageHandler usualHandler =

@@ -53,6 +53,7 @@ public:
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
         list_ = new OpenList(this);
         setView(list_);
+        list_->installEventFilter(this); // before the filter that setView() has given it
         setModel(&items);
         setMaxVisibleItems(16);
         if (style == ComboStyle::Editable)
@@ -101,6 +102,18 @@ public:
     }
 
 protected:
+    // A key that opens a list closes it again and picks nothing; versions of the toolkit differ there.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+        if (!isKey || !closesTheList(static_cast<QKeyEvent&>(*event)))
+            return QComboBox::eventFilter(watched, event);
+        event->accept();
+        if (event->type() == QEvent::KeyPress)
+            hidePopup();
+        return true;
+    }
+
     void keyPressEvent(QKeyEvent* event) override
     {
         fromToolkit([this, event] { handleKey(*event); });
@@ -185,6 +198,11 @@ private:
     {
         const bool arrow = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
         return arrow && (event.modifiers() & Qt::AltModifier);
+    }
+
+    static bool closesTheList(const QKeyEvent& event)
+    {
+        return event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && opensTheList(event));
     }
 
     void handleKey(QKeyEvent& event)

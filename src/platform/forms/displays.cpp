@@ -278,6 +278,7 @@ Ticker::Ticker(Form& form, const QString& name, int intervalMilliseconds)
     : name_(form.name() + QLatin1Char('.') + name)
     , timer_(std::make_unique<QTimer>())
 {
+    timer_->setObjectName(QStringLiteral("ticker"));
     timer_->setInterval(intervalMilliseconds);
     QObject::connect(timer_.get(), &QTimer::timeout, timer_.get(), [this] { elapse(); });
 }

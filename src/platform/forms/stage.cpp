@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/stage.h"
 
+#include "platform/forms/active_window.h"
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
 #include "platform/forms/input_gate.h"
@@ -104,7 +105,7 @@ void Stage::bringForward(Form& form)
     form.window()->activateWindow();
     // A window that had the focus when it was hidden is not told again that it is active.
     if (!form.window()->isActiveWindow() && QGuiApplication::focusWindow() == form.window()->windowHandle())
-        QApplication::setActiveWindow(form.window());
+        takeForActive(form.window());
     awaited_ = form.window()->isActiveWindow() ? nullptr : &form;
 }
 

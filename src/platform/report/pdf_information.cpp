@@ -47,8 +47,9 @@ qint64 PdfInformation::writeData(const char* data, qint64 size)
 // A document grows by an update behind its end: one more object, where that lies, and a trailer that names it.
 bool PdfInformation::add(const Names& names)
 {
-    static const QRegularExpression trailer(QStringLiteral(
-        "/Size (\\d+)\\s+/Info \\d+ 0 R\\s+/Root (\\d+) 0 R[^>]*>>\\s+startxref\\s+(\\d+)\\s+%%EOF\\s*$"));
+    static const QRegularExpression trailer(
+        QStringLiteral("/Size (\\d+)\\s+/Info \\d+ 0 R\\s+/Root (\\d+ 0 R)\\s*(/ID \\[[^\\]]*\\])?\\s*>>"
+                       "\\s+startxref\\s+(\\d+)\\s+%%EOF\\s*$"));
     const auto match = trailer.match(QString::fromLatin1(end_.right(longestTrailer)));
     if (!match.hasMatch())
         return false;
@@ -58,8 +59,8 @@ bool PdfInformation::add(const Names& names)
     const QByteArray table = QByteArray::number(written_ + object.size());
     write(object + "xref\n" + QByteArray::number(number) + " 1\n" + place + " 00000 n \ntrailer\n<< /Size "
         + QByteArray::number(number + 1) + " /Info " + QByteArray::number(number) + " 0 R /Root "
-        + match.captured(2).toLatin1() + " 0 R /Prev " + match.captured(3).toLatin1() + " >>\nstartxref\n" + table
-        + "\n%%EOF\n");
+        + (match.captured(2) + u' ' + match.captured(3)).toLatin1() + " /Prev " + match.captured(4).toLatin1()
+        + " >>\nstartxref\n" + table + "\n%%EOF\n");
     return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/preview.h"
 
+#include "platform/forms/active_window.h"
 #include "platform/forms/boundary.h"
 #include "platform/forms/runtime.h"
 #include "platform/report/csv.h"
@@ -8,7 +9,6 @@
 #include "platform/report/preview_choices.h"
 #include "platform/report/printing.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
@@ -173,7 +173,7 @@ void Preview::finish(const QString& done, const std::function<Outcome()>& run)
         // A value that can't be printed: told as any other failure.
     }
     if (outcome == Outcome::Failed) {
-        QApplication::setActiveWindow(this); // not a dialogue that has just gone
+        forms::takeForActive(this); // not a dialogue that has just gone
         error_();
     }
     if (outcome == Outcome::Done)

@@ -29,15 +29,29 @@ Paper paperOf(const QPrinter& printer)
     return paper;
 }
 
+QString keptFor(const QPrinter& printer, const char* option)
+{
+    const QStringList kept = keptForService(printer);
+    const auto name = kept.indexOf(QLatin1StringView(option));
+    return name < 0 ? QString() : kept.value(name + 1);
+}
+
+// Some versions of the dialogue leave ranges to the service and tell the printer of all pages.
+QPageRanges rangesOf(const QPrinter& printer)
+{
+    const QString forService = keptFor(printer, "page-ranges");
+    if (!forService.isEmpty())
+        return QPageRanges::fromString(forService);
+    return printer.printRange() == QPrinter::PageRange ? printer.pageRanges() : QPageRanges();
+}
+
 // The dialogue has a service in mind that counts the chosen pages alone: odd pages are even ones to it, and the other
 // way round, where the first of them is even.
 QString setOf(const QPrinter& printer)
 {
     const QString odd = QStringLiteral("odd");
     const QString even = QStringLiteral("even");
-    const QStringList kept = keptForService(printer);
-    const auto name = kept.indexOf(QStringLiteral("page-set"));
-    QString set = name < 0 ? QString() : kept.value(name + 1);
+    QString set = keptFor(printer, "page-set");
     if (printer.printRange() != QPrinter::PageRange || printer.fromPage() % 2 != 0)
         return set;
     return set == odd ? even : set == even ? odd : set;
@@ -47,8 +61,7 @@ PageChoice choiceOf(const QPrinter& printer)
 {
     PageChoice choice;
     choice.currentOnly = printer.printRange() == QPrinter::CurrentPage;
-    if (printer.printRange() == QPrinter::PageRange)
-        choice.ranges = printer.pageRanges();
+    choice.ranges = rangesOf(printer);
     choice.set = setOf(printer);
     choice.lastFirst = printer.pageOrder() == QPrinter::LastPageFirst;
     return choice;

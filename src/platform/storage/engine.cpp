@@ -8,6 +8,7 @@
 
 #include <QFileInfo>
 
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -21,11 +22,25 @@ namespace storage {
 
 namespace {
 
+// Under a name in newer versions alone.
+constexpr int NoJournalInFolder = SQLITE_READONLY | (6 << 8);
+
 int flagsOf(Access access)
 {
     // Without SQLITE_OPEN_CREATE. One thread uses a handle, so the engine needs no locks around it.
     return SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI
         | (access == Access::ReadWrite ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
+}
+
+// The file behind a link: its journal belongs beside it, and some versions of the engine open no link.
+QFileInfo fileAt(const QString& path)
+{
+    const QByteArray name = values::bytesOfName(path);
+    struct ::stat found { };
+    if (::lstat(name.constData(), &found) != 0 || !S_ISLNK(found.st_mode))
+        return QFileInfo(path);
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(name.constData(), nullptr), &std::free);
+    return QFileInfo(real ? values::textOfName(real.get()) : path);
 }
 
 int openFolder(const QString& path)
@@ -47,25 +62,39 @@ QByteArray addressOf(int folder, const QString& name, Access access)
 }
 
 // Opening a pipe waits for its other end, and reading a device may never end.
-void refuseUnlessRegular(const QByteArray& name)
+void refuseUnlessRegular(const QString& path)
 {
     struct ::stat found { };
-    if (::stat(name.constData(), &found) == 0 && !S_ISREG(found.st_mode))
-        throw values::RuntimeFailure(
-            values::FailureKind::Database, values::textOfName(name) + QStringLiteral(" is no regular file"));
+    if (::stat(values::bytesOfName(path).constData(), &found) == 0 && !S_ISREG(found.st_mode))
+        throw values::RuntimeFailure(values::FailureKind::Database, path + QStringLiteral(" is no regular file"));
 }
 
-// The engine looks for the journal beside the file that a link leads to.
-QByteArray journalOf(const QByteArray& name)
+// The path as it was given: some versions of the engine put the folder behind a link in the link's place, and measure
+// that.
+int keepPath(sqlite3_vfs* /*layer*/, const char* path, int size, char* kept)
 {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(name.constData(), nullptr), &std::free);
-    return real ? QByteArray(real.get()) + "-journal" : QByteArray();
+    if (std::snprintf(kept, static_cast<std::size_t>(size), "%s", path) >= size)
+        return SQLITE_CANTOPEN;
+    return SQLITE_OK;
+}
+
+// The engine's way to files as it is at this moment, but for the path.
+const char* fileLayer()
+{
+    static sqlite3_vfs layer;
+    const sqlite3_vfs* usual = sqlite3_vfs_find(nullptr);
+    sqlite3_vfs_unregister(&layer);
+    layer = *usual;
+    layer.zName = "path as given";
+    layer.xFullPathname = keepPath;
+    sqlite3_vfs_register(&layer, 0);
+    return layer.zName;
 }
 
 bool hasSystemReason(int code)
 {
     const int primary = code & 0xff;
-    return primary == SQLITE_IOERR || primary == SQLITE_FULL || primary == SQLITE_CANTOPEN;
+    return primary == SQLITE_IOERR || primary == SQLITE_FULL || primary == SQLITE_CANTOPEN || code == NoJournalInFolder;
 }
 
 QString nameOf(sqlite3* handle)
@@ -77,10 +106,23 @@ QString nameOf(sqlite3* handle)
 int reasonOf(sqlite3* handle, int code)
 {
     const QString name = nameOf(handle);
-    const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN && !name.isEmpty();
-    if (madeNone && ::euidaccess(values::bytesOfName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
+    const bool madeNone = (code & 0xff) == SQLITE_CANTOPEN || code == NoJournalInFolder;
+    if (madeNone && !name.isEmpty()
+        && ::euidaccess(values::bytesOfName(QFileInfo(name).path()).constData(), W_OK | X_OK) != 0)
         return errno;
     return sqlite3_system_errno(handle);
+}
+
+// What version 4 of the engine has to be told, and version 3 passes over: files have the form of 3, which either opens,
+// and failures are told by the caller instead of being written to the terminal.
+int unlock(sqlite3* handle, const QByteArray& key)
+{
+    int code = sqlite3_exec(handle, "PRAGMA cipher_log_level = NONE", nullptr, nullptr, nullptr);
+    if (code == SQLITE_OK)
+        code = sqlite3_key(handle, key.constData(), static_cast<int>(key.size()));
+    if (code == SQLITE_OK)
+        code = sqlite3_exec(handle, "PRAGMA cipher_compatibility = 3", nullptr, nullptr, nullptr);
+    return code;
 }
 
 // The engine takes what a last page lacks for zeros.
@@ -144,6 +186,8 @@ void CloseHandle::operator()(sqlite3* handle) const
 void throwEngineFailure(sqlite3* handle, int code)
 {
     QString words = QString::fromUtf8(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code));
+    if ((code & 0xff) == SQLITE_NOTADB) // which each version words in its own way
+        words = QStringLiteral("file is encrypted or is not a database");
     const int reason = handle ? reasonOf(handle, code) : 0;
     if (hasSystemReason(code) && reason != 0)
         words += QStringLiteral(" (%1)").arg(QString::fromStdString(std::generic_category().message(reason)));
@@ -152,17 +196,16 @@ void throwEngineFailure(sqlite3* handle, int code)
 
 Handle openFile(const QString& path, const QByteArray& key, Access access)
 {
-    const QByteArray name = values::bytesOfName(path);
-    refuseUnlessRegular(name);
-    refuseUnlessRegular(journalOf(name));
-    const QFileInfo file(path);
+    const QFileInfo file = fileAt(path);
+    refuseUnlessRegular(file.filePath());
+    refuseUnlessRegular(file.filePath() + QStringLiteral("-journal"));
     const int folder = openFolder(file.path());
     sqlite3* opened = nullptr;
     const QByteArray address = addressOf(folder, file.fileName(), access);
-    int code = sqlite3_open_v2(address.constData(), &opened, flagsOf(access), nullptr);
+    int code = sqlite3_open_v2(address.constData(), &opened, flagsOf(access), fileLayer());
     Handle handle(opened, CloseHandle{folder});
     if (code == SQLITE_OK)
-        code = sqlite3_key(opened, key.constData(), static_cast<int>(key.size()));
+        code = unlock(opened, key);
     if (code != SQLITE_OK)
         throwEngineFailure(opened, code);
     sqlite3_extended_result_codes(opened, 1);
