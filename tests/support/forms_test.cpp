@@ -44,7 +44,8 @@ FormsTest::FormsTest()
 {
     [[maybe_unused]] static const bool prepared = [] {
         forms::prepare(*qApp);
-        qApp->installEventFilter(new StillTickers);
+        static StillTickers still;
+        qApp->installEventFilter(&still);
         return true;
     }();
     forms::setMessageDoor([this](const forms::Message& shown) { return answer(shown); });
