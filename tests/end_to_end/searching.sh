@@ -48,6 +48,8 @@ household searching "$(assets 23 "case i % 3 when 1 then 'Indoor' when 2 then 'O
     printf('Maker %02d', 24 - i), 'Model ' || i, 'SN-' || i, '1/2/2020', '\$' || i || '.00', 'No', 'None',
     'None', 'New'")"
 "$Here/screen_reader.py" listen >"$Place/said" &
+Listener=$!
 start_at_menu
 search_all
 search_by_lists
+kill "$Listener" # which has the toolkit hand on keys otherwise

@@ -192,11 +192,11 @@ bool InputGate::closedList(const QKeyEvent& stroke)
 }
 
 // The window system tells a repeat as a release and a press at the same moment. The toolkit misses that when it reads
-// the first before the second has come.
+// the first before the second has come. While an assistive tool listens to keys it hands on copies, which have no time.
 bool InputGate::isRepeat(const QKeyEvent& stroke) const
 {
-    const bool atOnce =
-        stroke.nativeScanCode() != 0 && stroke.nativeScanCode() == releasedCode_ && stroke.timestamp() == releasedWhen_;
+    const bool atOnce = stroke.nativeScanCode() != 0 && stroke.nativeScanCode() == releasedCode_
+        && stroke.timestamp() != 0 && stroke.timestamp() == releasedWhen_;
     return stroke.isAutoRepeat() || atOnce;
 }
 

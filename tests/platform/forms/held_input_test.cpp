@@ -2,6 +2,7 @@
 #include "trial_form.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QWindow>
@@ -82,6 +83,19 @@ TEST_F(FormInFront, KeysBehindTheOneThatClosesAListAreForItsScreen)
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_X})
         QTest::keyClick(list, key);
     EXPECT_EQ(form.memo.text(), "x");
+}
+
+// As the toolkit hands them on while a screen reader listens.
+TEST_F(FormInFront, KeysWithoutATimeAreNoRepeats)
+{
+    form.other.setFocus();
+    form.answers["other.Click"] = [this] { journal += "pressed"; };
+    taken();
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent stroke(type, Qt::Key_Return, {}, 36, 0, 0, "\r");
+        QCoreApplication::sendEvent(form.window()->windowHandle(), &stroke);
+    }
+    EXPECT_EQ(taken(), "pressed pressed");
 }
 
 } // namespace
