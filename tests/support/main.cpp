@@ -22,13 +22,6 @@ void quoteInEnglish()
 
 } // namespace
 
-// Asked by the address sanitizer: its search for leaks reads what libraries keep for each thread by an address that
-// some don't fill in, and ends there.
-extern "C" const char* __asan_default_options() // NOLINT(bugprone-reserved-identifier)
-{
-    return "intercept_tls_get_addr=0";
-}
-
 int main(int argc, char** argv)
 {
     const QTemporaryDir runtimeFolder;
