@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStandardPaths>
@@ -132,7 +133,9 @@ void Preview::print()
 
 void Preview::saveAs()
 {
-    QFileDialog dialog(this, QStringLiteral("Save Report As"), startFolder());
+    // Its parent takes it along where the window is closed under it; nothing here may be touched then.
+    const QPointer<QFileDialog> shown(new QFileDialog(this, QStringLiteral("Save Report As"), startFolder()));
+    QFileDialog& dialog = *shown;
     dialog.setObjectName(QStringLiteral("reportSaveDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     QStringList filters{QStringLiteral("PDF Document (*.pdf)")};
@@ -147,9 +150,13 @@ void Preview::saveAs()
         if (!name.isEmpty()) // a desktop's own dialogue tells of its filter before it has a name
             dialog.selectFile(name + u'.' + dialog.defaultSuffix());
     });
-    if (dialog.exec() != QDialog::Accepted)
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    if (!shown)
         return;
-    const QString path = dialog.selectedFiles().constFirst();
+    const QString path = dialog.selectedFiles().value(0);
+    delete shown;
+    if (!isAccepted)
+        return;
     remembered().folder = QFileInfo(path).path();
     finish(QStringLiteral("The report has been saved as %1.").arg(QDir::toNativeSeparators(path)),
         [this, path] { return save(path); });
