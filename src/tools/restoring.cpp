@@ -6,6 +6,7 @@
 #include "core/places.h"
 #include "platform/storage/file_lock.h"
 #include "platform/system/files.h"
+#include "platform/system/paths.h"
 #include "tools/exit_codes.h"
 #include "tools/household.h"
 
@@ -43,21 +44,21 @@ struct Place {
 };
 
 // A link that its user has laid is followed once, here.
-QString realPath(const QString& path)
+QString followed(const QString& path)
 {
-    const QString real = QFileInfo(path).canonicalFilePath();
+    const QString real = sys::realPath(path);
     return real.isEmpty() ? path : real;
 }
 
 Place placeOf(const QString& path)
 {
-    const QFileInfo file(realPath(path));
+    const QFileInfo file(followed(path));
     return {sys::Folder(file.path()), file.fileName()};
 }
 
 Place placeOfToday()
 {
-    const QFileInfo file(realPath(places::databaseFile()));
+    const QFileInfo file(followed(places::databaseFile()));
     return {sys::Folder::made(file.path()), file.fileName()};
 }
 
