@@ -124,12 +124,15 @@ bool InputGate::filterWindow(QWindow& window, QEvent& event)
 }
 
 // The window system has sent it to a window that is hidden by now. Keys behind the one that has closed a list are for
-// the screen below; all else is dropped, since another screen has come.
+// the window below, which is the active one where the list belongs to none, as the toolkit's suggestions do; all else
+// is dropped, since another screen has come.
 void InputGate::passOn(QWindow& window, QEvent& event)
 {
-    QWindow* home = homeOf(&window);
-    if (isKey(event) && home != &window && home->isVisible())
-        QCoreApplication::sendEvent(home, &event);
+    QWindow* below = homeOf(&window);
+    if (below->type() == Qt::Popup && QApplication::activeWindow())
+        below = QApplication::activeWindow()->windowHandle();
+    if (isKey(event) && below != &window && below->isVisible())
+        QCoreApplication::sendEvent(below, &event);
     event.setAccepted(event.type() != QEvent::Close);
 }
 

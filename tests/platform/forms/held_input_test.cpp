@@ -2,7 +2,10 @@
 #include "trial_form.h"
 
 #include <QApplication>
+#include <QCompleter>
+#include <QDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QWindow>
@@ -83,6 +86,24 @@ TEST_F(FormInFront, KeysBehindTheOneThatClosesAListAreForItsScreen)
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_X})
         QTest::keyClick(list, key);
     EXPECT_EQ(form.memo.text(), "x");
+}
+
+// A name typed into the toolkit's own dialogue for files; its list of suggestions belongs to no window.
+TEST_F(FormInFront, KeysBehindSuggestionsThatHaveGoneAreForTheirBox)
+{
+    QDialog dialog(form.window());
+    QLineEdit box(&dialog);
+    QCompleter suggestions({"on", "once"});
+    box.setCompleter(&suggestions);
+    dialog.show();
+    dialog.activateWindow();
+    settle();
+    for (const Qt::Key key : {Qt::Key_O, Qt::Key_N})
+        QTest::keyClick(dialog.windowHandle(), key);
+    QWindow* list = QApplication::activePopupWidget()->windowHandle();
+    for (const Qt::Key key : {Qt::Key_E, Qt::Key_Minus, Qt::Key_A})
+        QTest::keyClick(list, key);
+    EXPECT_EQ(box.text(), "one-a");
 }
 
 // As the toolkit hands them on while a screen reader listens.
