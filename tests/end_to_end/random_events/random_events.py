@@ -66,11 +66,13 @@ class Life:
         return None
 
     def end(self):
+        fine = (0,)
         if not self.watch.has_ended():
             self.process.send_signal(signal.SIGTERM)
+            fine = (0,) if self.program == "Kestrill" else (0, -signal.SIGTERM)  # the others have nothing to put in order
         if not self.watch.is_over and not self.wait(60):
             raise Finding("told to end, the program goes on")
-        self.watch.end()
+        self.watch.end(fine)
 
     def wait(self, seconds):
         try:
