@@ -4,7 +4,7 @@
 // update, beside one bare commit.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "lists/name_list.h"
 #include "platform/storage/connection.h"
 #include "sample_database.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/storage/sql.h"
 
 #include <benchmark/benchmark.h>

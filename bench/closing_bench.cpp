@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The closing sequence with its proved backup, beside a plain copy of the same file, flushed, that the bare engine
 // opens, checks and counts.
-#include "core/data_store.h"
-#include "core/frmProgress.h"
-#include "core/places.h"
+#include "data/data_store.h"
+#include "data/places.h"
+#include "frame/frmProgress.h"
 #include "sample_database.h"
 
 #include <benchmark/benchmark.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // F1: from the key to the picture of the page, the first time and later, beside the toolkit's own document that lays
 // the same page out; and a search over all topics.
-#include "core/manual.h"
 #include "platform/help/book.h"
 #include "platform/help/word_index.h"
+#include "shared/manual.h"
 
 #include <benchmark/benchmark.h>
 

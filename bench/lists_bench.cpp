@@ -4,7 +4,7 @@
 // generation counted.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "lists/frmUpdate.h"
 #include "platform/storage/statement.h"
 #include "sample_database.h"

@@ -3,7 +3,7 @@
 // the way to another page, and a PDF of 1,000 assets beside a bare painter that draws as many texts.
 #include "sample_database.h"
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/forms/forms.h"
 #include "platform/report/pdf.h"
 #include "platform/report/preview.h"

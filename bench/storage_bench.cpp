@@ -2,7 +2,7 @@
 // The data store beside the bare engine doing the same work under the same settings: each pair of lines is to be
 // compared.
 #include "bare_database.h"
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/storage/sql.h"
 #include "sample_database.h"
 

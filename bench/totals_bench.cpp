@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What 32,000 assets are worth, from the press of the button to the screen, beside a bare sum over the same rows.
-#include "core/data_store.h"
-#include "core/frmMain.h"
+#include "data/data_store.h"
+#include "frame/frmMain.h"
 #include "household/frmTotals.h"
 #include "sample_database.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/shipped_database.h"
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/storage/schema.h"
 
 using storage::TableView;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/conventions.h"
-#include "core/data_store.h"
-#include "core/ending.h"
-#include "core/frmBW_Splash.h"
-#include "core/manual.h"
-#include "core/program_name.h"
+#include "data/data_store.h"
+#include "frame/ending.h"
+#include "frame/frmBW_Splash.h"
 #include "platform/system/signals.h"
+#include "shared/conventions.h"
+#include "shared/manual.h"
+#include "shared/program_name.h"
 
 #include <QApplication>
 

@@ -2,10 +2,10 @@
 #include "accounts/frmBank.h"
 
 #include "accounts/frmEditBankBoxes.h"
-#include "core/conventions.h"
-#include "core/frmCalendar.h"
-#include "core/frmStartup.h"
+#include "frame/frmStartup.h"
 #include "platform/values/date.h"
+#include "shared/conventions.h"
+#include "shared/frmCalendar.h"
 
 using forms::screen;
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "assets/money_field.h"
-#include "core/address.h"
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/forms/forms.h"
+#include "shared/address.h"
 
 #include <array>
 

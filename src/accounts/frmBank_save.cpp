@@ -2,9 +2,9 @@
 // Saving, updating and deleting the account on the screen, and leaving it.
 #include "accounts/frmBank.h"
 #include "accounts/frmEditBankBoxes.h"
-#include "core/conventions.h"
 #include "household/frmGenInfo.h"
 #include "platform/values/date.h"
+#include "shared/conventions.h"
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 #include "accounts/frmEditBankBoxes.h"
 
 #include "accounts/frmBank.h"
-#include "core/conventions.h"
-#include "core/data_store.h"
-#include "core/frmStartup.h"
+#include "data/data_store.h"
+#include "frame/frmStartup.h"
 #include "household/frmGenInfo.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

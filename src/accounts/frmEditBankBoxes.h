@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/option_menu.h"
 #include "platform/values/integer.h"
+#include "shared/option_menu.h"
 
 /// The menu in front of the account screen: what that is to do, add, update or delete.
 class frmEditBankBoxes : public OptionMenu {

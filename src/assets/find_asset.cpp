@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/find_asset.h"
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 
 bool find_Asset(qint64 id)
 {

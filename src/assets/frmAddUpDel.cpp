@@ -4,10 +4,8 @@
 #include "assets/find_asset.h"
 #include "assets/frmAuto.h"
 #include "assets/settings.h"
-#include "core/conventions.h"
-#include "core/frmCalendar.h"
-#include "core/frmMain.h"
-#include "core/frmStartup.h"
+#include "frame/frmMain.h"
+#include "frame/frmStartup.h"
 #include "lists/editing.h"
 #include "lists/frmAddField.h"
 #include "lists/frmEditCmbBoxes.h"
@@ -15,6 +13,8 @@
 #include "platform/values/date.h"
 #include "platform/values/text.h"
 #include "search/frmSearchResults.h"
+#include "shared/conventions.h"
+#include "shared/frmCalendar.h"
 
 using forms::screen;
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "assets/areas.h"
 #include "assets/money_field.h"
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
+#include "shared/areas.h"
 
 #include <array>
 

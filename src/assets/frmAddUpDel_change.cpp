@@ -2,13 +2,13 @@
 // What is done with an asset that is there: its warranty, updating, deleting and printing it.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmWar.h"
-#include "core/conventions.h"
-#include "core/frmCalendar.h"
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "platform/values/failure.h"
 #include "reports/frmPrint.h"
 #include "reports/reports.h"
 #include "search/frmSearchResults.h"
+#include "shared/conventions.h"
+#include "shared/frmCalendar.h"
 
 #include <exception>
 

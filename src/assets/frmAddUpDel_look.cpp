@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/frmAddUpDel.h"
-#include "core/conventions.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

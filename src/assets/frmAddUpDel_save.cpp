@@ -2,12 +2,12 @@
 // Checking and saving the asset on the screen.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmWar.h"
-#include "core/conventions.h"
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "lists/name_list.h"
 #include "platform/values/date.h"
 #include "platform/values/failure.h"
 #include "platform/values/text.h"
+#include "shared/conventions.h"
 
 #include <tuple>
 

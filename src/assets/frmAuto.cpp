@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/frmAuto.h"
 
-#include "assets/areas.h"
 #include "assets/frmAddUpDel.h"
 #include "assets/settings.h"
-#include "core/conventions.h"
-#include "core/frmMain.h"
-#include "core/frmStartup.h"
+#include "frame/frmMain.h"
+#include "frame/frmStartup.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearch.h"
+#include "shared/areas.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

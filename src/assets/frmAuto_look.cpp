@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/frmAuto.h"
-#include "core/conventions.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 void frmAuto::look()
 {

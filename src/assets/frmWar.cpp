@@ -3,11 +3,11 @@
 
 #include "assets/find_asset.h"
 #include "assets/frmAddUpDel.h"
-#include "core/conventions.h"
-#include "core/frmCalendar.h"
-#include "core/frmStartup.h"
+#include "frame/frmStartup.h"
 #include "platform/values/date.h"
 #include "platform/values/text.h"
+#include "shared/conventions.h"
+#include "shared/frmCalendar.h"
 
 using conventions::None;
 using forms::screen;

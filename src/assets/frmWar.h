@@ -2,7 +2,7 @@
 #pragma once
 
 #include "assets/money_field.h"
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/forms/forms.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/frmWar.h"
-#include "core/conventions.h"
-#include "core/frmCalendar.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
+#include "shared/frmCalendar.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>

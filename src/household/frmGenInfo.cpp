@@ -2,12 +2,12 @@
 #include "household/frmGenInfo.h"
 
 #include "accounts/frmEditBankBoxes.h"
-#include "core/conventions.h"
-#include "core/data_store.h"
-#include "core/frmMain.h"
-#include "core/frmStartup.h"
+#include "data/data_store.h"
+#include "frame/frmMain.h"
+#include "frame/frmStartup.h"
 #include "household/frmInsInfo.h"
 #include "platform/values/text.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

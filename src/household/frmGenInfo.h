@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/address.h"
 #include "platform/forms/forms.h"
+#include "shared/address.h"
 
 /// The personal information of the household, and the door to its insurance policy and its financial accounts. The
 /// index of an entry is the ordinal of its column.

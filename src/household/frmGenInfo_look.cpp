@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmGenInfo.h"
 
-#include "core/conventions.h"
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 #include <QGridLayout>
 

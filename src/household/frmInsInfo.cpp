@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmInsInfo.h"
 
-#include "core/conventions.h"
-#include "core/data_store.h"
-#include "core/frmCalendar.h"
-#include "core/frmStartup.h"
+#include "data/data_store.h"
+#include "frame/frmStartup.h"
 #include "household/frmGenInfo.h"
 #include "platform/values/date.h"
 #include "platform/values/failure.h"
 #include "platform/values/text.h"
+#include "shared/conventions.h"
+#include "shared/frmCalendar.h"
 
 using conventions::None;
 using conventions::orNone;

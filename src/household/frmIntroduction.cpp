@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmIntroduction.h"
 
-#include "core/conventions.h"
-#include "core/data_store.h"
-#include "core/frmStartup.h"
+#include "data/data_store.h"
+#include "frame/frmStartup.h"
 #include "household/frmGenInfo.h"
 #include "household/frmKeyboard.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

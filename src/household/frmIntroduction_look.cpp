@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmIntroduction.h"
 
-#include "core/conventions.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

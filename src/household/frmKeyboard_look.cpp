@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmKeyboard.h"
 
-#include "core/conventions.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 void frmKeyboard::look()
 {

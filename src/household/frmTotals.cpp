@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmTotals.h"
 
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 
 frmTotals::frmTotals()
     : forms::Form("frmTotals")

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/conventions.h"
 #include "household/frmTotals.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 #include <QFrame>
 #include <QGridLayout>

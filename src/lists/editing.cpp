@@ -2,9 +2,9 @@
 #include "lists/editing.h"
 
 #include "assets/frmAddUpDel.h"
-#include "core/conventions.h"
 #include "lists/name_list.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "assets/areas.h"
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/forms/combo_box.h"
+#include "shared/areas.h"
 
 class frmAddUpDel;
 

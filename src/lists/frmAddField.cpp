@@ -2,13 +2,13 @@
 #include "lists/frmAddField.h"
 
 #include "assets/frmAddUpDel.h"
-#include "core/conventions.h"
-#include "core/frmStartup.h"
+#include "frame/frmStartup.h"
 #include "lists/editing.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/name_list.h"
 #include "platform/forms/look.h"
 #include "platform/values/text.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

@@ -2,11 +2,11 @@
 #include "lists/frmDelField.h"
 
 #include "assets/frmAddUpDel.h"
-#include "core/conventions.h"
-#include "core/frmStartup.h"
+#include "frame/frmStartup.h"
 #include "lists/editing.h"
 #include "lists/frmAddField.h"
 #include "lists/name_list.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/conventions.h"
 #include "lists/editing.h"
 #include "lists/frmDelField.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>

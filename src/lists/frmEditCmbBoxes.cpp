@@ -2,8 +2,7 @@
 #include "lists/frmEditCmbBoxes.h"
 
 #include "assets/frmAddUpDel.h"
-#include "core/conventions.h"
-#include "core/frmStartup.h"
+#include "frame/frmStartup.h"
 #include "lists/editing.h"
 #include "lists/frmAddField.h"
 #include "lists/frmDelField.h"
@@ -11,6 +10,7 @@
 #include "platform/forms/look.h"
 #include "platform/values/integer.h"
 #include "platform/values/text.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/option_menu.h"
+#include "shared/option_menu.h"
 
 namespace editing {
 struct Kind;

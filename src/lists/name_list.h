@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/forms/combo_box.h"
 
 /// How the three name tables become the lists that the user picks from.

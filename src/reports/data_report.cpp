@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/data_report.h"
 
-#include "core/conventions.h"
 #include "platform/values/date.h"
 #include "reports/report_author.h"
 #include "reports/snapshot_rows.h"
+#include "shared/conventions.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/report/layout.h"
 #include "platform/report/preview.h"
 #include "reports/report_titles.h"

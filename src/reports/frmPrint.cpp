@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/frmPrint.h"
 
-#include "core/conventions.h"
-#include "core/data_store.h"
-#include "core/frmMain.h"
-#include "core/frmStartup.h"
+#include "data/data_store.h"
+#include "frame/frmMain.h"
+#include "frame/frmStartup.h"
 #include "platform/values/text.h"
 #include "reports/data_report.h"
 #include "reports/reports.h"
 #include "search/frmSearch.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

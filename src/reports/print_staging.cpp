@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearch.h"
 

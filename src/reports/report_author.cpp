@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/report_author.h"
 
-#include "core/conventions.h"
-#include "core/data_store.h"
+#include "data/data_store.h"
+#include "shared/conventions.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/reports.h"
 
-#include "core/conventions.h"
 #include "reports/data_report.h"
 #include "reports/layouts.h"
+#include "shared/conventions.h"
 
 namespace reports {
 

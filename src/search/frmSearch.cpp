@@ -2,14 +2,14 @@
 #include "search/frmSearch.h"
 
 #include "assets/frmAuto.h"
-#include "core/conventions.h"
-#include "core/frmMain.h"
-#include "core/frmStartup.h"
+#include "frame/frmMain.h"
+#include "frame/frmStartup.h"
 #include "lists/name_list.h"
 #include "lists/new_names.h"
 #include "platform/values/text.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearchResults.h"
+#include "shared/conventions.h"
 
 using forms::screen;
 

@@ -2,14 +2,14 @@
 #include "search/frmSearchResults.h"
 
 #include "assets/frmAddUpDel.h"
-#include "core/conventions.h"
-#include "core/frmMain.h"
-#include "core/frmProgress.h"
-#include "core/frmStartup.h"
+#include "frame/frmMain.h"
+#include "frame/frmProgress.h"
+#include "frame/frmStartup.h"
 #include "platform/forms/behaviours.h"
 #include "reports/frmPrint.h"
 #include "reports/reports.h"
 #include "search/frmSearch.h"
+#include "shared/conventions.h"
 
 #include <algorithm>
 #include <exception>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/backups.h"
 
-#include "core/earlier_backups.h"
-#include "core/places.h"
-#include "core/proofs.h"
+#include "data/earlier_backups.h"
+#include "data/places.h"
+#include "data/proofs.h"
 #include "platform/system/files.h"
 #include "tools/exit_codes.h"
 #include "tools/household.h"

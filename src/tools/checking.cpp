@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/checking.h"
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "lists/name_list.h"
 #include "platform/values/date.h"
 #include "platform/values/text.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/exporting.h"
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
 #include "tools/exit_codes.h"

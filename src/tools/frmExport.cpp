@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmExport.h"
 
-#include "core/conventions.h"
 #include "platform/forms/folder_choice.h"
 #include "platform/report/progress.h"
+#include "shared/conventions.h"
 #include "tools/exit_codes.h"
 #include "tools/exporting.h"
 #include "tools/source.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/conventions.h"
 #include "platform/forms/look.h"
+#include "shared/conventions.h"
 #include "tools/frmExport.h"
 
 #include <QWidget>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmRestore.h"
 
-#include "core/conventions.h"
-#include "core/earlier_backups.h"
-#include "core/places.h"
+#include "data/earlier_backups.h"
+#include "data/places.h"
+#include "shared/conventions.h"
 #include "tools/comparison.h"
 #include "tools/exit_codes.h"
 #include "tools/frmRestored.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/household.h"
 
-#include "core/data_store.h"
-#include "core/proofs.h"
+#include "data/data_store.h"
+#include "data/proofs.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
 

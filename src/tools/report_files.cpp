@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/report_files.h"
 
-#include "core/conventions.h"
 #include "reports/layouts.h"
 #include "reports/report_author.h"
 #include "reports/snapshot_rows.h"
+#include "shared/conventions.h"
 
 namespace {
 

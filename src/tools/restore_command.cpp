@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/earlier_backups.h"
-#include "core/places.h"
+#include "data/earlier_backups.h"
+#include "data/places.h"
 #include "tools/commands.h"
 #include "tools/comparison.h"
 #include "tools/exit_codes.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/restoring.h"
 
-#include "core/data_store.h"
-#include "core/earlier_backups.h"
-#include "core/places.h"
+#include "data/data_store.h"
+#include "data/earlier_backups.h"
+#include "data/places.h"
 #include "platform/storage/file_lock.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"

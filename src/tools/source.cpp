@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/source.h"
 
-#include "core/places.h"
+#include "data/places.h"
 #include "platform/storage/file_lock.h"
 #include "platform/system/paths.h"
 #include "tools/backups.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/windows.h"
 
-#include "core/conventions.h"
-#include "core/manual.h"
-#include "core/program_name.h"
+#include "shared/conventions.h"
+#include "shared/manual.h"
+#include "shared/program_name.h"
 #include "tools/frmExport.h"
 #include "tools/frmRestore.h"
 

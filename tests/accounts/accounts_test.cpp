@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "accounts/frmBank.h"
 #include "accounts/frmEditBankBoxes.h"
-#include "core/frmCalendar.h"
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "household/frmGenInfo.h"
+#include "shared/frmCalendar.h"
 #include "support/harness.h"
 
 using forms::screen;

@@ -3,7 +3,7 @@
 
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "lists/frmAddField.h"
 #include "search/frmSearchResults.h"
 #include "support/harness.h"

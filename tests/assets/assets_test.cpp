@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/asset_screen.h"
 #include "assets/frmWar.h"
-#include "core/frmCalendar.h"
 #include "platform/storage/statement.h"
+#include "shared/frmCalendar.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/frmAddUpDel.h"
-#include "core/frmCalendar.h"
-#include "core/frmStartup.h"
+#include "frame/frmStartup.h"
+#include "shared/frmCalendar.h"
 #include "support/harness.h"
 
 #include <QTableView>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/manual.h"
 #include "platform/help/book.h"
 #include "platform/help/word_index.h"
+#include "shared/manual.h"
 #include "support/harness.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/frmMain.h"
-#include "core/frmStartup.h"
+#include "frame/frmMain.h"
+#include "frame/frmStartup.h"
 #include "household/frmIntroduction.h"
 #include "platform/forms/look.h"
 #include "platform/help/book.h"

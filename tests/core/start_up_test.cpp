@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/frmBW_Splash.h"
-#include "core/frmStartup.h"
-#include "core/places.h"
-#include "core/program_name.h"
+#include "data/places.h"
+#include "frame/frmBW_Splash.h"
+#include "frame/frmStartup.h"
 #include "reports/report_titles.h"
+#include "shared/program_name.h"
 #include "support/files.h"
 #include "support/harness.h"
 

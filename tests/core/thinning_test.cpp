@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/thinning.h"
+#include "data/thinning.h"
 
 #include "support/print.h"
 #include "support/scene.h"

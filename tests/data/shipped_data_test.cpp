@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "data/shipped_database.h"
 #include "data/standard_names.h"
 #include "support/print.h"

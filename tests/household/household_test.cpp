@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "household/frmGenInfo.h"
 #include "household/frmInsInfo.h"
 #include "household/frmIntroduction.h"

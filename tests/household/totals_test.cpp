@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "household/frmTotals.h"
 #include "platform/storage/statement.h"
 #include "support/harness.h"

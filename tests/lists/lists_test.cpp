@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "assets/areas.h"
 #include "assets/asset_screen.h"
 #include "lists/frmDelField.h"
 #include "lists/frmEditCmbBoxes.h"
 #include "lists/frmUpdate.h"
 #include "lists/name_list.h"
 #include "platform/storage/sqlcipher.h"
+#include "shared/areas.h"
 
 #include <QApplication>
 #include <QRegularExpression>

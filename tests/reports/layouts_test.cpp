@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/layouts.h"
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 #include "platform/report/pdf.h"
 #include "reports/snapshot_rows.h"
 #include "support/harness.h"

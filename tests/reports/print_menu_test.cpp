@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearch.h"
 #include "support/harness.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/search_screen.h"
 
-#include "core/frmProgress.h"
+#include "frame/frmProgress.h"
 #include "platform/storage/statement.h"
 #include "support/files.h"
 

@@ -3,7 +3,7 @@
 
 #include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
-#include "core/frmMain.h"
+#include "frame/frmMain.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearch.h"
 #include "search/frmSearchResults.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/rows.h"
 
-#include "core/data_store.h"
+#include "data/data_store.h"
 
 void put(storage::TableView& row, const Cells& cells)
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/scene.h"
 
-#include "core/frmStartup.h"
+#include "frame/frmStartup.h"
 #include "support/user.h"
 
 #include <QApplication>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/screen_test.h"
 
-#include "core/conventions.h"
-#include "core/frmStartup.h"
-#include "core/places.h"
+#include "data/places.h"
+#include "frame/frmStartup.h"
 #include "platform/storage/statement.h"
 #include "platform/values/date.h"
+#include "shared/conventions.h"
 #include "support/scene.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools_test.h"
 
-#include "core/earlier_backups.h"
+#include "data/earlier_backups.h"
 #include "platform/storage/file_lock.h"
 #include "platform/values/failure.h"
 #include "support/disk.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/data_store.h"
-#include "core/places.h"
+#include "data/data_store.h"
+#include "data/places.h"
 #include "data/shipped_database.h"
 #include "platform/storage/engine.h"
 #include "platform/system/files.h"

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frame/ending.h"
+
+#include "data/data_store.h"
+#include "data/places.h"
+#include "platform/values/failure.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstdio>
+
+using storage::TableCount;
+using storage::TableView;
+
+namespace ending {
+
+namespace {
+
+struct ViewOfTable {
+    TableView DataStore::*view;
+    const char* table;
+};
+
+constexpr ViewOfTable closingOrder[] = {
+    {&DataStore::rsBank, "Bank_Info"},
+    {&DataStore::rsGeneral, "Personal_Info"},
+    {&DataStore::rsPrint, "Print"},
+    {&DataStore::rsMobile, "Mobile_Items"},
+    {&DataStore::rsIndoor, "Indoor_Items"},
+    {&DataStore::rsOutdoor, "Outdoor_Items"},
+    {&DataStore::rsInventory, "Inventory"},
+};
+
+// What each table held when the store was closed, and what failed then.
+struct LastSeen {
+    std::vector<TableCount> rows;
+    QString failure;
+};
+
+LastSeen& lastSeen()
+{
+    static LastSeen the;
+    return the;
+}
+
+// A second step of one end meets views that the first one has closed, and adds nothing.
+void remember_Rows()
+{
+    const auto isOpen = [](const ViewOfTable& closing) { return (Data1.*closing.view).isOpen(); };
+    if (!std::all_of(std::begin(closingOrder), std::end(closingOrder), isOpen))
+        return;
+    lastSeen() = {};
+    for (const ViewOfTable& closing : closingOrder)
+        lastSeen().rows.push_back({closing.table, (Data1.*closing.view).RecordCount()});
+}
+
+template <typename Step>
+void noteFailure(Step step)
+{
+    try {
+        step();
+    } catch (const values::RuntimeFailure& failure) {
+        lastSeen().failure = failure.text();
+        throw;
+    }
+}
+
+void read_Through()
+{
+    const std::vector<TableCount> found = storage::checkDatabase(places::databaseFile(), databaseKey());
+    for (const TableCount& count : lastSeen().rows)
+        if (std::find(found.begin(), found.end(), count) == found.end())
+            throw values::RuntimeFailure(values::FailureKind::Database,
+                QStringLiteral("%1 doesn't hold its %2 rows any more").arg(count.table).arg(count.rows));
+}
+
+QString journal_Advice()
+{
+    const QFileInfo journal(places::databaseFile() + QStringLiteral("-journal"));
+    if (journal.size() == 0)
+        return {};
+    return QStringLiteral("\nLeave %1 beside it: the next start mends the database by it.").arg(journal.fileName());
+}
+
+QString backup_Place()
+{
+    const QFileInfo backup(places::backupFolder() + u'/' + QFileInfo(places::databaseFile()).fileName());
+    if (!backup.exists())
+        return QStringLiteral("There is no backup yet.");
+    return QStringLiteral("The backup of the last normal close: ") + backup.filePath();
+}
+
+} // namespace
+
+std::vector<TableCount> close_Views()
+{
+    remember_Rows();
+    noteFailure([] {
+        for (const ViewOfTable& closing : closingOrder)
+            (Data1.*closing.view).Close();
+    });
+    return lastSeen().rows;
+}
+
+bool close_Store()
+{
+    remember_Rows();
+    try {
+        noteFailure([] { Data1.Home.close(); });
+        return true;
+    } catch (const values::RuntimeFailure& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return false;
+    }
+}
+
+QString what_Is_Known()
+{
+    QString wrong = lastSeen().failure;
+    try {
+        if (wrong.isEmpty()) {
+            read_Through();
+            return QStringLiteral("Everything that you saved is safe.");
+        }
+    } catch (const values::RuntimeFailure& failure) {
+        wrong = failure.text();
+    }
+    return QStringLiteral("Your data may not be whole. %1\nThe database: %2%3\n%4")
+        .arg(wrong, places::databaseFile(), journal_Advice(), backup_Place());
+}
+
+} // namespace ending

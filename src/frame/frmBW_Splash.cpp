@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frame/frmBW_Splash.h"
+
+#include "frame/frmStartup.h"
+
+frmBW_Splash::frmBW_Splash()
+    : forms::Form("frmBW_Splash")
+{
+    look();
+}
+
+void frmBW_Splash::Form_Load()
+{
+    tmrLoad.setEnabled(true);
+}
+
+void frmBW_Splash::Form_Unload(bool& cancel)
+{
+    cancel = true;
+}
+
+// The first touch of frmStartup runs the whole start.
+void frmBW_Splash::tmrLoad_Timer()
+{
+    hide();
+    tmrLoad.setEnabled(false);
+    forms::screen<frmStartup>();
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shared/conventions.h"
+
+#include "frame/frmProgress.h"
+#include "platform/forms/look.h"
+
+namespace conventions {
+
+forms::Answer MsgBox(const QString& text, int flags)
+{
+    return forms::MsgBox(text, flags, Title);
+}
+
+bool confirmed(const QString& question, int flags)
+{
+    return MsgBox(question, flags) == forms::Answer::Yes;
+}
+
+void confirm_Close(forms::Form& form, const std::function<void()>& saveFirst)
+{
+    if (!confirmed("Are You Sure You Want To Close Kestrill?", forms::box::Question + forms::box::YesNo))
+        return;
+    if (saveFirst)
+        saveFirst();
+    forms::screen<frmProgress>().show();
+    form.hide();
+}
+
+QString orNone(const QString& text)
+{
+    return text.isEmpty() ? None : text;
+}
+
+QString withoutNone(const QString& stored)
+{
+    return stored == None ? QString() : stored;
+}
+
+void setHelpNumbers(int number, std::initializer_list<forms::Control*> controls)
+{
+    for (forms::Control* control : controls)
+        control->setHelpNumber(number);
+}
+
+void setTabOrder(std::initializer_list<forms::Control*> controls)
+{
+    int place = 0;
+    for (forms::Control* control : controls)
+        control->setTabIndex(place++);
+}
+
+void showError(forms::Control& field)
+{
+    field.setBackColour(forms::look::colours().error);
+}
+
+void showNormal(forms::Control& field)
+{
+    field.setBackColour({});
+}
+
+} // namespace conventions

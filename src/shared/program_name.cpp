@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shared/program_name.h"
+
+#include "platform/forms/display.h"
+
+#include <QApplication>
+#include <QIcon>
+
+namespace {
+
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 48, 64, 128, 256, 512})
+        icon.addFile(QStringLiteral(":/pictures/logo-%1.png").arg(size));
+    return icon;
+}
+
+} // namespace
+
+std::unique_ptr<QApplication> open_Program(int& argc, char* argv[])
+{
+    auto application =
+        forms::openDisplay(argc, argv, NoDisplay, "Kestrill needs a display, and finds none that it can use.");
+    name_Program();
+    return application;
+}
+
+void name_Program()
+{
+    QApplication::setApplicationName("Kestrill");
+    QApplication::setDesktopFileName("kestrill");
+    QApplication::setWindowIcon(programIcon());
+}
