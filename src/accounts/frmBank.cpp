@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "accounts/frmBank.h"
 
-#include "accounts/frmEditBankBoxes.h"
-#include "frame/frmStartup.h"
+#include "accounts/account_menu.h"
 #include "platform/values/date.h"
 #include "shared/conventions.h"
 #include "shared/frmCalendar.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -28,20 +28,20 @@ constexpr Heading headings[] = {
 
 int mode()
 {
-    return screen<frmEditBankBoxes>().AccountMode;
+    return ways::frmEditBankBoxes().AccountMode;
 }
 
 } // namespace
 
 frmBank::frmBank()
-    : forms::Form("frmBank")
+    : NumberedScreen("frmBank", 7)
 {
     look();
 }
 
 void frmBank::Form_Activate()
 {
-    frmStartup::CurrentScreen = 7;
+    CurrentScreen = Number;
     if (FreshEntry)
         txtName.setFocus();
     if (ReturnFromCalendar)
@@ -50,12 +50,12 @@ void frmBank::Form_Activate()
     conventions::showNormal(txtName);
     reset_Account_Fields();
     lblMainHead.setCaption(headings[mode()].caption);
-    txtAccount.setDeleteRefused(mode() != frmEditBankBoxes::Add); // no character comes of it to be refused
-    if (mode() == frmEditBankBoxes::Add)
+    txtAccount.setDeleteRefused(mode() != AccountMenu::Add); // no character comes of it to be refused
+    if (mode() == AccountMenu::Add)
         prepare_For_Adding();
     else
         show_Existing_Accounts();
-    if (mode() == frmEditBankBoxes::Delete)
+    if (mode() == AccountMenu::Delete)
         prepare_For_Deleting();
     HelpContextBase = headings[mode()].help;
     set_Help_Context();
@@ -77,7 +77,7 @@ void frmBank::Form_Unload(bool& cancel)
 
 void frmBank::txtAccount_KeyPress(int& KeyAscii)
 {
-    if (mode() == frmEditBankBoxes::Add)
+    if (mode() == AccountMenu::Add)
         return;
     conventions::MsgBox("The Account Number Can Not Be Changed!", forms::box::Exclamation);
     KeyAscii = forms::key::Refused;
@@ -95,7 +95,14 @@ void frmBank::show_Balance_Date_Calendar()
     setEnabled(false);
     cmdBack.setEnabled(false);
     cmdState.setEnabled(false);
-    screen<frmCalendar>().show_For(*this, DateOfBalance, txtDate.text());
+    const auto give_Back = [this] {
+        FreshEntry = false;
+        setEnabled(true);
+        cmdBack.setEnabled(true);
+        cmdState.setEnabled(true);
+    };
+    const auto take_Date = [this](const forms::MonthCalendar& date) { txtDate.setText(frmCalendar::date_Text(date)); };
+    screen<frmCalendar>().show_For({*this, DateOfBalance, give_Back, take_Date}, txtDate.text());
 }
 
 // ---- stepping through the accounts

@@ -5,12 +5,13 @@
 #include "data/data_store.h"
 #include "platform/forms/forms.h"
 #include "shared/address.h"
+#include "shared/numbered_screen.h"
 
 #include <array>
 
 /// One financial account at a time: a new one, or those that are there, to be updated or deleted. The menu in front of
 /// it chooses which and prepares cmdState, picDate and txtAccount.
-class frmBank : public forms::Form {
+class frmBank : public NumberedScreen {
 public:
     frmBank();
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Saving, updating and deleting the account on the screen, and leaving it.
+#include "accounts/account_menu.h"
 #include "accounts/frmBank.h"
-#include "accounts/frmEditBankBoxes.h"
-#include "household/frmGenInfo.h"
 #include "platform/values/date.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 #include <algorithm>
 
 using conventions::None;
-using forms::screen;
 
 namespace {
 
@@ -33,12 +32,12 @@ bool isAnotherDay(const QString& text)
 
 void frmBank::cmdState_Click()
 {
-    switch (screen<frmEditBankBoxes>().AccountMode) {
-    case frmEditBankBoxes::Add:
+    switch (ways::frmEditBankBoxes().AccountMode) {
+    case AccountMenu::Add:
         return add_Account();
-    case frmEditBankBoxes::Update:
+    case AccountMenu::Update:
         return update_Account();
-    case frmEditBankBoxes::Delete:
+    case AccountMenu::Delete:
         return delete_Account();
     }
 }
@@ -134,9 +133,9 @@ bool frmBank::leaving_Is_Confirmed()
 
 void frmBank::check_For_Changes()
 {
-    const int mode = screen<frmEditBankBoxes>().AccountMode;
+    const int mode = ways::frmEditBankBoxes().AccountMode;
     AccountChanged =
-        (mode == frmEditBankBoxes::Add && is_Filled_In()) || (mode == frmEditBankBoxes::Update && differs_From_Row());
+        (mode == AccountMenu::Add && is_Filled_In()) || (mode == AccountMenu::Update && differs_From_Row());
 }
 
 bool frmBank::is_Filled_In() const
@@ -166,5 +165,5 @@ bool frmBank::differs_From_Row()
 void frmBank::return_To_Personal_Information()
 {
     hide();
-    screen<frmGenInfo>().show();
+    ways::frmGenInfo().show();
 }

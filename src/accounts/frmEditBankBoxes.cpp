@@ -3,9 +3,8 @@
 
 #include "accounts/frmBank.h"
 #include "data/data_store.h"
-#include "frame/frmStartup.h"
-#include "household/frmGenInfo.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -32,7 +31,7 @@ constexpr ModeOfAccount modes[] = {
 
 void frmEditBankBoxes::Form_Activate()
 {
-    frmStartup::CurrentScreen = 15;
+    CurrentScreen = Number;
     AccountMode = 0;
     optEdit[Add].setValue(true);
     optEdit[Add].setFocus(); // the keys begin at the dot
@@ -78,7 +77,7 @@ void frmEditBankBoxes::cmdUpdate_Click()
 
 void frmEditBankBoxes::cmdCancel_Click()
 {
-    screen<frmGenInfo>().show();
+    ways::frmGenInfo().show();
     hide();
 }
 

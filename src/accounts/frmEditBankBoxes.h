@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/values/integer.h"
-#include "shared/option_menu.h"
+#include "accounts/account_menu.h"
 
 /// The menu in front of the account screen: what that is to do, add, update or delete.
-class frmEditBankBoxes : public OptionMenu {
+class frmEditBankBoxes : public AccountMenu {
 public:
-    enum Mode { Add, Update, Delete }; ///< by the indices of optEdit
-
     frmEditBankBoxes();
-
-    /// The Mode of the account screen: Add at first.
-    values::Integer AccountMode;
 
 private:
     void Form_Activate() override;

@@ -2,7 +2,7 @@
 #include "accounts/frmEditBankBoxes.h"
 
 frmEditBankBoxes::frmEditBankBoxes()
-    : OptionMenu("frmEditBankBoxes",
+    : AccountMenu("frmEditBankBoxes", 15,
         {"Add/Edit Financial Account",
             {
                 {"&Add", " Select This Option To Add A Financial Account, Then Select Continue "},

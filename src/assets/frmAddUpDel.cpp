@@ -2,10 +2,8 @@
 #include "assets/frmAddUpDel.h"
 
 #include "assets/find_asset.h"
-#include "assets/frmAuto.h"
 #include "assets/settings.h"
-#include "frame/frmMain.h"
-#include "frame/frmStartup.h"
+#include "data/name_markers.h"
 #include "lists/editing.h"
 #include "lists/frmAddField.h"
 #include "lists/frmEditCmbBoxes.h"
@@ -15,6 +13,7 @@
 #include "search/frmSearchResults.h"
 #include "shared/conventions.h"
 #include "shared/frmCalendar.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -40,14 +39,14 @@ void keepName(QString& saved, const QString& name, const QString& marker)
 } // namespace
 
 frmAddUpDel::frmAddUpDel()
-    : forms::Form("frmAddUpDel")
+    : AssetScreen("frmAddUpDel", 10)
 {
     look();
 }
 
 void frmAddUpDel::Form_Activate()
 {
-    frmStartup::CurrentScreen = 10;
+    CurrentScreen = Number;
 }
 
 void frmAddUpDel::Form_Unload(bool& cancel)
@@ -151,10 +150,10 @@ void frmAddUpDel::cmdCancel_Click()
     if (!leaving_Is_Confirmed())
         return;
     clear_ComboBoxes();
-    if (screen<frmMain>().FromResults)
+    if (ways::frmMain().FromResults)
         return_To_Results();
     else
-        screen<frmAuto>().show();
+        ways::frmAuto().show();
     hide();
 }
 
@@ -177,7 +176,7 @@ void frmAddUpDel::cmdMain_Click()
 {
     if (!leaving_Is_Confirmed())
         return;
-    screen<frmMain>().show();
+    ways::frmMain().show();
     hide();
 }
 
@@ -207,10 +206,16 @@ bool frmAddUpDel::leaving_Is_Confirmed()
 
 // ---- the two modes
 
+void frmAddUpDel::default_To_Update()
+{
+    cmdUpdate.setDefault(true);
+    cmdAdd.setDefault(false);
+}
+
 void frmAddUpDel::check_Form_Type()
 {
     show();
-    if (screen<frmMain>().FromResults)
+    if (ways::frmMain().FromResults)
         prepare_For_Updating();
     else
         prepare_For_Adding();
@@ -249,7 +254,7 @@ void frmAddUpDel::prepare_For_Updating()
 
 void frmAddUpDel::load_Add_Mode()
 {
-    const bool fromResults = screen<frmMain>().FromResults;
+    const bool fromResults = ways::frmMain().FromResults;
     cmdAdd.setDefault(true);
     if (!fromResults)
         reset_Fields();
@@ -258,7 +263,7 @@ void frmAddUpDel::load_Add_Mode()
     cmdAdd.setEnabled(true);
     for (forms::CommandButton* button : {&cmdUpdate, &cmdDelete, &cmdWarranty, &cmdPrint})
         button->setEnabled(false);
-    load_Area(areas::ofMenuTitle(screen<frmAuto>().lblHead1[0].caption()));
+    load_Area(areas::ofMenuTitle(ways::frmAuto().lblHead1[0].caption()));
     cmbYear.setText(thisYear());
     txtLoc.setText("None");
     txtLoc.setLocked(true);
@@ -288,7 +293,7 @@ void frmAddUpDel::load_Update_Mode()
         return;
     if (const areas::Area* area = areas::findUpper(Data1.rsInventory.Fields(Inventory::Area).text())) {
         cmbArea.setText(area->name);
-        screen<frmAuto>().lblHead1[0].setCaption(area->menuTitle);
+        ways::frmAuto().lblHead1[0].setCaption(area->menuTitle);
     }
     load_Add_Mode();
     load_Asset();
@@ -337,7 +342,7 @@ void frmAddUpDel::load_Help_IDs()
 
 void frmAddUpDel::reset_Fields()
 {
-    if (chkClear.value() != 1 && screen<frmMain>().FromResults)
+    if (chkClear.value() != 1 && ways::frmMain().FromResults)
         return;
     clear_ComboBoxes();
     cmbYear.setText("2005"); // this very year, on purpose
@@ -392,5 +397,7 @@ void frmAddUpDel::clear_Menu_Options()
 void frmAddUpDel::open_Calendar()
 {
     setEnabled(false);
-    screen<frmCalendar>().show_For(*this, DateForAsset, txtPur.text());
+    const auto give_Back = [this] { setEnabled(true); };
+    const auto take_Date = [this](const forms::MonthCalendar& date) { txtPur.setText(frmCalendar::date_Text(date)); };
+    screen<frmCalendar>().show_For({*this, DateForAsset, give_Back, take_Date}, txtPur.text());
 }

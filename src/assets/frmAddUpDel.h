@@ -5,6 +5,7 @@
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
 #include "shared/areas.h"
+#include "shared/ways.h"
 
 #include <array>
 
@@ -14,19 +15,10 @@ struct Kind;
 
 /// The asset screen, on which one asset is entered, or one that was found is shown for update and deletion. It has no
 /// load of its own: check_Form_Type prepares it.
-class frmAddUpDel : public forms::Form {
+class frmAddUpDel : public AssetScreen {
 public:
     frmAddUpDel();
 
-    forms::Label lblHead{*this, "lblHead"};
-    forms::Label lblArea{*this, "lblArea", "Area"};
-    forms::ComboBox cmbArea{*this, "cmbArea", forms::ComboStyle::PickOnly};
-    forms::Label lblLocation{*this, "lblLocation", "Location"};
-    forms::ComboBox cmbLoc{*this, "cmbLoc", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-    forms::Label lblCategory{*this, "lblCategory", "Category"};
-    forms::ComboBox cmbCat{*this, "cmbCat", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-    forms::Label lblItem{*this, "lblItem", "Item"};
-    forms::ComboBox cmbType{*this, "cmbType", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
     forms::Label lblYear{*this, "lblYear", "Year"};
     forms::ComboBox cmbYear{*this, "cmbYear"};
     forms::Label lblMake{*this, "lblMake", "Make"};
@@ -61,11 +53,8 @@ public:
     forms::Label lblSelIn{*this, "lblSelIn"};
     forms::Label lblCopyright{*this, "lblCopyright"};
 
-    QString ListInEdit; ///< "Location" or "Category": the list that the editors work on
-    values::Integer AssetKey; ///< the ID of the asset that the warranty screen works on
-
-    /// Shows the screen, in the mode that FromResults of the main menu says.
-    void check_Form_Type();
+    void default_To_Update() override;
+    void check_Form_Type() override;
 
     /// Saves the asset on the screen as a new one, after a check of the input.
     void save_It();

@@ -2,7 +2,6 @@
 // What is done with an asset that is there: its warranty, updating, deleting and printing it.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmWar.h"
-#include "frame/frmMain.h"
 #include "platform/values/failure.h"
 #include "reports/frmPrint.h"
 #include "reports/reports.h"
@@ -77,7 +76,7 @@ void frmAddUpDel::cmdDelete_Click()
     move_Asset_Value(Currency::parse(txtPPrice.text()), {});
     screen<frmSearchResults>().FromSearchScreen = false;
     hide();
-    screen<frmMain>().show();
+    ways::frmMain().show();
 }
 
 // ---- print

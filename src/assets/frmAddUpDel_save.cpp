@@ -2,8 +2,7 @@
 // Checking and saving the asset on the screen.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmWar.h"
-#include "frame/frmMain.h"
-#include "lists/name_list.h"
+#include "data/name_markers.h"
 #include "platform/values/date.h"
 #include "platform/values/failure.h"
 #include "platform/values/text.h"
@@ -151,7 +150,7 @@ void frmAddUpDel::store_Asset()
     add_Asset_Row();
     move_Asset_Value({}, values::Currency::parse(txtPPrice.text()));
     add_To_Item_List();
-    if (!screen<frmMain>().FromResults)
+    if (!ways::frmMain().FromResults)
         tell_And_Go_On();
 }
 

@@ -3,12 +3,11 @@
 
 #include "assets/frmAddUpDel.h"
 #include "assets/settings.h"
-#include "frame/frmMain.h"
-#include "frame/frmStartup.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearch.h"
 #include "shared/areas.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -26,14 +25,14 @@ bool inventory_Is_Empty(const QString& refusal)
 } // namespace
 
 frmAuto::frmAuto()
-    : forms::Form("frmAuto")
+    : AreaMenu("frmAuto", 13)
 {
     look();
 }
 
 void frmAuto::Form_Activate()
 {
-    frmStartup::CurrentScreen = 13;
+    CurrentScreen = Number;
 }
 
 void frmAuto::Form_Unload(bool& cancel)
@@ -44,7 +43,7 @@ void frmAuto::Form_Unload(bool& cancel)
 
 void frmAuto::cmdAdd_Click()
 {
-    screen<frmMain>().FromResults = false;
+    ways::frmMain().FromResults = false;
     hide();
     auto& assets = screen<frmAddUpDel>();
     assets.chkClear.setValue(settings::remembered(General::ClearCheck));
@@ -57,7 +56,7 @@ void frmAuto::cmdUpdate_Click()
         return;
     auto& search = screen<frmSearch>();
     search.lblHead[0].setCaption("Search For Asset To Update");
-    screen<frmMain>().FromMenu = false; // FromResults and CustomPrint stay, on purpose
+    ways::frmMain().FromMenu = false; // FromResults and CustomPrint stay, on purpose
     search.hide_Progress();
     open_Search();
     search.txtKey.setText({});
@@ -67,7 +66,7 @@ void frmAuto::cmdDelete_Click()
 {
     if (inventory_Is_Empty("There Are No Available Assets To Delete...Please Add An Asset Before Continuing!!"))
         return;
-    screen<frmMain>().FromResults = false; // FromMenu stays, and the word that was typed, on purpose
+    ways::frmMain().FromResults = false; // FromMenu stays, and the word that was typed, on purpose
     screen<frmPrint>().CustomPrint = false;
     auto& search = screen<frmSearch>();
     search.lblHead[0].setCaption("Search For Asset To Delete");
@@ -80,7 +79,7 @@ void frmAuto::cmdDelete_Click()
 
 void frmAuto::cmdBack_Click()
 {
-    screen<frmMain>().show();
+    ways::frmMain().show();
     hide();
 }
 

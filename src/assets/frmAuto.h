@@ -3,13 +3,13 @@
 
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
+#include "shared/ways.h"
 
 /// The area menu: add, update or delete an asset of the area whose title stands in lblHead1(0).
-class frmAuto : public forms::Form {
+class frmAuto : public AreaMenu {
 public:
     frmAuto();
 
-    forms::ControlArray<forms::Label, 1> lblHead1{*this, "lblHead1"};
     forms::ControlArray<forms::CommandButton, 1> cmdAdd{*this, "cmdAdd"};
     forms::ControlArray<forms::CommandButton, 2> cmdUpdate{*this, "cmdUpdate", {0}};
     forms::ControlArray<forms::CommandButton, 1> cmdDelete{*this, "cmdDelete"};

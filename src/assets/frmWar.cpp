@@ -2,12 +2,11 @@
 #include "assets/frmWar.h"
 
 #include "assets/find_asset.h"
-#include "assets/frmAddUpDel.h"
-#include "frame/frmStartup.h"
 #include "platform/values/date.h"
 #include "platform/values/text.h"
 #include "shared/conventions.h"
 #include "shared/frmCalendar.h"
+#include "shared/ways.h"
 
 using conventions::None;
 using forms::screen;
@@ -51,7 +50,7 @@ struct frmWar::Entry {
 };
 
 frmWar::frmWar()
-    : forms::Form("frmWar")
+    : NumberedScreen("frmWar", 9)
 {
     look();
 }
@@ -67,7 +66,7 @@ void frmWar::load_It()
 
 void frmWar::Form_Activate()
 {
-    frmStartup::CurrentScreen = 9;
+    CurrentScreen = Number;
 }
 
 void frmWar::Form_Unload(bool& cancel)
@@ -122,7 +121,6 @@ void frmWar::picDate_Click(const Expiry& end)
     auto& calendar = screen<frmCalendar>();
     cmdCancel.setEnabled(false);
     cmdSave.setEnabled(false);
-    calendar.DateTarget = end.DateTarget;
     if (end.year.text().isEmpty() || end.month.text().isEmpty() || end.day.text().isEmpty()) {
         calendar.calDate.setValue(values::Today());
     } else {
@@ -130,7 +128,21 @@ void frmWar::picDate_Click(const Expiry& end)
         calendar.calDate.setMonth(static_cast<int>(frmCalendar::MonthNames.indexOf(end.month.text())) + 1);
         calendar.calDate.setYear(end.year.text().toInt());
     }
-    calendar.show_Modal(*this);
+    const auto give_Back = [this] {
+        cmdCancel.setEnabled(true);
+        cmdSave.setEnabled(true);
+    };
+    const auto take_Date = [&end](const forms::MonthCalendar& date) { write_Date(end, date); };
+    calendar.show_For({*this, end.DateTarget, give_Back, take_Date});
+}
+
+// The month goes first, for it refills the list of days. A number that no month has writes nothing.
+void frmWar::write_Date(const Expiry& end, const forms::MonthCalendar& date)
+{
+    if (date.Month() >= 1 && date.Month() <= frmCalendar::MonthNames.size())
+        end.month.setText(frmCalendar::MonthNames[date.Month() - 1]);
+    end.day.setText(QString::number(date.Day()));
+    end.year.setText(QString::number(date.Year()));
 }
 
 // ---- buttons
@@ -163,14 +175,14 @@ void frmWar::cmdCancel_Click()
 void frmWar::return_To_Asset()
 {
     hide();
-    screen<frmAddUpDel>().show();
+    ways::frmAddUpDel().show();
 }
 
 // ---- the row
 
 bool frmWar::find_Its_Asset()
 {
-    return find_Asset(screen<frmAddUpDel>().AssetKey);
+    return find_Asset(ways::frmAddUpDel().AssetKey);
 }
 
 // In the order in which they are read, written and compared. A month stands before its day, which it would empty.

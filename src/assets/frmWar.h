@@ -4,6 +4,7 @@
 #include "assets/money_field.h"
 #include "data/data_store.h"
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 #include <array>
 #include <initializer_list>
@@ -12,7 +13,7 @@ class QGridLayout;
 
 /// The warranty of one asset: a coverage of parts, one of labor, and terms. They are columns of the asset's own row,
 /// which is found by AssetKey of the asset screen.
-class frmWar : public forms::Form {
+class frmWar : public NumberedScreen {
 public:
     frmWar();
 
@@ -78,6 +79,7 @@ private:
     static void year_KeyDown(const Expiry& end, int& KeyCode);
     static void coverage_KeyPress(int& KeyAscii);
     void picDate_Click(const Expiry& end);
+    static void write_Date(const Expiry& end, const forms::MonthCalendar& date);
     void cmdSave_Click();
     void cmdCancel_Click();
 

@@ -1,56 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/frmMain.h"
 
-#include "accounts/frmBank.h"
-#include "accounts/frmEditBankBoxes.h"
-#include "assets/frmAddUpDel.h"
 #include "assets/frmAuto.h"
-#include "assets/frmWar.h"
-#include "frame/frmStartup.h"
+#include "data/data_store.h"
 #include "household/frmGenInfo.h"
-#include "household/frmInsInfo.h"
-#include "household/frmIntroduction.h"
-#include "household/frmKeyboard.h"
-#include "household/frmTotals.h"
-#include "lists/frmAddField.h"
-#include "lists/frmDelField.h"
-#include "lists/frmEditCmbBoxes.h"
-#include "lists/frmUpdate.h"
 #include "reports/frmPrint.h"
 #include "search/frmSearch.h"
-#include "search/frmSearchResults.h"
 #include "shared/conventions.h"
 
-using conventions::hideIfMade;
 using forms::screen;
 
-namespace {
-
-struct NumberedScreen {
-    int number;
-    void (*hide)();
-};
-
-constexpr NumberedScreen numberedScreens[] = {
-    {1, hideIfMade<frmGenInfo>}, {2, hideIfMade<frmMain>}, {3, hideIfMade<frmPrint>}, {4, hideIfMade<frmSearch>},
-    {5, hideIfMade<frmSearchResults>}, {6, hideIfMade<frmTotals>}, {7, hideIfMade<frmBank>},
-    {8, hideIfMade<frmInsInfo>}, {9, hideIfMade<frmWar>}, {10, hideIfMade<frmAddUpDel>}, {11, hideIfMade<frmAddField>},
-    {12, hideIfMade<frmEditCmbBoxes>}, {13, hideIfMade<frmAuto>}, {14, hideIfMade<frmUpdate>},
-    {15, hideIfMade<frmEditBankBoxes>}, {16, hideIfMade<frmDelField>}, {17, hideIfMade<frmIntroduction>},
-    {18, hideIfMade<frmKeyboard>}, {19, hideIfMade<frmStartup>}, // not the calendar, whose number it is: on purpose
-};
-
-} // namespace
-
 frmMain::frmMain()
-    : forms::Form("frmMain")
+    : MainMenu("frmMain", 2)
 {
     look();
 }
 
 void frmMain::Form_Activate()
 {
-    frmStartup::CurrentScreen = 2;
+    CurrentScreen = Number;
     if (!Deactivated)
         Refresh();
 }
@@ -134,7 +102,7 @@ void frmMain::open_Area_Menu()
 
 void frmMain::Hide_Screens()
 {
-    for (const NumberedScreen& numbered : numberedScreens)
-        if (numbered.number == frmStartup::CurrentScreen)
-            numbered.hide();
+    for (forms::Form* made : forms::madeScreens())
+        if (const auto* numbered = dynamic_cast<NumberedScreen*>(made); numbered && numbered->Number == CurrentScreen)
+            made->hide();
 }

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/ways.h"
 
-/// The main menu: the hub of the program and the gate to the closing sequence.
-class frmMain : public forms::Form {
+/// The main menu: the hub of the program, and the way to the closing sequence.
+class frmMain : public MainMenu {
 public:
     frmMain();
 
@@ -22,12 +23,6 @@ public:
     forms::CommandButton cmdPersonal{*this, "cmdPersonal"};
     forms::CommandButton cmdLeave{*this, "cmdLeave"};
     forms::Label lblCopyright{*this, "lblCopyright"};
-
-    /// The asset screen was reached from the results pager and goes back there.
-    bool FromResults = false;
-
-    /// The search screen was entered from this menu.
-    bool FromMenu = false;
 
     /// Hides the screen whose number CurrentScreen holds.
     void Hide_Screens();

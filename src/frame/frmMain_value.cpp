@@ -2,7 +2,6 @@
 // What the assets are worth: counted and summed anew from the inventory at each press of cmdValue.
 #include "data/data_store.h"
 #include "frame/frmMain.h"
-#include "frame/frmStartup.h"
 #include "household/frmTotals.h"
 #include "platform/storage/folded_text.h"
 #include "shared/conventions.h"
@@ -16,8 +15,6 @@ using values::Currency;
 using values::Integer;
 
 namespace {
-
-constexpr int TotalsScreen = 6;
 
 struct AreaSum {
     FoldedText area;
@@ -115,7 +112,7 @@ void frmMain::cmdValue_Click()
     hide();
     auto& totals = screen<frmTotals>();
     empty(totals);
-    frmStartup::CurrentScreen = TotalsScreen;
+    CurrentScreen = totals.Number;
     rewind(Data1.rsInventory);
     for (; !Data1.rsInventory.atEOF(); Data1.rsInventory.MoveNext())
         add_Asset(totals, Data1.rsInventory);

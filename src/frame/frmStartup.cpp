@@ -39,7 +39,7 @@ constexpr PolicyAlert policyAlerts[] = {
 } // namespace
 
 frmStartup::frmStartup()
-    : forms::Form("frmStartup")
+    : NumberedScreen("frmStartup", 19) // not the calendar, whose number it is: on purpose
 {
     setTitle(conventions::Title);
 }

@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/form.h"
 #include "platform/system/processes.h"
-#include "platform/values/integer.h"
+#include "shared/numbered_screen.h"
 
 #include <functional>
 #include <vector>
 
 /// The hidden object of the start: the first touch of it, from the splash screen's timer, is the start of the program.
-class frmStartup : public forms::Form {
+class frmStartup : public NumberedScreen {
 public:
     frmStartup();
 
     /// The number of the screen in front. It belongs to the class, since touching the object starts the program.
-    static inline values::Integer CurrentScreen = 20;
+    static inline values::Integer& CurrentScreen = ::CurrentScreen;
 
     void check_Already_Running();
     void open_First_Screen();

@@ -3,11 +3,10 @@
 
 #include "accounts/frmEditBankBoxes.h"
 #include "data/data_store.h"
-#include "frame/frmMain.h"
-#include "frame/frmStartup.h"
 #include "household/frmInsInfo.h"
 #include "platform/values/text.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -53,19 +52,19 @@ bool standsForEmpty(int index, const QString& stored)
 } // namespace
 
 frmGenInfo::frmGenInfo()
-    : forms::Form("frmGenInfo")
+    : NumberedScreen("frmGenInfo", 1)
 {
     look();
 }
 
 void frmGenInfo::Form_Load()
 {
-    frmStartup::CurrentScreen = 1;
+    CurrentScreen = Number;
 }
 
 void frmGenInfo::Form_Activate()
 {
-    frmStartup::CurrentScreen = 1;
+    CurrentScreen = Number;
 }
 
 void frmGenInfo::Form_Unload(bool& cancel)
@@ -100,7 +99,7 @@ void frmGenInfo::cmdContinue_Click()
     save_It();
     txtInfo[General::First].setFocus();
     hide();
-    screen<frmMain>().show();
+    ways::frmMain().show();
 }
 
 void frmGenInfo::cmdBack_Click()
@@ -149,7 +148,7 @@ void frmGenInfo::save_It()
 
 void frmGenInfo::return_To_Menu()
 {
-    screen<frmMain>().show();
+    ways::frmMain().show();
     hide();
 }
 

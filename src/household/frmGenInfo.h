@@ -3,10 +3,11 @@
 
 #include "platform/forms/forms.h"
 #include "shared/address.h"
+#include "shared/numbered_screen.h"
 
 /// The personal information of the household, and the door to its insurance policy and its financial accounts. The
 /// index of an entry is the ordinal of its column.
-class frmGenInfo : public forms::Form {
+class frmGenInfo : public NumberedScreen {
 public:
     frmGenInfo();
 

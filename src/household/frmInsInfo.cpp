@@ -2,13 +2,12 @@
 #include "household/frmInsInfo.h"
 
 #include "data/data_store.h"
-#include "frame/frmStartup.h"
-#include "household/frmGenInfo.h"
 #include "platform/values/date.h"
 #include "platform/values/failure.h"
 #include "platform/values/text.h"
 #include "shared/conventions.h"
 #include "shared/frmCalendar.h"
+#include "shared/ways.h"
 
 using conventions::None;
 using conventions::orNone;
@@ -29,14 +28,14 @@ QString coverageToStore(const QString& text)
 } // namespace
 
 frmInsInfo::frmInsInfo()
-    : forms::Form("frmInsInfo")
+    : NumberedScreen("frmInsInfo", 8)
 {
     look();
 }
 
 void frmInsInfo::Form_Activate()
 {
-    frmStartup::CurrentScreen = 8;
+    CurrentScreen = Number;
     NotifyFromCode = true;
 }
 
@@ -44,7 +43,7 @@ void frmInsInfo::Form_Activate()
 void frmInsInfo::Form_Unload(bool&)
 {
     hide();
-    screen<frmGenInfo>().show();
+    ways::frmGenInfo().show();
 }
 
 // ---- boxes
@@ -78,7 +77,11 @@ void frmInsInfo::chkNotify_worked()
 void frmInsInfo::show_Policy_Date_Calendar()
 {
     setEnabled(false);
-    screen<frmCalendar>().show_For(*this, DateForPolicy, txtPolicyExpire.text());
+    const auto give_Back = [this] { setEnabled(true); };
+    const auto take_Date = [this](const forms::MonthCalendar& date) {
+        txtPolicyExpire.setText(frmCalendar::date_Text(date));
+    };
+    screen<frmCalendar>().show_For({*this, DateForPolicy, give_Back, take_Date}, txtPolicyExpire.text());
 }
 
 void frmInsInfo::check_Notify()
@@ -125,7 +128,7 @@ void frmInsInfo::cmdUpdate_Click()
         write_Policy();
         conventions::MsgBox("Your Insurance Information Has Been Updated!", forms::box::Information);
         hide();
-        screen<frmGenInfo>().show();
+        ways::frmGenInfo().show();
         whiten();
     } catch (const RuntimeFailure&) {
         Data1.rsGeneral.CancelUpdate(); // no later save of another screen may store the half of it
@@ -144,7 +147,7 @@ void frmInsInfo::cmdCancel_Click()
             "Information Has Changed Regarding This Policy, All Changes Will Be Lost...Continue?",
             forms::box::Question + forms::box::YesNo))
         return;
-    screen<frmGenInfo>().show();
+    ways::frmGenInfo().show();
     hide();
 }
 

@@ -3,10 +3,11 @@
 
 #include "assets/money_field.h"
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 /// The insurance policy of the home. The personal information opens and fills it. Its close box destroys it, unlike any
 /// other screen; the next use makes a new one.
-class frmInsInfo : public forms::Form {
+class frmInsInfo : public NumberedScreen {
 public:
     frmInsInfo();
 

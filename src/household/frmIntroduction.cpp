@@ -2,7 +2,6 @@
 #include "household/frmIntroduction.h"
 
 #include "data/data_store.h"
-#include "frame/frmStartup.h"
 #include "household/frmGenInfo.h"
 #include "household/frmKeyboard.h"
 #include "shared/conventions.h"
@@ -10,14 +9,14 @@
 using forms::screen;
 
 frmIntroduction::frmIntroduction()
-    : forms::Form("frmIntroduction")
+    : NumberedScreen("frmIntroduction", 17)
 {
     look();
 }
 
 void frmIntroduction::Form_Load()
 {
-    frmStartup::CurrentScreen = 17;
+    CurrentScreen = Number;
 }
 
 void frmIntroduction::Form_Unload(bool& cancel)
@@ -31,7 +30,8 @@ void frmIntroduction::cmdOK_Click()
     screen<frmGenInfo>().cmdBack[0].setEnabled(false); // on a first run there is nothing to go back to
     Data1.rsGeneral.Fields(General::Introduced) = "1";
     Data1.rsGeneral.Update();
-    screen<frmKeyboard>().show();
+    auto& keyboard = screen<frmKeyboard>();
+    keyboard.show();
     hide();
-    frmStartup::CurrentScreen = 18;
+    CurrentScreen = keyboard.Number;
 }

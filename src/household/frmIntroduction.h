@@ -2,9 +2,10 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 /// The first screen of a first run. It comes at every start until the user has passed it once.
-class frmIntroduction : public forms::Form {
+class frmIntroduction : public NumberedScreen {
 public:
     frmIntroduction();
 

@@ -6,7 +6,7 @@
 using forms::screen;
 
 frmKeyboard::frmKeyboard()
-    : forms::Form("frmKeyboard")
+    : NumberedScreen("frmKeyboard", 18)
 {
     look();
 }

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 /// The second screen of a first run: it shows where the F1 key is.
-class frmKeyboard : public forms::Form {
+class frmKeyboard : public NumberedScreen {
 public:
     frmKeyboard();
 

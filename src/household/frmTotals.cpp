@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "household/frmTotals.h"
 
-#include "frame/frmMain.h"
+#include "shared/ways.h"
 
 frmTotals::frmTotals()
-    : forms::Form("frmTotals")
+    : NumberedScreen("frmTotals", 6)
 {
     look();
 }
@@ -17,6 +17,6 @@ void frmTotals::Form_Unload(bool& cancel)
 
 void frmTotals::cmdOK_Click()
 {
-    forms::screen<frmMain>().show();
+    ways::frmMain().show();
     hide();
 }

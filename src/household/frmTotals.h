@@ -4,9 +4,10 @@
 #include "platform/forms/forms.h"
 #include "platform/values/currency.h"
 #include "platform/values/integer.h"
+#include "shared/numbered_screen.h"
 
 /// What all assets are worth, in each area and together. The main menu counts and shows it anew each time.
-class frmTotals : public forms::Form {
+class frmTotals : public NumberedScreen {
 public:
     frmTotals();
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/editing.h"
 
-#include "assets/frmAddUpDel.h"
+#include "data/name_markers.h"
 #include "lists/name_list.h"
 #include "platform/forms/look.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 #include <algorithm>
 #include <array>
-
-using forms::screen;
 
 namespace editing {
 
@@ -37,20 +36,20 @@ const std::array<List, 6>& lists()
 const Kind& locations()
 {
     static const Kind kind{
-        "Location", Names::Location, Inventory::Location, names::LocationMarker, &frmAddUpDel::cmbLoc};
+        "Location", Names::Location, Inventory::Location, names::LocationMarker, &AssetScreen::cmbLoc};
     return kind;
 }
 
 const Kind& categories()
 {
     static const Kind kind{
-        "Category", Names::Category, Inventory::Category, names::CategoryMarker, &frmAddUpDel::cmbCat};
+        "Category", Names::Category, Inventory::Category, names::CategoryMarker, &AssetScreen::cmbCat};
     return kind;
 }
 
 const Kind& items()
 {
-    static const Kind kind{"Item", Names::Type, Inventory::Type, names::ItemMarker, &frmAddUpDel::cmbType};
+    static const Kind kind{"Item", Names::Type, Inventory::Type, names::ItemMarker, &AssetScreen::cmbType};
     return kind;
 }
 
@@ -85,7 +84,7 @@ const Kind& kindWith(const QString& pattern, const QString& text)
 
 forms::ComboBox& boxOf(const Kind& kind)
 {
-    return screen<frmAddUpDel>().*kind.box;
+    return ways::frmAddUpDel().*kind.box;
 }
 
 bool isMissing(forms::TextEntry& box, const QString& message)

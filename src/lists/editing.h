@@ -2,10 +2,8 @@
 #pragma once
 
 #include "data/data_store.h"
-#include "platform/forms/combo_box.h"
 #include "shared/areas.h"
-
-class frmAddUpDel;
+#include "shared/ways.h"
 
 /// What the list editors work on: the names of one kind in one area. A difference that isn't in these tables isn't
 /// there.
@@ -20,7 +18,7 @@ struct Kind {
     Names::Column column;
     Inventory::Column assetColumn;
     QString marker;
-    forms::ComboBox frmAddUpDel::*box; ///< on the asset screen
+    forms::ComboBox AssetScreen::*box; ///< on the asset screen
 };
 
 const Kind& locations();

@@ -1,27 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/frmAddField.h"
 
-#include "assets/frmAddUpDel.h"
-#include "frame/frmStartup.h"
+#include "data/name_markers.h"
 #include "lists/editing.h"
-#include "lists/frmEditCmbBoxes.h"
-#include "lists/name_list.h"
 #include "platform/forms/look.h"
 #include "platform/values/text.h"
 #include "shared/conventions.h"
-
-using forms::screen;
+#include "shared/option_menu.h"
+#include "shared/ways.h"
 
 frmAddField::frmAddField()
-    : forms::Form("frmAddField")
+    : NumberedScreen("frmAddField", 11)
 {
     look();
 }
 
 void frmAddField::Form_Activate()
 {
-    frmStartup::CurrentScreen = 11;
-    const QString menuHeading = screen<frmEditCmbBoxes>().lblHead.caption();
+    CurrentScreen = Number;
+    const QString menuHeading = ways::frmEditCmbBoxes().lblHead.caption();
     if (const editing::List* list = editing::listWith(editing::MenuHeading, menuHeading))
         HelpNumber = list->addHelp;
     load_Help();
@@ -42,7 +39,7 @@ void frmAddField::cmdUpdate_Click()
         return;
     }
     txtAdd.setBackColour(forms::look::colours().field);
-    const areas::Area& area = areas::ofName(screen<frmAddUpDel>().cmbArea.text());
+    const areas::Area& area = areas::ofName(ways::frmAddUpDel().cmbArea.text());
     const editing::List* list = editing::listWith(editing::AddHeading, lblHead.caption());
     if (!list || &list->area != &area)
         return;
@@ -62,7 +59,7 @@ void frmAddField::cmdCancel_Click()
             "   All Changes Will Be Lost...Continue?", forms::box::Question + forms::box::YesNo)) {
         clear_It();
         hide();
-        screen<frmAddUpDel>().show();
+        ways::frmAddUpDel().show();
     }
     reload_Combobox(); // after No as well
 }
@@ -75,7 +72,7 @@ void frmAddField::clear_It()
 
 void frmAddField::reload_Combobox()
 {
-    auto& asset = screen<frmAddUpDel>();
+    auto& asset = ways::frmAddUpDel();
     if (asset.ListInEdit == "Category")
         asset.cmbCat.setText(SavedCategory == names::CategoryMarker ? QString() : SavedCategory);
     else

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 namespace editing {
 struct List;
@@ -9,7 +10,7 @@ struct List;
 
 /// Adds a name to the list whose heading stands in lblHead. It is also the host of the names that go back into the
 /// asset screen when an editor closes.
-class frmAddField : public forms::Form {
+class frmAddField : public NumberedScreen {
 public:
     frmAddField();
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/frmDelField.h"
 
-#include "assets/frmAddUpDel.h"
-#include "frame/frmStartup.h"
+#include "data/name_markers.h"
 #include "lists/editing.h"
 #include "lists/frmAddField.h"
-#include "lists/name_list.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -17,14 +16,14 @@ constexpr int Question = forms::box::Question + forms::box::YesNo;
 } // namespace
 
 frmDelField::frmDelField()
-    : forms::Form("frmDelField")
+    : NumberedScreen("frmDelField", 16)
 {
     look();
 }
 
 void frmDelField::Form_Activate()
 {
-    frmStartup::CurrentScreen = 16;
+    CurrentScreen = Number;
     if (const editing::List* list = editing::listWith(editing::DeleteHeading, lblHead.caption()))
         HelpNumber = list->deleteHelp;
     load_Help();
@@ -43,7 +42,7 @@ void frmDelField::cmdUpdate_Click()
     const editing::List* list = editing::listWith(editing::DeleteHeading, lblHead.caption());
     if (!is_Confirmed(list)) // before all else, also of a name that is refused then
         return;
-    if (list && &list->area == &areas::ofName(screen<frmAddUpDel>().cmbArea.text())) {
+    if (list && &list->area == &areas::ofName(ways::frmAddUpDel().cmbArea.text())) {
         if (is_Refused(*list))
             return;
         blank_Name(*list);
@@ -141,7 +140,7 @@ void frmDelField::reload_Combo_Boxes()
 void frmDelField::return_To_Asset()
 {
     hide();
-    screen<frmAddUpDel>().show();
+    ways::frmAddUpDel().show();
 }
 
 void frmDelField::leave_To_Asset()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 namespace editing {
 struct List;
@@ -9,7 +10,7 @@ struct List;
 
 /// Deletes a name from the list whose heading stands in lblHead, unless the name came with the program or an asset
 /// carries it.
-class frmDelField : public forms::Form {
+class frmDelField : public NumberedScreen {
 public:
     frmDelField();
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/frmEditCmbBoxes.h"
 
-#include "assets/frmAddUpDel.h"
-#include "frame/frmStartup.h"
 #include "lists/editing.h"
 #include "lists/frmAddField.h"
 #include "lists/frmDelField.h"
@@ -11,6 +9,7 @@
 #include "platform/values/integer.h"
 #include "platform/values/text.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -18,7 +17,7 @@ namespace {
 
 const areas::Area& areaOfAsset()
 {
-    return areas::ofNameUpper(screen<frmAddUpDel>().cmbArea.text());
+    return areas::ofNameUpper(ways::frmAddUpDel().cmbArea.text());
 }
 
 // The end of the list reads as empty and is looked at too.
@@ -34,7 +33,7 @@ bool holds(const forms::ComboBox& box, const QString& name)
 
 void frmEditCmbBoxes::Form_Activate()
 {
-    frmStartup::CurrentScreen = 12;
+    CurrentScreen = Number;
 }
 
 void frmEditCmbBoxes::Form_Unload(bool& cancel)
@@ -60,7 +59,7 @@ void frmEditCmbBoxes::cmdCancel_Click()
 {
     LocationIsNew = CategoryIsNew = ItemIsNew = true;
     editing::boxOf(editing::kindWith(editing::MenuHeading, lblHead.caption())).setText({});
-    screen<frmAddUpDel>().show();
+    ways::frmAddUpDel().show();
     add_Again();
     hide();
     screen<frmAddField>().reload_Combobox();
@@ -129,7 +128,7 @@ const editing::Kind& frmEditCmbBoxes::kind_In_Heading() const
 // it reads as, and a name that is no number ends the program.
 void frmEditCmbBoxes::add_Again()
 {
-    auto& asset = screen<frmAddUpDel>();
+    auto& asset = ways::frmAddUpDel();
     const QString name = screen<frmAddField>().txtAdd.text();
     if (values::equalUpper(asset.ListInEdit, "Location")) {
         LocationIsNew = name.isEmpty() || !holds(asset.cmbLoc, name);

@@ -2,7 +2,7 @@
 #include "lists/frmEditCmbBoxes.h"
 
 frmEditCmbBoxes::frmEditCmbBoxes()
-    : OptionMenu("frmEditCmbBoxes",
+    : OptionMenu("frmEditCmbBoxes", 12,
         {"Add/Edit Location",
             {
                 {"&Add", " Select This Option To Add An Item To List, Then Select Continue "},

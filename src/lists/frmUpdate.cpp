@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/frmUpdate.h"
 
-#include "assets/frmAddUpDel.h"
-#include "frame/frmStartup.h"
+#include "data/name_markers.h"
 #include "lists/editing.h"
 #include "lists/frmAddField.h"
 #include "lists/name_list.h"
 #include "platform/values/text.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -23,14 +23,14 @@ bool isNameIn(const editing::List& list, const QString& name, int standard)
 } // namespace
 
 frmUpdate::frmUpdate()
-    : forms::Form("frmUpdate")
+    : NumberedScreen("frmUpdate", 14)
 {
     look();
 }
 
 void frmUpdate::Form_Activate()
 {
-    frmStartup::CurrentScreen = 14;
+    CurrentScreen = Number;
     if (const editing::List* list = editing::listWith(editing::ChangeHeading, lblHead4.caption()))
         HelpNumber = list->changeHelp;
     load_Help();
@@ -62,7 +62,7 @@ void frmUpdate::cmdUpdate_Click()
     screen<frmAddField>().SavedCategory = txtNew.text(); // a location's new name too, on purpose
     reload_Combo_Boxes();
     hide();
-    screen<frmAddUpDel>().show();
+    ways::frmAddUpDel().show();
 }
 
 void frmUpdate::cmdCancel_Click()
@@ -141,7 +141,7 @@ void frmUpdate::add_New_Name(const editing::List& list)
 void frmUpdate::change_Assets(const editing::List& list)
 {
     storage::TableView& assets = Data1.rsInventory;
-    const QString area = screen<frmAddUpDel>().cmbArea.text();
+    const QString area = ways::frmAddUpDel().cmbArea.text();
     const QString current = cmbCat.text();
     for (rewind(assets); !assets.atEOF(); assets.MoveNext()) {
         if (assets.Fields(list.kind.assetColumn) != current || assets.Fields(Inventory::Area) != area)
@@ -158,7 +158,7 @@ void frmUpdate::reload_Combo_Boxes()
         editing::refillBox(*list);
     else
         reload_Items();
-    auto& asset = screen<frmAddUpDel>();
+    auto& asset = ways::frmAddUpDel();
     (asset.ListInEdit == "Location" ? asset.cmbLoc : asset.cmbCat).setText(txtNew.text());
 }
 
@@ -178,5 +178,5 @@ void frmUpdate::leave_To_Asset()
 {
     screen<frmAddField>().reload_Combobox();
     hide();
-    screen<frmAddUpDel>().show();
+    ways::frmAddUpDel().show();
 }

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 namespace editing {
 struct List;
 }
 
 /// Changes a name of the list whose heading stands in lblHead4, and the assets of the area that carry it.
-class frmUpdate : public forms::Form {
+class frmUpdate : public NumberedScreen {
 public:
     frmUpdate();
 

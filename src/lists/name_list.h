@@ -4,19 +4,6 @@
 #include "data/data_store.h"
 #include "platform/forms/combo_box.h"
 
-/// How the three name tables become the lists that the user picks from.
-namespace names {
-
-/// The cell of a row that holds no name in a column.
-inline const QString Blank = QStringLiteral("0");
-
-/// The names that lead to the list editors, except that no editor has items. They stand in the tables among the others.
-inline const QString LocationMarker = QStringLiteral("< Add/Edit Location >");
-inline const QString CategoryMarker = QStringLiteral("< Add/Edit Category >");
-inline const QString ItemMarker = QStringLiteral("< Add/Edit Item >");
-
-} // namespace names
-
 /// Adds the names of a column that the list doesn't hold yet, each once, without regard to case, in the spelling of the
 /// first row that has it. The list isn't emptied; the table stands behind its last row afterwards.
 void fill_Name_List(forms::ComboBox& list, storage::TableView& table, Names::Column column);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/new_names.h"
 
-#include "lists/name_list.h"
+#include "data/name_markers.h"
 #include "platform/values/text.h"
 
 NewNames::NewNames(const forms::ComboBox& list)

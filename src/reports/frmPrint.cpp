@@ -2,13 +2,12 @@
 #include "reports/frmPrint.h"
 
 #include "data/data_store.h"
-#include "frame/frmMain.h"
-#include "frame/frmStartup.h"
 #include "platform/values/text.h"
 #include "reports/data_report.h"
 #include "reports/reports.h"
 #include "search/frmSearch.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -23,14 +22,14 @@ void tell_Printing_Error()
 } // namespace
 
 frmPrint::frmPrint()
-    : forms::Form("frmPrint")
+    : PrintMenu("frmPrint", 3)
 {
     look();
 }
 
 void frmPrint::Form_Activate()
 {
-    frmStartup::CurrentScreen = 3;
+    CurrentScreen = Number;
 }
 
 void frmPrint::Form_Unload(bool& cancel)
@@ -104,7 +103,7 @@ void frmPrint::cmdCustom_Click()
 {
     if (reports::report_Guard())
         return;
-    screen<frmMain>().FromMenu = false;
+    ways::frmMain().FromMenu = false;
     CustomPrint = true;
     hide_Print_Progress();
     auto& search = screen<frmSearch>();
@@ -130,7 +129,7 @@ void frmPrint::cmdBack_Click()
 {
     CustomPrint = false;
     hide_Print_Progress();
-    screen<frmMain>().show();
+    ways::frmMain().show();
     hide();
 }
 

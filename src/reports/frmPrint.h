@@ -2,9 +2,10 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/ways.h"
 
 /// The menu of the printed reports, and the staging of what they print.
-class frmPrint : public forms::Form {
+class frmPrint : public PrintMenu {
 public:
     frmPrint();
 
@@ -20,11 +21,7 @@ public:
     forms::Label lblSelIn{*this, "lblSelIn"};
     forms::Label lblCopyright{*this, "lblCopyright"};
 
-    /// The search screen was entered for a custom printout; during a report run, a row was staged.
-    bool CustomPrint = false;
-
-    /// Empties the staging table and raises the progress display of the search screen.
-    void clear_Print_Database();
+    void clear_Print_Database() override;
 
     /// Takes the progress display away.
     void hide_Print_Progress();

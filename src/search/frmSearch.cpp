@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/frmSearch.h"
 
-#include "assets/frmAuto.h"
-#include "frame/frmMain.h"
-#include "frame/frmStartup.h"
+#include "data/name_markers.h"
 #include "lists/name_list.h"
 #include "lists/new_names.h"
 #include "platform/values/text.h"
-#include "reports/frmPrint.h"
 #include "search/frmSearchResults.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 using forms::screen;
 
@@ -58,14 +56,14 @@ void addAny(forms::ComboBox& list, int bound)
 } // namespace
 
 frmSearch::frmSearch()
-    : forms::Form("frmSearch")
+    : SearchFields("frmSearch", 4)
 {
     look();
 }
 
 void frmSearch::Form_Activate()
 {
-    frmStartup::CurrentScreen = 4;
+    CurrentScreen = Number;
 }
 
 void frmSearch::Form_Unload(bool& cancel)
@@ -142,12 +140,12 @@ void frmSearch::cmdBack_Click()
 {
     cmdContinue.setFocus();
     hide();
-    if (screen<frmMain>().FromMenu)
-        screen<frmMain>().show();
-    else if (screen<frmPrint>().CustomPrint)
-        screen<frmPrint>().show();
+    if (ways::frmMain().FromMenu)
+        ways::frmMain().show();
+    else if (ways::frmPrint().CustomPrint)
+        ways::frmPrint().show();
     else
-        screen<frmAuto>().show();
+        ways::frmAuto().show();
 }
 
 // ---- the cascade
@@ -221,18 +219,4 @@ void frmSearch::fill_Item_List()
     }
     // As far as the list of categories goes, on purpose: an "Any" further down is not seen.
     addAny(cmbType, cmbCat.listCount());
-}
-
-// ---- progress
-
-void frmSearch::raise_Progress()
-{
-    pbSearch.setVisible(true);
-    lblHead[3].setVisible(false);
-}
-
-void frmSearch::hide_Progress()
-{
-    pbSearch.setVisible(false);
-    lblHead[3].setVisible(true);
 }

@@ -3,24 +3,14 @@
 
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
+#include "search/search_fields.h"
 
 /// The screen from which assets are searched: by a word, and by four lists that narrow each other. Who shows it
 /// prepares it; hidden, it keeps what was typed and picked.
-class frmSearch : public forms::Form {
+class frmSearch : public SearchFields {
 public:
     frmSearch();
 
-    forms::ControlArray<forms::Label, 5> lblHead{*this, "lblHead"}; ///< heading, lists, word, what to do, "And / Or"
-    forms::TextBox txtKey{*this, "txtKey"};
-    forms::Label lblArea{*this, "lblArea", "Area"};
-    forms::ComboBox cmbArea{*this, "cmbArea", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-    forms::Label lblLocation{*this, "lblLocation", "Location"};
-    forms::ComboBox cmbLocation{*this, "cmbLocation", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-    forms::Label lblCat{*this, "lblCat", "Category"};
-    forms::ComboBox cmbCat{*this, "cmbCat", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-    forms::Label lblType{*this, "lblType", "Item"};
-    forms::ComboBox cmbType{*this, "cmbType", forms::ComboStyle::Editable, forms::ItemOrder::Sorted};
-    forms::ProgressBar pbSearch{*this, "pbSearch"};
     forms::CommandButton cmdBack{*this, "cmdBack"};
     forms::CommandButton cmdClearForm{*this, "cmdClearForm"};
     forms::CommandButton cmdContinue{*this, "cmdContinue"};
@@ -31,10 +21,6 @@ public:
 
     /// Sets the lists back to "Any": all four, or from ClearLevel on.
     void clear_listboxes();
-
-    /// Puts the progress bar in the place of the line that tells what to do, and takes it away again.
-    void raise_Progress();
-    void hide_Progress();
 
 private:
     struct AreaWalk;

@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/frmSearchResults.h"
 
-#include "assets/frmAddUpDel.h"
-#include "frame/frmMain.h"
-#include "frame/frmProgress.h"
-#include "frame/frmStartup.h"
 #include "platform/forms/behaviours.h"
-#include "reports/frmPrint.h"
-#include "reports/reports.h"
-#include "search/frmSearch.h"
+#include "search/search_fields.h"
 #include "shared/conventions.h"
+#include "shared/ways.h"
 
 #include <algorithm>
 #include <exception>
 #include <optional>
-
-using forms::screen;
 
 namespace {
 
@@ -54,15 +47,15 @@ void handOver(bool hadFocus, const forms::CommandButton& pressed, forms::Command
 } // namespace
 
 frmSearchResults::frmSearchResults()
-    : forms::Form("frmSearchResults")
-    , rule_(screen<frmSearch>())
+    : NumberedScreen("frmSearchResults", 5)
+    , rule_(ways::frmSearch())
 {
     look();
 }
 
 void frmSearchResults::Form_Activate()
 {
-    frmStartup::CurrentScreen = 5;
+    CurrentScreen = Number;
 }
 
 void frmSearchResults::Form_Unload(bool& cancel)
@@ -104,7 +97,7 @@ void frmSearchResults::cmdPrevious_Click()
 void frmSearchResults::cmdBack_Click()
 {
     clear_Result_Rows();
-    auto& search = screen<frmSearch>();
+    auto& search = ways::frmSearch();
     search.show();
     search.txtKey.setText({});
     search.pbSearch.setValue(0);
@@ -113,10 +106,10 @@ void frmSearchResults::cmdBack_Click()
 
 void frmSearchResults::cmdPrint_Click()
 {
-    if (reports::report_Guard())
+    if (ways::report_Guard())
         return;
     try {
-        reports::show_AssetReport();
+        ways::show_AssetReport();
     } catch (const std::exception&) {
         conventions::MsgBox(
             "Error Printing Report...Please Ensure Printer Is Turned On And Working Properly!", forms::box::Stop);
@@ -126,7 +119,7 @@ void frmSearchResults::cmdPrint_Click()
 void frmSearchResults::cmdMain_Click()
 {
     clear_Result_Rows();
-    screen<frmMain>().show();
+    ways::frmMain().show();
     hide();
 }
 
@@ -145,11 +138,10 @@ void frmSearchResults::lblSubHead_Click(int Index)
 void frmSearchResults::txtMore_Click(int Index)
 {
     SelectedAsset = txtIDNum[Index].text();
-    screen<frmMain>().FromResults = true;
-    auto& asset = screen<frmAddUpDel>();
+    ways::frmMain().FromResults = true;
+    auto& asset = ways::frmAddUpDel();
     asset.AssetKey = values::Integer::fromText(SelectedAsset);
-    asset.cmdUpdate.setDefault(true);
-    asset.cmdAdd.setDefault(false);
+    asset.default_To_Update();
     asset.check_Form_Type();
     hide();
 }
@@ -288,7 +280,7 @@ void frmSearchResults::tell_Result()
 
 void frmSearchResults::load_From_Search_Screen()
 {
-    auto& search = screen<frmSearch>();
+    auto& search = ways::frmSearch();
     std::optional<forms::WaitPointer> hourglass;
     if (FromSearchScreen && rule_.finds_All()) {
         if (!conventions::confirmed(
@@ -320,8 +312,8 @@ void frmSearchResults::Get_Records_For_Print()
     ColumnIndex = 0;
     KeyHit = false;
     AnyShown = false;
-    auto& search = screen<frmSearch>();
-    screen<frmPrint>().clear_Print_Database();
+    auto& search = ways::frmSearch();
+    ways::frmPrint().clear_Print_Database();
     search.pbSearch.setValue(0);
     if (Data1.rsInventory.RecordCount() != 0) {
         search.pbSearch.setMax(Data1.rsInventory.RecordCount());
@@ -345,7 +337,7 @@ void frmSearchResults::sort_Inventory()
 void frmSearchResults::stage_Matches()
 {
     storage::TableView& assets = Data1.rsInventory;
-    forms::ProgressBar& progress = screen<frmSearch>().pbSearch;
+    forms::ProgressBar& progress = ways::frmSearch().pbSearch;
     for (; !assets.atEOF(); assets.MoveNext()) {
         progress.setValue(progress.value() + 1);
         KeyHit = false;
@@ -385,13 +377,13 @@ void frmSearchResults::show_First_Page()
         tell_Nothing_Found();
     }
     if (FromSearchScreen)
-        screen<frmSearch>().hide_Progress();
+        ways::frmSearch().hide_Progress();
 }
 
 void frmSearchResults::count_Matches()
 {
     storage::TableView& staged = Data1.rsPrint;
-    forms::ProgressBar& progress = screen<frmSearch>().pbSearch;
+    forms::ProgressBar& progress = ways::frmSearch().pbSearch;
     if (FromSearchScreen)
         progress.setValue(0);
     if (staged.RecordCount() == 0)
@@ -428,8 +420,8 @@ void frmSearchResults::fill_First_Page()
 
 void frmSearchResults::tell_Nothing_Found()
 {
-    auto& search = screen<frmSearch>();
-    conventions::hideIfMade<frmProgress>(); // whose showing would close the program
+    auto& search = ways::frmSearch();
+    ways::hide_frmProgress(); // whose showing would close the program
     forms::MsgBox("No Assets Were Found Based On The Information You Entered!", forms::box::Exclamation,
         " Inventory Search Results");
     search.show();

@@ -4,10 +4,11 @@
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
 #include "search/match_rule.h"
+#include "shared/numbered_screen.h"
 
 /// The pager of search results: ten rows of the staging table at a time. A row opens its asset in the asset screen, a
 /// header sorts, a button prints all results.
-class frmSearchResults : public forms::Form {
+class frmSearchResults : public NumberedScreen {
 public:
     static constexpr int Rows = 10;
     using ResultColumn = forms::ControlArray<forms::TextBox, Rows>;

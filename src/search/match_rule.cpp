@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/match_rule.h"
 
-#include "search/frmSearch.h"
+#include "search/search_fields.h"
 
 #include <algorithm>
 
@@ -19,7 +19,7 @@ bool isAny(const storage::FoldedText& name)
 
 } // namespace
 
-MatchRule::MatchRule(const frmSearch& search)
+MatchRule::MatchRule(const SearchFields& search)
     : names_{{
         {search.cmbArea, Inventory::Area},
         {search.cmbLocation, Inventory::Location},

@@ -6,13 +6,13 @@
 
 #include <array>
 
-class frmSearch;
+class SearchFields;
 
 /// Decides whether an asset, or its copy in the staging table, is what the search screen asks for. The screen is read
 /// afresh at each test.
 class MatchRule {
 public:
-    explicit MatchRule(const frmSearch& search);
+    explicit MatchRule(const SearchFields& search);
 
     /// True where area, location, category and item of the current row are those asked for, or "Any" is asked for.
     /// Whole values are compared, without regard to case.

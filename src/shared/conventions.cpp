@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shared/conventions.h"
 
-#include "frame/frmProgress.h"
 #include "platform/forms/look.h"
 
 namespace conventions {
@@ -14,16 +13,6 @@ forms::Answer MsgBox(const QString& text, int flags)
 bool confirmed(const QString& question, int flags)
 {
     return MsgBox(question, flags) == forms::Answer::Yes;
-}
-
-void confirm_Close(forms::Form& form, const std::function<void()>& saveFirst)
-{
-    if (!confirmed("Are You Sure You Want To Close Kestrill?", forms::box::Question + forms::box::YesNo))
-        return;
-    if (saveFirst)
-        saveFirst();
-    forms::screen<frmProgress>().show();
-    form.hide();
 }
 
 QString orNone(const QString& text)

@@ -25,14 +25,6 @@ bool confirmed(const QString& question, int flags);
 /// frmProgress, which runs the closing sequence, and hides the screen. The screen itself always stays loaded.
 void confirm_Close(forms::Form& form, const std::function<void()>& saveFirst = {});
 
-/// Hides a screen, which need not be made for it.
-template <class Screen>
-void hideIfMade()
-{
-    if (forms::Form* made = forms::detail::findScreen(typeid(Screen)))
-        made->hide();
-}
-
 /// What an entry left empty is stored as.
 inline const QString None = QStringLiteral("None");
 

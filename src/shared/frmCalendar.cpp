@@ -1,86 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shared/frmCalendar.h"
 
-#include "accounts/frmBank.h"
-#include "assets/frmAddUpDel.h"
-#include "assets/frmWar.h"
-#include "frame/frmStartup.h"
-#include "household/frmInsInfo.h"
 #include "shared/conventions.h"
 
-#include <algorithm>
-
-using forms::screen;
+#include <QScopedValueRollback>
 
 namespace {
 
 constexpr int YesNoQuestion = forms::box::Question + forms::box::YesNo;
-
-// "7/4/2006"
-QString dateText(const forms::MonthCalendar& date)
-{
-    return QStringLiteral("%1/%2/%3").arg(date.Month()).arg(date.Day()).arg(date.Year());
-}
-
-// A caller: what it disabled before it showed the calendar, and where its date goes.
-struct Target {
-    int number;
-    int callerScreen;
-    void (*giveBack)();
-    void (*deliver)(const forms::MonthCalendar& date);
-};
-
-// The month goes first, for it refills the list of days. A number that no month has writes nothing.
-void deliverPieces(
-    const forms::MonthCalendar& date, forms::ComboBox& month, forms::ComboBox& day, forms::ComboBox& year)
-{
-    if (date.Month() >= 1 && date.Month() <= frmCalendar::MonthNames.size())
-        month.setText(frmCalendar::MonthNames[date.Month() - 1]);
-    day.setText(QString::number(date.Day()));
-    year.setText(QString::number(date.Year()));
-}
-
-void giveWarrantyBack()
-{
-    screen<frmWar>().cmdCancel.setEnabled(true);
-    screen<frmWar>().cmdSave.setEnabled(true);
-}
-
-void giveAccountBack()
-{
-    auto& account = screen<frmBank>();
-    account.FreshEntry = false;
-    account.setEnabled(true);
-    account.cmdBack.setEnabled(true);
-    account.cmdState.setEnabled(true);
-}
-
-const Target targets[] = {
-    {frmWar::PartsDate, 9, giveWarrantyBack,
-        [](const forms::MonthCalendar& date) {
-            auto& warranty = screen<frmWar>();
-            deliverPieces(date, warranty.cmbPMonth, warranty.cmbPDay, warranty.cmbPYear);
-        }},
-    {frmWar::LaborDate, 9, giveWarrantyBack,
-        [](const forms::MonthCalendar& date) {
-            auto& warranty = screen<frmWar>();
-            deliverPieces(date, warranty.cmbLMonth, warranty.cmbLDay, warranty.cmbLYear);
-        }},
-    {3, 10, [] { screen<frmAddUpDel>().setEnabled(true); },
-        [](const forms::MonthCalendar& date) { screen<frmAddUpDel>().txtPur.setText(dateText(date)); }},
-    {4, 8, [] { screen<frmInsInfo>().setEnabled(true); },
-        [](const forms::MonthCalendar& date) { screen<frmInsInfo>().txtPolicyExpire.setText(dateText(date)); }},
-    {5, 7, giveAccountBack,
-        [](const forms::MonthCalendar& date) { screen<frmBank>().txtDate.setText(dateText(date)); }},
-};
-
-// Null for a number that no caller has.
-const Target* targetOf(int number)
-{
-    const auto found = std::find_if(
-        std::begin(targets), std::end(targets), [number](const Target& target) { return target.number == number; });
-    return found == std::end(targets) ? nullptr : found;
-}
 
 } // namespace
 
@@ -92,7 +19,7 @@ frmCalendar::frmCalendar()
 
 void frmCalendar::Form_Activate()
 {
-    frmStartup::CurrentScreen = 19;
+    CurrentScreen = 19;
 }
 
 void frmCalendar::Form_KeyPress(int& keyAscii)
@@ -106,22 +33,39 @@ void frmCalendar::Form_Unload(bool& cancel)
     close_Calendar(forms::key::Escape);
 }
 
-void frmCalendar::show_For(forms::Form& caller, int target, const QString& shown)
+void frmCalendar::show_For(const DateCaller& caller)
 {
-    DateTarget = target;
+    const QScopedValueRollback<const DateCaller*> asking(Caller, &caller);
+    DateTarget = caller.DateTarget;
+    show_Modal(caller.screen);
+}
+
+void frmCalendar::show_For(const DateCaller& caller, const QString& shown)
+{
     calDate.setValue(values::Date::tryParse(shown).value_or(values::Today()));
-    show_Modal(caller);
+    show_For(caller);
+}
+
+QString frmCalendar::date_Text(const forms::MonthCalendar& date)
+{
+    return QStringLiteral("%1/%2/%3").arg(date.Month()).arg(date.Day()).arg(date.Year());
+}
+
+// The caller whose date this is, or none.
+const DateCaller* frmCalendar::target() const
+{
+    return Caller && Caller->DateTarget == DateTarget ? Caller : nullptr;
 }
 
 void frmCalendar::copy_Date_Out()
 {
     hide();
-    const Target* target = targetOf(DateTarget);
-    if (!target)
+    const DateCaller* caller = target();
+    if (!caller)
         return;
-    frmStartup::CurrentScreen = target->callerScreen;
-    target->giveBack();
-    target->deliver(calDate);
+    CurrentScreen = caller->screen.Number;
+    caller->give_Back();
+    caller->take_Date(calDate);
 }
 
 // Every key but Enter leaves without a date, though the label speaks of the space bar.
@@ -134,8 +78,8 @@ void frmCalendar::close_Calendar(int KeyAscii)
     else if (!conventions::confirmed("Are You Sure You Want To Close The Calendar?", YesNoQuestion))
         return;
     hide();
-    if (const Target* target = targetOf(DateTarget))
-        target->giveBack();
+    if (const DateCaller* caller = target())
+        caller->give_Back();
 }
 
 // Offers today where the date is incomplete; false where the user declines.

@@ -3,12 +3,23 @@
 
 #include "platform/forms/forms.h"
 #include "platform/values/integer.h"
+#include "shared/numbered_screen.h"
 
 #include <QStringList>
 
-/// The one way in which a date gets into a date field. A caller disables what must not be used meanwhile, sets
-/// DateTarget and the date of calDate, and shows this screen with show_Modal; the calendar delivers the date and
-/// enables again what was disabled.
+#include <functional>
+
+/// Who asks for a date.
+struct DateCaller {
+    NumberedScreen& screen;
+    int DateTarget;
+    std::function<void()> give_Back; ///< enables again what the caller has disabled
+    std::function<void(const forms::MonthCalendar& date)> take_Date;
+};
+
+/// The one way in which a date gets into a date field. A caller disables what must not be used meanwhile, says
+/// what is done with a date and how all is given back, and shows this screen; the calendar delivers the date and gives
+/// back what was disabled.
 class frmCalendar : public forms::Form {
 public:
     frmCalendar();
@@ -23,9 +34,14 @@ public:
     /// Which caller the next picked date belongs to.
     values::Integer DateTarget;
 
-    /// Shows the calendar in front of `caller`, for the date of `target`, on the date that a field shows: today, where
-    /// its text is no date.
-    void show_For(forms::Form& caller, int target, const QString& shown);
+    /// Shows the calendar in front of the caller, on the date of calDate.
+    void show_For(const DateCaller& caller);
+
+    /// The same on the date that a field shows: today, where its text is no date.
+    void show_For(const DateCaller& caller, const QString& shown);
+
+    /// "7/4/2006"
+    static QString date_Text(const forms::MonthCalendar& date);
 
 private:
     void look();
@@ -35,4 +51,7 @@ private:
     void copy_Date_Out();
     void close_Calendar(int KeyAscii);
     bool has_Date();
+    const DateCaller* target() const;
+
+    const DateCaller* Caller = nullptr; // while the calendar is shown
 };

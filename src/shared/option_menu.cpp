@@ -12,8 +12,8 @@ constexpr int Width = 50; // characters
 
 } // namespace
 
-OptionMenu::OptionMenu(const QString& name, const MenuLook& look)
-    : forms::Form(name)
+OptionMenu::OptionMenu(const QString& name, int number, const MenuLook& look)
+    : NumberedScreen(name, number)
 {
     setTitle(conventions::Title);
     lblHead.setCaption(look.heading);

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "platform/forms/forms.h"
+#include "shared/numbered_screen.h"
 
 /// What the menus have in common from which one goes on with an option: their controls and how they look.
-class OptionMenu : public forms::Form {
+class OptionMenu : public NumberedScreen {
 public:
     forms::Label lblHead{*this, "lblHead"};
     forms::Label lblHead2{*this, "lblHead2"};
@@ -29,7 +30,7 @@ protected:
         int helpNumber; ///< 0: it is given later
     };
 
-    OptionMenu(const QString& name, const MenuLook& look);
+    OptionMenu(const QString& name, int number, const MenuLook& look);
 
 private:
     void layOut();

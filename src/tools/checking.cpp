@@ -2,7 +2,7 @@
 #include "tools/checking.h"
 
 #include "data/data_store.h"
-#include "lists/name_list.h"
+#include "data/name_markers.h"
 #include "platform/values/date.h"
 #include "platform/values/text.h"
 

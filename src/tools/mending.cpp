@@ -3,8 +3,8 @@
 
 #include "data/data_store.h"
 #include "data/earlier_backups.h"
+#include "data/name_markers.h"
 #include "data/places.h"
-#include "lists/name_list.h"
 #include "platform/storage/file_lock.h"
 #include "platform/storage/statement.h"
 #include "platform/system/files.h"

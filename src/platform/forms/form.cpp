@@ -485,6 +485,14 @@ void discardScreen(Form& form)
 
 } // namespace detail
 
+std::vector<Form*> madeScreens()
+{
+    std::vector<Form*> made;
+    for (const Screen& screen : screens())
+        made.push_back(screen.form.get());
+    return made;
+}
+
 void destroyScreens()
 {
     const ToolkitCall call;

@@ -144,6 +144,9 @@ Screen& screen()
     return static_cast<Screen&>(detail::keepScreen(type, std::make_unique<Screen>()));
 }
 
+/// The screens that are made, the oldest first.
+std::vector<Form*> madeScreens();
+
 /// Destroys all screens, newest first. For tests, which start each time with none.
 void destroyScreens();
 
