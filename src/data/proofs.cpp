@@ -55,7 +55,7 @@ QString stateOf(const QString& path)
         const sys::Folder folder(file.path());
         const auto found = folder.look(file.fileName());
         const auto journal = folder.look(file.fileName() + QStringLiteral("-journal"));
-        if (!found || found->kind != sys::Folder::Kind::File || (journal && journal->size > 0))
+        if (!found || found->kind != sys::Kind::File || (journal && journal->size > 0))
             return {};
         return QStringLiteral("%1 %2 %3 %4")
             .arg(found->number)

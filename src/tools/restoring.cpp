@@ -282,7 +282,7 @@ void clear_Remains()
     const QString file = QFileInfo(places::databaseFile()).fileName();
     for (const QString& name : all.names()) {
         const auto found = all.look(name);
-        if (!earlier::isForPutAside(name) || !found || found->kind != sys::Folder::Kind::Folder)
+        if (!earlier::isForPutAside(name) || !found || found->kind != sys::Kind::Folder)
             continue;
         const sys::Folder folder = all.entered(name);
         for (const QString& begun : {file, QString(file + Journal), QString(file + OwnSuffix)})

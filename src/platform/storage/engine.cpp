@@ -3,14 +3,13 @@
 
 #include "platform/storage/sqlcipher.h"
 #include "platform/storage/statement.h"
+#include "platform/system/paths.h"
 #include "platform/values/failure.h"
 #include "platform/values/file_name.h"
 
 #include <QFileInfo>
 
 #include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <optional>
 #include <system_error>
 
@@ -39,8 +38,8 @@ QFileInfo fileAt(const QString& path)
     struct ::stat found { };
     if (::lstat(name.constData(), &found) != 0 || !S_ISLNK(found.st_mode))
         return QFileInfo(path);
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(name.constData(), nullptr), &std::free);
-    return QFileInfo(real ? values::textOfName(real.get()) : path);
+    const QString real = sys::realPath(path);
+    return QFileInfo(real.isEmpty() ? path : real);
 }
 
 int openFolder(const QString& path)

@@ -71,6 +71,11 @@ Handle openedFolderIn(const Handle& folder, const char* name)
     return Handle(::openat(folder.number(), name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
+Kind kindOf(mode_t mode)
+{
+    return S_ISREG(mode) ? Kind::File : S_ISDIR(mode) ? Kind::Folder : S_ISLNK(mode) ? Kind::Link : Kind::Other;
+}
+
 std::vector<Entry> entriesOf(const Handle& folder, const fs::path& path)
 {
     // Reading moves a place in the open folder, so it is opened once more.

@@ -3,6 +3,7 @@
 
 // Open files and folders; for the sources of this folder alone.
 
+#include "platform/system/kind.h"
 #include "platform/values/failure.h"
 
 #include <cerrno>
@@ -47,6 +48,9 @@ values::RuntimeFailure refused(const char* attempt, const std::filesystem::path&
 /// Opens a folder by its path, through links; and one in an open folder, never through a link.
 Handle openedFolder(const std::filesystem::path& path);
 Handle openedFolderIn(const Handle& folder, const char* name);
+
+/// What a mode tells of an entry.
+Kind kindOf(mode_t mode);
 
 /// An entry of a folder by its name, and what `lstat` tells of its kind.
 struct Entry {

@@ -57,14 +57,6 @@ bool hasNoLink(int reason)
     return reason == EXDEV || reason == EPERM || reason == ENOTSUP || reason == ENOSYS || reason == EMLINK;
 }
 
-Folder::Kind kindOf(mode_t mode)
-{
-    return S_ISREG(mode) ? Folder::Kind::File
-        : S_ISDIR(mode)  ? Folder::Kind::Folder
-        : S_ISLNK(mode)  ? Folder::Kind::Link
-                         : Folder::Kind::Other;
-}
-
 qint64 nanoseconds(const timespec& time)
 {
     return static_cast<qint64>(time.tv_sec) * NanosecondsOfASecond + time.tv_nsec;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/system/kind.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -18,8 +20,6 @@ class Handle;
 /// a `RuntimeFailure` of kind `File`, with path and reason; a step that fails has changed nothing, unless it says so.
 class Folder {
 public:
-    enum class Kind { File, Folder, Link, Other };
-
     /// What the system tells of an entry. Whoever changes a file changes one of these; times are nanoseconds.
     struct Status {
         Kind kind;

@@ -6,20 +6,6 @@
 
 namespace sys {
 
-#ifdef Q_OS_WIN
-
-QString dataFolder(const QString& below)
-{
-    return QStringLiteral("C:/Program Files/") + below;
-}
-
-QString backupFolder(const QString& below)
-{
-    return QStringLiteral("C:/") + below;
-}
-
-#else
-
 // ~/.local/share on Linux, ~/Library/Application Support on macOS. A relative XDG_DATA_HOME counts as none: it would
 // lead to another place from each folder that the program is started in.
 QString dataFolder(const QString& below)
@@ -34,7 +20,5 @@ QString backupFolder(const QString& below)
 {
     return QDir::home().absoluteFilePath(below);
 }
-
-#endif
 
 } // namespace sys

@@ -12,17 +12,6 @@
 
 namespace sys {
 
-namespace {
-
-Kind kindOf(mode_t mode)
-{
-    if (S_ISREG(mode))
-        return Kind::File;
-    return S_ISDIR(mode) ? Kind::Folder : Kind::Other;
-}
-
-} // namespace
-
 Kind kindOf(const QString& path)
 {
     const QByteArray name = values::bytesOfName(path);

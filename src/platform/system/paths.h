@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/system/kind.h"
+
 #include <QString>
 
 namespace sys {
@@ -8,14 +10,7 @@ namespace sys {
 // Names go to the system byte for byte, also those that are no UTF-8: the texts here are those of `values::textOfName`,
 // which the toolkit's own file classes don't know.
 
-enum class Kind {
-    Nothing,
-    File, ///< a regular one
-    Folder,
-    Other, ///< a pipe, a device, a socket, a link that leads nowhere
-};
-
-/// What lies there, behind links. Looking opens nothing.
+/// What lies there, behind links; a link that leads nowhere is `Other`. Looking opens nothing.
 Kind kindOf(const QString& path);
 
 /// Whether this user may read what lies there.
