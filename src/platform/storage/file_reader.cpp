@@ -60,7 +60,7 @@ Snapshot FileReader::rows(const TableDefinition& table)
     Statement select(handle_.get(), sql::selectRows(table));
     while (select.step()) {
         for (std::size_t i = 0; i < cells.size(); ++i)
-            cells[i] = texts_->load(select.text(static_cast<int>(i) + 1));
+            cells[i] = texts_->intern(select.text(static_cast<int>(i) + 1));
         rows.append(select.number(0), cells);
     }
     return {texts_, table, rows};

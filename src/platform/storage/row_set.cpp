@@ -5,15 +5,9 @@
 
 namespace storage {
 
-TextId* RowSet::cellsAt(int row) const
-{
-    const auto place = static_cast<std::size_t>(row);
-    return cells_[place / blockSize] + place % blockSize * columns_;
-}
-
 void RowSet::assign(int row, std::span<const TextId> cells)
 {
-    std::ranges::copy(cells, cellsAt(row));
+    std::ranges::copy(cells, &cells_[cellAt(row)]);
 }
 
 int RowSet::place()
@@ -23,11 +17,8 @@ int RowSet::place()
         free_.pop_back();
         return row;
     }
-    if (rows_.size() % blockSize == 0) {
-        std::byte* block = memory_.take(blockSize * columns_ * sizeof(TextId), alignof(TextId));
-        cells_.push_back(reinterpret_cast<TextId*>(block));
-    }
     rows_.emplace_back();
+    cells_.resize(rows_.size() * columns_);
     return static_cast<int>(rows_.size()) - 1;
 }
 

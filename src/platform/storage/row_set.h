@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/storage/arena.h"
 #include "platform/storage/text_pool.h"
 
 #include <span>
@@ -30,8 +29,8 @@ public:
     /// The number by which the file knows the row.
     qint64 rowId(int row) const { return at(row).id; }
 
-    TextId cell(int row, int column) const { return cellsAt(row)[column]; }
-    std::span<const TextId> cells(int row) const { return {cellsAt(row), columns_}; }
+    TextId cell(int row, int column) const { return cells_[cellAt(row) + static_cast<std::size_t>(column)]; }
+    std::span<const TextId> cells(int row) const { return {&cells_[cellAt(row)], columns_}; }
 
     int append(qint64 rowId, std::span<const TextId> cells);
     void assign(int row, std::span<const TextId> cells);
@@ -52,22 +51,20 @@ public:
     void clear();
 
 private:
-    static constexpr std::size_t blockSize = 256;
     struct Row {
         qint64 id;
         int previous;
         int next;
     };
 
+    std::size_t cellAt(int row) const { return static_cast<std::size_t>(row) * columns_; }
     const Row& at(int row) const { return rows_[static_cast<std::size_t>(row)]; }
     Row& at(int row) { return rows_[static_cast<std::size_t>(row)]; }
-    TextId* cellsAt(int row) const;
     int place();
 
     std::size_t columns_;
     std::vector<Row> rows_;
-    Arena memory_;
-    std::vector<TextId*> cells_; // in blocks
+    std::vector<TextId> cells_;
     std::vector<int> free_;
     int first_ = none;
     int last_ = none;

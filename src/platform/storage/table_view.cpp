@@ -82,7 +82,7 @@ void TableView::load()
             const std::string_view text = select.text(static_cast<int>(i) + 1);
             // Neighbouring rows often hold the same.
             if (text != texts().utf8(cells[i]))
-                cells[i] = texts().load(text);
+                cells[i] = texts().intern(text);
         }
         lastRowId_ = select.number(0);
         rows_.append(lastRowId_, cells);
