@@ -9,9 +9,6 @@
 /// there.
 namespace editing {
 
-/// How wide the menu and its editors are, in characters: the same, whichever list it is.
-inline constexpr int ScreenWidth = 50;
-
 /// A kind of names, and where they stand.
 struct Kind {
     QString name;

@@ -29,7 +29,6 @@ public:
 
 private:
     void look();
-    void layOut();
     void Form_Activate() override;
     void Form_Unload(bool& cancel) override;
     void cmdUpdate_Click();
