@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/data_store.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 using storage::Column;
 using storage::ColumnType;
 using storage::TableDefinition;
@@ -81,22 +85,13 @@ constexpr Column nameColumns[] = {
     {"Standard", ColumnType::Integer},
 };
 
-constexpr Column printColumns[] = {
-    {"ID", ColumnType::Integer},
-    {"Area"},
-    {"Location"},
-    {"Category"},
-    {"Type"},
-    {"Year"},
-    {"Make"},
-    {"Model"},
-    {"Serial/ VIN / ID"},
-    {"Date Purchased"},
-    {"Amount", ColumnType::Money},
-    {"Receipt"},
-    {"Receipt Location"},
-    {"Description"},
-};
+// Those of an asset; the ID is a number that the asset has given.
+constexpr auto printColumns = [] {
+    std::array<Column, Print::Description + 1> columns{};
+    std::copy_n(std::begin(inventoryColumns), columns.size(), columns.begin());
+    columns[Print::ID].type = ColumnType::Integer;
+    return columns;
+}();
 
 constexpr Column bankColumns[] = {
     {"ID", ColumnType::Identity},
@@ -130,7 +125,6 @@ constexpr const TableDefinition* tables[] = {
 static_assert(std::size(generalColumns) == General::AssetValue + 1);
 static_assert(std::size(inventoryColumns) == Inventory::WarrantyDescription + 1);
 static_assert(std::size(nameColumns) == Names::Standard + 1);
-static_assert(std::size(printColumns) == Print::Description + 1);
 static_assert(std::size(bankColumns) == Bank::State + 1);
 
 } // namespace
@@ -152,6 +146,13 @@ void rewind(storage::TableView& view)
 {
     if (view.RecordCount() != 0)
         view.MoveFirst();
+}
+
+void stage_Asset()
+{
+    Data1.rsPrint.AddNew();
+    for (int column = Print::ID; column <= Print::Description; ++column)
+        Data1.rsPrint.Fields(column) = Data1.rsInventory.Fields(column);
 }
 
 QByteArray databaseKey()

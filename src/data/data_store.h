@@ -82,25 +82,11 @@ namespace Names {
 enum Column { Location, Category, Type, Standard };
 }
 
-/// The first columns of `Inventory`.
+/// The first columns of `Inventory`, up to `Description`.
 namespace Print {
-enum Column {
-    ID,
-    Area,
-    Location,
-    Category,
-    Type,
-    Year,
-    Make,
-    Model,
-    SerialVinId,
-    DatePurchased,
-    Amount,
-    Receipt,
-    ReceiptLocation,
-    Description,
-};
-}
+using Inventory::Column;
+using enum Inventory::Column;
+} // namespace Print
 
 namespace Bank {
 enum Column {
@@ -138,6 +124,9 @@ extern DataStore Data1;
 
 /// Stands on the first row of a view, if it has rows.
 void rewind(storage::TableView& view);
+
+/// Copies the current asset into a new row of the staging table, which is stored by Update or with the next row.
+void stage_Asset();
 
 /// The key of the database file.
 QByteArray databaseKey();

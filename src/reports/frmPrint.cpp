@@ -158,8 +158,6 @@ void frmPrint::print_Assets()
 // Copies the current asset; the row is stored when the next one is added.
 void frmPrint::stage_Asset()
 {
-    Data1.rsPrint.AddNew();
-    for (int column = Print::ID; column <= Print::Description; ++column)
-        Data1.rsPrint.Fields(column) = Data1.rsInventory.Fields(column);
+    ::stage_Asset();
     CustomPrint = true;
 }

@@ -152,79 +152,11 @@ void frmSearchResults::txtMore_KeyPress(int Index, int KeyAscii)
         txtMore_Click(Index);
 }
 
-// The rows are no stops of the Tab key: the cursor keys reach them, from wherever the focus is.
-void frmSearchResults::any_KeyDown(int& KeyCode)
-{
-    namespace key = forms::key;
-    switch (KeyCode) {
-    case key::Up:
-        step_Through_Rows(-1);
-        break;
-    case key::Down:
-        step_Through_Rows(1);
-        break;
-    case key::Left:
-    case key::Right:
-        if (!key::isWithControl())
-            return; // for the caret
-        sort_By_Neighbour(KeyCode == key::Left ? -1 : 1);
-        break;
-    case key::PageUp:
-        turn_Page(cmdPrevious);
-        break;
-    case key::PageDown:
-        turn_Page(cmdNext);
-        break;
-    default:
-        return;
-    }
-    KeyCode = key::Refused;
-}
-
-int frmSearchResults::rowInFocus() const
-{
-    for (int row = 0; row < Rows; ++row)
-        if (txtMore[row].hasFocus())
-            return row;
-    return -1;
-}
-
-void frmSearchResults::step_Through_Rows(int direction)
-{
-    int filled = 0;
-    while (filled < Rows && txtMore[filled].isEnabled())
-        ++filled;
-    const int row = rowInFocus();
-    const int next = row < 0 && direction < 0 ? filled - 1 : row + direction;
-    if (next >= 0 && next < filled)
-        txtMore[next].setFocus();
-}
-
 // The first header, as before any sort, where none is sorted by.
 int frmSearchResults::headerSortedBy() const
 {
     const auto* sorted = std::find(std::begin(sortOfHeader), std::end(sortOfHeader), SortColumn);
     return sorted == std::end(sortOfHeader) ? 0 : static_cast<int>(sorted - std::begin(sortOfHeader));
-}
-
-// By the column beside the one sorted by: a header is a label, which only the mouse reaches.
-void frmSearchResults::sort_By_Neighbour(int direction)
-{
-    const int header = headerSortedBy() + direction;
-    const int row = rowInFocus();
-    if (header > 0 && header < lblSubHead.count())
-        lblSubHead_Click(header);
-    if (row >= 0)
-        txtMore[row].setFocus();
-}
-
-// By key, the user stays in the row.
-void frmSearchResults::turn_Page(forms::CommandButton& button)
-{
-    const int row = rowInFocus();
-    button.press();
-    if (row >= 0)
-        txtMore[row].setFocus();
 }
 
 void frmSearchResults::clear_Result_Rows()
@@ -309,7 +241,6 @@ void frmSearchResults::begin_Load()
 void frmSearchResults::Get_Records_For_Print()
 {
     RowIndex = 0;
-    ColumnIndex = 0;
     KeyHit = false;
     AnyShown = false;
     auto& search = ways::frmSearch();
@@ -351,9 +282,7 @@ void frmSearchResults::stage_Matches()
 
 void frmSearchResults::copy_To_Print()
 {
-    Data1.rsPrint.AddNew();
-    for (ColumnIndex = 0; ColumnIndex <= Print::Description; ++ColumnIndex)
-        Data1.rsPrint.Fields(ColumnIndex) = Data1.rsInventory.Fields(ColumnIndex);
+    stage_Asset();
     Data1.rsPrint.Update();
 }
 
@@ -361,7 +290,7 @@ void frmSearchResults::copy_To_Print()
 
 void frmSearchResults::show_First_Page()
 {
-    RowIndex = ColumnIndex = CurrentPage = PageCount = MatchCount = 0;
+    RowIndex = CurrentPage = PageCount = MatchCount = 0;
     KeyHit = AnyShown = false;
     PageSize = Rows;
     count_Matches();

@@ -47,7 +47,6 @@ public:
     values::Integer PageSize;
     values::Integer CurrentPage; ///< counted from 1
     values::Integer MatchCount;
-    values::Integer ColumnIndex;
     QString SelectedAsset; ///< the ID of the opened asset, as text
 
     /// Searches by what the search screen shows, and fills the first page.
@@ -63,7 +62,8 @@ private:
     enum class Showing { WholeRow, WithoutDetails };
 
     void look();
-    void dressRows();
+    void lookOfHeaders();
+    void lookOfRows();
     void answer();
     void layOut();
     void Form_Activate() override;

@@ -100,12 +100,13 @@ void frmSearchResults::look()
         HelpNumber);
     cmdPrevious.setEnabled(false);
     cmdNext.setEnabled(false);
-    dressRows();
+    lookOfHeaders();
+    lookOfRows();
     answer();
     layOut();
 }
 
-void frmSearchResults::dressRows()
+void frmSearchResults::lookOfHeaders()
 {
     const struct {
         const char* caption;
@@ -130,6 +131,10 @@ void frmSearchResults::dressRows()
         lblSorted[header].setRole(forms::TextRole::Hint);
         lblSorted[header].setVisible(false);
     }
+}
+
+void frmSearchResults::lookOfRows()
+{
     for (int row = 0; row < Rows; ++row) {
         for (const ColumnLook& look : columnLooks) {
             forms::TextBox& box = (this->*look.boxes)[row];

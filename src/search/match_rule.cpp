@@ -5,9 +5,6 @@
 
 #include <algorithm>
 
-// What is searched stands under the same ordinals in both tables.
-static_assert(int(Print::Area) == int(Inventory::Area) && int(Print::Description) == int(Inventory::Description));
-
 namespace {
 
 constexpr int AllColumns = -1;
