@@ -3,12 +3,11 @@
 
 #include "platform/values/csv.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QString>
-#include <QUtf8StringView>
 
-#include <algorithm>
 #include <charconv>
-#include <iterator>
 #include <optional>
 
 using storage::Column;
@@ -50,36 +49,6 @@ std::string_view cellOf(const Snapshot& table, int row, int column, std::string&
     return room;
 }
 
-bool needsEscape(char byte)
-{
-    return byte == '"' || byte == '\\' || static_cast<unsigned char>(byte) < 0x20;
-}
-
-void appendEscaped(std::string& text, char byte)
-{
-    constexpr char digits[] = "0123456789abcdef";
-    if (byte == '"' || byte == '\\')
-        text.append(1, '\\').append(1, byte);
-    else
-        text.append("\\u00").append(1, digits[byte >> 4]).append(1, digits[byte & 15]);
-}
-
-void appendJson(std::string& json, std::string_view text)
-{
-    const QUtf8StringView bytes(text.data(), static_cast<qsizetype>(text.size()));
-    if (!bytes.isValidUtf8())
-        return appendJson(json, bytes.toString().toStdString());
-    json += '"';
-    auto from = text.begin();
-    for (auto to = std::find_if(from, text.end(), needsEscape); to != text.end();
-         to = std::find_if(from, text.end(), needsEscape)) {
-        json.append(from, to);
-        appendEscaped(json, *to);
-        from = std::next(to);
-    }
-    json.append(from, text.end()) += '"';
-}
-
 void appendJsonCell(std::string& json, const Snapshot& table, int row, int column, std::string& room)
 {
     const std::string_view cell = cellOf(table, row, column, room);
@@ -88,7 +57,7 @@ void appendJsonCell(std::string& json, const Snapshot& table, int row, int colum
     if (isNumber)
         json.append(cell);
     else
-        appendJson(json, cell);
+        json.append(jsonText(cell));
 }
 
 bool holdsNumbers(const Snapshot& table, int column)
@@ -156,13 +125,16 @@ std::string csvRow(const Snapshot& table, int row)
     return line;
 }
 
+// The toolkit writes whole documents, and no text alone.
 std::string jsonText(std::string_view text)
 {
-    std::string json;
-    appendJson(json, text);
-    return json;
+    const QJsonArray list{QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))};
+    const QByteArray json = QJsonDocument(list).toJson(QJsonDocument::Compact);
+    return json.sliced(1, json.size() - 2).toStdString();
 }
 
+// Put together here, for the toolkit's own objects have their keys in the order of the alphabet, and a file of all rows
+// takes it 134 MB and 2.4 s for 32,000 assets.
 std::string jsonRow(const Snapshot& table, int row)
 {
     std::string object = "{";
