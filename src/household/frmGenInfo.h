@@ -5,7 +5,7 @@
 #include "shared/address.h"
 #include "shared/numbered_screen.h"
 
-/// The personal information of the household, and the door to its insurance policy and its financial accounts. The
+/// The personal information of the household, and the way to its insurance policy and its financial accounts. The
 /// index of an entry is the ordinal of its column.
 class frmGenInfo : public NumberedScreen {
 public:

@@ -11,13 +11,6 @@ namespace {
 constexpr int LineLength = 74; // characters
 constexpr int RowsInSight = 10;
 
-void keepPlace(QWidget& widget)
-{
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
-
 } // namespace
 
 void frmRestore::look()
@@ -56,7 +49,7 @@ void frmRestore::layOut()
     lblTell.wrapAt(LineLength);
     lblState.wrapAt(LineLength);
     lblState.widget()->setMinimumHeight(forms::look::grid(4)); // two lines
-    keepPlace(*pbRestore.widget());
+    forms::look::keepPlace(pbRestore);
 
     auto* list = new QVBoxLayout;
     list->setSpacing(forms::look::grid(1) / 2);

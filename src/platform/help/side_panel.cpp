@@ -48,10 +48,16 @@ SidePanel::SidePanel(const Book& book, QWidget* parent)
     , contents_(new QTreeWidget(pages_))
     , found_(new QListWidget(pages_))
 {
+    look();
+    fill();
+    answer();
+    layOut();
+}
+
+void SidePanel::look()
+{
     parts::name(*sought_, "sought", "Search All Topics", "Search All Topics (Ctrl+K)");
     sought_->setClearButtonEnabled(true);
-    auto* caption = new QLabel(QStringLiteral("Search All &Topics:"), this);
-    caption->setBuddy(sought_);
     state_->setObjectName(QStringLiteral("searchState"));
     state_->setTextFormat(Qt::PlainText);
     state_->setWordWrap(true);
@@ -66,10 +72,10 @@ SidePanel::SidePanel(const Book& book, QWidget* parent)
     found_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     found_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // one that came would narrow hits that are measured
     found_->setWordWrap(true); // has them measured anew in another width
-    pages_->addWidget(contents_);
-    pages_->addWidget(found_);
-    fill();
+}
 
+void SidePanel::answer()
+{
     connect(sought_, &QLineEdit::textChanged, this, [this] { search(); });
     connect(sought_, &QLineEdit::returnPressed, this, [this] { openHit(0); });
     connect(found_, &QListWidget::itemClicked, this, [this] { openHit(found_->currentRow()); });
@@ -78,7 +84,14 @@ SidePanel::SidePanel(const Book& book, QWidget* parent)
     connect(contents_, &QTreeWidget::itemClicked, this, choose);
     connect(contents_, &QTreeWidget::itemActivated, this, choose);
     onKey(*sought_, Qt::Key_Down, [this] { pages_->currentWidget()->setFocus(); });
+}
 
+void SidePanel::layOut()
+{
+    auto* caption = new QLabel(QStringLiteral("Search All &Topics:"), this);
+    caption->setBuddy(sought_);
+    pages_->addWidget(contents_);
+    pages_->addWidget(found_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(parts::margins());
     for (QWidget* widget : std::initializer_list<QWidget*>{caption, sought_, state_})

@@ -33,7 +33,10 @@ public:
     void toContents();
 
 private:
+    void look();
     void fill();
+    void answer();
+    void layOut();
     void search();
     void openHit(int row);
 

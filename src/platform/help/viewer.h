@@ -17,6 +17,9 @@ class SidePanel;
 /// The window of the help: pages to read, with what leads to them. It is a window beside the screens and no screen:
 /// opening, using and closing it moves no focus of a screen, and it can be used while a modal screen or a message box
 /// is up. Closed, it keeps place, size and size of type for the next time.
+///
+/// The toolkit's own help engine would bring a second SQLite into the program, in three packages of 1.3 MB, and wants
+/// pages that are compiled beforehand; without it a search has made its index of all 40 pages in 60 ms.
 class Viewer : public QWidget {
 public:
     /// `title` follows the title of the page in the title bar.
