@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // main() of the benchmarks that work with screens.
-#include "platform/forms/runtime.h"
+#include "platform/forms/prepare.h"
+#include "shared/theme.h"
 
 #include <benchmark/benchmark.h>
 
@@ -19,7 +20,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(quietHandler);
     QApplication application(argc, argv);
-    forms::prepare(application);
+    forms::prepare(application, programTheme());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -5,6 +5,7 @@
 #include "sample_database.h"
 #include "search/frmSearch.h"
 #include "search/frmSearchResults.h"
+#include "shared/theme.h"
 
 #include <benchmark/benchmark.h>
 
@@ -194,7 +195,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(quietHandler);
     QApplication application(argc, argv);
-    forms::prepare(application);
+    forms::prepare(application, programTheme());
     forms::setMessageDoor([](const forms::Message& message) {
         return message.flags & forms::box::YesNo ? forms::Answer::Yes : forms::Answer::OK;
     });

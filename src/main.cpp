@@ -6,6 +6,7 @@
 #include "shared/conventions.h"
 #include "shared/manual.h"
 #include "shared/program_name.h"
+#include "shared/theme.h"
 
 #include <QApplication>
 
@@ -32,7 +33,7 @@ void start()
 int main(int argc, char* argv[])
 {
     const auto application = open_Program(argc, argv);
-    forms::prepare(*application);
+    forms::prepare(*application, programTheme());
     forms::runAsHandler("main", start);
     return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include "shared/conventions.h"
 #include "shared/manual.h"
 #include "shared/program_name.h"
+#include "shared/theme.h"
 #include "tools/frmExport.h"
 #include "tools/frmRestore.h"
 
@@ -17,7 +18,7 @@ template <class First>
 int run(int& argc, char* argv[])
 {
     const auto application = open_Program(argc, argv);
-    forms::prepare(*application);
+    forms::prepare(*application, programTheme());
     forms::setReportWords(conventions::Title, [] { return QStringLiteral("Nothing was lost."); });
     forms::setHelpDoor(manual::open);
     forms::runAsHandler("main", [] { forms::screen<First>().show(); });

@@ -2,6 +2,7 @@
 #include "support/forms_test.h"
 
 #include "platform/forms/boundary.h"
+#include "shared/theme.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -43,7 +44,7 @@ QString told(const forms::Message& box)
 FormsTest::FormsTest()
 {
     [[maybe_unused]] static const bool prepared = [] {
-        forms::prepare(*qApp);
+        forms::prepare(*qApp, programTheme());
         static StillTickers still;
         qApp->installEventFilter(&still);
         return true;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
 // The boundary between the toolkit and the handlers; for the layer itself, not for screens.
 //
 // Two rules keep failures out of the toolkit's frames. Where the layer calls the toolkit, a ToolkitCall stands around
@@ -47,6 +49,10 @@ private:
     int toolkitCalls_;
     int loop_;
 };
+
+/// What the layer does when a frame has ended, and in the outermost one when its handler has returned, before the step
+/// of onHandlerReturn(). Without, for programs that have no screens.
+void setFrameSteps(std::function<void()> ended, std::function<void()> returned);
 
 /// Reports the exception being handled and ends the process.
 void reportCurrentException() noexcept;

@@ -96,7 +96,7 @@ private:
             return;
         button_.setFocus();
         if (!shared && button_.canTakeFocus())
-            button_.userChose();
+            this->click();
     }
 
     /// True when the key needs nothing more from the toolkit.
@@ -111,7 +111,7 @@ private:
             return true;
         if (enter) {
             if (button_.answersEnter())
-                button_.userChose();
+                this->click();
             return true;
         }
         switch (event.key()) {

@@ -4,7 +4,7 @@
 #include "platform/forms/boundary.h"
 #include "platform/forms/button_widget.h"
 #include "platform/forms/form.h"
-#include "platform/forms/look.h"
+#include "platform/forms/theme.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -39,11 +39,6 @@ CommandButton::CommandButton(Form& form, const QString& name)
     QObject::connect(push, &QAbstractButton::clicked, push, [this] { clicked(); });
 }
 
-void CommandButton::userChose()
-{
-    press();
-}
-
 void CommandButton::clicked()
 {
     if (!insideToolkitCall())
@@ -58,7 +53,12 @@ void CommandButton::press()
 
 void CommandButton::setIcon(const QString& resource)
 {
-    button()->setIcon(look::icon(resource));
+    setIcon(look::icon(resource));
+}
+
+void CommandButton::setIcon(const QIcon& icon)
+{
+    button()->setIcon(icon);
 }
 
 void CommandButton::setBackColour(const QColor& colour)
@@ -72,7 +72,7 @@ void CommandButton::setDefault(bool isDefault)
     if (isDefault == this->isDefault())
         return;
     const ToolkitCall call;
-    if (CommandButton* other = form().defaultButton())
+    if (Control* other = form().defaultButton())
         static_cast<QPushButton*>(other->widget())->setDefault(false);
     form().setDefaultButton(isDefault ? this : nullptr);
     static_cast<QPushButton*>(widget())->setDefault(isDefault);
@@ -136,12 +136,6 @@ void OptionButton::setValue(bool chosen)
         Click.fire();
 }
 
-void OptionButton::userChose()
-{
-    if (!value())
-        setValue(true);
-}
-
 bool OptionButton::isTabStop() const
 {
     auto group = groupOf(*this);
@@ -198,11 +192,6 @@ void CheckBox::setValue(int value)
         button()->setChecked(value != 0);
     }
     Click.fire();
-}
-
-void CheckBox::userChose()
-{
-    setValue(1 - value());
 }
 
 } // namespace forms

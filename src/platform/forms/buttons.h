@@ -6,6 +6,7 @@
 #include <QString>
 
 class QAbstractButton;
+class QIcon;
 
 namespace forms {
 
@@ -25,9 +26,6 @@ protected:
     friend class ButtonWidget;
 
 private:
-    /// What the user's key does: press, choose or tick.
-    virtual void userChose() = 0;
-
     /// True for a button that answers Enter itself.
     virtual bool answersEnter() const { return false; }
 
@@ -44,10 +42,11 @@ public:
     CommandButton(Form& form, const QString& name);
 
     /// Fires Click, as the user's press does, where the button is enabled and visible.
-    void press();
+    void press() override;
 
     /// The picture left of the caption: a path of the program's resources.
     void setIcon(const QString& resource);
+    void setIcon(const QIcon& icon);
 
     void setBackColour(const QColor& colour) override;
 
@@ -57,7 +56,6 @@ public:
     bool isDefault() const;
 
 private:
-    void userChose() override;
     bool answersEnter() const override { return true; }
     void clicked();
 };
@@ -73,7 +71,6 @@ public:
 
 private:
     bool isTabStop() const override;
-    void userChose() override;
     bool turns() const override { return true; }
     bool moveByArrow(int direction) override;
 
@@ -91,7 +88,6 @@ public:
     void setValue(int value);
 
 private:
-    void userChose() override;
     bool turns() const override { return true; }
 };
 

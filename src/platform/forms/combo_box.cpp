@@ -7,8 +7,8 @@
 #include "platform/forms/item_list.h"
 #include "platform/forms/keyboard.h"
 #include "platform/forms/line_edit.h"
-#include "platform/forms/look.h"
 #include "platform/forms/stage.h"
+#include "platform/forms/theme.h"
 #include "platform/values/collation.h"
 #include "platform/values/failure.h"
 
@@ -158,7 +158,7 @@ private:
         setLineEdit(entry_);
         setCompleter(nullptr);
         entry_->setContextMenuPolicy(Qt::DefaultContextMenu);
-        // The toolkit would take a typed text for the item that it resembles.
+        // The toolkit would take a text that an item has for a pick of it.
         QObject::disconnect(entry_, &QLineEdit::editingFinished, this, nullptr);
         QObject::disconnect(entry_, &QLineEdit::returnPressed, this, nullptr);
     }

@@ -65,6 +65,9 @@ public:
     void setFocus();
     bool hasFocus() const;
 
+    /// Does what the user's press does, where the control is one that can be pressed.
+    virtual void press() { }
+
     /// True when the control can take the focus now.
     bool canTakeFocus() const;
 
@@ -112,10 +115,14 @@ protected:
     /// The focus has gone to another control, and LostFocus has run.
     virtual void hasLostFocus() { }
 
+    /// The desktop is small: an ornament is shown at a share of its size; at 0 it leaves its room to the others.
+    virtual void takeShare(double /*share*/) { }
+
     /// True when the Tab key stops here, apart from place and state.
     virtual bool isTabStop() const { return true; }
 
     friend class Form;
+    friend class FormWindow;
     friend class Keyboard;
     friend class Stage;
 

@@ -3,9 +3,9 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
-#include "platform/forms/look.h"
 #include "platform/forms/painting.h"
 #include "platform/forms/stage.h"
+#include "platform/forms/theme.h"
 #include "platform/values/failure.h"
 
 #include <QAbstractItemView>
@@ -202,6 +202,13 @@ void Picture::setPicture(const QString& resource, const QString& description)
 void Picture::setShare(double share)
 {
     picture_->setShare(share);
+}
+
+void Picture::takeShare(double share)
+{
+    const bool isOrnament = !Click && !MouseDown && !MouseUp;
+    if (isOrnament)
+        setShare(share);
 }
 
 // ---- group boxes

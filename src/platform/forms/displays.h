@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/forms/control.h"
+#include "platform/forms/theme.h"
 
 #include <QElapsedTimer>
 
@@ -14,9 +15,6 @@ namespace forms {
 
 class LabelWidget;
 class PictureWidget;
-
-/// Where a label stands in the type scale.
-enum class TextRole { Title, Heading, Instruction, Body, Hint };
 
 /// A text beside other controls. "&" marks an access key where the label names another control, and "&&" reads "&".
 class Label : public Control {
@@ -55,13 +53,13 @@ public:
     /// Shows a picture. `description` is what assistive tools say in its place.
     void setPicture(const QString& resource, const QString& description);
 
-    /// True for a picture that answers nothing: it may give up its room on a small desktop.
-    bool isOrnament() const { return !Click && !MouseDown && !MouseUp; }
-
     /// Shows it at a share of its size; at 0 it leaves its room to the others.
     void setShare(double share);
 
 private:
+    /// One that answers nothing may give up its room.
+    void takeShare(double share) override;
+
     PictureWidget* picture_;
 };
 

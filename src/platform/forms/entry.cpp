@@ -3,20 +3,12 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
-#include "platform/forms/input_gate.h"
 #include "platform/forms/keyboard.h"
 #include "platform/forms/stage.h"
 
 #include <QAccessible>
 #include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QDropEvent>
 #include <QInputMethodEvent>
-#include <QMenu>
-#include <QMimeData>
-#include <QPointer>
-#include <QStyleHints>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -32,12 +24,6 @@ constexpr qsizetype longestLine = 32767; // of what a user can get into one line
 qsizetype countOf(const QString& text)
 {
     return std::count_if(text.begin(), text.end(), [](QChar unit) { return !unit.isLowSurrogate(); });
-}
-
-// The selection of the mouse where the user asks for it, else what was copied.
-QString clipboardText(bool selection)
-{
-    return QGuiApplication::clipboard()->text(selection ? QClipboard::Selection : QClipboard::Clipboard);
 }
 
 // A key that takes out a word or the rest of a line.
@@ -146,6 +132,11 @@ void Entry::replaceByUser(const QString& wanted)
 }
 
 // ---- what gets in
+
+QString Entry::clipboardText(QClipboard::Mode mode)
+{
+    return QGuiApplication::clipboard()->text(mode);
+}
 
 QString Entry::fitting(const QString& wanted) const
 {
@@ -272,7 +263,8 @@ void Entry::handleKey(QKeyEvent& event)
     if (event.matches(QKeySequence::Cut)) {
         cutByUser();
     } else if (event.matches(QKeySequence::Paste)) {
-        takeText(clipboardText(event.key() == Qt::Key_Insert && (event.modifiers() & Qt::ControlModifier)));
+        const bool ofSelection = event.key() == Qt::Key_Insert && (event.modifiers() & Qt::ControlModifier);
+        takeText(clipboardText(ofSelection ? QClipboard::Selection : QClipboard::Clipboard));
     } else if (const int code = codeOf(event)) {
         takesCharacter(code);
     } else if (Keyboard::hasText(event)) {
@@ -324,129 +316,6 @@ void Entry::composed(QInputMethodEvent& event)
         takeText(event.commitString());
     });
     event.accept();
-}
-
-// ---- the mouse
-
-void Entry::pressed(QMouseEvent& event, const ToolkitStep& step)
-{
-    fromToolkit([this, &event, &step] {
-        InputGate& gate = InputGate::instance();
-        steady_ = gate.bringsFocus();
-        {
-            const ToolkitCall call;
-            step(); // puts the caret
-        }
-        pressedAt_ = event.position();
-        isSecondPress_ = false;
-        pressed_ = gate.reaches(box_);
-        if (pressed_)
-            box_.MouseDown.fire();
-    });
-    event.accept();
-}
-
-void Entry::moved(QMouseEvent& event, const ToolkitStep& step)
-{
-    if (event.buttons() && !pressed_)
-        return;
-    const auto distance = (event.position() - pressedAt_).manhattanLength();
-    if (steady_ && distance < QGuiApplication::styleHints()->startDragDistance())
-        return; // a trembling hand must not undo what GotFocus has selected
-    steady_ = false;
-    const ToolkitCall call;
-    step();
-}
-
-void Entry::released(QMouseEvent& event, const ToolkitStep& step)
-{
-    steady_ = false;
-    fromToolkit([this, &event, &step] {
-        const bool isOurs = std::exchange(pressed_, false);
-        if (event.button() != Qt::MiddleButton) {
-            const ToolkitCall call;
-            step();
-        } else if (isOurs) {
-            takeText(clipboardText(true));
-        }
-        if (!isOurs)
-            return;
-        box_.MouseUp.fire();
-        const bool ofCombo = box_.widget() != &self(); // whose Click is the pick of an item
-        const bool clicks = event.button() == Qt::LeftButton && !isSecondPress_ && !ofCombo;
-        if (clicks && self().rect().contains(event.position().toPoint()))
-            box_.Click.fire();
-    });
-    event.accept();
-}
-
-void Entry::doubleClicked(QMouseEvent& event, const ToolkitStep& step)
-{
-    if (InputGate::instance().bringsFocus()) { // the first click was elsewhere
-        pressed(event, step);
-        return;
-    }
-    fromToolkit([this, &event, &step] {
-        {
-            const ToolkitCall call;
-            step();
-        }
-        pressed_ = true;
-        isSecondPress_ = true;
-        if (event.button() == Qt::LeftButton)
-            box_.DblClick.fire();
-    });
-    event.accept();
-}
-
-// The commands go the ways of the keys. In a box that answers the mouse the right button is a mouse down and no more.
-void Entry::menuAsked(QContextMenuEvent& event)
-{
-    event.accept();
-    const bool isDead = event.reason() == QContextMenuEvent::Mouse && !pressed_;
-    if (box_.MouseDown || isDead)
-        return;
-    fromToolkit([this, &event] {
-        const bool changeable = !isLocked();
-        const bool selected = !selectedText().isEmpty();
-        QMenu menu(&self());
-        const std::pair<QAction*, std::function<void()>> commands[] = {
-            {menu.addAction(QStringLiteral("Cu&t")), [this] { cutByUser(); }},
-            {menu.addAction(QStringLiteral("&Copy")), [this] { copySelected(); }},
-            {menu.addAction(QStringLiteral("&Paste")), [this] { takeText(clipboardText(false)); }},
-            {menu.addAction(QStringLiteral("&Delete")), [this] { removeByUser(); }},
-            {menu.addAction(QStringLiteral("Select &All")), [this] { box_.selectAll(); }},
-        };
-        const bool enabled[] = {selected && changeable, selected, changeable, selected && changeable, true};
-        for (std::size_t at = 0; at < std::size(commands); ++at)
-            commands[at].first->setEnabled(enabled[at]);
-        const QPointer<QWidget> alive(&self());
-        const QAction* chosen = menu.exec(event.globalPos());
-        for (const auto& [action, command] : commands)
-            if (alive && chosen == action)
-                command();
-    });
-}
-
-void Entry::answerWithCopy(QDropEvent& event)
-{
-    const bool takes = event.isAccepted() && (event.possibleActions() & Qt::CopyAction);
-    event.setDropAction(takes ? Qt::CopyAction : Qt::IgnoreAction);
-    event.setAccepted(takes);
-}
-
-void Entry::dropped(QDropEvent& event)
-{
-    fromToolkit([this, &event] {
-        box_.setFocus();
-        {
-            const ToolkitCall call;
-            placeCaret(event.position().toPoint());
-        }
-        takeText(event.mimeData()->text());
-    });
-    event.accept();
-    answerWithCopy(event);
 }
 
 } // namespace forms

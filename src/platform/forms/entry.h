@@ -3,6 +3,7 @@
 
 #include "platform/forms/text_box.h"
 
+#include <QClipboard>
 #include <QPointF>
 
 #include <functional>
@@ -90,6 +91,7 @@ private:
     bool takesCharacter(int character);
     bool inserts(const QString& text);
     void takeText(const QString& text);
+    static QString clipboardText(QClipboard::Mode mode);
     void takeOneByOne(const QString& text);
     QString cleaned(const QString& text) const;
     QString fitting(const QString& wanted) const;

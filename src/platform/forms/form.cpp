@@ -2,22 +2,13 @@
 #include "platform/forms/form.h"
 
 #include "platform/forms/boundary.h"
-#include "platform/forms/buttons.h"
-#include "platform/forms/displays.h"
-#include "platform/forms/keyboard.h"
-#include "platform/forms/look.h"
-#include "platform/forms/screen_interface.h"
+#include "platform/forms/form_window.h"
+#include "platform/forms/notice.h"
 #include "platform/forms/stage.h"
-#include "platform/values/failure.h"
 
-#include <QCloseEvent>
+#include <QAccessible>
 #include <QEventLoop>
-#include <QGuiApplication>
-#include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <QWindow>
 
 #include <algorithm>
@@ -25,165 +16,11 @@
 
 namespace forms {
 
-/// The window of a screen. The canvas scrolls where the desktop is smaller than the screen.
-class FormWindow : public QWidget {
-public:
-    explicit FormWindow(Form& form)
-        : QWidget(nullptr,
-            Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
-                | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint)
-        , form_(form)
-    {
-        auto* around = new QVBoxLayout(this);
-        around->setContentsMargins(0, 0, 0, 0);
-        scroller_ = new QScrollArea(this);
-        scroller_->setFrameShape(QFrame::NoFrame);
-        scroller_->setFocusPolicy(Qt::NoFocus);
-        scroller_->setWidgetResizable(true);
-        around->addWidget(scroller_);
-    }
-
-    QWidget* makeCanvas()
-    {
-        auto* canvas = new QWidget;
-        scroller_->setWidget(canvas);
-        return canvas;
-    }
-
-    const Form& form() const { return form_; }
-
-    void reveal(QWidget* widget) { scroller_->ensureWidgetVisible(widget); }
-
-    void setLeastSize(const QSize& size) { minimumSize_ = minimumSize_.expandedTo(size); }
-
-    /// Takes the canvas's own size, or what of it the desktop has room for, and the place of the screen before; the
-    /// first one takes the middle of the desktop.
-    void fitAndPlace()
-    {
-        QScreen* under = centre_.isNull() ? nullptr : QGuiApplication::screenAt(centre_);
-        const QRect desktop = (under ? under : screen())->availableGeometry();
-        const QSize frame(frameMargins_.left() + frameMargins_.right(), frameMargins_.top() + frameMargins_.bottom());
-        const QSize room = desktop.size() - frame;
-        makeFit(room);
-        QSize size = scroller_->widget()->sizeHint();
-        const int bar = scroller_->verticalScrollBar()->sizeHint().width();
-        if (size.height() > room.height())
-            size.rwidth() += bar;
-        if (size.width() > room.width())
-            size.rheight() += bar;
-        size = size.boundedTo(room).expandedTo(minimumSize_.boundedTo(room));
-        minimumSize_ = size; // a screen never shrinks between two visits
-        setFixedSize(size);
-        place(desktop.marginsRemoved(frameMargins_),
-            under ? centre_ : desktop.center() + QPoint(0, frameMargins_.top() / 2));
-    }
-
-protected:
-    bool focusNextPrevChild(bool next) override
-    {
-        if (insideToolkitCall())
-            return false; // the layer decides where the focus goes
-        fromToolkit([this, next] {
-            if (Control* control = form_.nextInTabOrder(next))
-                control->setFocus();
-        });
-        return true;
-    }
-
-    void closeEvent(QCloseEvent* event) override
-    {
-        event->ignore();
-        if (form_.isEnabled() && form_.isVisible()) // a press that waited finds the screen gone
-            fromToolkit([this] { form_.close(); });
-    }
-
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        fromToolkit([this, event] { Keyboard::pressedOnForm(form_, *event); });
-        event->accept();
-    }
-
-    void moveEvent(QMoveEvent*) override
-    {
-        if (isVisible() && !isModal())
-            centre_ = geometry().center();
-    }
-
-    void changeEvent(QEvent* event) override
-    {
-        QWidget::changeEvent(event);
-        if (event->type() != QEvent::ActivationChange || !isActiveWindow())
-            return;
-        frameMargins_ = windowHandle() ? windowHandle()->frameMargins() : QMargins();
-        Stage::instance().windowActivated(form_);
-    }
-
-private:
-    // Around a point, and within the room that the desktop has inside a frame.
-    void place(const QRect& room, const QPoint& centre)
-    {
-        QRect inside(QPoint(), size());
-        inside.moveCenter(centre);
-        inside.moveLeft(std::max(std::min(inside.left(), room.right() + 1 - width()), room.left()));
-        inside.moveTop(std::max(std::min(inside.top(), room.bottom() + 1 - height()), room.top()));
-        move(inside.topLeft() - QPoint(frameMargins_.left(), frameMargins_.top()));
-    }
-
-    // On a small desktop the pictures give up their room first, then the gaps; what is left scrolls. They don't come
-    // back into what the gaps have given up: a screen looks the same at each visit.
-    void makeFit(const QSize& room)
-    {
-        const auto fits = [this, &room] {
-            scroller_->widget()->layout()->activate(); // inner layouts measure again
-            const QSize size = scroller_->widget()->sizeHint();
-            return size.width() <= room.width() && size.height() <= room.height();
-        };
-        for (const double share : {1.0, 0.75, 0.5, 0.0}) {
-            showPictures(tight_ ? 0 : share);
-            if (fits())
-                return;
-        }
-        if (!std::exchange(tight_, true))
-            look::tighten(*scroller_->widget()->layout());
-    }
-
-    void showPictures(double share)
-    {
-        for (Control* control : form_.controls())
-            if (auto* picture = dynamic_cast<Picture*>(control); picture && picture->isOrnament())
-                picture->setShare(share);
-    }
-
-    Form& form_;
-    QScrollArea* scroller_;
-    QSize minimumSize_;
-    bool tight_ = false;
-    inline static QMargins frameMargins_; // known once a first window has been shown
-    inline static QPoint centre_; // of the screen shown or moved last, without its frame
-};
-
-namespace {
-
-QAccessibleInterface* describeWindow(const QString&, QObject* object)
-{
-    if (auto* window = dynamic_cast<FormWindow*>(object))
-        return new ScreenInterface(*window, window->form());
-    if (auto* notice = dynamic_cast<Notice*>(object))
-        return new QAccessibleWidget(notice, QAccessible::Notification);
-    // A window that is no screen, as the help; the toolkit tells of a plain one as if it were a part of another.
-    auto* widget = qobject_cast<QWidget*>(object);
-    const bool isPlainWindow = widget && widget->isWindow() && widget->metaObject() == &QWidget::staticMetaObject;
-    return isPlainWindow ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
-}
-
-} // namespace
-
 Form::Form(const QString& name)
     : name_(name)
     , window_(new FormWindow(*this))
     , canvas_(window_->makeCanvas())
 {
-    [[maybe_unused]] static const bool described = (QAccessible::installFactory(describeWindow), true);
     window_->setObjectName(name);
     window_->setWindowRole(name); // tells screens apart, which share one title
 }
@@ -241,9 +78,29 @@ void Form::dismiss(Control& control)
         defaultButton_ = nullptr;
 }
 
-void Form::setDefaultButton(CommandButton* button)
+void Form::setDefaultButton(Control* button)
 {
     defaultButton_ = button;
+}
+
+// ---- what is read out
+
+void Form::setSpokenState(const QString& words)
+{
+    if (words == spokenState_)
+        return;
+    spokenState_ = words;
+    QAccessibleEvent renamed(window(), QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+}
+
+void Form::announce(const QString& words)
+{
+    const ToolkitCall call;
+    delete notice_; // a screen reader may remember the name of one that it knows
+    notice_ = new Notice(canvas_);
+    notice_->setAccessibleName(words);
+    notice_->show();
 }
 
 // ---- showing and hiding

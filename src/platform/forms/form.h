@@ -15,7 +15,6 @@ class QVBoxLayout;
 
 namespace forms {
 
-class CommandButton;
 class FormWindow;
 class Notice;
 
@@ -81,8 +80,8 @@ public:
     /// The window is never smaller, unless the desktop is.
     void setLeastSize(const QSize& size);
 
-    CommandButton* defaultButton() const { return defaultButton_; }
-    void setDefaultButton(CommandButton* button);
+    Control* defaultButton() const { return defaultButton_; }
+    void setDefaultButton(Control* button);
 
     /// Runs Form_Load; screen() calls it once, when the screen is complete.
     void load();
@@ -120,7 +119,7 @@ private:
     Control* focused_ = nullptr; // has had GotFocus
     Control* moving_ = nullptr; // about to get it, while LostFocus of another runs
     Control* wanted_ = nullptr; // set by code while another screen is in front
-    CommandButton* defaultButton_ = nullptr;
+    Control* defaultButton_ = nullptr;
     QEventLoop* modalLoop_ = nullptr;
     int helpNumber_ = 0;
     bool loaded_ = false;

@@ -10,5 +10,6 @@
 #include "platform/forms/message_box.h"
 #include "platform/forms/month_calendar.h"
 #include "platform/forms/painting.h"
+#include "platform/forms/prepare.h"
 #include "platform/forms/runtime.h"
 #include "platform/forms/text_box.h"

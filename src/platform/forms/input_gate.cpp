@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QStyleHints>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace forms {
@@ -23,24 +25,39 @@ QWindow* homeOf(QWindow* window)
     return window;
 }
 
-bool isKey(const QEvent& event)
+enum class Sort { Other, AccessKey, KeyDown, KeyUp, Press, Release, Wheel, Close };
+
+/// What is done with a kind of event.
+struct Handling {
+    QEvent::Type type;
+    Sort sort;
+    bool isByHand; ///< what a hand begins, or a key that it lets go: nothing for a window that is hidden by now
+    bool waits; ///< behind the answer to a question
+};
+
+constexpr Handling handlings[] = {
+    {QEvent::ShortcutOverride, Sort::AccessKey, true, false}, // it would be answered at once
+    {QEvent::KeyPress, Sort::KeyDown, true, true},
+    {QEvent::KeyRelease, Sort::KeyUp, true, true},
+    {QEvent::MouseButtonPress, Sort::Press, true, true},
+    {QEvent::MouseButtonDblClick, Sort::Press, true, true},
+    {QEvent::MouseButtonRelease, Sort::Release, false, true},
+    {QEvent::Wheel, Sort::Wheel, true, true},
+    {QEvent::Close, Sort::Close, true, true},
+};
+
+const Handling& handlingOf(const QEvent& event)
 {
-    return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
+    static constexpr Handling none{QEvent::None, Sort::Other, false, false};
+    const auto* found = std::find_if(std::begin(handlings), std::end(handlings),
+        [&event](const Handling& handling) { return handling.type == event.type(); });
+    return found == std::end(handlings) ? none : *found;
 }
 
-// What a hand begins, or a key that it lets go.
-bool isByHand(const QEvent& event)
+bool isKey(const QEvent& event)
 {
-    switch (event.type()) {
-    case QEvent::ShortcutOverride:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::Close:
-        return true;
-    default:
-        return isKey(event);
-    }
+    const Sort sort = handlingOf(event).sort;
+    return sort == Sort::KeyDown || sort == Sort::KeyUp;
 }
 
 // The answer to a ShortcutOverride that makes the key no access key; it then goes nowhere else.
@@ -85,37 +102,26 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
 
 bool InputGate::filterWindow(QWindow& window, QEvent& event)
 {
-    if (!window.isVisible() && isByHand(event)) {
+    const Handling& handling = handlingOf(event);
+    if (!window.isVisible() && handling.isByHand) {
         passOn(window, event);
         return true;
     }
-    switch (event.type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease:
-    case QEvent::Wheel:
-    case QEvent::Close:
-        if (!held_.keeps(window, event))
-            break;
+    if (handling.waits && held_.keeps(window, event)) {
         event.ignore();
         return true;
-    default:
-        break;
     }
-    switch (event.type()) {
-    case QEvent::ShortcutOverride:
+    switch (handling.sort) {
+    case Sort::AccessKey:
         if (held_.isWaiting())
             return isNoAccessKey(event); // not yet
         [[fallthrough]];
-    case QEvent::KeyPress:
+    case Sort::KeyDown:
         return takesAway(window, static_cast<QKeyEvent&>(event));
-    case QEvent::KeyRelease:
+    case Sort::KeyUp:
         noteRelease(static_cast<QKeyEvent&>(event));
         return false;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
+    case Sort::Press:
         deliver(window, static_cast<QMouseEvent&>(event));
         return true;
     default:
@@ -152,9 +158,10 @@ void InputGate::followWindow(QWidget& window, QEvent::Type change)
 void InputGate::deliverLate(QWindow& window, QEvent& event)
 {
     QObject& target = window;
-    if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick)
+    const Sort sort = handlingOf(event).sort;
+    if (sort == Sort::Press)
         deliver(window, static_cast<QMouseEvent&>(event));
-    else if (event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::Wheel)
+    else if (sort == Sort::Release || sort == Sort::Wheel)
         target.event(&event);
     else
         QCoreApplication::sendEvent(&window, &event);

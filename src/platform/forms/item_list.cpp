@@ -2,7 +2,7 @@
 #include "platform/forms/item_list.h"
 
 #include "platform/forms/entry.h"
-#include "platform/forms/look.h"
+#include "platform/forms/theme.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

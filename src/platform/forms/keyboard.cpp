@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/keyboard.h"
 
-#include "platform/forms/buttons.h"
 #include "platform/forms/form.h"
 #include "platform/forms/runtime.h"
 #include "platform/forms/stage.h"
@@ -134,7 +133,7 @@ bool Keyboard::pressDefault(Form& form, const QKeyEvent& event)
         return false;
     if (event.isAutoRepeat())
         return true;
-    CommandButton* button = form.defaultButton();
+    Control* button = form.defaultButton();
     if (!button || !button->isEnabled() || !button->isVisible())
         return false;
     button->press();

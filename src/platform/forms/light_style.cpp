@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/light_style.h"
 
-#include "platform/forms/look.h"
 #include "platform/forms/style_painting.h"
+#include "platform/forms/theme.h"
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
@@ -78,27 +78,12 @@ void LightStyle::drawPrimitive(
         paint::ring(*painter, *option);
         return;
     case PE_PanelLineEdit:
-        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
-            paint::box(*painter, *option);
-            return;
-        }
-        break;
     case PE_Frame:
-        if (qobject_cast<const QAbstractScrollArea*>(widget))
-            paint::box(*painter, *option);
-        else
-            paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
-        return;
     case PE_FrameFocusRect:
-        // The row on which the keys stand, also before one is chosen.
-        if (qobject_cast<const QAbstractItemView*>(widget)) {
-            paint::focusFrame(*painter, option->rect);
-            return;
-        }
-        break;
     case PE_FrameGroupBox:
-        paint::panel(*painter, option->rect, Qt::transparent, colours().line, 1);
-        return;
+        if (drawFrame(element, *option, *painter, widget))
+            return;
+        break;
     case PE_IndicatorArrowUp:
     case PE_IndicatorArrowDown:
         paint::arrow(*painter, option->rect, element == PE_IndicatorArrowUp ? paint::Heading::Up : paint::Heading::Down,
@@ -108,6 +93,27 @@ void LightStyle::drawPrimitive(
         break;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+// False where the frame is left to the toolkit.
+bool LightStyle::drawFrame(
+    PrimitiveElement element, const QStyleOption& option, QPainter& painter, const QWidget* widget)
+{
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+    const bool isBox = element == PE_PanelLineEdit
+        ? frame && frame->lineWidth > 0
+        : element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget);
+    // The row on which the keys stand, also before one is chosen.
+    const bool isRow = element == PE_FrameFocusRect && qobject_cast<const QAbstractItemView*>(widget);
+    if (isBox)
+        paint::box(painter, option);
+    else if (isRow)
+        paint::focusFrame(painter, option.rect);
+    else if (element == PE_Frame || element == PE_FrameGroupBox)
+        paint::panel(painter, option.rect, Qt::transparent, colours().line, 1);
+    else
+        return false;
+    return true;
 }
 
 void LightStyle::drawControl(

@@ -34,6 +34,8 @@ public:
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
 
 private:
+    static bool drawFrame(
+        PrimitiveElement element, const QStyleOption& option, QPainter& painter, const QWidget* widget);
     void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const;
     void drawComboLabel(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const;
 };

@@ -5,15 +5,9 @@
 #include "platform/forms/form.h"
 #include "platform/forms/light_style.h"
 
-#include <QApplication>
 #include <QComboBox>
-#include <QFontInfo>
-#include <QFontMetrics>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPalette>
-#include <QProcess>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -24,188 +18,7 @@ namespace forms::look {
 
 namespace {
 
-struct TypeStep {
-    TextRole role;
-    double scale; // of the body size
-    QFont::Weight weight;
-};
-
-constexpr TypeStep typeScale[] = {
-    {TextRole::Title, 1.8, QFont::DemiBold},
-    {TextRole::Heading, 1.3, QFont::DemiBold},
-    {TextRole::Instruction, 1.1, QFont::Medium},
-    {TextRole::Body, 1.0, QFont::Normal},
-    {TextRole::Hint, 10.0 / 11, QFont::Normal},
-};
-
-constexpr double leastPoints = 11; // of the body: hints have 10 then
 constexpr int labelGap = 8; // pixels between a label and its box
-
-int rowGap()
-{
-    return grid(1) * 3 / 4;
-}
-
-QPalette palette()
-{
-    const Colours& the = colours();
-    QPalette palette(the.buttonFace, the.ground);
-    palette.setColor(QPalette::Window, the.ground);
-    palette.setColor(QPalette::Base, the.field);
-    palette.setColor(QPalette::AlternateBase, the.buttonFace);
-    palette.setColor(QPalette::ToolTipBase, the.buttonFace);
-    palette.setColor(QPalette::Highlight, the.accent);
-    palette.setColor(QPalette::HighlightedText, the.field);
-    palette.setColor(QPalette::Mid, the.line);
-    palette.setColor(QPalette::PlaceholderText, the.quiet);
-    for (const auto role :
-        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
-        palette.setColor(role, the.text);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, the.quiet);
-    palette.setColor(QPalette::Disabled, QPalette::Base, the.ground.lighter(106));
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, the.pressed);
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, the.text);
-    return palette;
-}
-
-// A box of several lines keeps its selection and doesn't show it while the focus is elsewhere.
-QPalette memoPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::transparent);
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, colours().text);
-    return palette;
-}
-
-// How much larger than its font a desktop wants texts. By X11 it tells so in dots an inch, which the toolkit heeds; by
-// Wayland it doesn't tell, and its settings have to be read.
-double largeText()
-{
-    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-        return 1;
-    constexpr int patience = 500; // milliseconds
-    constexpr double most = 3;
-    QProcess settings;
-    settings.start(QStringLiteral("gsettings"),
-        {QStringLiteral("get"), QStringLiteral("org.gnome.desktop.interface"), QStringLiteral("text-scaling-factor")});
-    if (!settings.waitForFinished(patience))
-        return 1; // nor does such a desktop have any
-    return std::clamp(settings.readAllStandardOutput().trimmed().toDouble(), 1.0, most);
-}
-
-QFont bodyFont()
-{
-    QFont font = QApplication::font();
-    const double points = font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
-    font.setPointSizeF(std::max(points * largeText(), leastPoints));
-    return font;
-}
-
-} // namespace
-
-const Colours& colours()
-{
-    static const Colours the;
-    return the;
-}
-
-QFont fontOf(TextRole role)
-{
-    const auto& step = *std::find_if(
-        std::begin(typeScale), std::end(typeScale), [role](const TypeStep& each) { return each.role == role; });
-    QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * step.scale);
-    font.setWeight(step.weight);
-    return font;
-}
-
-int grid(int steps)
-{
-    return QFontMetrics(QApplication::font()).height() * steps / 2;
-}
-
-int fieldWidth(int characters)
-{
-    const QFontMetrics metrics(QApplication::font());
-    // Capitals and digits are wider than the average character; the rest is frame and padding.
-    return std::max(metrics.averageCharWidth(), metrics.horizontalAdvance(u'0')) * characters + metrics.height();
-}
-
-QIcon icon(const QString& resource)
-{
-    QIcon icon;
-    for (const char* size : {".png", "@2x.png", "@3x.png", "@4x.png"}) {
-        QString file = resource;
-        QPixmap picture(file.replace(QLatin1String(".png"), QLatin1String(size)));
-        if (picture.isNull())
-            continue;
-        picture.setDevicePixelRatio(1); // sizes are told apart by their pixels
-        icon.addPixmap(picture);
-    }
-    return icon;
-}
-
-double pictureScale()
-{
-    return QApplication::font().pointSizeF() / leastPoints;
-}
-
-int entryInset()
-{
-    return grid(1) / 2;
-}
-
-int textInset()
-{
-    constexpr int toolkitMargin = 2; // what the toolkit's entry keeps free on its own
-    return entryInset() + entryTextMargin + toolkitMargin;
-}
-
-int rowsHeight(int rows)
-{
-    return grid(3) * rows + rowGap() * (rows - 1);
-}
-
-QSize leastWindow()
-{
-    return {grid(96), grid(62)};
-}
-
-void tighten(QLayout& layout)
-{
-    const QMargins margins = layout.contentsMargins();
-    layout.setContentsMargins(margins / 2);
-    if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
-        grid->setHorizontalSpacing(grid->horizontalSpacing() / 2);
-        grid->setVerticalSpacing(grid->verticalSpacing() / 2);
-    } else {
-        layout.setSpacing(layout.spacing() / 2);
-    }
-    for (int index = 0; index < layout.count(); ++index) {
-        QLayoutItem& item = *layout.itemAt(index);
-        if (QSpacerItem* space = item.spacerItem())
-            space->changeSize(space->sizeHint().width() / 2, space->sizeHint().height() / 2,
-                space->sizePolicy().horizontalPolicy(), space->sizePolicy().verticalPolicy());
-        else if (QLayout* inner = item.layout() ? item.layout() : item.widget()->layout())
-            tighten(*inner);
-    }
-    layout.invalidate();
-}
-
-void apply(QApplication& application)
-{
-    QApplication::setLayoutDirection(Qt::LeftToRight); // the texts are English, whatever the desktop's language
-    QApplication::setFont(bodyFont());
-    QApplication::setStyle(new LightStyle);
-    QApplication::setPalette(palette());
-    QApplication::setPalette(memoPalette(), "QPlainTextEdit");
-    application.setStyleSheet({});
-}
-
-// ---- pages
-
-namespace {
 
 QLayout* acrossWidth(std::initializer_list<CommandButton*> row)
 {
@@ -387,7 +200,7 @@ void dress(std::initializer_list<ButtonLook> buttons, int helpNumber)
         look.button.setTabIndex(look.tabIndex);
         look.button.setCaption(look.caption);
         look.button.setToolTip(look.toolTip);
-        look.button.setIcon(QStringLiteral(":/pictures/icons/%1.png").arg(look.icon));
+        look.button.setIcon(buttonIcon(look.icon));
         look.button.setHelpNumber(helpNumber);
         if (look.pressed == PressedLook::Shown)
             behaviours::pressedColour(look.button);

@@ -2,16 +2,12 @@
 #pragma once
 
 #include "platform/forms/displays.h"
+#include "platform/forms/theme.h"
 
-#include <QColor>
-#include <QFont>
 #include <QGridLayout>
-#include <QIcon>
-#include <QSize>
 
 #include <initializer_list>
 
-class QApplication;
 class QLayout;
 class QVBoxLayout;
 
@@ -19,63 +15,8 @@ namespace forms {
 class CommandButton;
 }
 
-/// The program's own light look, the same whatever the desktop's theme: colours, type scale, one grid. All sizes come
-/// from the font.
+/// The pieces that screens are laid out with.
 namespace forms::look {
-
-/// The colours of the program.
-struct Colours {
-    QColor ground{248, 226, 211};
-    QColor text{43, 38, 34};
-    QColor quiet{108, 92, 82}; ///< hints and footers
-    QColor accent{38, 84, 94}; ///< headings, focus, selection
-    QColor field{255, 255, 255};
-    QColor line{142, 114, 96}; ///< frames, handles of scroll bars
-    QColor faded{190, 164, 146}; ///< frames of what is disabled
-    QColor buttonFace{251, 247, 244};
-    QColor pressed{204, 210, 255};
-    QColor error{255, 192, 192};
-    QColor warning{176, 98, 6}; ///< signs of message boxes
-    QColor danger{178, 48, 40};
-    QColor link{0, 0, 255}; ///< letters that stand out from those of other boxes
-};
-
-const Colours& colours();
-
-/// The font of a step of the type scale, in proportion to the desktop's own font.
-QFont fontOf(TextRole role);
-
-/// Multiples of the grid, which is half the height of the body font.
-int grid(int steps);
-
-/// The width of a field of so many average characters, the same for boxes of all kinds, so that fields align.
-int fieldWidth(int characters);
-
-/// A picture of the resources in all sizes in which it is there: "x.png", "x@2x.png" and so on. It stays sharp whatever
-/// size it is shown in.
-QIcon icon(const QString& resource);
-
-/// How much larger than in their files pictures are shown: they grow with the font.
-double pictureScale();
-
-/// How far the entry of a box stands from the box's edge, and the text in a box of any kind.
-int entryInset();
-int textInset();
-
-/// What an entry of one line keeps free beside its text, in pixels.
-inline constexpr int entryTextMargin = 3;
-
-/// The height of so many rows of fields, with the gaps between them.
-int rowsHeight(int rows);
-
-/// The least size of a screen's window, one for all, so that the window doesn't jump from screen to screen.
-QSize leastWindow();
-
-/// Halves the gaps of a layout, where the desktop has no room for them.
-void tighten(QLayout& layout);
-
-/// Puts style, palette and font in place. The font is the desktop's, or a larger one where that is too small to read.
-void apply(QApplication& application);
 
 /// Whether a window has the least size of all screens or its own.
 enum class PageSize { Screen, Own };

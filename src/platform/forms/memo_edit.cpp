@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/memo_edit.h"
 
-#include "platform/forms/look.h"
+#include "platform/forms/theme.h"
 
 #include <QDropEvent>
 #include <QMimeData>

@@ -4,9 +4,9 @@
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
 #include "platform/forms/keyboard.h"
-#include "platform/forms/look.h"
 #include "platform/forms/runtime.h"
 #include "platform/forms/stage.h"
+#include "platform/forms/theme.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -10,10 +10,12 @@ namespace forms {
 
 class MonthPage;
 
-/// A month in which a day is picked. Click fires when the user picks a day by mouse. Arrow keys, Home and End move the
-/// day; page keys, the wheel and buttons turn months, with Ctrl and buttons of their own years, and take the date
-/// along. Every other key but Tab goes to KeyDown and KeyPress. The date may be incomplete: then day, month or year
-/// reads 0 and no day is marked.
+/// A month in which a day is picked. The toolkit's own calendar always has a day chosen, a date that isn't complete
+/// can't stand in it, and 63 of the 72 cells that it tells assistive tools of are bare numbers.
+///
+/// Click fires when the user picks a day by mouse. Arrow keys, Home and End move the day; page keys, the wheel and
+/// buttons turn months, with Ctrl and buttons of their own years, and take the date along. Every other key but Tab goes
+/// to KeyDown and KeyPress. The date may be incomplete: then day, month or year reads 0 and no day is marked.
 class MonthCalendar : public Control {
 public:
     MonthCalendar(Form& form, const QString& name);

@@ -3,9 +3,9 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/keyboard.h"
-#include "platform/forms/look.h"
 #include "platform/forms/month_calendar.h"
 #include "platform/forms/style_painting.h"
+#include "platform/forms/theme.h"
 #include "platform/forms/wheel.h"
 
 #include <QAbstractTableModel>

@@ -5,7 +5,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/input_gate.h"
 #include "platform/forms/keyboard.h"
-#include "platform/forms/look.h"
+#include "platform/forms/theme.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

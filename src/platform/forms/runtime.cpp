@@ -3,9 +3,6 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/event.h"
-#include "platform/forms/input_gate.h"
-#include "platform/forms/look.h"
-#include "platform/forms/stage.h"
 #include "platform/values/failure.h"
 
 #include <QApplication>
@@ -30,6 +27,8 @@ struct Runtime {
     std::exception_ptr failed; // which left a handler last
     QString failedHandler;
     std::vector<std::function<void()>> cleanUps;
+    std::function<void()> frameEnded;
+    std::function<void()> frameReturned;
     std::function<void()> handlerReturn;
     std::function<void(int)> ender;
     std::function<void(const FailureReport&)> reporter;
@@ -132,16 +131,24 @@ HandlerFrame::~HandlerFrame()
     --runtime().frames;
     runtime().toolkitCalls = toolkitCalls_;
     runtime().loop = loop_;
-    InputGate::instance().handlerEnded();
+    if (runtime().frameEnded)
+        runtime().frameEnded();
 }
 
 void HandlerFrame::finish()
 {
     if (runtime().frames > 1)
         return;
-    Stage::instance().handOnFront();
+    if (runtime().frameReturned)
+        runtime().frameReturned();
     if (runtime().handlerReturn)
         runtime().handlerReturn();
+}
+
+void setFrameSteps(std::function<void()> ended, std::function<void()> returned)
+{
+    runtime().frameEnded = std::move(ended);
+    runtime().frameReturned = std::move(returned);
 }
 
 void reportCurrentException() noexcept
@@ -171,15 +178,6 @@ void detail::failedIn(const QString& owner, const char* event)
 void detail::assignedTwice(const QString& owner, const char* event)
 {
     qFatal("%s_%s has a handler already", qPrintable(owner), event);
-}
-
-void prepare(QApplication& application)
-{
-    // A message box that closes while no screen is visible must not end the program.
-    QApplication::setQuitOnLastWindowClosed(false);
-    look::apply(application);
-    Stage::instance().attend(application);
-    InputGate::instance().guard(application);
 }
 
 void endProcess(int status)

@@ -5,12 +5,7 @@
 
 #include <functional>
 
-class QApplication;
-
 namespace forms {
-
-/// Prepares the toolkit for forms: style, palette, the focus rules. Call once, before the first screen is made.
-void prepare(QApplication& application);
 
 /// Ends the process at once, without unwinding: runs the clean-up of onEnd() first.
 [[noreturn]] void endProcess(int status);
@@ -41,11 +36,11 @@ void setFailureReporter(std::function<void(const FailureReport&)> reporter);
 /// Title of the run-time report's box, and its closing words, which are asked for once the clean-up of onEnd() has run.
 void setReportWords(const QString& title, std::function<QString()> closingWords);
 
-/// The door that F1 goes through, with the number of the focused control's topic; where that is 0, the name of the
+/// What F1 calls, with the number of the focused control's topic; where that is 0, the name of the
 /// window tells what help is wanted for.
 void setHelpDoor(std::function<void(int number, const QString& window)> door);
 
-/// Goes through that door, for windows that are no screens.
+/// Calls it, for windows that are no screens.
 void openHelp(int number, const QString& window);
 
 /// Runs a function that the toolkit calls (a signal, a notifier) as a handler: an uncaught failure ends the process

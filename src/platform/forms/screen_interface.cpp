@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/screen_interface.h"
 
-#include "platform/forms/boundary.h"
 #include "platform/forms/displays.h"
 #include "platform/forms/form.h"
+#include "platform/forms/form_window.h"
+#include "platform/forms/notice.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -50,31 +51,25 @@ QString ScreenInterface::text(QAccessible::Text kind) const
     return form_.spokenState().isEmpty() ? name : name + QStringLiteral(", ") + form_.spokenState();
 }
 
-// ---- what a screen has read out
+namespace {
 
-void Form::setSpokenState(const QString& words)
+QAccessibleInterface* describeWindow(const QString&, QObject* object)
 {
-    if (words == spokenState_)
-        return;
-    spokenState_ = words;
-    QAccessibleEvent renamed(window(), QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
+    if (auto* window = dynamic_cast<FormWindow*>(object))
+        return new ScreenInterface(*window, window->form());
+    if (auto* notice = dynamic_cast<Notice*>(object))
+        return new QAccessibleWidget(notice, QAccessible::Notification);
+    // A window that is no screen, as the help; the toolkit tells of a plain one as if it were a part of another.
+    auto* widget = qobject_cast<QWidget*>(object);
+    const bool isPlainWindow = widget && widget->isWindow() && widget->metaObject() == &QWidget::staticMetaObject;
+    return isPlainWindow ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
 }
 
-void Form::announce(const QString& words)
-{
-    const ToolkitCall call;
-    delete notice_; // a screen reader may remember the name of one that it knows
-    notice_ = new Notice(canvas_);
-    notice_->setAccessibleName(words);
-    notice_->show();
-}
+} // namespace
 
-Notice::Notice(QWidget* screen)
-    : QWidget(screen)
+void describeWindows()
 {
-    setFixedSize(1, 1);
-    setAttribute(Qt::WA_TransparentForMouseEvents);
+    QAccessible::installFactory(describeWindow);
 }
 
 } // namespace forms

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QAccessibleWidget>
-#include <QWidget>
 
 namespace forms {
 
@@ -20,11 +19,7 @@ private:
     const Form& form_;
 };
 
-/// A notification that nobody sees: a screen reader reads its name whenever it is shown. The toolkit has no event yet
-/// that has words read out, and those of a changed name or description are not understood.
-class Notice : public QWidget {
-public:
-    explicit Notice(QWidget* screen);
-};
+/// Tells assistive tools of all windows of the program in this way from now on.
+void describeWindows();
 
 } // namespace forms

@@ -4,7 +4,6 @@
 #include "platform/forms/active_window.h"
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
-#include "platform/forms/input_gate.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -35,15 +34,16 @@ Stage& Stage::instance()
     return the;
 }
 
-void Stage::attend(QApplication& application)
+void Stage::attend(QApplication& application, Hands hands)
 {
+    hands_ = std::move(hands);
     QObject::connect(
         &application, &QApplication::focusChanged, &application, [this](QWidget*, QWidget* now) { focusMoved(now); });
 }
 
 void Stage::focusMoved(QWidget* now)
 {
-    if (!insideToolkitCall() && !InputGate::instance().holdsBack(now))
+    if (!insideToolkitCall() && !hands_.holdFocusBack(now))
         follow(now);
 }
 

@@ -3,9 +3,11 @@
 
 #include <QHash>
 
+#include <functional>
 #include <vector>
 
 class QApplication;
+class QKeyEvent;
 class QWidget;
 
 namespace forms {
@@ -19,8 +21,17 @@ class Stage {
 public:
     static Stage& instance();
 
+    /// What the stage asks of those who stand at its front, where the user's hands come in.
+    struct Hands {
+        std::function<bool(QWidget* now)> holdFocusBack; ///< true when a move of the toolkit's focus waits
+        std::function<void(Form& form, const QKeyEvent& event)> pressKey; ///< which no control has taken
+    };
+
     /// Follows the focus that the user moves.
-    void attend(QApplication& application);
+    void attend(QApplication& application, Hands hands);
+
+    /// A key has come to the window of a screen, past all controls.
+    void keyPressed(Form& form, const QKeyEvent& event) { hands_.pressKey(form, event); }
 
     Form* active() const { return active_; }
 
@@ -74,6 +85,7 @@ private:
     void focusMoved(QWidget* now);
     void putOnTop(Form& form);
 
+    Hands hands_;
     std::vector<Form*> shown_; // topmost last
     QHash<QWidget*, Control*> controls_;
     Form* active_ = nullptr;

@@ -4,8 +4,8 @@
 #include "platform/forms/entry.h"
 #include "platform/forms/form.h"
 #include "platform/forms/line_edit.h"
-#include "platform/forms/look.h"
 #include "platform/forms/memo_edit.h"
+#include "platform/forms/theme.h"
 
 #include <QTextDocument>
 

@@ -11,8 +11,7 @@ namespace help::parts {
 
 QPushButton* button(QWidget& parent, const ButtonLook& look)
 {
-    auto* made = new QPushButton(forms::look::icon(QStringLiteral(":/pictures/icons/%1.png").arg(look.icon)),
-        QString::fromLatin1(look.caption), &parent);
+    auto* made = new QPushButton(forms::look::buttonIcon(look.icon), QString::fromLatin1(look.caption), &parent);
     const QByteArray words = QByteArray(look.toolTip).split('(').first().trimmed();
     name(*made, look.name, words.constData(), look.toolTip);
     return made;
