@@ -105,7 +105,7 @@ void BM_AddAssetToMessage(benchmark::State& state)
     Household::open("Indoor Asset Management");
     screen<frmAddUpDel>().chkClear.setValue(0);
     Clock::time_point told;
-    forms::setMessageDoor([&told](const forms::Message&) {
+    forms::setMessageHandler([&told](const forms::Message&) {
         told = Clock::now();
         return forms::Answer::OK;
     });
@@ -150,7 +150,7 @@ void BM_OpenAndUpdateAsset(benchmark::State& state)
     screen<frmSearchResults>().SelectedAsset = QString::number(assets);
     auto& asset = screen<frmAddUpDel>();
     Clock::time_point told;
-    forms::setMessageDoor([&told](const forms::Message&) {
+    forms::setMessageHandler([&told](const forms::Message&) {
         told = Clock::now();
         return forms::Answer::OK;
     });

@@ -87,7 +87,7 @@ void BM_ChangeNameToMessage(benchmark::State& state)
     auto& editor = screen<frmUpdate>();
     editor.lblHead4.setCaption("Change Indoor Location");
     Clock::time_point told;
-    forms::setMessageDoor([&told](const forms::Message&) {
+    forms::setMessageHandler([&told](const forms::Message&) {
         told = Clock::now();
         return forms::Answer::OK;
     });

@@ -196,7 +196,7 @@ int main(int argc, char** argv)
     qInstallMessageHandler(quietHandler);
     QApplication application(argc, argv);
     forms::prepare(application, programTheme());
-    forms::setMessageDoor([](const forms::Message& message) {
+    forms::setMessageHandler([](const forms::Message& message) {
         return message.flags & forms::box::YesNo ? forms::Answer::Yes : forms::Answer::OK;
     });
     forms::onHandlerReturn([] { Data1.Home.commitPending(); });

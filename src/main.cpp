@@ -15,14 +15,14 @@ namespace {
 // The system or the session asks the program to end: in order, and without a question.
 void endFromOutside()
 {
-    forms::endProcess(ending::close_Store() ? 0 : 1);
+    forms::endProcess(ending::closeStore() ? 0 : 1);
 }
 
 void start()
 {
-    forms::setReportWords(conventions::Title, ending::what_Is_Known);
-    forms::setHelpDoor(manual::open);
-    forms::onEnd([] { ending::close_Store(); });
+    forms::setReportWords(conventions::Title, ending::whatIsKnown);
+    forms::setHelpHandler(manual::open);
+    forms::onEnd([] { ending::closeStore(); });
     forms::onHandlerReturn([] { Data1.Home.commitPending(); });
     sys::onTermination(endFromOutside);
     forms::screen<frmBW_Splash>().show();
@@ -32,7 +32,7 @@ void start()
 
 int main(int argc, char* argv[])
 {
-    const auto application = open_Program(argc, argv);
+    const auto application = openProgram(argc, argv);
     forms::prepare(*application, programTheme());
     forms::runAsHandler("main", start);
     return QApplication::exec();

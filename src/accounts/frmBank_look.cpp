@@ -62,7 +62,7 @@ void frmBank::look()
 
 void frmBank::lookOfEntries()
 {
-    forms::look::dress({
+    forms::look::configure({
         {txtName, 0, " Enter Your New Financial Institution ", 40},
         {txtAddress, 1, " Enter Your Financial Institution's Address ", LongestEntry},
         {txtCity, 2, " Enter Your Financial Institution's City ", LongestEntry},
@@ -97,7 +97,7 @@ void frmBank::lookOfEntries()
 
 void frmBank::lookOfButtons()
 {
-    forms::look::dress({
+    forms::look::configure({
         {cmdPrevious, 13, "<= &Previous", " Click Here To Go To The Previous Financial Account ", "previous"},
         {cmdNext, 14, "&Next =>", " Click Here To Go To The Next Financial Account ", "next"},
         {cmdBack, 15, "&Cancel", " Click Here To Return To Previous Window ", "cancel"},

@@ -3,7 +3,7 @@
 
 #include "data/data_store.h"
 
-bool find_Asset(qint64 id)
+bool findAsset(qint64 id)
 {
     auto& assets = Data1.rsInventory;
     if (assets.RecordCount() != 0)

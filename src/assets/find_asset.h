@@ -5,4 +5,4 @@
 
 /// Walks the inventory from its first row to the asset of an ID, which becomes the current row. False where there is
 /// none; the inventory stands behind its last row then.
-bool find_Asset(qint64 id);
+bool findAsset(qint64 id);

@@ -304,7 +304,7 @@ void frmAddUpDel::load_Update_Mode()
 
 bool frmAddUpDel::find_Selected_Asset()
 {
-    return find_Asset(screen<frmSearchResults>().SelectedAsset.toLongLong());
+    return findAsset(screen<frmSearchResults>().SelectedAsset.toLongLong());
 }
 
 void frmAddUpDel::load_Asset()

@@ -111,7 +111,7 @@ void frmAddUpDel::look()
 
 void frmAddUpDel::describeFields()
 {
-    forms::look::dress({
+    forms::look::configure({
         {cmbArea, 1, " The Area Has Already Been Selected "},
         {cmbLoc, 2, " Select A Location From The List "},
         {cmbCat, 3, " Select A Category From The List "},
@@ -171,7 +171,7 @@ void frmAddUpDel::giveFirstValues()
 
 void frmAddUpDel::describeButtons()
 {
-    forms::look::dress({
+    forms::look::configure({
         {cmdWarranty, 20, "&Warranty Information", " Click Here To View Asset Warranty Information ", "shield"},
         {cmdAdd, 21, "&Add Asset", " Click Here To Add The Above Asset To Your Inventory ", "plus"},
         {cmdUpdate, 22, "&Update Asset", " Click Here To Update Changes To The Above Asset ", "pencil"},

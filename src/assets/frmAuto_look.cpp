@@ -10,7 +10,7 @@ void frmAuto::look()
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
 
-    forms::look::dress({
+    forms::look::configure({
         {cmdAdd[0], 0, "&Add", " Click Here To Add A New Asset To Your Inventory ", "plus"},
         {cmdUpdate[1], 1, "&Update", " Click Here To Update An Existing Asset In Your Inventory ", "pencil"},
         {cmdDelete[0], 2, "&Delete", " Click Here To Delete An Existing Asset From Your Inventory ", "trash"},

@@ -182,7 +182,7 @@ void frmWar::return_To_Asset()
 
 bool frmWar::find_Its_Asset()
 {
-    return find_Asset(ways::frmAddUpDel().AssetKey);
+    return findAsset(ways::frmAddUpDel().AssetKey);
 }
 
 // In the order in which they are read, written and compared. A month stands before its day, which it would empty.

@@ -59,7 +59,7 @@ void frmWar::look()
 void frmWar::describeFields()
 {
     constexpr auto icon = " This Icon Opens A Calendar So A Date Can Be Selected ";
-    forms::look::dress(
+    forms::look::configure(
         {
             {txtName, 18, " This Is The Asset's Name That This Warranty Information Will Cover ", 254},
             {cmbParts, 1, " Enter The Warranty Parts Coverage Type For This Asset "},
@@ -79,7 +79,7 @@ void frmWar::describeFields()
             {txtDescription, 13, " Any Descriptive Information About The Warranty Can Be Entered Here ", 254},
         },
         helpTopic);
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdSave, 15, "&Save", " Click Here To Save Changes To The Warranty Information ", "ok"},
             {cmdCancel, 14, "&Cancel", " Click Here To Return To Previous Window ", "cancel"},

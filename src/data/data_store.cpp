@@ -148,7 +148,7 @@ void rewind(storage::TableView& view)
         view.MoveFirst();
 }
 
-void stage_Asset()
+void stageAsset()
 {
     Data1.rsPrint.AddNew();
     for (int column = Print::ID; column <= Print::Description; ++column)

@@ -126,7 +126,7 @@ extern DataStore Data1;
 void rewind(storage::TableView& view);
 
 /// Copies the current asset into a new row of the staging table, which is stored by Update or with the next row.
-void stage_Asset();
+void stageAsset();
 
 /// The key of the database file.
 QByteArray databaseKey();

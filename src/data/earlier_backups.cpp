@@ -114,7 +114,7 @@ void thinOut(const proofs::Book& book, const QDateTime& now)
         std::rethrow_exception(failed);
 }
 
-QString toldTrouble(const values::RuntimeFailure& failure)
+QString troubleText(const values::RuntimeFailure& failure)
 {
     return QStringLiteral("The backup of %1 could not be kept: %2.")
         .arg(QFileInfo(lastBackup()).lastModified().toString(QStringLiteral("M/d/yyyy h:mm AP")),
@@ -191,7 +191,7 @@ Keeping::Keeping()
         try {
             kept_ = keepLast();
         } catch (const values::RuntimeFailure& failure) {
-            trouble_ = toldTrouble(failure);
+            trouble_ = troubleText(failure);
             throw;
         }
     });
@@ -208,7 +208,7 @@ void Keeping::thin(const proofs::Contents& contents)
     attempt(said_, [this] { writeTrouble(trouble_); });
 }
 
-QString last_Trouble()
+QString lastTrouble()
 {
     QFile file(troubleFile());
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();

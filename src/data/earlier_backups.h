@@ -53,6 +53,6 @@ private:
 };
 
 /// Why the last close could not keep the backup that it replaced; empty where it could.
-QString last_Trouble();
+QString lastTrouble();
 
 } // namespace earlier

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-int count_Running(const std::vector<sys::Process>& processes, const sys::Process& self)
+int countRunning(const std::vector<sys::Process>& processes, const sys::Process& self)
 {
     const auto counts = [&self](const sys::Process& process) {
         return process.name.contains(QLatin1String("Kestrill"), Qt::CaseSensitive)

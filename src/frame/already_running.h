@@ -5,4 +5,4 @@
 
 /// How many of these processes run the program. Any counts whose name holds the product's, on purpose. Of two starts at
 /// the same moment the younger gives way: seen from `self`, a younger twin doesn't count.
-int count_Running(const std::vector<sys::Process>& processes, const sys::Process& self);
+int countRunning(const std::vector<sys::Process>& processes, const sys::Process& self);

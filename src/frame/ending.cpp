@@ -40,12 +40,12 @@ struct LastSeen {
 
 LastSeen& lastSeen()
 {
-    static LastSeen the;
-    return the;
+    static LastSeen instance;
+    return instance;
 }
 
 // A second step of one end meets views that the first one has closed, and adds nothing.
-void remember_Rows()
+void rememberRows()
 {
     const auto isOpen = [](const ViewOfTable& closing) { return (Data1.*closing.view).isOpen(); };
     if (!std::all_of(std::begin(closingOrder), std::end(closingOrder), isOpen))
@@ -66,7 +66,7 @@ void noteFailure(Step step)
     }
 }
 
-void read_Through()
+void readThrough()
 {
     const std::vector<TableCount> found = storage::checkDatabase(places::databaseFile(), databaseKey());
     for (const TableCount& count : lastSeen().rows)
@@ -75,7 +75,7 @@ void read_Through()
                 QStringLiteral("%1 doesn't hold its %2 rows any more").arg(count.table).arg(count.rows));
 }
 
-QString journal_Advice()
+QString journalAdvice()
 {
     const QFileInfo journal(places::databaseFile() + QStringLiteral("-journal"));
     if (journal.size() == 0)
@@ -83,7 +83,7 @@ QString journal_Advice()
     return QStringLiteral("\nLeave %1 beside it: the next start mends the database by it.").arg(journal.fileName());
 }
 
-QString backup_Place()
+QString backupPlace()
 {
     const QFileInfo backup(places::backupFolder() + u'/' + QFileInfo(places::databaseFile()).fileName());
     if (!backup.exists())
@@ -93,9 +93,9 @@ QString backup_Place()
 
 } // namespace
 
-std::vector<TableCount> close_Views()
+std::vector<TableCount> closeViews()
 {
-    remember_Rows();
+    rememberRows();
     noteFailure([] {
         for (const ViewOfTable& closing : closingOrder)
             (Data1.*closing.view).Close();
@@ -103,9 +103,9 @@ std::vector<TableCount> close_Views()
     return lastSeen().rows;
 }
 
-bool close_Store()
+bool closeStore()
 {
-    remember_Rows();
+    rememberRows();
     try {
         noteFailure([] { Data1.Home.close(); });
         return true;
@@ -115,19 +115,19 @@ bool close_Store()
     }
 }
 
-QString what_Is_Known()
+QString whatIsKnown()
 {
     QString wrong = lastSeen().failure;
     try {
         if (wrong.isEmpty()) {
-            read_Through();
+            readThrough();
             return QStringLiteral("Everything that you saved is safe.");
         }
     } catch (const values::RuntimeFailure& failure) {
         wrong = failure.text();
     }
     return QStringLiteral("Your data may not be whole. %1\nThe database: %2%3\n%4")
-        .arg(wrong, places::databaseFile(), journal_Advice(), backup_Place());
+        .arg(wrong, places::databaseFile(), journalAdvice(), backupPlace());
 }
 
 } // namespace ending

@@ -10,14 +10,14 @@ namespace ending {
 inline constexpr int NotLoaded = 3;
 
 /// Closes all views, which closes the file, and tells how many rows each table has.
-std::vector<storage::TableCount> close_Views();
+std::vector<storage::TableCount> closeViews();
 
 /// Closes what is open where no failure can be handled any more: says on the error output what failed. Whether all is
 /// well.
-bool close_Store();
+bool closeStore();
 
 /// What the run-time report says of the data once the store is closed. That all is safe only where the file was read
 /// through and holds each row; else what is wrong, and where file and backup lie.
-QString what_Is_Known();
+QString whatIsKnown();
 
 } // namespace ending

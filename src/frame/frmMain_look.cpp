@@ -21,7 +21,7 @@ void frmMain::look()
     lblSelIn[1].setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
 
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdIn, 0, "&Indoor", " Click Here To Add An Indoor Asset To Your Inventory ", "house"},
             {cmdOut, 1, "&Outdoor", " Click Here To Add An Outdoor Asset To Your Inventory ", "tree"},

@@ -94,7 +94,7 @@ void frmProgress::close_Program()
     purge_Blank_Names({&DataStore::rsOutdoor, true, true});
     purge_Blank_Names({&DataStore::rsMobile, true, false});
     const proofs::Contents contents = proofs::contentsOf(Data1.rsInventory.snapshot());
-    const QString trouble = back_Up_Database(ending::close_Views(), contents);
+    const QString trouble = back_Up_Database(ending::closeViews(), contents);
     hide();
     forms::screen<frmExit>().tell(trouble);
 }

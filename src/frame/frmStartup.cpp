@@ -67,7 +67,7 @@ void frmStartup::start_Up()
 void frmStartup::check_Already_Running()
 {
     const sys::Process self = sys::thisProcess();
-    if (count_Running(list_Processes(), self) < 2)
+    if (countRunning(list_Processes(), self) < 2)
         return;
     conventions::MsgBox("Kestrill Is Already Running!", forms::box::Exclamation);
     forms::endProcess(1);

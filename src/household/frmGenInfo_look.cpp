@@ -92,7 +92,7 @@ void frmGenInfo::lookOfEntries()
 
 void frmGenInfo::lookOfButtons()
 {
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdInsInfo, 18, "&Insurance Information",
                 " Click Here To Update Or Review Your Home Insurance Policy Information ", "shield"},

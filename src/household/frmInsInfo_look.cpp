@@ -38,7 +38,7 @@ void frmInsInfo::look()
     lblHead[4].setCaption("Coverage Amount");
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
-    forms::look::dress(
+    forms::look::configure(
         {
             {txtCompany, 0, " Enter The Company That Is Insuring Your Home Here ", LongestEntry},
             {txtPolicyNum, 1, " Enter The Number Of The Policy For Your Home Here ", LongestEntry},
@@ -53,7 +53,7 @@ void frmInsInfo::look()
         HelpNumber);
     // cmdUpdate does more when the mouse goes down; cmdCancel and cmdClear never show the pressed colour.
     constexpr auto plain = forms::look::PressedLook::None;
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdUpdate, 5, "&Update", " Click Here To Update Insurance Information ", "ok", plain},
             {cmdCancel, 6, "&Cancel", " Click Here To Return To The Personal Information Window ", "cancel", plain},

@@ -33,7 +33,7 @@ void frmTotals::look()
     lblHead2[1].setCaption("Total Asset Value");
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
-    forms::look::dress({{cmdOK, 0, "&OK", " Click Here To Return To Main Menu ", "ok"}}, HelpNumber);
+    forms::look::configure({{cmdOK, 0, "&OK", " Click Here To Return To Main Menu ", "ok"}}, HelpNumber);
     cmdOK.setDefault(true);
     cmdOK.Click = [this] { cmdOK_Click(); };
     layOut();

@@ -34,7 +34,7 @@ void lookOf(const EditorParts& parts, const forms::look::ButtonLook& update)
     parts.editor.setTitle(conventions::Title);
     parts.lblSelIn.setCaption(conventions::HelpHint);
     parts.lblCopyright.setCaption(conventions::Footer);
-    forms::look::dress({
+    forms::look::configure({
         update,
         {parts.cmdCancel, update.tabIndex + 1, "&Cancel", " Click Here To Return To Previous Window ", "cancel"},
     });

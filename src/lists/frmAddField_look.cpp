@@ -9,7 +9,7 @@ void frmAddField::look()
     lblHead3.setCaption("Second, Select Add To Finish");
     lblChoice.setCaption("Location");
     const editing::EditorParts parts{*this, lblHead, cmdUpdate, cmdCancel, lblSelIn, lblCopyright};
-    forms::look::dress({
+    forms::look::configure({
         {txtAdd, 0, " Enter Your New Name Here ", 254},
     });
     editing::lookOf(parts, {cmdUpdate, 1, "&Add", " Click Here To Add ", "plus"});

@@ -9,7 +9,7 @@ void frmDelField::look()
     lblHead3.setCaption("Second, Click Delete To Finish");
     lblChoice.setCaption("Location");
     const editing::EditorParts parts{*this, lblHead, cmdUpdate, cmdCancel, lblSelIn, lblCopyright};
-    forms::look::dress({
+    forms::look::configure({
         {cmbCat, 0, " Select The Item You Want To Be Deleted "},
     });
     editing::lookOf(parts, {cmdUpdate, 1, "&Delete", " Click Here To Delete Selected Item ", "trash"});

@@ -26,7 +26,7 @@ void frmUpdate::look()
     lblChoice.setCaption("Current");
     lblHead1.setCaption("New");
     const editing::EditorParts parts{*this, lblHead4, cmdUpdate, cmdCancel, lblSelIn, lblCopyright};
-    forms::look::dress({
+    forms::look::configure({
         {cmbCat, 0, " Select The Name To Be Changed "},
         {txtNew, 1, " Enter Name Change Here ", 254},
     });

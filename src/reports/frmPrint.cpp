@@ -158,6 +158,6 @@ void frmPrint::print_Assets()
 // Copies the current asset; the row is stored when the next one is added.
 void frmPrint::stage_Asset()
 {
-    ::stage_Asset();
+    stageAsset();
     CustomPrint = true;
 }

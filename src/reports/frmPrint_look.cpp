@@ -21,7 +21,7 @@ void frmPrint::look()
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
 
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdInPrint[0], 0, "&Indoor ", " Click Here To Print All Of Your Indoor Assets ", "house"},
             {cmdOutPrint[2], 1, "&Outdoor", " Click Here To Print All Of Your Outdoor Assets ", "tree"},

@@ -282,7 +282,7 @@ void frmSearchResults::stage_Matches()
 
 void frmSearchResults::copy_To_Print()
 {
-    stage_Asset();
+    stageAsset();
     Data1.rsPrint.Update();
 }
 

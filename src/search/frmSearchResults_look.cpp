@@ -89,7 +89,7 @@ void frmSearchResults::look()
     lblPage.setCaption("Page 1 of 1");
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdPrevious, 0, "<= Pre&vious", " Click Here To Go To Previous Page ", "previous"},
             {cmdNext, 1, "&Next =>", " Click Here To Go To Next Page ", "next"},

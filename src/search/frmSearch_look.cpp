@@ -48,7 +48,7 @@ void frmSearch::look()
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
 
-    forms::look::dress(
+    forms::look::configure(
         {
             {txtKey, 0, " Type In A Word To Search...Then Select The Enter Key To Find Asset(s) ", 254},
             {cmbArea, 1, " Select An Area To Search...Then Select The Enter Key To Find Asset(s) "},
@@ -57,7 +57,7 @@ void frmSearch::look()
             {cmbType, 4, " Select An Item To Search...Then Select The Enter Key To Find Asset(s) "},
         },
         HelpNumber);
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdBack, 5, "&Cancel", " Click Here To Return To The Previous Window ", "cancel"},
             {cmdClearForm, 6, "&Reset", " Click Here To Clear This Form For A New Search ", "clear"},

@@ -37,7 +37,7 @@ void frmCalendar::show_For(const DateCaller& caller)
 {
     const QScopedValueRollback<const DateCaller*> asking(Caller, &caller);
     DateTarget = caller.DateTarget;
-    show_Modal(caller.screen);
+    showModal(caller.screen);
 }
 
 void frmCalendar::show_For(const DateCaller& caller, const QString& shown)

@@ -12,10 +12,10 @@ namespace {
 // Nothing is read before the first F1, so that the start is not slower by it.
 help::Viewer& viewer()
 {
-    static QPointer<help::Viewer> the;
-    if (!the)
-        the = new help::Viewer(help::Book(QStringLiteral(":/help")), QStringLiteral("Kestrill Help"));
-    return *the;
+    static QPointer<help::Viewer> instance;
+    if (!instance)
+        instance = new help::Viewer(help::Book(QStringLiteral(":/help")), QStringLiteral("Kestrill Help"));
+    return *instance;
 }
 
 } // namespace

@@ -23,9 +23,9 @@ OptionMenu::OptionMenu(const QString& name, int number, const MenuLook& look)
     lblCopyright.setCaption(conventions::Footer);
     for (int Index = 0; Index < optEdit.count(); ++Index) {
         optEdit[Index].setCaption(look.options[Index].caption);
-        forms::look::dress({{optEdit[Index], Index, look.options[Index].toolTip}}, look.helpNumber);
+        forms::look::configure({{optEdit[Index], Index, look.options[Index].toolTip}}, look.helpNumber);
     }
-    forms::look::dress(
+    forms::look::configure(
         {
             {cmdUpdate, 3, "C&ontinue", look.tipOfUpdate, "next"},
             {cmdCancel, 4, "&Cancel", look.tipOfCancel, "cancel"},

@@ -18,15 +18,15 @@ QIcon programIcon()
 
 } // namespace
 
-std::unique_ptr<QApplication> open_Program(int& argc, char* argv[])
+std::unique_ptr<QApplication> openProgram(int& argc, char* argv[])
 {
     auto application =
         forms::openDisplay(argc, argv, NoDisplay, "Kestrill needs a display, and finds none that it can use.");
-    name_Program();
+    nameProgram();
     return application;
 }
 
-void name_Program()
+void nameProgram()
 {
     QApplication::setApplicationName("Kestrill");
     QApplication::setDesktopFileName("kestrill");

@@ -9,7 +9,7 @@ class QApplication;
 inline constexpr int NoDisplay = 8;
 
 /// Makes the application object and names the program. Without a display the process ends, with that status and a line.
-std::unique_ptr<QApplication> open_Program(int& argc, char* argv[]);
+std::unique_ptr<QApplication> openProgram(int& argc, char* argv[]);
 
 /// Tells the desktop by what name and icon it knows the program's windows. The application object must exist.
-void name_Program();
+void nameProgram();

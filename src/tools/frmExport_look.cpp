@@ -19,7 +19,7 @@ void frmExport::look()
                        "them in one file for other programs, the asset report and the cover sheet as PDF.\n\nThese "
                        "files are not encrypted. Who can read the folder can read them.");
     lblCopyright.setCaption(conventions::Footer);
-    forms::look::dress({
+    forms::look::configure({
         {cmdChoose, 0, "Choose &Folder...", " Click Here To Choose Where The Folder Is Made ", "save"},
         {cmdClose, 1, "&Close", " Click Here To Close This Window ", "exit"},
     });

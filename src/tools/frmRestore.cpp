@@ -42,7 +42,7 @@ void frmRestore::Form_Load()
 // Else nobody hears that the last close has kept no earlier backup: its screen stands for a moment only.
 void frmRestore::tell_Trouble()
 {
-    const QString trouble = earlier::last_Trouble();
+    const QString trouble = earlier::lastTrouble();
     if (!trouble.isEmpty())
         lblTell.setCaption(lblTell.caption() + u'\n' + trouble);
 }

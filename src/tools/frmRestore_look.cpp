@@ -28,8 +28,8 @@ void frmRestore::look()
     lstBackups.alignRight(2);
     lstBackups.alignRight(3);
     lstBackups.setRows(RowsInSight);
-    forms::look::dress({{lstBackups, 0, " Choose The Backup To Go Back To "}});
-    forms::look::dress({
+    forms::look::configure({{lstBackups, 0, " Choose The Backup To Go Back To "}});
+    forms::look::configure({
         {cmdRestore, 1, "&Restore...", " Click Here To Go Back To The Chosen Backup ", "reset"},
         {cmdClose, 2, "&Close", " Click Here To Leave Everything As It Is ", "exit"},
     });

@@ -18,7 +18,7 @@ void frmRestored::Form_Unload(bool& cancel)
 void frmRestored::tell(const QString& made, const restoring::Result& result)
 {
     const QString& putAside = result.putAside;
-    const QString doubt = result.doubt.isEmpty() ? QString() : u' ' + restoring::told_Doubt(result);
+    const QString doubt = result.doubt.isEmpty() ? QString() : u' ' + restoring::doubtText(result);
     lblTell[0].setCaption(
         QStringLiteral("The household is as it was at the backup of %1: %2.").arg(made, result.summary) + doubt);
     lblTell[1].setCaption(putAside.isEmpty()

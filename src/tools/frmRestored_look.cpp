@@ -14,7 +14,7 @@ void frmRestored::look()
     setTitle(conventions::Title);
     lblHead.setCaption("The Backup Is Restored");
     lblCopyright.setCaption(conventions::Footer);
-    forms::look::dress({{cmdClose, 0, "&Close", " Click Here To Close This Window ", "ok"}});
+    forms::look::configure({{cmdClose, 0, "&Close", " Click Here To Close This Window ", "ok"}});
     forms::look::mainAction(cmdClose);
     cmdClose.setDefault(true);
     cmdClose.Click = [this] { close(); };

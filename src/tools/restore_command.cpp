@@ -50,7 +50,7 @@ int listBackups()
     printEach(list);
     if (list.empty())
         terminal::complain(QStringLiteral("There is no backup yet: the program makes one each time it is closed."));
-    if (const QString trouble = earlier::last_Trouble(); !trouble.isEmpty())
+    if (const QString trouble = earlier::lastTrouble(); !trouble.isEmpty())
         terminal::complain(trouble);
     return exit_code::Done;
 }
@@ -91,7 +91,7 @@ int restoreBackup(const QString& name, bool isConfirmed)
     if (!result.putAside.isEmpty())
         terminal::print(QStringLiteral("To go back: kestrill-restore --restore %1").arg(result.putAside));
     if (!result.doubt.isEmpty())
-        terminal::complain(restoring::told_Doubt(result));
+        terminal::complain(restoring::doubtText(result));
     return exit_code::Done;
 }
 

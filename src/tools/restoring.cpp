@@ -297,7 +297,7 @@ void refuse_While_Running()
         throw Refusal(exit_code::InUse, QStringLiteral("Kestrill is running. Close it first."));
 }
 
-QString told_Doubt(const Result& result)
+QString doubtText(const Result& result)
 {
     return QStringLiteral("The disk has not confirmed it: %1. Look after the disk, and check the file with "
                           "kestrill-check before you go on.")

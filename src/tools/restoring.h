@@ -15,7 +15,7 @@ struct Result {
 };
 
 /// The words for a doubt.
-QString told_Doubt(const Result& result);
+QString doubtText(const Result& result);
 
 /// Told before each step that changes a file, with its number from 1 on.
 using Steps = std::function<void(int step)>;

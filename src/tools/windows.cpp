@@ -17,10 +17,10 @@ namespace {
 template <class First>
 int run(int& argc, char* argv[])
 {
-    const auto application = open_Program(argc, argv);
+    const auto application = openProgram(argc, argv);
     forms::prepare(*application, programTheme());
     forms::setReportWords(conventions::Title, [] { return QStringLiteral("Nothing was lost."); });
-    forms::setHelpDoor(manual::open);
+    forms::setHelpHandler(manual::open);
     forms::runAsHandler("main", [] { forms::screen<First>().show(); });
     return QApplication::exec();
 }

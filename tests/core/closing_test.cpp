@@ -36,7 +36,7 @@ protected:
 
     static QString file() { return places::databaseFile(); }
     static QString backupFile() { return places::backupFolder() + "/KTL.db"; }
-    static std::string known() { return ending::what_Is_Known().toStdString(); }
+    static std::string known() { return ending::whatIsKnown().toStdString(); }
 };
 
 TEST_F(Closing, OverwritesTheLastBackupLeavesWhatIsNotItsOwnAndEndsWithTheGoodbye)
@@ -106,7 +106,7 @@ TEST_F(Closing, OfAFailedRunTellsOfRowsThatTheFileDoesNotHold)
     addNames(Data1.rsIndoor, {"Attic", "0", "0"});
     const QByteArray before = bytesOf(file());
     addNames(Data1.rsIndoor, {"Cellar", "0", "0"});
-    EXPECT_TRUE(ending::close_Store());
+    EXPECT_TRUE(ending::closeStore());
     putFile(file(), before);
     EXPECT_THAT(known(), HasSubstr("Indoor_Items doesn't hold its"));
     putFile(file() + "-journal", QByteArray(2000, 'j'));
@@ -115,7 +115,7 @@ TEST_F(Closing, OfAFailedRunTellsOfRowsThatTheFileDoesNotHold)
     openData();
     QFile::remove(file());
     internal::CaptureStderr();
-    EXPECT_FALSE(ending::close_Store());
+    EXPECT_FALSE(ending::closeStore());
     EXPECT_THAT(internal::GetCapturedStderr(), HasSubstr("KTL.db was moved"));
 }
 
@@ -269,9 +269,9 @@ TEST_F(EarlierBackups, ThatCantBeKeptEndangerNeitherTheCloseNorTheBackupAndTheUs
         QString("The backup of %1 could not be kept: Not a directory.").arg(yesterday.toString("M/d/yyyy h:mm AP"));
     EXPECT_EQ(
         line(bytesOf(backupFile()) == bytesOf(file()), screen<frmExit>().lblTrouble.caption()), "true, " + trouble);
-    EXPECT_EQ(earlier::last_Trouble(), trouble);
+    EXPECT_EQ(earlier::lastTrouble(), trouble);
     earlier::Keeping().thin({});
-    EXPECT_EQ(earlier::last_Trouble(), "");
+    EXPECT_EQ(earlier::lastTrouble(), "");
     QDir(places::earlierBackupsFolder()).removeRecursively();
     putFile(places::earlierBackupsFolder(), "in the way");
     internal::CaptureStderr();

@@ -28,7 +28,7 @@ protected:
         }
         for (int count = 0; count < 3; ++count)
             addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).trimmed().split(' '));
-        forms::setHelpDoor(
+        forms::setHelpHandler(
             [this](int number, const QString& window) { opened_ = number > 0 ? QString::number(number) : window; });
     }
 

@@ -44,7 +44,7 @@ protected:
     QString start()
     {
         QStringList told;
-        forms::setMessageDoor([&told](const forms::Message& box) {
+        forms::setMessageHandler([&told](const forms::Message& box) {
             told += QString("%1 \"%2\"").arg(box.flags).arg(box.text);
             return forms::Answer::OK;
         });
@@ -63,7 +63,7 @@ protected:
 
 TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
 {
-    name_Program();
+    nameProgram();
     EXPECT_EQ(QApplication::windowIcon().availableSizes().size(), 7);
     screen<frmBW_Splash>().show();
     closeBox(screen<frmBW_Splash>()); // refuses

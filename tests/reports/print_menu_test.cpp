@@ -39,7 +39,7 @@ TEST_F(PrintMenu, HidesTheProgressDisplayUnlessThereIsNothingToPrintAtAll)
     addAssetRow({"Indoor"});
     addAssetRow({"Outdoor"});
     addRow(Data1.rsPrint, {{Print::Type, "printed before"}});
-    forms::setMessageDoor([](const forms::Message&) { return forms::Answer::OK; });
+    forms::setMessageHandler([](const forms::Message&) { return forms::Answer::OK; });
     for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdOutPrint[2], &menu().cmdAutoPrint[1],
              &menu().cmdAllPrint[3], &menu().cmdFillOutForm[0], &menu().cmdBack[0], &menu().cmdCustom[4]}) {
         search.raise_Progress();

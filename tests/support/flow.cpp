@@ -182,7 +182,7 @@ void ScreenTest::replay(const char* file, const std::function<QStringList()>& te
             tell();
         }
     };
-    forms::setMessageDoor([&](const forms::Message& box) {
+    forms::setMessageHandler([&](const forms::Message& box) {
         look();
         note({QStringLiteral("box %1 \"%2\"").arg(box.flags).arg(box.text)});
         const bool isYes = !reactions.isEmpty() && reactions.takeFirst() == "Yes";
@@ -200,7 +200,7 @@ void ScreenTest::replay(const char* file, const std::function<QStringList()>& te
         form = forms::activeForm();
         tell();
     }
-    forms::setMessageDoor({}); // a way ends its test
+    forms::setMessageHandler({}); // a way ends its test
     if (isOfTheTables)
         reopenData();
     for (const QString& change : isOfTheTables ? changes(state, stateNow(forms::activeForm())) : QStringList())

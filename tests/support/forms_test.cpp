@@ -49,7 +49,7 @@ FormsTest::FormsTest()
         qApp->installEventFilter(&still);
         return true;
     }();
-    forms::setMessageDoor([this](const forms::Message& shown) { return answer(shown); });
+    forms::setMessageHandler([this](const forms::Message& shown) { return answer(shown); });
     forms::setProcessEnder([this](int status) {
         endStatus_ = status;
         throw forms::ProcessEnd{status};
@@ -58,7 +58,7 @@ FormsTest::FormsTest()
         EXPECT_FALSE(failure_) << "A second failure after " << failure_->handler.toStdString();
         failure_ = report;
     });
-    forms::setHelpDoor([this](int number, const QString&) { openedHelp_ = number; });
+    forms::setHelpHandler([this](int number, const QString&) { openedHelp_ = number; });
     QObject::connect(&attendance_, &QTimer::timeout, &attendance_, [this] { attendModals(); });
     attendance_.start(pollMilliseconds);
 }
@@ -73,10 +73,10 @@ void FormsTest::TearDown()
     EXPECT_FALSE(endStatus_) << "The process has ended unexpectedly, with status " << *endStatus_;
     EXPECT_FALSE(failure_) << "Uncaught failure in " << failure_->handler.toStdString() << ": "
                            << failure_->failure.toStdString();
-    forms::setMessageDoor({});
+    forms::setMessageHandler({});
     forms::setProcessEnder({});
     forms::setFailureReporter({});
-    forms::setHelpDoor({});
+    forms::setHelpHandler({});
     forms::onHandlerReturn({});
     QGuiApplication::clipboard()->clear();
 }

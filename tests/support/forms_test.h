@@ -33,7 +33,7 @@ protected:
     void setBoxTitle(const QString& title) { boxTitle_ = title; }
 
     /// Shows boxes on the screen, to be answered by whileModal().
-    void useRealBoxes() { forms::setMessageDoor({}); }
+    void useRealBoxes() { forms::setMessageHandler({}); }
 
     /// Queues what the user does when the next modal screen or real box is up, inside its event loop. Scripts run in
     /// the order in which they are queued, one for each opening.

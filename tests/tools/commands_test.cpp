@@ -30,7 +30,7 @@ namespace {
 // A test whose list tells what happens to the household and its files.
 class ListedTest : public ToolsTest {
 protected:
-    ~ListedTest() override { forms::setFolderDoor({}); }
+    ~ListedTest() override { forms::setFolderHandler({}); }
 
     std::optional<QString> happen(const QString& line) override
     {
@@ -69,7 +69,7 @@ protected:
             // And to the windows.
             {"open", [&] { open(path); }}, {"read", [&] { read(path.toInt()); }},
             {"begin", [&] { screen<frmExport>().tmStart.elapse(), seen = QString("| asked %1").arg(asked_); }},
-            {"choose", [&] { forms::setFolderDoor([this, path] { return ++asked_, path; }); }},
+            {"choose", [&] { forms::setFolderHandler([this, path] { return ++asked_, path; }); }},
             {"listed", [&] { seen = listed(); }},
             {"status", [&] { seen = "| " + QString::number(endStatus().value_or(-1)); }}};
         const auto event = events.find(words[0]);

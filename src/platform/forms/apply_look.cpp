@@ -17,24 +17,24 @@ namespace {
 
 QPalette palette()
 {
-    const Colours& the = colours();
-    QPalette palette(the.buttonFace, the.ground);
-    palette.setColor(QPalette::Window, the.ground);
-    palette.setColor(QPalette::Base, the.field);
-    palette.setColor(QPalette::AlternateBase, the.buttonFace);
-    palette.setColor(QPalette::ToolTipBase, the.buttonFace);
-    palette.setColor(QPalette::Highlight, the.accent);
-    palette.setColor(QPalette::HighlightedText, the.field);
-    palette.setColor(QPalette::Mid, the.line);
-    palette.setColor(QPalette::PlaceholderText, the.quiet);
+    const Colours& theme = colours();
+    QPalette palette(theme.buttonFace, theme.ground);
+    palette.setColor(QPalette::Window, theme.ground);
+    palette.setColor(QPalette::Base, theme.field);
+    palette.setColor(QPalette::AlternateBase, theme.buttonFace);
+    palette.setColor(QPalette::ToolTipBase, theme.buttonFace);
+    palette.setColor(QPalette::Highlight, theme.accent);
+    palette.setColor(QPalette::HighlightedText, theme.field);
+    palette.setColor(QPalette::Mid, theme.line);
+    palette.setColor(QPalette::PlaceholderText, theme.quiet);
     for (const auto role :
         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
-        palette.setColor(role, the.text);
+        palette.setColor(role, theme.text);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, the.quiet);
-    palette.setColor(QPalette::Disabled, QPalette::Base, the.ground.lighter(106));
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, the.pressed);
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, the.text);
+        palette.setColor(QPalette::Disabled, role, theme.quiet);
+    palette.setColor(QPalette::Disabled, QPalette::Base, theme.ground.lighter(106));
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, theme.pressed);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, theme.text);
     return palette;
 }
 

@@ -3,7 +3,7 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/buttons.h"
-#include "platform/forms/input_gate.h"
+#include "platform/forms/input_filter.h"
 #include "platform/forms/keyboard.h"
 
 #include <QKeyEvent>
@@ -57,7 +57,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         bool reaches = false;
-        fromToolkit([this, &reaches] { reaches = InputGate::instance().reaches(button_); });
+        fromToolkit([this, &reaches] { reaches = InputFilter::instance().reaches(button_); });
         if (!reaches) {
             event->accept();
             return;

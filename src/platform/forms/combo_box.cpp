@@ -3,7 +3,7 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
-#include "platform/forms/input_gate.h"
+#include "platform/forms/input_filter.h"
 #include "platform/forms/item_list.h"
 #include "platform/forms/keyboard.h"
 #include "platform/forms/line_edit.h"
@@ -132,7 +132,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         fromToolkit([this] {
-            pressed_ = InputGate::instance().reaches(box_);
+            pressed_ = InputFilter::instance().reaches(box_);
             if (pressed_)
                 box_.MouseDown.fire();
         });

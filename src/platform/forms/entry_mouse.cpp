@@ -3,7 +3,7 @@
 #include "platform/forms/boundary.h"
 #include "platform/forms/entry.h"
 #include "platform/forms/form.h"
-#include "platform/forms/input_gate.h"
+#include "platform/forms/input_filter.h"
 
 #include <QContextMenuEvent>
 #include <QDropEvent>
@@ -21,15 +21,15 @@ namespace forms {
 void Entry::pressed(QMouseEvent& event, const ToolkitStep& step)
 {
     fromToolkit([this, &event, &step] {
-        InputGate& gate = InputGate::instance();
-        steady_ = gate.bringsFocus();
+        InputFilter& filter = InputFilter::instance();
+        steady_ = filter.bringsFocus();
         {
             const ToolkitCall call;
             step(); // puts the caret
         }
         pressedAt_ = event.position();
         isSecondPress_ = false;
-        pressed_ = gate.reaches(box_);
+        pressed_ = filter.reaches(box_);
         if (pressed_)
             box_.MouseDown.fire();
     });
@@ -72,7 +72,7 @@ void Entry::released(QMouseEvent& event, const ToolkitStep& step)
 
 void Entry::doubleClicked(QMouseEvent& event, const ToolkitStep& step)
 {
-    if (InputGate::instance().bringsFocus()) { // the first click was elsewhere
+    if (InputFilter::instance().bringsFocus()) { // the first click was elsewhere
         pressed(event, step);
         return;
     }

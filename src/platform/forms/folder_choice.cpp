@@ -10,10 +10,10 @@ namespace forms {
 
 namespace {
 
-std::function<QString()>& folderDoor()
+std::function<QString()>& folderHandler()
 {
-    static std::function<QString()> the;
-    return the;
+    static std::function<QString()> instance;
+    return instance;
 }
 
 } // namespace
@@ -22,8 +22,8 @@ QString chooseFolder(const QString& title, const QString& start)
 {
     Stage& stage = Stage::instance();
     stage.interrupted();
-    if (folderDoor())
-        return folderDoor()();
+    if (folderHandler())
+        return folderHandler()();
     stage.settle();
     Form* front = stage.active();
     QFileDialog dialog(front ? front->window() : nullptr, title, start);
@@ -37,9 +37,9 @@ QString chooseFolder(const QString& title, const QString& start)
     return chosen;
 }
 
-void setFolderDoor(std::function<QString()> door)
+void setFolderHandler(std::function<QString()> handler)
 {
-    folderDoor() = std::move(door);
+    folderHandler() = std::move(handler);
 }
 
 } // namespace forms

@@ -11,6 +11,6 @@ namespace forms {
 QString chooseFolder(const QString& title, const QString& start);
 
 /// Takes the place of the dialogue on the screen, for tests. An empty function gives it back.
-void setFolderDoor(std::function<QString()> door);
+void setFolderHandler(std::function<QString()> handler);
 
 } // namespace forms

@@ -132,14 +132,14 @@ void Form::hide()
         window_->hide();
     }
     if (modalLoop_) {
-        modalLoop_->quit(); // show_Modal hands over to the owner
+        modalLoop_->quit(); // showModal hands over to the owner
         return;
     }
     if (stage.active() == this)
         stage.giveUpFront();
 }
 
-void Form::show_Modal(Form& owner)
+void Form::showModal(Form& owner)
 {
     if (modalLoop_)
         return; // asked for once more before its first call has returned
@@ -295,8 +295,8 @@ struct Screen {
 
 std::vector<Screen>& screens()
 {
-    static std::vector<Screen> the;
-    return the;
+    static std::vector<Screen> instance;
+    return instance;
 }
 
 // A handler of the screen may still run, inside a nested event loop too.

@@ -40,7 +40,7 @@ public:
 
     /// Shows the screen in front of `owner` and returns when it is hidden; meanwhile no other screen takes input.
     /// Nothing happens where an earlier call hasn't returned yet.
-    void show_Modal(Form& owner);
+    void showModal(Form& owner);
 
     /// Hides the screen. The screen shown before it comes forward, if one is there.
     void hide();

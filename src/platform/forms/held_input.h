@@ -14,7 +14,7 @@
 
 namespace forms {
 
-/// Input that comes behind the answer to a question, for InputGate.
+/// Input that comes behind the answer to a question, for InputFilter.
 ///
 /// The toolkit hands on all that waits in its queue before the event loop of a box returns, so that a click behind the
 /// answer would reach a screen whose handler is still in the middle of what it asked for. From the moment that a box, a

@@ -194,7 +194,7 @@ QLayout* sideBySide(std::initializer_list<Control*> controls)
     return line;
 }
 
-void dress(std::initializer_list<ButtonLook> buttons, int helpNumber)
+void configure(std::initializer_list<ButtonLook> buttons, int helpNumber)
 {
     for (const ButtonLook& look : buttons) {
         look.button.setTabIndex(look.tabIndex);
@@ -207,7 +207,7 @@ void dress(std::initializer_list<ButtonLook> buttons, int helpNumber)
     }
 }
 
-void dress(std::initializer_list<FieldLook> fields, int helpNumber)
+void configure(std::initializer_list<FieldLook> fields, int helpNumber)
 {
     for (const FieldLook& look : fields) {
         look.control.setTabIndex(look.tabIndex);

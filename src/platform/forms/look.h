@@ -111,7 +111,7 @@ struct ButtonLook {
 };
 
 /// Gives each button what its line says, and all of them the help number unless it is 0.
-void dress(std::initializer_list<ButtonLook> buttons, int helpNumber = 0);
+void configure(std::initializer_list<ButtonLook> buttons, int helpNumber = 0);
 
 /// A line of a screen's table of entries, options and pictures.
 struct FieldLook {
@@ -122,7 +122,7 @@ struct FieldLook {
 };
 
 /// Gives each control what its line says, and all of them the help number unless it is 0.
-void dress(std::initializer_list<FieldLook> fields, int helpNumber = 0);
+void configure(std::initializer_list<FieldLook> fields, int helpNumber = 0);
 
 /// Names a box for assistive tools where no label stands before it.
 void nameForTools(QWidget& box, const QString& name);

@@ -81,10 +81,10 @@ private:
     }
 };
 
-std::function<Answer(const Message&)>& messageDoor()
+std::function<Answer(const Message&)>& messageHandler()
 {
-    static std::function<Answer(const Message&)> the;
-    return the;
+    static std::function<Answer(const Message&)> instance;
+    return instance;
 }
 
 QMessageBox::Icon iconOf(int flags)
@@ -132,9 +132,9 @@ Answer ask(const Message& message, QWidget* parent)
 
 } // namespace
 
-void setMessageDoor(std::function<Answer(const Message&)> door)
+void setMessageHandler(std::function<Answer(const Message&)> handler)
 {
-    messageDoor() = std::move(door);
+    messageHandler() = std::move(handler);
 }
 
 namespace {
@@ -153,8 +153,8 @@ Answer MsgBox(const QString& text, int flags, const QString& title)
 {
     Stage::instance().interrupted();
     const Message message{text, flags, title};
-    if (messageDoor())
-        return messageDoor()(message);
+    if (messageHandler())
+        return messageHandler()(message);
     const PlainPointer pointer;
     Stage& stage = Stage::instance();
     stage.settle();

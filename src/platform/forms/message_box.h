@@ -30,6 +30,6 @@ struct Message {
 Answer MsgBox(const QString& text, int flags, const QString& title);
 
 /// Takes the place of the box on the screen, for tests. An empty function gives the box back.
-void setMessageDoor(std::function<Answer(const Message&)> door);
+void setMessageHandler(std::function<Answer(const Message&)> handler);
 
 } // namespace forms

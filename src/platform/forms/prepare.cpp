@@ -3,7 +3,7 @@
 
 #include "platform/forms/apply_look.h"
 #include "platform/forms/boundary.h"
-#include "platform/forms/input_gate.h"
+#include "platform/forms/input_filter.h"
 #include "platform/forms/keyboard.h"
 #include "platform/forms/screen_interface.h"
 #include "platform/forms/stage.h"
@@ -17,10 +17,10 @@ void forms::prepare(QApplication& application, const look::Theme& theme)
     QApplication::setQuitOnLastWindowClosed(false);
     look::setTheme(theme);
     look::apply(application);
-    InputGate& gate = InputGate::instance();
+    InputFilter& filter = InputFilter::instance();
     Stage& stage = Stage::instance();
-    stage.attend(application, {[&gate](QWidget* now) { return gate.holdsBack(now); }, Keyboard::pressedOnForm});
-    gate.guard(application);
-    setFrameSteps([&gate] { gate.handlerEnded(); }, [&stage] { stage.handOnFront(); });
+    stage.attend(application, {[&filter](QWidget* now) { return filter.holdsBack(now); }, Keyboard::pressedOnForm});
+    filter.guard(application);
+    setFrameSteps([&filter] { filter.handlerEnded(); }, [&stage] { stage.handOnFront(); });
     describeWindows();
 }

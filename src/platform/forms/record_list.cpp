@@ -3,7 +3,7 @@
 
 #include "platform/forms/boundary.h"
 #include "platform/forms/form.h"
-#include "platform/forms/input_gate.h"
+#include "platform/forms/input_filter.h"
 #include "platform/forms/keyboard.h"
 #include "platform/forms/theme.h"
 
@@ -52,7 +52,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         fromToolkit([this, event] {
-            if (InputGate::instance().reaches(control_))
+            if (InputFilter::instance().reaches(control_))
                 passOn([this, event] { QTreeWidget::mousePressEvent(event); });
         });
     }

@@ -32,15 +32,15 @@ struct Runtime {
     std::function<void()> handlerReturn;
     std::function<void(int)> ender;
     std::function<void(const FailureReport&)> reporter;
-    std::function<void(int, const QString&)> helpDoor;
+    std::function<void(int, const QString&)> helpHandler;
     QString title;
     std::function<QString()> closingWords;
 };
 
 Runtime& runtime()
 {
-    static Runtime the;
-    return the;
+    static Runtime instance;
+    return instance;
 }
 
 void cleanUp()
@@ -74,13 +74,13 @@ QString handlerOf(const std::exception_ptr& failed)
 
 void report(const QString& failure)
 {
-    Runtime& the = runtime();
+    Runtime& state = runtime();
     const FailureReport what{handlerOf(std::current_exception()), failure};
-    if (the.reporter) {
-        the.reporter(what);
+    if (state.reporter) {
+        state.reporter(what);
         return;
     }
-    the.ending = true;
+    state.ending = true;
     cleanUp();
     std::fprintf(stderr, "%s: %s\n", qUtf8Printable(what.handler), qUtf8Printable(what.failure));
     showReport(what);
@@ -217,15 +217,15 @@ void setReportWords(const QString& title, std::function<QString()> closingWords)
     runtime().closingWords = std::move(closingWords);
 }
 
-void setHelpDoor(std::function<void(int, const QString&)> door)
+void setHelpHandler(std::function<void(int, const QString&)> handler)
 {
-    runtime().helpDoor = std::move(door);
+    runtime().helpHandler = std::move(handler);
 }
 
 void openHelp(int number, const QString& window)
 {
-    if (runtime().helpDoor)
-        runtime().helpDoor(number, window);
+    if (runtime().helpHandler)
+        runtime().helpHandler(number, window);
 }
 
 void runAsHandler(const QString& name, const std::function<void()>& handler)

@@ -38,7 +38,7 @@ void setReportWords(const QString& title, std::function<QString()> closingWords)
 
 /// What F1 calls, with the number of the focused control's topic; where that is 0, the name of the
 /// window tells what help is wanted for.
-void setHelpDoor(std::function<void(int number, const QString& window)> door);
+void setHelpHandler(std::function<void(int number, const QString& window)> handler);
 
 /// Calls it, for windows that are no screens.
 void openHelp(int number, const QString& window);

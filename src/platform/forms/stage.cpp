@@ -30,8 +30,8 @@ bool isInFront(const Form& form)
 
 Stage& Stage::instance()
 {
-    static Stage the;
-    return the;
+    static Stage instance;
+    return instance;
 }
 
 void Stage::attend(QApplication& application, Hands hands)

@@ -113,23 +113,23 @@ void panel(QPainter& painter, const QRect& rect, const QColor& face, const QColo
 
 void button(QPainter& painter, const QStyleOption& option, bool isFilled)
 {
-    const Colours& the = colours();
-    QColor face = isFilled ? the.accent : option.palette.color(QPalette::Button);
+    const Colours& theme = colours();
+    QColor face = isFilled ? theme.accent : option.palette.color(QPalette::Button);
     if (!isOn(option, QStyle::State_Enabled))
-        face = the.ground.lighter(103);
+        face = theme.ground.lighter(103);
     else if (isOn(option, QStyle::State_Sunken))
-        face = the.pressed;
+        face = theme.pressed;
     else if (isOn(option, QStyle::State_MouseOver))
         face = face.lighter(isFilled ? 115 : 103);
     const auto* asButton = qstyleoption_cast<const QStyleOptionButton*>(&option);
     Frame frame = frameOf(option);
     if (isOn(option, QStyle::State_Enabled) && asButton && (asButton->features & QStyleOptionButton::DefaultButton))
-        frame.line = the.accent;
+        frame.line = theme.accent;
     panel(painter, option.rect, face, frame.line, frame.width);
     // On a face of the accent's colour its frame alone would not show the focus.
     if (isFilled && showsFocus(option)) {
         constexpr int gap = 3;
-        panel(painter, option.rect.adjusted(gap, gap, -gap, -gap), Qt::transparent, the.field, 1);
+        panel(painter, option.rect.adjusted(gap, gap, -gap, -gap), Qt::transparent, theme.field, 1);
     }
 }
 

@@ -29,7 +29,7 @@ void onKey(QWidget& widget, Qt::Key key, const std::function<void()>& action)
     QObject::connect(shortcut, &QShortcut::activated, &widget, action);
 }
 
-QString told(const QString& sought, std::size_t hits)
+QString summaryOf(const QString& sought, std::size_t hits)
 {
     if (hits == 0)
         return QStringLiteral("Nothing was found about \"%1\". Try another word.").arg(sought);
@@ -150,7 +150,7 @@ void SidePanel::search()
     hits_ = index_->find(sought);
     for (const Hit& hit : hits_)
         found_->addItem(hit.title + u'\n' + hit.excerpt);
-    parts::tell(*state_, told(sought, hits_.size()));
+    parts::tell(*state_, summaryOf(sought, hits_.size()));
 }
 
 void SidePanel::openHit(int row)

@@ -36,7 +36,7 @@ constexpr parts::ButtonLook buttons[] = {
     {"close", "Cl&ose", "cancel", "Close Help (Esc)"},
 };
 
-QString toldOf(report::Outcome printing)
+QString statusText(report::Outcome printing)
 {
     if (printing == report::Outcome::Failed)
         return QStringLiteral("The page could not be printed. Look whether there is a printer, and whether it is on.");
@@ -128,7 +128,7 @@ void Viewer::escape()
 
 void Viewer::print()
 {
-    parts::tell(*status_, toldOf(help::print(*page_, this)));
+    parts::tell(*status_, statusText(help::print(*page_, this)));
 }
 
 // ---- look

@@ -52,9 +52,9 @@ bool isInUse(const QString& path)
     if (file < 0)
         return false;
     struct ::flock bytes = engineBytes(F_RDLCK);
-    const bool isTold = ::fcntl(file, F_OFD_GETLK, &bytes) == 0;
+    const bool isKnown = ::fcntl(file, F_OFD_GETLK, &bytes) == 0;
     ::close(file);
-    return isTold && bytes.l_type != F_UNLCK;
+    return isKnown && bytes.l_type != F_UNLCK;
 }
 
 } // namespace storage

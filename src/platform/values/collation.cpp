@@ -17,8 +17,8 @@ namespace {
 // ICU for this, as Debian's is; without, it asks the C library, which knows only the locales that are installed.
 const QCollator& collator()
 {
-    static const QCollator the(QLocale(QLocale::English, QLocale::UnitedStates));
-    return the;
+    static const QCollator instance(QLocale(QLocale::English, QLocale::UnitedStates));
+    return instance;
 }
 
 constexpr bool isPrintableAscii(QChar c)

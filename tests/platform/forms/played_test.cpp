@@ -44,7 +44,7 @@ protected:
     {
         useRealBoxes();
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path()); // of the folder dialog
-        forms::setHelpDoor(
+        forms::setHelpHandler(
             [this](int number, const QString& name) { note(QString("(help %1 %2)").arg(number).arg(name)); });
         QPixmap red(40, 20);
         red.fill(Qt::red);
@@ -404,8 +404,8 @@ private:
         {"copied", [this](Words w) { QGuiApplication::clipboard()->setText(seen["copied"] = text(w, 0)); }},
         // the code, with screens
         {"show", [this](Words w) { screen(w[0]).show(); }}, {"hide", [this](Words w) { screen(w[0]).hide(); }},
-        {"open", [this](Words w) { screen(w[0]).show_Modal(screen("Form")); }},
-        {"modal", [this](Words w) { playInFront(), screen(w[0]).show_Modal(screen("Form")); }},
+        {"open", [this](Words w) { screen(w[0]).showModal(screen("Form")); }},
+        {"modal", [this](Words w) { playInFront(), screen(w[0]).showModal(screen("Form")); }},
         {"input", [this](Words w) { screen(w[0]).setEnabled(isYes(w)); }},
         {"least", [this](Words w) { screen(w[0]).setLeastSize(QSize(500, 700)); }},
         {"title", [this](Words w) { screen("Form").setTitle(w[0]); }},

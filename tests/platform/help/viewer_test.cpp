@@ -32,7 +32,7 @@ protected:
     HelpViewer()
     {
         makeViewer();
-        forms::setHelpDoor([this](int number, const QString&) { viewer_->open(QString::number(number)); });
+        forms::setHelpHandler([this](int number, const QString&) { viewer_->open(QString::number(number)); });
         form.setHelpNumber(2001);
         modal.setHelpNumber(2001);
         qputenv("CUPS_SERVER", "/nowhere");
@@ -293,7 +293,7 @@ TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
         EXPECT_EQ(forms::activeForm(), &modal);
         modal.hide();
     });
-    modal.show_Modal(form);
+    modal.showModal(form);
 }
 
 } // namespace

@@ -26,9 +26,9 @@ class Control;
 ///
 /// The focus that a press brings waits until the press has put the caret, so that a handler's selection stays, and at
 /// the latest until the press has been delivered, whatever part of a control it was on.
-class InputGate : public QObject {
+class InputFilter : public QObject {
 public:
-    static InputGate& instance();
+    static InputFilter& instance();
 
     void guard(QApplication& application);
 

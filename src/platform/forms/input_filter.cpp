@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/forms/input_gate.h"
+#include "platform/forms/input_filter.h"
 
 #include "platform/forms/control.h"
 #include "platform/forms/stage.h"
@@ -69,18 +69,18 @@ bool isNoAccessKey(QEvent& event)
 
 } // namespace
 
-InputGate& InputGate::instance()
+InputFilter& InputFilter::instance()
 {
-    static InputGate the;
-    return the;
+    static InputFilter instance;
+    return instance;
 }
 
-void InputGate::guard(QApplication& application)
+void InputFilter::guard(QApplication& application)
 {
     application.installEventFilter(this);
 }
 
-bool InputGate::eventFilter(QObject* watched, QEvent* event)
+bool InputFilter::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched->isWindowType())
         return filterWindow(*static_cast<QWindow*>(watched), *event);
@@ -100,7 +100,7 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-bool InputGate::filterWindow(QWindow& window, QEvent& event)
+bool InputFilter::filterWindow(QWindow& window, QEvent& event)
 {
     const Handling& handling = handlingOf(event);
     if (!window.isVisible() && handling.isByHand) {
@@ -132,7 +132,7 @@ bool InputGate::filterWindow(QWindow& window, QEvent& event)
 // The window system has sent it to a window that is hidden by now. Keys behind the one that has closed a list are for
 // the window below, which is the active one where the list belongs to none, as the toolkit's suggestions do; all else
 // is dropped, since another screen has come.
-void InputGate::passOn(QWindow& window, QEvent& event)
+void InputFilter::passOn(QWindow& window, QEvent& event)
 {
     QWindow* below = homeOf(&window);
     if (below->type() == Qt::Popup && QApplication::activeWindow())
@@ -144,7 +144,7 @@ void InputGate::passOn(QWindow& window, QEvent& event)
 
 // ---- questions
 
-void InputGate::followWindow(QWidget& window, QEvent::Type change)
+void InputFilter::followWindow(QWidget& window, QEvent::Type change)
 {
     const bool isAsking = window.isWindow() && (window.isModal() || window.windowType() == Qt::Popup);
     if (isAsking && change == QEvent::Show)
@@ -155,7 +155,7 @@ void InputGate::followWindow(QWidget& window, QEvent::Type change)
 
 // A press and a release stay what the window system has told, so that a press moves the focus; a key is sent anew, so
 // that the toolkit tries it as an access key.
-void InputGate::deliverLate(QWindow& window, QEvent& event)
+void InputFilter::deliverLate(QWindow& window, QEvent& event)
 {
     QObject& target = window;
     const Sort sort = handlingOf(event).sort;
@@ -170,7 +170,7 @@ void InputGate::deliverLate(QWindow& window, QEvent& event)
 // ---- keys
 
 // True when the window gets no more of the stroke.
-bool InputGate::takesAway(QObject& window, QKeyEvent& stroke)
+bool InputFilter::takesAway(QObject& window, QKeyEvent& stroke)
 {
     if (!isRepeat(stroke)) {
         heldKey_ = stroke.key();
@@ -194,7 +194,7 @@ bool InputGate::takesAway(QObject& window, QKeyEvent& stroke)
 
 // A list closes before the press itself is delivered, and where the screen has the keys (Wayland) the press would then
 // answer the screen: a default button would be pressed by the Enter that has picked an item.
-bool InputGate::closedList(const QKeyEvent& stroke)
+bool InputFilter::closedList(const QKeyEvent& stroke)
 {
     const bool isOpen = QApplication::activePopupWidget();
     const bool wasOpen = std::exchange(overList_, isOpen && stroke.type() == QEvent::ShortcutOverride);
@@ -203,14 +203,14 @@ bool InputGate::closedList(const QKeyEvent& stroke)
 
 // The window system tells a repeat as a release and a press at the same moment. The toolkit misses that when it reads
 // the first before the second has come. While an assistive tool listens to keys it hands on copies, which have no time.
-bool InputGate::isRepeat(const QKeyEvent& stroke) const
+bool InputFilter::isRepeat(const QKeyEvent& stroke) const
 {
     const bool atOnce = stroke.nativeScanCode() != 0 && stroke.nativeScanCode() == releasedCode_
         && stroke.timestamp() != 0 && stroke.timestamp() == releasedWhen_;
     return stroke.isAutoRepeat() || atOnce;
 }
 
-void InputGate::noteRelease(const QKeyEvent& stroke)
+void InputFilter::noteRelease(const QKeyEvent& stroke)
 {
     releasedCode_ = stroke.nativeScanCode();
     releasedWhen_ = stroke.timestamp();
@@ -220,7 +220,7 @@ void InputGate::noteRelease(const QKeyEvent& stroke)
 
 // The second press of a double click whose first has closed what it was on, or has brought something else. A press that
 // closes a list from outside is sent again to what lies below, with the time that it has.
-bool InputGate::isStray(QWindow& window, const QMouseEvent& press) const
+bool InputFilter::isStray(QWindow& window, const QMouseEvent& press) const
 {
     const QStyleHints& hints = *QGuiApplication::styleHints();
     const auto distance = (press.globalPosition() - pressedAt_).manhattanLength();
@@ -230,7 +230,7 @@ bool InputGate::isStray(QWindow& window, const QMouseEvent& press) const
     return isSecond && isElsewhere;
 }
 
-void InputGate::deliver(QWindow& window, QMouseEvent& press)
+void InputFilter::deliver(QWindow& window, QMouseEvent& press)
 {
     if (isStray(window, press))
         return;
@@ -248,21 +248,21 @@ void InputGate::deliver(QWindow& window, QMouseEvent& press)
     letFocusIn();
 }
 
-bool InputGate::holdsBack(QWidget* now)
+bool InputFilter::holdsBack(QWidget* now)
 {
     if (delivering_)
         brought_ = now;
     return delivering_;
 }
 
-bool InputGate::letFocusIn()
+bool InputFilter::letFocusIn()
 {
     delivering_ = false;
     QWidget* brought = std::exchange(brought_, nullptr);
     return brought && Stage::instance().follow(brought);
 }
 
-bool InputGate::reaches(const Control& control)
+bool InputFilter::reaches(const Control& control)
 {
     const int interruptions = interruptions_;
     const bool brought = letFocusIn();
