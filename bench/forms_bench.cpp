@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A megabyte pasted by the user: each character goes through KeyPress and the limit.
 #include "assets/money_field.h"
-#include "platform/forms/behaviours.h"
+#include "platform/forms/controls/behaviours.h"
 #include "platform/forms/forms.h"
 
 #include <benchmark/benchmark.h>

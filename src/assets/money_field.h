@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/text_box.h"
+#include "platform/forms/controls/text_box.h"
 
 #include <QStringList>
 

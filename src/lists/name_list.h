@@ -2,7 +2,7 @@
 #pragma once
 
 #include "data/data_store.h"
-#include "platform/forms/combo_box.h"
+#include "platform/forms/controls/combo_box.h"
 
 /// Adds the names of a column that the list doesn't hold yet, each once, without regard to case, in the spelling of the
 /// first row that has it. The list isn't emptied; the table stands behind its last row afterwards.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/combo_box.h"
+#include "platform/forms/controls/combo_box.h"
 
 #include <QSet>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/frmSearchResults.h"
 
-#include "platform/forms/behaviours.h"
+#include "platform/forms/controls/behaviours.h"
 #include "search/search_fields.h"
 #include "shared/conventions.h"
 #include "shared/ways.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "data/data_store.h"
-#include "platform/forms/text_box.h"
+#include "platform/forms/controls/text_box.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/form.h"
+#include "platform/forms/screens/form.h"
 #include "platform/values/integer.h"
 
 /// The number of the screen in front. It begins with that of the start.

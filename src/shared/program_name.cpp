@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shared/program_name.h"
 
-#include "platform/forms/display.h"
+#include "platform/forms/runtime/display.h"
 
 #include <QApplication>
 #include <QIcon>

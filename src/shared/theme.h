@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/theme.h"
+#include "platform/forms/looks/theme.h"
 
 /// The colours of the program and the pictures of its buttons.
 inline forms::look::Theme programTheme()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmExport.h"
 
-#include "platform/forms/folder_choice.h"
+#include "platform/forms/boxes/folder_choice.h"
 #include "platform/report/progress.h"
 #include "shared/conventions.h"
 #include "tools/exit_codes.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/forms_test.h"
 
-#include "platform/forms/boundary.h"
+#include "platform/forms/runtime/boundary.h"
 #include "shared/theme.h"
 
 #include <QApplication>

@@ -4,7 +4,7 @@
 // a line on the error output, "->" before a status. "<E9>" is that byte, which is no UTF-8.
 #include "tools_test.h"
 
-#include "platform/forms/folder_choice.h"
+#include "platform/forms/boxes/folder_choice.h"
 #include "platform/storage/file_lock.h"
 #include "platform/values/file_name.h"
 #include "support/disk.h"

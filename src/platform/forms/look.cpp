@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/look.h"
 
-#include "platform/forms/behaviours.h"
-#include "platform/forms/form.h"
-#include "platform/forms/light_style.h"
+#include "platform/forms/controls/behaviours.h"
+#include "platform/forms/looks/light_style.h"
+#include "platform/forms/screens/form.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

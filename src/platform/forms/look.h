@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/displays.h"
-#include "platform/forms/theme.h"
+#include "platform/forms/controls/displays.h"
+#include "platform/forms/looks/theme.h"
 
 #include <QGridLayout>
 

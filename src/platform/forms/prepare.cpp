@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/prepare.h"
 
-#include "platform/forms/apply_look.h"
-#include "platform/forms/boundary.h"
-#include "platform/forms/input_filter.h"
-#include "platform/forms/keyboard.h"
-#include "platform/forms/screen_interface.h"
-#include "platform/forms/stage.h"
-#include "platform/forms/theme.h"
+#include "platform/forms/controls/screen_interface.h"
+#include "platform/forms/input/input_filter.h"
+#include "platform/forms/input/keyboard.h"
+#include "platform/forms/looks/apply_look.h"
+#include "platform/forms/looks/theme.h"
+#include "platform/forms/runtime/boundary.h"
+#include "platform/forms/screens/stage.h"
 
 #include <QApplication>
 

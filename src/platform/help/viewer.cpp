@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/help/viewer.h"
 
-#include "platform/forms/boundary.h"
 #include "platform/forms/look.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/runtime/boundary.h"
+#include "platform/forms/runtime/runtime.h"
 #include "platform/help/find_bar.h"
 #include "platform/help/modal_companion.h"
 #include "platform/help/page_browser.h"

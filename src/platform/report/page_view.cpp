@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/page_view.h"
 
+#include "platform/forms/input/wheel.h"
 #include "platform/forms/look.h"
-#include "platform/forms/wheel.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/preview.h"
 
-#include "platform/forms/active_window.h"
-#include "platform/forms/boundary.h"
-#include "platform/forms/runtime.h"
+#include "platform/forms/runtime/boundary.h"
+#include "platform/forms/runtime/runtime.h"
+#include "platform/forms/screens/active_window.h"
 #include "platform/report/csv.h"
 #include "platform/report/pdf.h"
 #include "platform/report/preview_choices.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/preview.h"
 
+#include "platform/forms/input/wheel.h"
 #include "platform/forms/look.h"
-#include "platform/forms/runtime.h"
-#include "platform/forms/wheel.h"
+#include "platform/forms/runtime/runtime.h"
 #include "platform/report/preview_choices.h"
 
 #include <QComboBox>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
-#include "platform/forms/apply_look.h"
-#include "platform/forms/painting.h"
-#include "platform/forms/style_painting.h"
+#include "platform/forms/looks/apply_look.h"
+#include "platform/forms/looks/style_painting.h"
+#include "platform/forms/screens/painting.h"
 #include "support/files.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/forms/controls/record_list.h"
 #include "platform/forms/look.h"
-#include "platform/forms/record_list.h"
 #include "support/forms_test.h"
 
 #include <QStringList>
