@@ -69,15 +69,25 @@ TEST_F(HelpPages, AreWhereTopicsContentsAndLinksLead)
     EXPECT_EQ(QStringList((needed_ - there_).values()), QStringList());
 }
 
-TEST_F(HelpPages, AreFoundByPlainWords)
+TEST_F(HelpPages, AnswerTheQuestionsOfAHouseholder)
 {
     const help::WordIndex index(book_);
-    const std::pair<const char*, const char*> sought[] = {{"warranty", "warranty"}, {"backup", "earlier-backups"},
-        {"back up", "earlier-backups"}, {"forgot", "questions"}, {"password", "questions"}, {"typo", "questions"},
-        {"theft", "after-a-loss"}, {"fire", "after-a-loss"}, {"Receipts", "gathering"}, {"photo", "gathering"},
-        {"new computer", "other-computer"}, {"quit", "closing"}};
-    for (const auto& [words, page] : sought)
-        EXPECT_EQ(index.find(words).at(0).page, QString(page) + ".html") << words;
+    const std::pair<const char*, const char*> questions[] = {{"how do I print my list", "print-menu"},
+        {"what is the price of a gift", "questions"}, {"I deleted a chair by mistake", "earlier-backups"},
+        {"the letters are too small, how do I change the font", "questions"}, {"how do I get my list back", "restore"},
+        {"my computer was stolen, what now", "safe"}, {"where do I put photos of my things", "gathering"},
+        {"where does my car belong", "questions"}, {"how do I add a room", "add-name"},
+        {"can I rename a category", "change-name"}, {"how much is everything worth", "totals"},
+        {"how do I send the list to my insurer by email", "preview"}, {"nothing comes out of the printer", "trouble"},
+        {"warenty", "warranty"}, {"how do I move it to a new computer", "other-computer"},
+        {"which button saves my work", "closing"}, {"where is the serial number on a bicycle", "gathering"},
+        {"why can't I type a date", "questions"}, {"how do I back up to a usb stick", "copy-outside"},
+        {"the program has to close", "trouble"}};
+    for (const auto& [question, page] : questions) {
+        const std::vector<help::Hit> hits = index.find(question);
+        const bool isFirst = hits.at(0).page == QString(page) + ".html";
+        EXPECT_TRUE(isFirst || hits.at(1).page == QString(page) + ".html") << question;
+    }
 }
 
 } // namespace

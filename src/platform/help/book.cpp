@@ -73,4 +73,9 @@ QString Book::html(const QString& page) const
     return textOf(folder_ + u'/' + page);
 }
 
+QString Book::words() const
+{
+    return textOf(folder_ + QStringLiteral("/words.csv"));
+}
+
 } // namespace help

@@ -18,7 +18,7 @@ struct Chapter {
 };
 
 /// The pages of a folder. `contents.csv` (level, title, page) is their table of contents; `topics.csv` (number, page,
-/// anchor) tells where each topic stands.
+/// anchor) tells where each topic stands; `words.csv` (written, meant) what readers write for what the pages say.
 class Book {
 public:
     explicit Book(const QString& folder);
@@ -34,6 +34,7 @@ public:
 
     QUrl url(const QString& place) const;
     QString html(const QString& page) const;
+    QString words() const;
 
 private:
     QString folder_;

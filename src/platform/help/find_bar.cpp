@@ -83,14 +83,9 @@ bool FindBar::seek(bool forward)
     return page_.find(words_->text(), forward ? QTextDocument::FindFlags() : QTextDocument::FindBackward);
 }
 
-void FindBar::showWords(const QString& words)
+void FindBar::seekOn(const QString& words)
 {
-    for (const QString& sought : QStringList(words) + words.split(u' ', Qt::SkipEmptyParts)) {
-        words_->setText(sought);
-        page_.moveCursor(QTextCursor::Start);
-        if (seek(true))
-            return;
-    }
+    words_->setText(words);
 }
 
 void FindBar::tell(const QString& words, bool isFailure)

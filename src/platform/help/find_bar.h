@@ -19,8 +19,8 @@ public:
 
     void find(bool forward);
 
-    /// Shows the place of words that the search over all pages has found, or else of the first of them that is there.
-    void showWords(const QString& words);
+    /// Takes words that are shown already, to be sought on from there.
+    void seekOn(const QString& words);
 
 private:
     void typed();

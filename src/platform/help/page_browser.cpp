@@ -65,6 +65,16 @@ QString PageBrowser::page() const
     return source().fileName();
 }
 
+void PageBrowser::select(int at, int length)
+{
+    QTextCursor cursor(document());
+    cursor.setPosition(at);
+    cursor.setPosition(at + length, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    const int above = viewport()->height() / 4;
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(cursor).top() - above);
+}
+
 // ---- pictures
 
 int PageBrowser::room() const

@@ -14,6 +14,9 @@ public:
     void changeType(int steps);
     bool canChangeType(int steps) const;
 
+    /// Selects what stands at a place of the page and brings it into sight, with something of what stands above it.
+    void select(int at, int length);
+
     /// The page without its folder: "search.html".
     QString page() const;
 

@@ -9,11 +9,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace help {
 
@@ -126,6 +129,18 @@ void SidePanel::mark(const QString& place)
     contents_->setCurrentItem(marked);
 }
 
+int SidePanel::widthOfContents() const
+{
+    int widest = 0;
+    for (QTreeWidgetItemIterator item(contents_); *item; ++item) {
+        const int level = (*item)->parent() ? 2 : 1;
+        const int width = contents_->sizeHintForIndex(contents_->indexFromItem(*item)).width();
+        widest = std::max(widest, level * contents_->indentation() + width);
+    }
+    const QMargins margins = layout()->contentsMargins();
+    return widest + contents_->verticalScrollBar()->sizeHint().width() + margins.left() + margins.right();
+}
+
 void SidePanel::toSearch()
 {
     sought_->setFocus();
@@ -158,7 +173,7 @@ void SidePanel::openHit(int row)
     if (row < 0 || row >= static_cast<int>(hits_.size()))
         return;
     found_->setCurrentRow(row);
-    Found(hits_[static_cast<std::size_t>(row)].page, sought_->text().trimmed());
+    Found(hits_[static_cast<std::size_t>(row)]);
 }
 
 } // namespace help

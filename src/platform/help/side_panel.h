@@ -24,10 +24,13 @@ public:
     SidePanel(const Book& book, QWidget* parent);
 
     std::function<void(const QString& place)> Chosen;
-    std::function<void(const QString& page, const QString& words)> Found; ///< chosen among the hits
+    std::function<void(const Hit& hit)> Found; ///< chosen among the hits
 
     /// Marks the chapter of the page that is shown.
     void mark(const QString& place);
+
+    /// What the table of contents takes, so that none of its titles is cut.
+    int widthOfContents() const;
 
     void toSearch();
     void toContents();

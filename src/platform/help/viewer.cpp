@@ -19,6 +19,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace help {
 
 namespace {
@@ -39,7 +41,7 @@ constexpr parts::ButtonLook buttons[] = {
 QString statusText(report::Outcome printing)
 {
     if (printing == report::Outcome::Failed)
-        return QStringLiteral("The page could not be printed. Look whether there is a printer, and whether it is on.");
+        return QStringLiteral("The page could not be printed. Check that there is a printer and that it is turned on.");
     if (printing == report::Outcome::Done)
         return QStringLiteral("The page has been handed to the printer.");
     return {};
@@ -168,9 +170,10 @@ void Viewer::react()
             connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this, handler);
     }
     panel_->Chosen = [this](const QString& place) { go(place); };
-    panel_->Found = [this](const QString& page, const QString& words) {
-        go(page);
-        find_->showWords(words);
+    panel_->Found = [this](const Hit& hit) {
+        go(hit.page);
+        page_->select(hit.at, hit.length);
+        find_->seekOn(page_->textCursor().selectedText());
     };
     connect(page_, &QTextBrowser::sourceChanged, this, [this] {
         parts::tell(*status_, {}); // what it says is of the page before
@@ -204,7 +207,6 @@ void Viewer::layOut()
     halves->addWidget(right);
     for (int index = 0; index < halves->count(); ++index)
         halves->handle(index)->setAccessibleName(QStringLiteral("Divider"));
-    share(2, 5);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
@@ -215,19 +217,22 @@ void Viewer::layOut()
     column->addWidget(status_);
 }
 
-// What contents and page have of a window of any width.
-void Viewer::share(int ofContents, int ofPage)
+// The contents have their share of a window of any width, but at first as much as they need, up to half of it.
+void Viewer::showContentsWhole()
 {
+    constexpr int ofContents = 2;
+    constexpr int ofPage = 5;
     auto* halves = findChild<QSplitter*>(QStringLiteral("halves"));
     halves->setStretchFactor(0, ofContents);
     halves->setStretchFactor(1, ofPage);
+    const int needed = std::min(panel_->widthOfContents(), width() / 2);
+    if (needed > width() * ofContents / (ofContents + ofPage))
+        halves->setSizes({needed, width() - needed - halves->handleWidth()});
 }
 
-// The pictures and the tool tips say what the captions do, and the access keys stay. Of less room the contents need a
-// larger share, lest their titles are cut.
+// The pictures and the tool tips say what the captions do, and the access keys stay.
 void Viewer::fitIntoLittleRoom()
 {
-    share(2, 3);
     for (QPushButton* button : findChildren<QPushButton*>()) {
         const QKeySequence accessKey = QKeySequence::mnemonic(button->text());
         button->setText({});
@@ -243,6 +248,7 @@ void Viewer::placeBesideScreens()
     if (minimumSizeHint().width() > room.width())
         fitIntoLittleRoom();
     resize(QSize(forms::look::grid(116), forms::look::grid(88)).boundedTo(room));
+    showContentsWhole();
     move(desktop.right() - width() - forms::look::grid(1), desktop.top() + (desktop.height() - height()) / 2);
 }
 

@@ -32,7 +32,7 @@ private:
     QPushButton* button(const char* name);
     void react();
     void layOut();
-    void share(int ofContents, int ofPage);
+    void showContentsWhole();
     void fitIntoLittleRoom();
     void placeBesideScreens();
 
