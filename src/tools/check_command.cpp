@@ -20,8 +20,8 @@ QString wordsOf(JournalBeside journal)
 {
     switch (journal) {
     case JournalBeside::Own:
-        return QStringLiteral("The last run broke off. The journal beside the file mends it at the next start; it was "
-                              "read as it will be then.");
+        return QStringLiteral("Kestrill was not closed properly the last time. The journal beside the file repairs it "
+                              "at the next start; it was read here as it will be then.");
     case JournalBeside::Foreign:
         return QStringLiteral("The journal beside the file belongs to another one. The next start puts it aside.");
     case JournalBeside::None:

@@ -17,7 +17,7 @@ void frmExport::look()
     lblHead.setCaption("Export Everything");
     lblTell.setCaption("All that Kestrill holds is written into a new folder: each table for a spreadsheet, all of "
                        "them in one file for other programs, the asset report and the cover sheet as PDF.\n\nThese "
-                       "files are not encrypted. Who can read the folder can read them.");
+                       "files are not encrypted. Anyone who opens the folder can read them.");
     lblCopyright.setCaption(conventions::Footer);
     forms::look::configure({
         {cmdChoose, 0, "Choose &Folder...", " Click Here To Choose Where The Folder Is Made ", "save"},

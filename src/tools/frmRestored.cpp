@@ -23,8 +23,8 @@ void frmRestored::tell(const QString& made, const restoring::Result& result)
         QStringLiteral("The household is as it was at the backup of %1: %2.").arg(made, result.summary) + doubt);
     lblTell[1].setCaption(putAside.isEmpty()
             ? QStringLiteral("There was no file before, so there is none to go back to.")
-            : QStringLiteral("The file that was there until now is put aside. To go back to it, choose Restore From "
-                             "Backup again and pick the line \"Put aside\", or give the command"));
+            : QStringLiteral("The list that was there until now is put aside. To go back to it, choose Restore From "
+                             "Backup again and pick the line \"Put aside\", or type this in a terminal:"));
     lblTell[2].setCaption(putAside.isEmpty() ? QString() : QStringLiteral("kestrill-restore --restore ") + putAside);
     show();
 }

@@ -40,7 +40,7 @@ FileReader openedReader(const QString& file, FileReader::Locks locks)
     if (kind == sys::Kind::Nothing && !sys::isOutOfSight(file))
         throw UnreadableHousehold(QStringLiteral("Missing"), file + QStringLiteral(" does not exist"));
     if (!sys::isReadable(file))
-        throw UnreadableHousehold(QStringLiteral("No right to read"), file + QStringLiteral(" can't be read"));
+        throw UnreadableHousehold(QStringLiteral("No permission"), file + QStringLiteral(" can't be read"));
     if (kind != sys::Kind::File)
         throw UnreadableHousehold(QStringLiteral("Damaged or foreign"), file + QStringLiteral(" is no regular file"));
     return orUnreadable(QStringLiteral("Damaged or foreign"), [&] { return FileReader(file, databaseKey(), locks); });

@@ -136,8 +136,8 @@ void Count::clear()
 
 int run(QCommandLineParser& parser, const QStringList& arguments, const std::function<int()>& command)
 {
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Says this."));
-    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Says the version."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
+    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Shows the version."));
     parser.addOptions({help, version});
     if (!parser.parse(arguments)) {
         complain(parser.errorText());

@@ -192,7 +192,7 @@ TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheFoldersOfBackups)
             _exit(9);
         std::vector<Backup> list = backups::all();
         std::ranges::for_each(list, backups::read);
-        _exit(static_cast<int>(std::ranges::count(list, "No right to read", &Backup::state)));
+        _exit(static_cast<int>(std::ranges::count(list, "No permission", &Backup::state)));
     };
     EXPECT_EQ(inProcess(countClosed), 2);
     setRights(S_IRWXU);
