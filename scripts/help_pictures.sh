@@ -45,6 +45,24 @@ portrait() {
     picture "$1" "$((right - left))x$((bottom - top))+$left+$top"
 }
 
+# What is read out has its places in the program's own, larger dots.
+is_placed() {
+    "$Here/screen_reader.py" place "$1" 2>/dev/null | awk '{ print 2 * $1, 2 * $2, 2 * $3, 2 * $4 }' >"$Place/place"
+    [ -s "$Place/place" ]
+}
+
+# Title bars, which the window manager paints, in twice their size, too.
+large_titles() {
+    local before
+    before=$(xprop -root _NET_SUPPORTING_WM_CHECK)
+    sed 's|<desktops>|<theme><font place="ActiveWindow"><name>Sans</name><size>16</size></font></theme>&|' \
+        "$Here/openbox.xml" >"$Place/openbox.xml"
+    openbox --replace --config-file "$Place/openbox.xml" 2>>"$Place/openbox.log" &
+    until_true "the window manager with large titles" is_another_manager "$before"
+}
+
+is_another_manager() { manager_is_there && [ "$(xprop -root _NET_SUPPORTING_WM_CHECK)" != "$1" ]; }
+
 first_run() {
     step "the first run"
     use_home "$Place/first"
@@ -202,6 +220,8 @@ closing() {
     ends_with 0
 }
 
+export QT_SCALE_FACTOR=2 # the help shows the pictures at half their size
+large_titles
 first_run
 household_with_assets pictures "update Inventory set [Parts Type] = 'Manufacturer', [Parts Coverage] = '80',
     [Parts Amount] = '\$250.00', [Parts Month] = 'Oct', [Parts Day] = '23', [Parts Year] = '2027',

@@ -19,6 +19,7 @@ namespace {
 
 constexpr std::array typeScales{0.85, 1.0, 1.2, 1.45, 1.75, 2.1, 2.5};
 constexpr int ownSize = 1;
+constexpr int pictureDensity = 2; // dots of a picture for each of the page
 
 // What size a picture has is decided here, not by the page.
 QString withoutSizes(const QString& html)
@@ -84,7 +85,7 @@ int PageBrowser::room() const
 
 QImage PageBrowser::fitted(const QImage& picture)
 {
-    const int wanted = static_cast<int>(picture.width() * typeScale() * forms::look::pictureScale());
+    const int wanted = static_cast<int>(picture.width() * typeScale() * forms::look::pictureScale() / pictureDensity);
     const int width = std::min(wanted, room());
     widest_ = std::max(widest_, wanted);
     narrowest_ = room();

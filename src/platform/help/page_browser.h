@@ -5,7 +5,8 @@
 
 namespace help {
 
-/// Shows a page. Pictures grow with the type, but never beyond the room that there is for them.
+/// Shows a page. Its pictures are made at twice their size; they grow with the type, but never beyond the room that
+/// there is for them.
 class PageBrowser : public QTextBrowser {
 public:
     explicit PageBrowser(QWidget* parent);

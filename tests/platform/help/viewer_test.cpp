@@ -227,6 +227,8 @@ TEST_F(HelpViewer, PrintsAPageAsItIsChosenInTypeOfTheUsualSize)
         heights += qRound(page.words.at(1).place.height());
     }
     EXPECT_EQ(heights.at(0), heights.at(1));
+    const QString pictures = pdf::output("pdfimages", {"-list", chosen.outputFileName()}).simplified();
+    EXPECT_TRUE(pictures.contains(" image 320 80 ")) << pictures.toStdString();
     const QString told = pdf::output("pdfinfo", {chosen.outputFileName()}).simplified();
     EXPECT_TRUE(told.contains("Title: Pages") && told.contains("(A5)")) << told.toStdString();
     for (const QString& nowhere : {folder.filePath("nowhere/page.pdf"), QString()}) {
