@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -83,16 +84,21 @@ int PageBrowser::room() const
     return viewport()->width() - static_cast<int>(2 * document()->documentMargin());
 }
 
+// The toolkit would shrink and enlarge it roughly, also by the part of a dot: so it takes whole dots on a display that
+// is scaled by quarters, with an empty edge below where its height leaves a rest.
 QImage PageBrowser::fitted(const QImage& picture)
 {
+    constexpr int whole = 4;
     const int wanted = static_cast<int>(picture.width() * typeScale() * forms::look::pictureScale() / pictureDensity);
-    const int width = std::min(wanted, room());
     widest_ = std::max(widest_, wanted);
     narrowest_ = room();
-    // The toolkit would shrink and enlarge it roughly.
-    QImage fitted = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
-                        .scaledToWidth(static_cast<int>(width * devicePixelRatioF()), Qt::SmoothTransformation);
-    fitted.setDevicePixelRatio(devicePixelRatioF());
+    const double ratio = devicePixelRatioF();
+    const int width = std::min(wanted, room()) / whole * whole;
+    const QImage scaled = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                              .scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation);
+    const int height = qCeil(scaled.height() / ratio / whole) * whole;
+    QImage fitted = scaled.copy(0, 0, scaled.width(), qRound(height * ratio));
+    fitted.setDevicePixelRatio(ratio);
     return fitted;
 }
 
