@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/help/printing.h"
 
+#include "platform/report/print_dialog.h"
 #include "platform/report/print_service.h"
 
 #include <QApplication>
 #include <QPageLayout>
-#include <QPrintDialog>
 #include <QPrinter>
-#include <QPrinterInfo>
-#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -21,6 +19,7 @@ namespace help {
 namespace {
 
 using report::Outcome;
+using report::Printing;
 
 constexpr double margins = 2 * 2 / 2.54; // inches that the toolkit leaves free on both sides of a page
 
@@ -59,29 +58,28 @@ bool writePdf(QTextBrowser& page, const QPrinter& chosen, const QString& file)
 
 } // namespace
 
-Outcome print(QTextBrowser& page, QWidget* window)
+Printing print(QTextBrowser& page, QWidget* window)
 {
-    if (QPrinterInfo::availablePrinterNames().isEmpty())
-        return Outcome::Failed;
+    if (const Outcome found = report::findPrinters(window); found != Outcome::Done)
+        return {found};
     QPrinter printer;
     printer.setDocName(page.documentTitle());
-    QPrintDialog dialog(&printer, window);
-    dialog.setObjectName(QStringLiteral("helpPrintDialog"));
-    dialog.setOptions(QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize
-        | QAbstractPrintDialog::PrintToFile);
-    if (dialog.exec() != QDialog::Accepted)
-        return Outcome::Cancelled;
+    const auto choices = QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize
+        | QAbstractPrintDialog::PrintToFile;
+    if (!report::askForPrinter(printer, {QStringLiteral("helpPrintDialog"), choices}, window))
+        return {Outcome::Cancelled};
     return printTo(printer, page);
 }
 
-Outcome printTo(const QPrinter& chosen, QTextBrowser& page)
+Printing printTo(const QPrinter& chosen, QTextBrowser& page)
 {
-    const QTemporaryDir folder;
-    const bool toFile = !chosen.outputFileName().isEmpty();
-    const QString file = toFile ? chosen.outputFileName() : folder.filePath(QStringLiteral("help.pdf"));
-    if (!writePdf(page, chosen, file))
-        return Outcome::Failed;
-    return toFile || report::handOver(chosen, file) ? Outcome::Done : Outcome::Failed;
+    const QString toFile = chosen.outputFileName();
+    const auto job = std::make_shared<report::JobFile>();
+    if (!writePdf(page, chosen, toFile.isEmpty() ? job->path() : toFile))
+        return {Outcome::Failed};
+    if (!toFile.isEmpty())
+        return {Outcome::Done, toFile};
+    return {report::handOver(chosen, job, page.window())};
 }
 
 } // namespace help

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/report/progress.h"
+#include "platform/report/printing.h"
 
 class QPrinter;
 class QTextBrowser;
@@ -9,9 +9,9 @@ class QTextBrowser;
 namespace help {
 
 /// Asks for the printer and prints the page that is shown, in type of the usual size. Failed as report::print.
-report::Outcome print(QTextBrowser& page, QWidget* window);
+report::Printing print(QTextBrowser& page, QWidget* window);
 
 /// The same for a printer that has been chosen, or into the file that was chosen in its place.
-report::Outcome printTo(const QPrinter& chosen, QTextBrowser& page);
+report::Printing printTo(const QPrinter& chosen, QTextBrowser& page);
 
 } // namespace help

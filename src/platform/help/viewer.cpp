@@ -38,11 +38,15 @@ constexpr parts::ButtonLook buttons[] = {
     {"close", "Cl&ose", "cancel", "Close Help (Esc)"},
 };
 
-QString statusText(report::Outcome printing)
+QString statusText(const report::Printing& printing)
 {
-    if (printing == report::Outcome::Failed)
+    if (printing.outcome == report::Outcome::Failed)
         return QStringLiteral("The page could not be printed. Check that there is a printer and that it is turned on.");
-    if (printing == report::Outcome::Done)
+    if (printing.outcome == report::Outcome::Unanswered)
+        return QStringLiteral("The printer has not answered: check whether the page is being printed.");
+    if (printing.outcome == report::Outcome::Done && !printing.file.isEmpty())
+        return QStringLiteral("The page has been saved as %1.").arg(printing.file);
+    if (printing.outcome == report::Outcome::Done)
         return QStringLiteral("The page has been handed to the printer.");
     return {};
 }

@@ -9,6 +9,8 @@
 #include "platform/report/preview_choices.h"
 #include "platform/report/printing.h"
 
+#include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
@@ -19,7 +21,7 @@
 #include <QSpinBox>
 #include <QStandardPaths>
 
-#include <algorithm>
+#include <utility>
 
 namespace report {
 
@@ -56,12 +58,17 @@ bool isTable(const QString& path)
     return path.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive);
 }
 
+QString savedAs(const QString& path)
+{
+    return QStringLiteral("The report has been saved as %1.").arg(QDir::toNativeSeparators(path));
+}
+
 } // namespace
 
 Preview::Preview(const QString& name, std::shared_ptr<const Document> document, std::function<void()> error)
     : QWidget(nullptr, Qt::Window)
     , document_(std::move(document))
-    , pages_(std::in_place, document_, rememberedPaper())
+    , pages_(std::make_shared<Pages>(document_, rememberedPaper()))
     , error_(std::move(error))
 {
     setObjectName(name);
@@ -82,6 +89,12 @@ void Preview::open()
     raise();
     activateWindow();
     view_->setFocus();
+}
+
+// Whatever asks the window to close: not under what it has asked the user.
+void Preview::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(!QApplication::activeModalWidget());
 }
 
 // ---- pages, zoom and paper
@@ -106,8 +119,8 @@ void Preview::showState()
 void Preview::setPaper(int index)
 {
     remembered().paper = papers()[static_cast<std::size_t>(index)];
-    pages_.emplace(document_, *remembered().paper);
-    view_->setPages(*pages_);
+    const auto before = std::exchange(pages_, std::make_shared<Pages>(document_, *remembered().paper));
+    view_->setPages(*pages_); // which still has the others
 }
 
 void Preview::pickZoom(int index)
@@ -127,8 +140,12 @@ void Preview::zoomBy(int direction)
 
 void Preview::print()
 {
-    finish(QStringLiteral("The report has been handed to the printer."),
-        [this] { return report::print(*pages_, view_->page(), this); });
+    finish([this] {
+        const Printing printing = report::print(*pages_, view_->page(), this);
+        const bool isFile = !printing.file.isEmpty();
+        return Ending{printing.outcome,
+            isFile ? savedAs(printing.file) : QStringLiteral("The report has been handed to the printer.")};
+    });
 }
 
 void Preview::saveAs()
@@ -158,35 +175,44 @@ void Preview::saveAs()
     if (!isAccepted)
         return;
     remembered().folder = QFileInfo(path).path();
-    finish(QStringLiteral("The report has been saved as %1.").arg(QDir::toNativeSeparators(path)),
-        [this, path] { return save(path); });
+    finish([this, path] { return Ending{save(path), savedAs(path)}; });
 }
 
 Outcome Preview::save(const QString& path)
 {
     if (isTable(path) && hasTable(*document_))
         return saveCsv(*document_, path) ? Outcome::Done : Outcome::Failed;
-    ProgressWindow progress(QStringLiteral("Saving..."), pageCount(), this);
-    return savePdf(*pages_, path, progress.progress());
+    const std::shared_ptr<const Pages> saved = pages_;
+    ProgressWindow progress(QStringLiteral("Saving..."), saved->count(), this);
+    return savePdf(*saved, path, progress.progress());
 }
 
-void Preview::finish(const QString& done, const std::function<Outcome()>& run)
+void Preview::finish(const std::function<Ending()>& run)
 {
     status_->clear();
-    Outcome outcome = Outcome::Failed;
+    const QPointer<Preview> here(this); // what is asked meanwhile has an event loop, in which the window may be deleted
+    Ending ending;
     try {
-        outcome = run();
+        ending = run();
     } catch (const std::exception&) {
         // A value that can't be printed: told as any other failure.
     }
-    if (outcome == Outcome::Failed) {
+    if (here)
+        tell(ending);
+}
+
+void Preview::tell(const Ending& ending)
+{
+    if (ending.outcome == Outcome::Failed) {
         forms::takeForActive(this); // not a dialogue that has just gone
         error_();
     }
-    if (outcome == Outcome::Done)
-        status_->setText(done);
-    if (outcome == Outcome::NothingChosen)
+    if (ending.outcome == Outcome::Done)
+        status_->setText(ending.done);
+    if (ending.outcome == Outcome::NothingChosen)
         status_->setText(QStringLiteral("Nothing was printed: the report has no such page."));
+    if (ending.outcome == Outcome::Unanswered)
+        status_->setText(QStringLiteral("The printer has not answered: look whether the report is being printed."));
 }
 
 } // namespace report

@@ -6,7 +6,7 @@
 
 #include <QWidget>
 
-#include <optional>
+#include <memory>
 
 class QComboBox;
 class QLabel;
@@ -30,6 +30,9 @@ public:
     int page() const { return view_->page() + 1; }
     int pageCount() const { return pages_->count(); }
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void look();
     void react();
@@ -37,6 +40,12 @@ private:
     QPushButton* button(const char* name, const QString& caption, const char* icon, const QString& toolTip);
     void shortcut(const QKeySequence& keys, const std::function<void()>& action);
     std::function<void()> handler(const std::function<void()>& action);
+
+    /// How printing or saving came out, and what is told where it is done.
+    struct Ending {
+        Outcome outcome = Outcome::Failed;
+        QString done{};
+    };
 
     void showState();
     void setPaper(int index);
@@ -46,10 +55,11 @@ private:
     void print();
     void saveAs();
     Outcome save(const QString& path);
-    void finish(const QString& done, const std::function<Outcome()>& run);
+    void finish(const std::function<Ending()>& run);
+    void tell(const Ending& ending);
 
     std::shared_ptr<const Document> document_;
-    std::optional<Pages> pages_;
+    std::shared_ptr<const Pages> pages_;
     std::function<void()> error_;
 
     PageView* view_ = nullptr;

@@ -6,6 +6,7 @@
 #include "platform/forms/runtime/runtime.h"
 #include "platform/report/preview_choices.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -40,9 +41,15 @@ QFrame* divider(QWidget* parent)
 
 } // namespace
 
+// Not behind a question that has come meanwhile, nor under an open list: a button that an assistive tool has pressed
+// tells so a moment later.
 std::function<void()> Preview::handler(const std::function<void()>& action)
 {
-    return [action] { forms::runAsHandler(QStringLiteral("Preview"), action); };
+    const auto unlessAsked = [action] {
+        if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget())
+            action();
+    };
+    return [unlessAsked] { forms::runAsHandler(QStringLiteral("Preview"), unlessAsked); };
 }
 
 QPushButton* Preview::button(const char* objectName, const QString& caption, const char* icon, const QString& toolTip)
@@ -66,7 +73,7 @@ void Preview::look()
 {
     view_ = new PageView(this);
     view_->Changed = [this] { showState(); };
-    view_->Failed = handler([this] { error_(); });
+    view_->Failed = [this] { forms::runAsHandler(QStringLiteral("Preview"), [this] { error_(); }); };
     first_ = button("first", {}, "first", QStringLiteral("First Page (Ctrl+Home)"));
     previous_ = button("previous", {}, "previous", QStringLiteral("Previous Page (Ctrl+Page Up)"));
     page_ = new QSpinBox(this);

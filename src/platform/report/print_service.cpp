@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/print_service.h"
 
+#include "platform/report/patience.h"
+
 #include <QPrintEngine>
 #include <QPrinter>
 
@@ -9,6 +11,8 @@
 namespace report {
 
 namespace {
+
+constexpr int secondsToFind = 5;
 
 /// Options of a job, in the words of the print service.
 class JobOptions {
@@ -45,6 +49,13 @@ QString sidesOf(QPrinter::DuplexMode duplex)
     }
 }
 
+// What the print dialogue keeps for the print service by itself: names and values in turn.
+QStringList keptForService(const QPrinter& printer)
+{
+    constexpr auto serviceOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00); // no name is public
+    return printer.printEngine()->property(serviceOptions).toStringList();
+}
+
 // What is carried out already, the pages, doesn't go on to the service.
 void passOn(JobOptions& options, const QStringList& kept)
 {
@@ -66,22 +77,38 @@ void describe(JobOptions& options, const QPrinter& printer)
     passOn(options, keptForService(printer));
 }
 
-} // namespace
-
-QStringList keptForService(const QPrinter& printer)
+int countPrinters()
 {
-    constexpr auto serviceOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00); // no name is public
-    return printer.printEngine()->property(serviceOptions).toStringList();
+    cups_dest_t* printers = nullptr;
+    const int count = cupsGetDests(&printers);
+    cupsFreeDests(count, printers);
+    return count;
 }
 
-bool handOver(const QPrinter& printer, const QString& file)
+} // namespace
+
+Outcome findPrinters(QWidget* window)
 {
-    JobOptions options;
-    describe(options, printer);
+    const Answer found = answerOf(countPrinters, {QStringLiteral("Looking for printers..."), secondsToFind}, window);
+    if (found.kind == Answer::Kind::GivenUp)
+        return Outcome::Cancelled;
+    return found.number > 0 ? Outcome::Done : Outcome::Failed;
+}
+
+Outcome handOver(const QPrinter& printer, std::shared_ptr<const JobFile> file, QWidget* window)
+{
+    const auto options = std::make_shared<JobOptions>();
+    describe(*options, printer);
     const QByteArray queue = printer.printerName().section(u'/', 0, 0).toUtf8();
-    const int job = cupsPrintFile(queue.constData(), file.toLocal8Bit().constData(),
-        printer.docName().toUtf8().constData(), options.count(), options.all());
-    return job != 0;
+    const QByteArray name = printer.docName().toUtf8();
+    const auto send = [options, queue, name, file = std::move(file)] {
+        return cupsPrintFile(queue.constData(), file->path().toLocal8Bit().constData(), name.constData(),
+            options->count(), options->all());
+    };
+    const Answer job = answerOf(send, {QStringLiteral("Handing the pages to the printer...")}, window);
+    if (job.kind != Answer::Kind::There)
+        return Outcome::Unanswered;
+    return job.number != 0 ? Outcome::Done : Outcome::Failed;
 }
 
 } // namespace report

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPointer>
 #include <QProgressDialog>
 #include <QString>
 
@@ -8,8 +9,9 @@
 
 namespace report {
 
-/// How a run over many pages came out. NothingChosen: the report has none of the pages that were asked for.
-enum class Outcome { Done, Cancelled, NothingChosen, Failed };
+/// How a run over many pages came out. NothingChosen: the report has none of the pages that were asked for. Unanswered:
+/// it was handed on, and whether it was taken isn't known.
+enum class Outcome { Done, Cancelled, NothingChosen, Unanswered, Failed };
 
 /// Told before each page how many are done; false cancels the run.
 using Progress = std::function<bool(int done)>;
@@ -19,12 +21,15 @@ using Progress = std::function<bool(int done)>;
 class ProgressWindow {
 public:
     ProgressWindow(const QString& words, int pages, QWidget* window);
+    ~ProgressWindow() { delete dialog_; }
+    ProgressWindow(const ProgressWindow&) = delete;
+    ProgressWindow& operator=(const ProgressWindow&) = delete;
 
-    /// The progress to be told.
+    /// The progress to be told. The run is cancelled where the window is gone.
     Progress progress();
 
 private:
-    QProgressDialog dialog_;
+    QPointer<QProgressDialog> dialog_; // which the window may take along
 };
 
 } // namespace report

@@ -221,7 +221,7 @@ TEST_F(HelpViewer, PrintsAPageAsItIsChosenInTypeOfTheUsualSize)
     QList<int> heights;
     for (const char* step : {"open 1001", "Ctrl++"}) {
         take(step);
-        EXPECT_EQ(help::printTo(chosen, text()), Outcome::Done);
+        EXPECT_EQ(help::printTo(chosen, text()).outcome, Outcome::Done);
         const pdf::Page page = pdf::read(chosen.outputFileName()).at(0);
         EXPECT_EQ(page.text(), "Welcome Each receipt has its backup in a drawer. More 1");
         heights += qRound(page.words.at(1).place.height());
@@ -233,7 +233,7 @@ TEST_F(HelpViewer, PrintsAPageAsItIsChosenInTypeOfTheUsualSize)
     EXPECT_TRUE(told.contains("Title: Pages") && told.contains("(A5)")) << told.toStdString();
     for (const QString& nowhere : {folder.filePath("nowhere/page.pdf"), QString()}) {
         chosen.setOutputFileName(nowhere);
-        EXPECT_EQ(help::printTo(chosen, text()), Outcome::Failed) << "no folder, and no service that takes it";
+        EXPECT_EQ(help::printTo(chosen, text()).outcome, Outcome::Failed) << "no folder, and no service that takes it";
     }
 }
 
