@@ -8,12 +8,12 @@
 #include "platform/report/pdf.h"
 #include "platform/report/preview_choices.h"
 #include "platform/report/printing.h"
+#include "platform/report/save_dialog.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPointer>
@@ -51,11 +51,6 @@ QString startFolder()
         return remembered().folder;
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QDir(documents).exists() ? documents : QDir::homePath();
-}
-
-bool isTable(const QString& path)
-{
-    return path.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive);
 }
 
 QString savedAs(const QString& path)
@@ -150,32 +145,11 @@ void Preview::print()
 
 void Preview::saveAs()
 {
-    // Its parent takes it along where the window is closed under it; nothing here may be touched then.
-    const QPointer<QFileDialog> shown(new QFileDialog(this, QStringLiteral("Save Report As"), startFolder()));
-    QFileDialog& dialog = *shown;
-    dialog.setObjectName(QStringLiteral("reportSaveDialog"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    QStringList filters{QStringLiteral("PDF Document (*.pdf)")};
-    if (hasTable(*document_))
-        filters.append(QStringLiteral("Spreadsheet (*.csv)"));
-    dialog.setNameFilters(filters);
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    dialog.selectFile(document_->names.file + QStringLiteral(".pdf"));
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
-        dialog.setDefaultSuffix(filter.contains(QStringLiteral("csv")) ? QStringLiteral("csv") : QStringLiteral("pdf"));
-        const QString name = QFileInfo(dialog.selectedFiles().value(0)).completeBaseName();
-        if (!name.isEmpty()) // a desktop's own dialogue tells of its filter before it has a name
-            dialog.selectFile(name + u'.' + dialog.defaultSuffix());
-    });
-    const bool isAccepted = dialog.exec() == QDialog::Accepted;
-    if (!shown)
+    const std::optional<QString> path = askForFile({startFolder(), document_->names.file, hasTable(*document_)}, this);
+    if (!path)
         return;
-    const QString path = dialog.selectedFiles().value(0);
-    delete shown;
-    if (!isAccepted)
-        return;
-    remembered().folder = QFileInfo(path).path();
-    finish([this, path] { return Ending{save(path), savedAs(path)}; });
+    remembered().folder = QFileInfo(*path).path();
+    finish([this, path] { return Ending{save(*path), savedAs(*path)}; });
 }
 
 Outcome Preview::save(const QString& path)

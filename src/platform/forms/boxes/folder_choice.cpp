@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/boxes/folder_choice.h"
 
+#include "platform/forms/boxes/file_dialog_room.h"
 #include "platform/forms/screens/form.h"
 #include "platform/forms/screens/stage.h"
 
@@ -30,6 +31,7 @@ QString chooseFolder(const QString& title, const QString& start)
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Choose"));
+    giveRoom(dialog);
     const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
     QString chosen = isChosen ? dialog.selectedFiles().first() : QString();
     if (front && front->isVisible())
