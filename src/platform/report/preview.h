@@ -15,6 +15,8 @@ class QSpinBox;
 
 namespace report {
 
+class PreviewBar;
+
 /// The window of an open report: pages to look at, from which it is printed or saved. It is a window of its own beside
 /// the screens, which the user may leave open, and it is destroyed when it is closed. Zoom and paper are those of the
 /// last window.
@@ -38,6 +40,7 @@ private:
     void react();
     void layOut();
     QPushButton* button(const char* name, const QString& caption, const char* icon, const QString& toolTip);
+    void openLarge();
     void shortcut(const QKeySequence& keys, const std::function<void()>& action);
     std::function<void()> handler(const std::function<void()>& action);
 
@@ -63,6 +66,7 @@ private:
     std::function<void()> error_;
 
     PageView* view_ = nullptr;
+    PreviewBar* bar_ = nullptr;
     QPushButton* first_ = nullptr;
     QPushButton* previous_ = nullptr;
     QSpinBox* page_ = nullptr;

@@ -4,16 +4,17 @@
 #include "platform/forms/input/wheel.h"
 #include "platform/forms/look.h"
 #include "platform/forms/runtime/runtime.h"
+#include "platform/report/preview_bar.h"
 #include "platform/report/preview_choices.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QSpinBox>
+#include <QStyleOptionComboBox>
 #include <QVBoxLayout>
 
 namespace report {
@@ -29,14 +30,17 @@ void name(QWidget& widget, const char* objectName, const QString& accessibleName
     widget.setToolTip(toolTip);
 }
 
-QFrame* divider(QWidget* parent)
+// As wide as its longest item, which the toolkit reckons for a frame and an arrow of its own.
+void showWholeItems(QComboBox& list)
 {
-    auto* line = new QFrame(parent);
-    line->setFrameShape(QFrame::VLine);
-    line->setFixedWidth(forms::look::grid(2));
-    line->setForegroundRole(QPalette::Mid);
-    line->setFrameShadow(QFrame::Plain);
-    return line;
+    QStyleOptionComboBox option;
+    option.initFrom(&list);
+    option.rect = QRect(QPoint(), list.sizeHint());
+    const QRect words = list.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list);
+    int longest = 0;
+    for (int item = 0; item < list.count(); ++item)
+        longest = std::max(longest, list.fontMetrics().horizontalAdvance(list.itemText(item)));
+    list.setFixedWidth(option.rect.width() - words.width() + longest + forms::look::grid(1) / 2);
 }
 
 } // namespace
@@ -55,11 +59,8 @@ std::function<void()> Preview::handler(const std::function<void()>& action)
 QPushButton* Preview::button(const char* objectName, const QString& caption, const char* icon, const QString& toolTip)
 {
     auto* made =
-        new QPushButton(QIcon(QStringLiteral(":/pictures/icons/%1.png").arg(QLatin1String(icon))), caption, this);
+        new BarButton(QIcon(QStringLiteral(":/pictures/icons/%1.png").arg(QLatin1String(icon))), caption, bar_);
     name(*made, objectName, toolTip.section(QStringLiteral(" ("), 0, 0), toolTip);
-    made->setAutoDefault(false);
-    if (caption.isEmpty())
-        made->setFixedWidth(forms::look::grid(4));
     return made;
 }
 
@@ -72,28 +73,29 @@ void Preview::shortcut(const QKeySequence& keys, const std::function<void()>& ac
 void Preview::look()
 {
     view_ = new PageView(this);
+    bar_ = new PreviewBar(this);
     view_->Changed = [this] { showState(); };
     view_->Failed = [this] { forms::runAsHandler(QStringLiteral("Preview"), [this] { error_(); }); };
     first_ = button("first", {}, "first", QStringLiteral("First Page (Ctrl+Home)"));
     previous_ = button("previous", {}, "previous", QStringLiteral("Previous Page (Ctrl+Page Up)"));
-    page_ = new QSpinBox(this);
+    page_ = new QSpinBox(bar_);
     name(*page_, "page", QStringLiteral("Page Number"), QStringLiteral("Page Number (Ctrl+G)"));
     page_->setMinimum(1);
     page_->setKeyboardTracking(false);
     page_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     page_->setAlignment(Qt::AlignRight);
     page_->setFixedWidth(forms::look::fieldWidth(4));
-    count_ = new QLabel(this);
+    count_ = new QLabel(bar_);
     count_->setObjectName(QStringLiteral("count"));
     next_ = button("next", {}, "next", QStringLiteral("Next Page (Ctrl+Page Down)"));
     last_ = button("last", {}, "last", QStringLiteral("Last Page (Ctrl+End)"));
     zoomOut_ = button("zoomOut", {}, "minus", QStringLiteral("Zoom Out (Ctrl+-)"));
-    zoom_ = new QComboBox(this);
+    zoom_ = new QComboBox(bar_);
     name(*zoom_, "zoom", QStringLiteral("Zoom"), QStringLiteral("Zoom (Ctrl+0: Whole Page, Ctrl+1: Page Width)"));
     for (const ZoomChoice& choice : zooms())
         zoom_->addItem(QLatin1String(choice.words));
     zoomIn_ = button("zoomIn", {}, "plus", QStringLiteral("Zoom In (Ctrl++)"));
-    paper_ = new QComboBox(this);
+    paper_ = new QComboBox(bar_);
     name(*paper_, "paper", QStringLiteral("Paper"), QStringLiteral("Paper"));
     for (const Paper& paper : papers())
         paper_->addItem(paper.page.id() == QPageSize::A4 ? QStringLiteral("A4") : QStringLiteral("Letter"));
@@ -103,6 +105,8 @@ void Preview::look()
     status_ = new QLabel(this);
     status_->setObjectName(QStringLiteral("status"));
     status_->setTextFormat(Qt::PlainText);
+    status_->setWordWrap(true);
+    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long path doesn't widen the window
     react();
     layOut();
 }
@@ -145,32 +149,30 @@ void Preview::react()
 
 void Preview::layOut()
 {
-    auto* bar = new QHBoxLayout;
-    bar->setContentsMargins(forms::look::grid(1), forms::look::grid(1), forms::look::grid(1), forms::look::grid(1));
-    bar->setSpacing(forms::look::grid(1) / 2);
-    for (QWidget* widget : std::initializer_list<QWidget*>{first_, previous_, new QLabel(QStringLiteral("Page"), this),
-             page_, count_, next_, last_, divider(this), zoomOut_, zoom_, zoomIn_, divider(this), paper_})
-        bar->addWidget(widget);
-    bar->addStretch();
-    for (QWidget* widget : {print_, save_, close_})
-        bar->addWidget(widget);
-
-    for (QComboBox* list : {zoom_, paper_})
-        list->setMinimumWidth(list->sizeHint().width()); // its words are never cut
+    showWholeItems(*zoom_);
+    showWholeItems(*paper_);
+    auto* word = new QLabel(QStringLiteral("Page"), bar_);
+    bar_->setGroups({{first_, previous_, word, page_, count_, next_, last_}, {zoomOut_, zoom_, zoomIn_}, {paper_},
+        {print_, save_, close_}});
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
-    column->addLayout(bar);
+    column->addWidget(bar_);
     column->addWidget(view_, 1);
     status_->setContentsMargins(
         forms::look::grid(1), forms::look::grid(1) / 2, forms::look::grid(1), forms::look::grid(1) / 2);
     column->addWidget(status_);
+    openLarge();
+}
 
+// As high as the desktop has room for, and as wide as a page or the whole bar.
+void Preview::openLarge()
+{
     const QSize desktop = screen()->availableSize();
     const double height = desktop.height() * shareOfDesktop;
-    resize(QSize(static_cast<int>(std::min<double>(desktop.width() * shareOfDesktop, height * shareOfDesktop)),
-        static_cast<int>(height)));
+    const int width = std::max(static_cast<int>(height * shareOfDesktop), bar_->sizeHint().width());
+    resize(std::min(width, desktop.width()), static_cast<int>(height));
 }
 
 } // namespace report
