@@ -91,10 +91,28 @@ void PageView::setPage(int page)
     Changed();
 }
 
-void PageView::setZoom(Zoom zoom)
+void PageView::setZoom(Zoom zoom, std::optional<QPoint> about)
 {
+    const QPoint place = about.value_or(viewport()->rect().center());
+    const QPointF share = shareOfPaper(place);
     zoom_ = zoom;
     fitSheet();
+    bring(share, place);
+}
+
+// Where a place of the view is on the paper, in parts of its width and height.
+QPointF PageView::shareOfPaper(QPoint place) const
+{
+    const QPoint onPaper = place - sheet_->pos() - QPoint(gap, gap);
+    const QSize paper = sheet_->size() - QSize(2 * gap, 2 * gap);
+    return {double(onPaper.x()) / std::max(paper.width(), 1), double(onPaper.y()) / std::max(paper.height(), 1)};
+}
+
+void PageView::bring(QPointF share, QPoint place)
+{
+    const QSize paper = sheet_->size() - QSize(2 * gap, 2 * gap);
+    horizontalScrollBar()->setValue(qRound(gap + share.x() * paper.width()) - place.x());
+    verticalScrollBar()->setValue(qRound(gap + share.y() * paper.height()) - place.y());
 }
 
 QSizeF PageView::paperSize() const
@@ -192,6 +210,10 @@ void PageView::keyPressEvent(QKeyEvent* event)
 void PageView::wheelEvent(QWheelEvent* event)
 {
     event->accept();
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        zoomByWheel(*event);
+        return;
+    }
     const int angle = event->angleDelta().y();
     if (angle == 0 || !isAtEnd(angle < 0 ? +1 : -1)) {
         forms::dropWheelSum(); // what scrolls turns no page
@@ -201,6 +223,14 @@ void PageView::wheelEvent(QWheelEvent* event)
     int notches = -forms::wheelNotches(*this, *event);
     for (const int direction = notches > 0 ? +1 : -1; notches != 0 && isAtEnd(direction); notches -= direction)
         turn(direction);
+}
+
+// Summed up apart from what turns pages.
+void PageView::zoomByWheel(const QWheelEvent& event)
+{
+    int notches = forms::wheelNotches(*sheet_, event);
+    for (const int direction = notches > 0 ? +1 : -1; notches != 0; notches -= direction)
+        WheelZoomed(direction, event.position().toPoint());
 }
 
 } // namespace report

@@ -6,6 +6,7 @@
 #include <QScrollArea>
 
 #include <functional>
+#include <optional>
 
 namespace report {
 
@@ -31,13 +32,18 @@ public:
     void setPage(int page);
 
     Zoom zoom() const { return zoom_; }
-    void setZoom(Zoom zoom);
+
+    /// What stands at a point of the view stays there as far as it can: in its middle where no other is given.
+    void setZoom(Zoom zoom, std::optional<QPoint> about = {});
 
     /// The factor by which the page is shown at the moment.
     double factor() const;
 
     /// Called when another page is shown or its size has changed.
     std::function<void()> Changed;
+
+    /// Called for each notch of the wheel with Ctrl, larger (+1) or smaller (-1), with the place of the pointer.
+    std::function<void(int direction, QPoint about)> WheelZoomed;
 
     /// Called when a page can't be painted.
     std::function<void()> Failed;
@@ -52,6 +58,9 @@ private:
 
     QSizeF paperSize() const;
     void fitSheet();
+    QPointF shareOfPaper(QPoint place) const;
+    void bring(QPointF share, QPoint place);
+    void zoomByWheel(const QWheelEvent& event);
     bool isAtEnd(int direction) const;
     void turn(int direction);
     void goOn(int direction);

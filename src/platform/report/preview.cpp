@@ -15,6 +15,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -118,17 +119,48 @@ void Preview::setPaper(int index)
     view_->setPages(*pages_); // which still has the others
 }
 
-void Preview::pickZoom(int index)
+void Preview::pickZoom(int index, std::optional<QPoint> about)
 {
     remembered().zoom = zooms()[static_cast<std::size_t>(index)].zoom;
-    view_->setZoom(remembered().zoom);
+    view_->setZoom(remembered().zoom, about);
 }
 
-void Preview::zoomBy(int direction)
+void Preview::zoomBy(int direction, std::optional<QPoint> about)
 {
     const std::optional<Zoom> zoom = nextZoom(view_->factor(), direction);
     if (zoom)
-        pickZoom(indexOf(*zoom));
+        pickZoom(indexOf(*zoom), about);
+}
+
+// ---- keys that are left over by the part that has the focus
+
+void Preview::keyPressEvent(QKeyEvent* event)
+{
+    const bool isBare = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && !event->isAutoRepeat();
+    if (!isBare || !answersKey(event->key()))
+        QWidget::keyPressEvent(event);
+}
+
+bool Preview::answersKey(int key)
+{
+    auto* focused = qobject_cast<QPushButton*>(focusWidget());
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (page_->hasFocus() && (isEnter || key == Qt::Key_Escape))
+        backToPage();
+    else if (isEnter && focused)
+        focused->click();
+    else if (key == Qt::Key_Escape)
+        close();
+    else
+        return false;
+    return true;
+}
+
+// A number that is only half typed is given up.
+void Preview::backToPage()
+{
+    page_->setValue(page());
+    view_->setFocus();
 }
 
 // ---- printing and saving

@@ -34,6 +34,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void look();
@@ -52,8 +53,10 @@ private:
 
     void showState();
     void setPaper(int index);
-    void pickZoom(int index);
-    void zoomBy(int direction);
+    void pickZoom(int index, std::optional<QPoint> about = {});
+    void zoomBy(int direction, std::optional<QPoint> about = {});
+    void backToPage();
+    bool answersKey(int key);
     void goTo(int page) { view_->setPage(page - 1); }
     void print();
     void saveAs();

@@ -75,6 +75,7 @@ void Preview::look()
     view_ = new PageView(this);
     bar_ = new PreviewBar(this);
     view_->Changed = [this] { showState(); };
+    view_->WheelZoomed = [this](int direction, QPoint about) { zoomBy(direction, about); };
     view_->Failed = [this] { forms::runAsHandler(QStringLiteral("Preview"), [this] { error_(); }); };
     first_ = button("first", {}, "first", QStringLiteral("First Page (Ctrl+Home)"));
     previous_ = button("previous", {}, "previous", QStringLiteral("Previous Page (Ctrl+Page Up)"));
@@ -126,7 +127,7 @@ void Preview::react()
         {zoomIn_, {QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}, [this] { zoomBy(+1); }},
         {print_, {QKeySequence("Ctrl+P")}, [this] { print(); }},
         {save_, {QKeySequence("Ctrl+S")}, [this] { saveAs(); }},
-        {close_, {QKeySequence("Esc"), QKeySequence("Ctrl+W")}, [this] { close(); }},
+        {close_, {QKeySequence("Ctrl+W")}, [this] { close(); }},
     };
     for (const auto& each : actions) {
         connect(each.button, &QPushButton::clicked, this, handler(each.action));
