@@ -38,11 +38,12 @@ bool isBelowGrowing(const Section& section, const Place& place)
 
 } // namespace
 
-Brush::Brush(QPainter& painter, const Document& document, int page, int pages)
+Brush::Brush(QPainter& painter, const Document& document, int page, int pages, std::vector<Spoken>* spoken)
     : painter_(painter)
     , document_(document)
     , page_(page)
     , pages_(pages)
+    , spoken_(spoken)
 {
     painter_.setPen(QPen(Qt::black, lineWidth));
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
@@ -102,6 +103,10 @@ QString Brush::decoded(const QString& text) const
 
 void Brush::write(const QString& text, const Place& place, Type type, Align align) const
 {
+    if (spoken_) {
+        say(text, place.left, place.top + ascentOf(type));
+        return;
+    }
     const Fitted fitted = fit(text, type, place.width);
     const double free = align == Align::Left ? 0 : place.width - widthOf(fitted.text, fitted.type);
     // Smaller type stands on the same base line as its neighbours.
@@ -110,11 +115,20 @@ void Brush::write(const QString& text, const Place& place, Type type, Align alig
 
 void Brush::writeLine(const QString& text, double left, double baseLine, Type type) const
 {
-    if (text.isEmpty())
+    if (spoken_)
+        say(text, left, baseLine);
+    if (spoken_ || text.isEmpty())
         return;
     setType(type);
     if (!paintPictures(painter_, {left, baseLine}, text))
         painter_.drawText(QPointF(left, baseLine), text);
+}
+
+void Brush::say(const QString& text, double left, double baseLine) const
+{
+    const QString words = text.simplified();
+    if (!words.isEmpty())
+        spoken_->push_back({painter_.transform().map(QPointF(left, baseLine)), words});
 }
 
 void Brush::setType(Type type) const
@@ -127,6 +141,8 @@ void Brush::setType(Type type) const
 
 void Brush::draw(const Picture& picture) const
 {
+    if (spoken_)
+        return;
     const Place& place = picture.place;
     QRectF target(QPointF(), QSizeF(picture.image.size()).scaled(place.width, place.height, Qt::KeepAspectRatio));
     target.moveCenter({place.left + place.width / 2, place.top + place.height / 2});

@@ -5,12 +5,21 @@
 
 #include <QPainter>
 
+#include <vector>
+
 namespace report {
 
-/// Paints the pieces of one page's sections; for `Pages`.
+/// A text of a page, uncut, and where its base line begins.
+struct Spoken {
+    QPointF place;
+    QString text;
+};
+
+/// Paints the pieces of one page's sections; for `Pages`. Given a list for them it tells the texts instead of painting
+/// anything.
 class Brush {
 public:
-    Brush(QPainter& painter, const Document& document, int page, int pages);
+    Brush(QPainter& painter, const Document& document, int page, int pages, std::vector<Spoken>* spoken = nullptr);
 
     /// Everything of a section but its growing field and the rules below that.
     void paint(const Section& section, int row) const;
@@ -26,6 +35,7 @@ private:
     QString decoded(const QString& text) const;
     void write(const QString& text, const Place& place, Type type, Align align) const;
     void writeLine(const QString& text, double left, double baseLine, Type type) const;
+    void say(const QString& text, double left, double baseLine) const;
     void draw(const Picture& picture) const;
     void drawRules(const Section& section, bool below, double shift) const;
     void setType(Type type) const;
@@ -34,6 +44,7 @@ private:
     const Document& document_;
     int page_;
     int pages_;
+    std::vector<Spoken>* spoken_;
     mutable Type type_{0};
 };
 

@@ -3,9 +3,37 @@
 
 #include "platform/report/brush.h"
 
+#include <QImage>
+#include <QPainter>
+
 #include <algorithm>
 
 namespace report {
+
+namespace {
+
+constexpr double sameLine = 100; // how far apart the base lines of texts beside each other may be
+
+QString asLines(std::vector<Spoken> spoken)
+{
+    const auto isAbove = [](const Spoken& one, const Spoken& other) { return one.place.y() < other.place.y(); };
+    const auto isBefore = [](const Spoken& one, const Spoken& other) { return one.place.x() < other.place.x(); };
+    std::stable_sort(spoken.begin(), spoken.end(), isAbove);
+    QStringList lines;
+    for (auto line = spoken.begin(); line != spoken.end();) {
+        const double bottom = line->place.y() + sameLine;
+        const auto end =
+            std::find_if(line, spoken.end(), [bottom](const Spoken& text) { return text.place.y() > bottom; });
+        std::stable_sort(line, end, isBefore);
+        QStringList words;
+        for (; line != end; ++line)
+            words.append(line->text);
+        lines.append(words.join(u' '));
+    }
+    return lines.join(u'\n');
+}
+
+} // namespace
 
 Pages::Pages(std::shared_ptr<const Document> document, const Paper& paper)
     : document_(std::move(document))
@@ -133,11 +161,16 @@ void Pages::paintDetail(const Brush& brush, const Piece& piece) const
 
 void Pages::paint(QPainter& painter, int page) const
 {
-    const Layout& layout = document_->layout;
     painter.save();
-    painter.translate(paper_.size().width() / 2 - layout.axis * scale_, margin());
+    painter.translate(paper_.size().width() / 2 - document_->layout.axis * scale_, margin());
     painter.scale(scale_, scale_);
-    const Brush brush(painter, *document_, page, count());
+    paintAll(Brush(painter, *document_, page, count()), painter, page);
+    painter.restore();
+}
+
+void Pages::paintAll(const Brush& brush, QPainter& painter, int page) const
+{
+    const Layout& layout = document_->layout;
     brush.paint(layout.pageHeader, 0);
     painter.save();
     brush.moveDown(layout.pageHeader.height);
@@ -146,7 +179,15 @@ void Pages::paint(QPainter& painter, int page) const
     painter.restore();
     brush.moveDown(layout.pageHeader.height + bodyHeight());
     brush.paint(layout.pageFooter, 0);
-    painter.restore();
+}
+
+QString Pages::text(int page) const
+{
+    QImage nothing(1, 1, QImage::Format_Mono);
+    QPainter painter(&nothing);
+    std::vector<Spoken> spoken;
+    paintAll(Brush(painter, *document_, page, count(), &spoken), painter, page);
+    return asLines(std::move(spoken));
 }
 
 } // namespace report

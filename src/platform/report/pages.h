@@ -4,6 +4,9 @@
 #include "platform/report/document.h"
 #include "platform/report/paper.h"
 
+#include <QString>
+
+#include <memory>
 #include <vector>
 
 class QPainter;
@@ -27,6 +30,9 @@ public:
 
     /// Paints a page, counted from 0, in black, on a painter whose units are twips from the paper's top left corner.
     void paint(QPainter& painter, int page) const;
+
+    /// The page as a text, its lines from the top, each from the left.
+    QString text(int page) const;
 
 private:
     // Where the details of a page begin: at a row, and there at a line of its growing text.
@@ -56,6 +62,7 @@ private:
 
     std::vector<Piece> piecesOf(int page) const;
     void paintDetail(const Brush& brush, const Piece& piece) const;
+    void paintAll(const Brush& brush, QPainter& painter, int page) const;
 
     std::shared_ptr<const Document> document_;
     Paper paper_;

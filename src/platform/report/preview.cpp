@@ -109,7 +109,18 @@ void Preview::showState()
     zoom_->setCurrentIndex(indexOf(view_->zoom()));
     zoomIn_->setEnabled(nextZoom(view_->factor(), +1).has_value());
     zoomOut_->setEnabled(nextZoom(view_->factor(), -1).has_value());
-    view_->setAccessibleName(QStringLiteral("Page %1 of %2").arg(page()).arg(pageCount()));
+    speak();
+}
+
+// The page is a picture to assistive tools: its words stand beside it.
+void Preview::speak()
+{
+    const QString name = QStringLiteral("Page %1 of %2").arg(page()).arg(pageCount());
+    if (name == view_->accessibleName() && spoken_ == pages_)
+        return;
+    spoken_ = pages_;
+    view_->setAccessibleName(name);
+    view_->setAccessibleDescription(pages_->text(view_->page()));
 }
 
 void Preview::setPaper(int index)

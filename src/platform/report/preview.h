@@ -52,6 +52,7 @@ private:
     };
 
     void showState();
+    void speak();
     void setPaper(int index);
     void pickZoom(int index, std::optional<QPoint> about = {});
     void zoomBy(int direction, std::optional<QPoint> about = {});
@@ -66,6 +67,7 @@ private:
 
     std::shared_ptr<const Document> document_;
     std::shared_ptr<const Pages> pages_;
+    std::shared_ptr<const Pages> spoken_; // of which the text was told last
     std::function<void()> error_;
 
     PageView* view_ = nullptr;
