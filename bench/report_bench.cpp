@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The asset report: how long the first page takes with 10 and 32,000 assets and what the open report adds to memory,
-// the way to another page, and a PDF of 1,000 assets beside a bare painter that draws as many texts.
+// 10,000 descriptions from right to left, the way to another page, and a PDF of 1,000 assets beside a bare painter that
+// draws as many texts.
 #include "sample_database.h"
 
 #include "data/data_store.h"
@@ -19,6 +20,8 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryDir>
+
+#include <random>
 
 #include <malloc.h>
 
@@ -111,6 +114,40 @@ void BM_OpenPreview(benchmark::State& state)
     state.counters["MB"] = added;
 }
 BENCHMARK(BM_OpenPreview)->Arg(few)->Arg(many)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+/// Descriptions from right to left, of words that come again as in any language, and are new with each seed.
+struct RightToLeft : report::Rows {
+    explicit RightToLeft(unsigned seed)
+    {
+        std::mt19937 random(seed);
+        std::vector<QString> words(20'000);
+        for (QString& word : words)
+            for (unsigned letters = 2 + random() % 7; letters > 0; --letters)
+                word += QChar(int(0x05D0 + random() % 27));
+        for (QString& text : texts)
+            for (int word = 0; word < 40; ++word)
+                text += words[std::min(random(), random()) % words.size()] + u' ';
+    }
+    int count() const override { return static_cast<int>(texts.size()); }
+    QString text(int row, int) const override { return texts[static_cast<std::size_t>(row)]; }
+
+    std::vector<QString> texts = std::vector<QString>(10'000);
+};
+
+void BM_BreakRightToLeft(benchmark::State& state)
+{
+    report::Document document;
+    document.layout = layouts::AssetReport();
+    unsigned seed = 0;
+    for ([[maybe_unused]] auto round : state) {
+        state.PauseTiming();
+        document.rows = std::make_shared<RightToLeft>(++seed);
+        const auto made = std::make_shared<report::Document>(document);
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(report::Pages(made, letter()).count());
+    }
+}
+BENCHMARK(BM_BreakRightToLeft)->Unit(benchmark::kMillisecond);
 
 // A page looked at: the second, and the last of 32,000 assets.
 void BM_GoToPage(benchmark::State& state)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/report/glyph_pictures.h"
 
+#include "platform/report/shown_text.h"
+
 #include <QGlyphRun>
 #include <QImage>
 #include <QRawFont>
@@ -15,7 +17,7 @@ namespace report {
 namespace {
 
 constexpr double pixelsPerTwip = 0.25; // 360 to the inch
-constexpr char16_t firstSymbol = 0x2190; // arrows; below it there are letters and punctuation
+constexpr char16_t firstSymbol = 0x20E3; // a key cap; below it there are letters and punctuation
 constexpr const char* pictureTables[] = {"CBLC", "COLR", "SVG ", "sbix"};
 constexpr std::size_t mostKept = 1000; // some kilobytes each
 
@@ -90,7 +92,9 @@ bool paintPictures(QPainter& painter, QPointF baseLine, const QString& text)
 {
     if (!mayHoldPictures(text))
         return false;
-    QTextLayout layout(text, painter.font());
+    QTextLayout layout;
+    layout.setFont(painter.font());
+    ShownText(text).layOutIn(layout);
     QTextOption option;
     option.setTextDirection(painter.layoutDirection());
     layout.setTextOption(option);

@@ -9,6 +9,8 @@
 
 namespace report {
 
+inline constexpr double TwipsPerPoint = 20;
+
 /// A size of type, in points, and its weight.
 struct Type {
     double points = 9;

@@ -86,7 +86,8 @@ TEST_F(ReportPages, WrapEveryScriptWithinTheField)
 {
     const double right = 6120 - 4500 + trial::Left + trial::NoteWidth;
     for (const char* pattern : {"W", "Twenty-three pieces, one of which is chipped. ", "one\ttwo\t", "\u5BB6",
-             "\u05E9\u05DC\u05D5\u05DD \U0001F98A \u0E01\u0E32\u0E23 "}) {
+             "\u05E9\u05DC\u05D5\u05DD \U0001F98A \u0E01\u0E32\u0E23 ", "\u0627\u0644\u0628\u064E\u064A\u062A ",
+             "\u2764\uFE0F", "\u05D0-1\uFE0F\u20E3 "}) {
         const QString note = QString(pattern).repeated(120);
         QString joined;
         for (const QStringView line : report::linesOf(note, {9}, trial::NoteWidth))
@@ -97,6 +98,29 @@ TEST_F(ReportPages, WrapEveryScriptWithinTheField)
         for (const pdf::Word& word : pages.at(0).words)
             EXPECT_TRUE(word.place.top() < top || word.place.right() <= right + 10) << word.text.toStdString();
     }
+}
+
+// A skin tone, a key cap, selectors of a picture and of a text, a family, a flag, and what other fonts hold too.
+TEST_F(ReportPages, HaveEachEmojiAsOnePictureInColour)
+{
+    const char* const emoji[] = {"\U0001F44D\U0001F3FD", "1\uFE0F\u20E3", "\u2764\uFE0F", "\u2764\u200D\U0001F525",
+        "\U0001F468\u200D\U0001F469\u200D\U0001F467", "\U0001F3F3\uFE0F\u200D\U0001F308", "\U0001F1E9\U0001F1EA",
+        "\U0001F3F4\U000E0067\U000E0062\U000E0065\U000E006E\U000E0067\U000E007F", "\u261D\U0001F3FD", "\U0001F600"};
+    std::vector<QStringList> rows = trial::rows(1, "1 # \u00A9 \u2764 \u231A\uFE0E \u260E\uFE0E");
+    const auto pictures = [&] {
+        printed(rows);
+        return pdf::output("pdfimages", {"-list", path("a.pdf")}).split(u'\n').filter("smask").size();
+    };
+    EXPECT_EQ(pictures(), 0);
+    for (const char* each : emoji) {
+        rows[0][2] = QString("an %1 emoji").arg(each);
+        EXPECT_EQ(pictures(), 1) << each;
+        EXPECT_TRUE(words().contains(" an emoji ")) << each << words().toStdString();
+    }
+    rows[0][0] = QString("\u2764\uFE0F").repeated(9); // wider than its field
+    const report::Fitted cut = report::fit(rows[0][0], {9}, 1000);
+    EXPECT_LE(report::widthOf(cut.text, cut.type), 1000);
+    EXPECT_TRUE(cut.text.endsWith(QChar(0x2026)));
 }
 
 TEST_F(ReportPages, BreakLinesBehindBlanksAndHyphensAndElseWhereTheLineIsFull)
