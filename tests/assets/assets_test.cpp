@@ -50,13 +50,11 @@ TEST_F(Assets, AreSavedInEachAreaWithTheNamesThatAreNew)
     storage::execute(Data1.Home.handle(), "INSERT INTO sqlite_sequence VALUES ('Inventory', 32766)");
     put(Data1.rsGeneral, {{General::ClearCheck, "Unchecked"}, {General::WarrantyCheck, "Checked"}});
     replay("assets/areas.txt");
-    EXPECT_EQ(asset().cmbArea.toolTip(), " The Area Has Already Been Selected ");
     removeRows(Data1.rsOutdoor);
     replay("assets/unknown.txt");
     put(Data1.rsGeneral, {{General::WarrantyCheck, "Checked"}});
     openFound("99"); // which is gone
-    EXPECT_EQ(contents(asset()).section(", chkWar", 1),
-        " on off, chkClear on off, cmdUpdate off, cmdDelete off, cmdClear off");
+    replay("assets/missing.txt");
 }
 
 TEST_F(Assets, AreUpdatedPrintedAndDeletedAsTheyStandOnTheScreen)

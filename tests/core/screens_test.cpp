@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "frame/frmBW_Splash.h"
+#include "shared/frmCalendar.h"
+#include "frame/frmExit.h"
 #include "frame/frmMain.h"
+#include "frame/frmProgress.h"
 #include "frame/frmStartup.h"
 #include "household/frmIntroduction.h"
 #include "platform/forms/look.h"
 #include "platform/help/book.h"
+#include "support/files.h"
 #include "support/harness.h"
 
 #include <QMap>
@@ -15,8 +20,8 @@ using forms::screen;
 
 namespace {
 
-/// On each screen where F1 is pressed: where the Tab key goes, what the access keys reach, and the topics that F1 opens
-/// on each control.
+/// Each screen as it comes; and at each "tour" where the Tab key goes, the topics that F1 opens on the controls and the
+/// number under which the screen is hidden, as far as that wasn't told of it before.
 class AllScreens : public ScreenTest {
 protected:
     AllScreens()
@@ -26,19 +31,51 @@ protected:
             // Without a month its day asks for one.
             put(Data1.rsInventory, {{Inventory::PartsMonth, "Jan"}, {Inventory::LaborMonth, "Jan"}});
         }
+        addAssetRow({"Indoor", "Attic", "None", "None", "None", "Ajax"});
         for (int count = 0; count < 3; ++count)
             addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).trimmed().split(' '));
         forms::setHelpHandler(
-            [this](int number, const QString& window) { opened_ = number > 0 ? QString::number(number) : window; });
+            [this](int number, const QString& window) { topics_ += number > 0 ? QString::number(number) : window; });
     }
 
-    QString topicOf(forms::Control& control)
+    std::optional<QString> happen(const QString& step) override
     {
-        control.setFocus();
-        opened_ = "nothing";
-        press(Qt::Key_F1);
-        topics_ += opened_;
-        return std::exchange(opened_, {});
+        list(*forms::activeForm());
+        if (step == "press F1")
+            return "help " + topicOf([] { press(Qt::Key_F1); });
+        return step == "tour" ? tour(*forms::activeForm()).join('\n') : std::optional<QString>();
+    }
+
+    /// A screen as it comes, once.
+    void list(const forms::Form& form)
+    {
+        const QString heading = "# " + form.name();
+        if (screens_.contains(heading))
+            return;
+        QStringList controls;
+        for (const forms::Control* control : form.controls()) {
+            QStringList parts = partsOf(*control);
+            parts[0].prepend(control->name());
+            const auto* entry = dynamic_cast<const forms::TextEntry*>(control);
+            const auto* combo = dynamic_cast<const forms::ComboBox*>(control);
+            if (entry && entry->maxLength() > 0)
+                parts += QString("limit %1").arg(entry->maxLength());
+            if (const int count = combo ? combo->listCount() : 0; count > 0)
+                parts += QString("list %1..%2 (%3)").arg(combo->list(0), combo->list(count - 1)).arg(count);
+            if (control->helpNumber() > 0)
+                parts += QString("help %1").arg(control->helpNumber());
+            controls += parts.join(", ");
+        }
+        screens_ += heading;
+        screens_ += gathered(controls);
+    }
+
+    /// What F1 opens.
+    QString topicOf(const std::function<void()>& pressF1)
+    {
+        const qsizetype before = topics_.size();
+        pressF1();
+        return topics_.size() > before ? topics_.last() : "nothing";
     }
 
     static void expectToBeSeen(const forms::Form& form)
@@ -72,18 +109,25 @@ protected:
         for (forms::Control* control : form.controls()) {
             if (!control->canTakeFocus())
                 continue;
-            helped[topicOf(*control)] += control->name();
+            helped[topicOf([control] { control->setFocus(), press(Qt::Key_F1); })] += control->name();
             const auto* button = dynamic_cast<forms::Button*>(control);
-            const QString caption = button ? button->caption().remove("&&") : QString();
-            if (!caption.contains('&'))
-                continue;
-            letters += caption.section('&', 1).left(1).toUpper();
-            told += "Alt+" + letters.last() + ' ' + control->name();
+            if (const QString caption = button ? button->caption().remove("&&") : QString(); caption.contains('&'))
+                letters += caption.section('&', 1).left(1).toUpper();
         }
         EXPECT_EQ(letters.removeDuplicates(), 0) << "keys that reach nothing";
+        const auto isLess = [](const QStringList& some, const QStringList& others) {
+            return some.size() < others.size();
+        };
+        const QString most = std::max_element(helped.begin(), helped.end(), isLess).key();
+        told += "F1 " + most;
+        helped.remove(most);
         for (auto topic = helped.begin(); topic != helped.end(); ++topic)
-            told += "F1 " + topic.key() + ": " + topic.value().join(' ');
+            told += "F1 " + topic.key() + " at " + topic.value().join(' ');
         told += numberOf(form);
+        const auto wasTold = [&](const QString& line) { return told_.contains(form.name() + ": " + line); };
+        told.removeIf(wasTold);
+        for (const QString& line : told)
+            told_ += form.name() + ": " + line;
         return told;
     }
 
@@ -102,40 +146,23 @@ protected:
         return "hidden as" + numbers;
     }
 
-    /// What hasn't been told of a screen.
-    QStringList seen()
-    {
-        QStringList told(scene());
-        if (std::exchange(scene_, told.first()) == told.first())
-            told.clear();
-        if (opened_.isEmpty())
-            return told;
-        topics_ += opened_;
-        told += "help " + std::exchange(opened_, {});
-        if (reportWindow())
-            return told;
-        forms::Form& form = *forms::activeForm();
-        for (const QString& line : tour(form))
-            if (const QString there = form.name() + ": " + line; !told_.contains(there)) {
-                told += line;
-                told_ += there;
-            }
-        return told;
-    }
-
-    QString opened_, scene_;
     QStringList topics_{"frmProgress", "frmExit", "frmExport", "frmRestore", "frmRestored", "CoverSheet", "AssetReport",
         "MsgBox"}; // of other programs, and without a control
-    QStringList told_;
+    QStringList told_, screens_;
 };
 
 TEST_F(AllScreens, AreGoneThroughByKeysHaveTheirHelpAndShowAllThatTheyHave)
 {
     screen<frmIntroduction>().show();
-    replay("core/screens.txt", [this] { return seen(); });
+    replay("core/screens.txt");
+    list(screen<frmCalendar>());
+    list(screen<frmBW_Splash>());
+    list(screen<frmProgress>());
+    list(screen<frmExit>());
+    expectKept("core/screens_as_they_come.txt", screens_.join('\n') + '\n');
     const help::Book book(":/help");
     for (const QString& topic : topics_)
-        EXPECT_TRUE(topic == "nothing" || book.knows(topic)) << topic.toStdString();
+        EXPECT_TRUE(book.knows(topic)) << topic.toStdString();
     for (const QString& topic : book.topics())
         EXPECT_TRUE(topic.toInt() == 0 || topics_.contains(topic)) << topic.toStdString() << " is of nothing";
 }

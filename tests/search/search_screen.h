@@ -79,5 +79,12 @@ protected:
         return texts;
     }
 
-    static QString hiddenOfSearch() { return contents(search()).split(", ").filter("hidden").join(", "); }
+    static QString hiddenOfSearch()
+    {
+        QStringList hidden;
+        for (const forms::Control* control : search().controls())
+            hidden += control->isVisible() ? QString() : control->name() + " hidden";
+        hidden.removeAll(QString());
+        return hidden.join(", ");
+    }
 };

@@ -11,9 +11,15 @@
 /// "1 frmGenInfo: txtInfo(1) [Ada]; frmMain"
 QString scene();
 
-/// What a screen holds: entries with their texts, boxes and options that are chosen, and whatever is locked, off or
-/// hidden. "cmbArea=Indoor off, txtLoc=None locked, chkWar on, cmdUpdate off"
-QString contents(const forms::Form& form);
+/// The control with the focus and what is selected there: "txtInfo(1) [Ada]".
+QString focus();
+
+/// What a user finds of a control, in parts: first "=" and its text, or ": " and its caption, or nothing; then "on",
+/// "locked", "grey", "hidden", "red" and "default", whichever it is, and its tool tip: "tip \" Click Here \"".
+QStringList partsOf(const forms::Control& control);
+
+/// Members of an array of which the same is told, in one: "txtInfo(0 1 2)=".
+QStringList gathered(const QStringList& told);
 
 /// Where the Tab key goes from here until it is back: "cmdIn cmdOut".
 QString ring(const forms::Form& form);

@@ -22,9 +22,8 @@ protected:
     /// A way out that asks first: with No, the same screens stand there as before.
     void expectToStay(const std::function<void()>& leave, const QString& question = CloseKestrill);
 
-    /// Does what a file below tests/ keeps of a user's way, and compares all that it shows with what is kept there; or
-    /// what the test tells after each step.
-    void replay(const char* file, const std::function<QStringList()>& tells = {});
+    /// Does what a file below tests/ keeps of a user's way, and compares all that it shows with what is kept there.
+    void replay(const char* file);
 
     /// What else than the user's hands a line of such a file can mean, for a test that knows it: what is seen then. And
     /// what of all that is told, where and when the test runs apart, can be kept.
@@ -55,8 +54,11 @@ protected:
     }
 
 private:
+    struct Walk;
+
     static bool arranges(const QString& line);
-    QStringList played(const QString& line);
+    QStringList played(const QString& step);
+    QStringList seenOn(const QString& way, Walk& walk);
 
     QTemporaryDir folder_;
 };
