@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/asset_screen.h"
-#include "assets/frmWar.h"
+#include "shared/frmCalendar.h"
 #include "platform/storage/statement.h"
 #include "shared/frmCalendar.h"
 
@@ -18,14 +18,6 @@ protected:
         screen<frmSearchResults>().SelectedAsset = id;
         asset().AssetKey = values::Integer::fromText(id);
         asset().check_Form_Type();
-    }
-
-    // A digit in front of the amount that a box shows.
-    static void typeInto(forms::TextBox& box, char digit)
-    {
-        click(box);
-        press({Qt::Key_Home, Qt::Key_Right});
-        type(QString(digit));
     }
 
     static void openSecond()
@@ -84,23 +76,6 @@ TEST_F(Assets, HaveAWarranty)
     openSecond();
     replay("assets/warranty.txt");
     EXPECT_EQ(screen<frmCalendar>().DateTarget, 1);
-}
-
-TEST_F(Assets, TakeAnAmountWhoseCommasAnEditHasLeftWhereTheyWere)
-{
-    addAssetRow({"Indoor", "Library", "Antiques", "Antique Desk", "1890", "Unknown", "Unknown", "Unknown", "11/24/2026",
-        "$250,000.00", "No", "None", "None", "New", "Limited", "None", "$750,000.00"});
-    openFound("1");
-    typeInto(asset().txtPPrice, '1');
-    EXPECT_EQ(asset().txtPPrice.text(), "$1250,000.00");
-    clickTold(asset().cmdUpdate, "            Asset Has Been Updated!", Information);
-    click(asset().cmdWarranty);
-    typeInto(screen<frmWar>().txtPAmt, '1');
-    clickTold(screen<frmWar>().cmdSave, "Your Warranty Information Has Been Saved!", Information);
-    EXPECT_EQ(inFile(Data1.rsInventory, {Inventory::Amount, Inventory::PartsAmount}).join(' '),
-        "$1,250,000.00 $1,750,000.00");
-    EXPECT_EQ(inFile(Data1.rsGeneral, {General::AssetValue}), QStringList("$1,000,000.00"))
-        << "by what was put in front";
 }
 
 TEST_F(Assets, HaveAPrice)
