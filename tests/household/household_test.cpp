@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/frmMain.h"
-#include "household/frmGenInfo.h"
-#include "household/frmInsInfo.h"
 #include "household/frmIntroduction.h"
 #include "support/harness.h"
 
@@ -41,24 +39,6 @@ TEST_F(Household, HasAPolicyThatHasExpired)
     keepPolicy("11/23/2026", "Yes");
     screen<frmMain>().show();
     replay("household/policy.txt");
-}
-
-TEST_F(Household, HasAPolicyWhoseCoverageTakesADigitMore)
-{
-    put(Data1.rsGeneral, {{General::PolicyExpiration, "12/25/2026"}, {General::PolicyCoverage, "$250,000.00"}});
-    screen<frmGenInfo>().show();
-    click(screen<frmGenInfo>().cmdInsInfo);
-    auto& policy = screen<frmInsInfo>();
-    click(policy.txtCoverageAmt);
-    press({Qt::Key_Home, Qt::Key_Right});
-    type("1");
-    click(policy.chkNotify); // which saves as well, in silence
-    EXPECT_EQ(policy.txtCoverageAmt.text(), "$1,250,000.00");
-    click(policy.txtCoverageAmt);
-    press({Qt::Key_End, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
-    type("0");
-    clickTold(policy.cmdUpdate, "Your Insurance Information Has Been Updated!", Information);
-    EXPECT_EQ(inFile(Data1.rsGeneral, {General::PolicyCoverage}), QStringList("$12,500,000.00"));
 }
 
 } // namespace
