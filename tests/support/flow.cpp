@@ -145,14 +145,13 @@ private:
 // Below 120 characters a line, where that can be.
 QString wrapped(QString line, const QStringList& seen)
 {
-    QString between = " => ";
+    QString between = " =>";
     for (QString each : seen) {
         each.replace('\n', "\\n");
         const qsizetype begin = line.lastIndexOf('\n') + 1;
-        const bool fits = line.size() - begin + between.size() + each.size() <= 118;
-        line += fits ? between : between.trimmed().prepend(between[0] == ' ' ? " " : "") + "\n    ";
-        line += each;
-        between = "; ";
+        const bool fits = line.size() - begin + between.size() + each.size() < 118;
+        line += between + (fits ? " " : "\n    ") + each;
+        between = ";";
     }
     return line;
 }

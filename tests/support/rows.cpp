@@ -10,14 +10,6 @@ void put(storage::TableView& row, const Cells& cells)
     row.Update();
 }
 
-QStringList cellsOf(storage::TableView& row, int first, int last)
-{
-    QStringList texts;
-    for (int column = first; column <= last; ++column)
-        texts.append(row.Fields(column).text());
-    return texts;
-}
-
 QStringList inFile(storage::TableView& table, const std::vector<int>& columns)
 {
     if (table.isOpen())

@@ -15,7 +15,6 @@ using Cells = std::initializer_list<std::pair<int, QString>>;
 
 /// Columns of the current row.
 void put(storage::TableView& row, const Cells& cells);
-QStringList cellsOf(storage::TableView& row, int first, int last);
 
 /// Columns of the first row as the file holds it: the table is read anew.
 QStringList inFile(storage::TableView& table, const std::vector<int>& columns);

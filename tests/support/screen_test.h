@@ -25,6 +25,9 @@ protected:
     /// Does what a file below tests/ keeps of a user's way, and compares all that it shows with what is kept there.
     void replay(const char* file);
 
+    /// Does a step of such a file; tells a failure and the help that has opened.
+    QStringList played(const QString& step);
+
     /// What else than the user's hands a line of such a file can mean, for a test that knows it: what is seen then. And
     /// what of all that is told, where and when the test runs apart, can be kept.
     virtual std::optional<QString> happen(const QString& /*line*/) { return {}; }
@@ -57,7 +60,6 @@ private:
     struct Walk;
 
     static bool arranges(const QString& line);
-    QStringList played(const QString& step);
     QStringList seenOn(const QString& way, Walk& walk);
 
     QTemporaryDir folder_;
