@@ -4,9 +4,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <functional>
@@ -97,32 +99,70 @@ inline bool keepsLists()
     return qEnvironmentVariableIsSet("KESTRILL_KEEP");
 }
 
-/// A whole file as it is now.
+/// Compares what a list holds with what it is now; tells from where on they differ.
+inline void expectSame(const QString& was, const QString& now)
+{
+    const auto differing = std::mismatch(was.begin(), was.end(), now.begin(), now.end());
+    const qsizetype line = was.left(differing.first - was.begin()).count('\n');
+    EXPECT_TRUE(was == now) << "KESTRILL_KEEP=1 keeps it as it is now\n  kept: "
+                            << was.section('\n', line, line).toStdString()
+                            << "\n  now:  " << now.section('\n', line, line + 2).toStdString();
+}
+
+/// Compares a whole list with what it is now.
 inline void expectKept(const QString& file, const QString& now)
 {
     if (keepsLists())
         putFile(kept(file), now.toUtf8());
     else
-        EXPECT_EQ(now.toStdString(), bytesOf(kept(file)).toStdString()) << "KESTRILL_KEEP=1 keeps it as it is now";
+        expectSame(QString::fromUtf8(bytesOf(kept(file))), now);
 }
 
-/// Compares each line of a list with what follows from its beginning: "step => what follows", or the step alone where
-/// nothing does. What begins at a heading, "# ", begins anew.
+inline QStringList linesOf(const QString& file)
+{
+    return QString::fromUtf8(bytesOf(kept(file))).split('\n');
+}
+
+/// The parts of a list, by their headings: "== Heading".
+inline QStringList partsOf(const QString& file)
+{
+    return linesOf(file).filter(QRegularExpression("^== ")).replaceInStrings(QRegularExpression("^== "), "");
+}
+
+/// A part, without the heading and the blank line before the next.
+inline QString partOf(const QString& file, const QString& heading)
+{
+    return linesOf(file).join('\n').section("== " + heading + '\n', 1).section("\n== ", 0, 0).trimmed();
+}
+
+/// Compares a part with what it is now.
+inline void expectPart(const QString& file, const QString& heading, const QString& now)
+{
+    const QString was = partOf(file, heading), head = "== " + heading + '\n';
+    if (keepsLists())
+        putFile(kept(file), linesOf(file).join('\n').replace(head + was, head + now).toUtf8());
+    else
+        expectSame(was, now);
+}
+
+/// A step with what has followed from it: "step => what followed", or the step alone where nothing did.
+inline QString stepTold(const QString& step, const QString& followed)
+{
+    return followed.isEmpty() ? step : step + " => " + followed;
+}
+
+/// Compares each line of a list with what follows from its step. What has a heading begins anew.
 inline void expectSteps(
     const QString& file, const std::function<QString(const QString& step)>& follow,
     const std::function<void()>& begin = [] {})
 {
-    QString now;
-    for (const QString& line : QString::fromUtf8(bytesOf(kept(file))).split('\n')) {
-        const bool isStep = !line.isEmpty() && !line.startsWith('#');
-        if (line.startsWith("# "))
+    QStringList now;
+    for (const QString& line : linesOf(file)) {
+        if (line.startsWith("== "))
             begin();
         const QString step = line.section(" => ", 0, 0);
-        const QString told = isStep ? follow(step) : QString();
-        const QString followed = isStep ? step + (told.isEmpty() ? told : " => " + told) : line;
-        EXPECT_TRUE(keepsLists() || followed == line) << followed.toStdString() << "\n  kept: " << line.toStdString();
-        now += followed + '\n';
+        const bool isStep = !line.isEmpty() && !line.startsWith('#') && !line.startsWith("== ");
+        now += isStep ? stepTold(step, follow(step)) : line;
     }
-    if (keepsLists())
-        putFile(kept(file), now.chopped(1).toUtf8());
+    expectKept(file, now.join('\n'));
 }

@@ -14,14 +14,14 @@ static QString told(double number)
 
 void Painted::expect(const QString& list, const QString& name) const
 {
-    const QString part = QString(bytesOf(kept(list))).section("== " + name + '\n', 1).section("\n== ", 0, 0);
+    const QString part = partOf(list, name);
     QStringList lines;
     for (const auto& [kind, left, width, rest] : things_) {
         const QString edge = part.section('\n', lines.size(), lines.size()).section(' ', 0, 0);
         const double share = width == 0 ? 0 : edge == "right" ? 1 : edge == "middle" ? 0.5 : 0;
         lines += (share > 0 ? edge : kind) + ' ' + told(left + share * width) + rest;
     }
-    EXPECT_EQ(lines.join('\n'), part.trimmed()) << name.toStdString();
+    EXPECT_EQ(lines.join('\n'), part) << name.toStdString();
 }
 
 void Painted::drawImage(const QRectF& place, const QImage& image, const QRectF&, Qt::ImageConversionFlags)

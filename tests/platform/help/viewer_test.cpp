@@ -21,7 +21,6 @@
 #include <QTextBrowser>
 #include <QTreeWidget>
 
-using forms::look::fieldWidth;
 using report::Outcome;
 
 namespace {
@@ -59,7 +58,8 @@ protected:
         else if (step.startsWith("click "))
             QTest::mouseClick(&part(more.toLatin1()), Qt::LeftButton);
         else if (step.startsWith("choose "))
-            clickIn(contents, contents.visualItemRect(contents.findItems(more, Qt::MatchRecursive).at(0)));
+            clickIn(contents,
+                contents.visualItemRect(contents.findItems(more, Qt::MatchRecursive | Qt::MatchStartsWith).at(0)));
         else if (step.startsWith("hit "))
             clickIn(found, found.visualItemRect(found.item(more.toInt() - 1)));
         else if (step.startsWith("seek ")) {
@@ -79,8 +79,8 @@ protected:
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, item.center());
     }
 
-    /// All that the window tells: "Title: focus [selected] at TOP OF PAGE in CHAPTER, hits and words, ways that are
-    /// shut".
+    /// All that the window tells: "Title: focus [selected] at TOP OF PAGE in CHAPTER, words, ways that are shut", and
+    /// the hits where they are others than the last time.
     QString state()
     {
         settle();
@@ -103,10 +103,11 @@ protected:
             all += QString(", type of %1 %").arg(size);
         for (const char* way : {"back", "forward", "smaller", "larger"})
             all += part(way).isEnabled() ? QString() : QString(", no ") + way;
+        QString hits;
         const auto& found = part<QListWidget>("found");
         for (int row = 0; found.isVisible() && row < found.count(); ++row)
-            all += (row == found.currentRow() ? " * " : " - ") + found.item(row)->text().replace('\n', " \"") + '"';
-        return all;
+            hits += (row == found.currentRow() ? " * " : " - ") + found.item(row)->text().replace('\n', " \"") + '"';
+        return all + (hits == std::exchange(hits_, hits) ? "" : hits);
     }
 
     /// What assistive tools and a pointer that waits are told of each part, and its caption.
@@ -121,15 +122,13 @@ protected:
         return all;
     }
 
-    QRect placeOf(const char* name) { return {part(name).mapTo(&*viewer_, QPoint()), part(name).size()}; }
-
     /// The share that the contents have of more width.
     double shareOfContents()
     {
-        const int before = placeOf("ways").width();
+        const int before = part("ways").width();
         viewer_->resize(viewer_->width() + 700, viewer_->height());
         settle();
-        return (placeOf("ways").width() - before) / 700.0;
+        return (part("ways").width() - before) / 700.0;
     }
 
     /// The first and the last row of a hit in which a colour is.
@@ -158,14 +157,16 @@ protected:
         settle();
     }
 
+    QString hits_;
     TrialForm modal{journal, "Modal"};
     std::optional<help::Viewer> viewer_;
 };
 
 TEST_F(HelpViewer, LeadsByTopicsLinksContentsFindingAndSearch)
 {
-    expectSteps("platform/help/reading.txt", [this](const QString& step) {
-        take(step);
+    expectSteps("platform/help/reading.txt", [this](const QString& steps) {
+        for (const QString& step : steps.split(", "))
+            take(step);
         return state();
     });
     QDialog own(&*viewer_); // of its own, which is to be answered first
@@ -188,26 +189,15 @@ TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheD
     QFont small = usual;
     small.setPixelSize(5);
     QApplication::setFont(small); // which leaves room for the captions
-    const int gap = forms::look::grid(1);
     makeViewer();
     for (const char* step : {"open 9", "Ctrl+P", "seek lamps", "Ctrl+F", "type q"})
         take(step);
     expectKept("platform/help/parts.txt", parts().join('\n') + '\n');
     EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(0)->child(0)->toolTip(0), "Lists, long and short");
     EXPECT_EQ(viewer_->y(), (desktop.height() - forms::look::grid(88)) / 2);
-    const QRect back = placeOf("back"), halves = placeOf("halves"), page = placeOf("page"), find = placeOf("findState");
-    const QList<int> gaps{back.left(), back.top(), halves.top() - back.bottom() - 1, placeOf("sought").left(),
-        halves.bottom() - placeOf("ways").bottom(), find.left() - page.left(), halves.bottom() - find.bottom(),
-        text().cursorRect(QTextCursor(text().document())).left() / 2,
-        placeOf("findWords").width() - fieldWidth(30) + gap};
-    EXPECT_EQ(gaps, QList<int>(gaps.size(), gap));
-    EXPECT_EQ(placeOf("forward").left() - back.right() - 1, gap / 2);
-    EXPECT_EQ(QPoint(page.right(), placeOf("status").bottom()), viewer_->rect().bottomRight());
-    EXPECT_GT(find.top(), placeOf("findWords").bottom());
     EXPECT_NEAR(shareOfContents(), 2 / 7.0, 0.02);
-    EXPECT_GT(placeOf("print").left() - placeOf("larger").right(), 700);
     part<QSplitter>("halves").setSizes({0, 900});
-    EXPECT_GT(placeOf("ways").width(), 0) << "the divider hides nothing";
+    EXPECT_GT(part("ways").width(), 0) << "the divider hides nothing";
     QApplication::setFont(usual);
 }
 

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What views do, as views.txt has it: a view and a step; then how many rows there are, where the view stands and what
-// is in its row, or else what was asked for. A heading begins with a new file.
 #include "storage_test.h"
 
 #include <QVariant>
@@ -20,27 +18,42 @@ public:
         another_.setFile(folder.filePath("another"), key); // with other numbers for its texts
     }
 
-    QString follow(const QString& step)
+    QString follow(const QString& line)
     {
-        const QString first = step.section(' ', 0, 0), rest = step.section(' ', 1);
-        try {
-            if (first == "sql")
-                runOnFile(rest.toUtf8());
-            else if (first == "file")
-                return rowsInFile(rest);
-            else if (first == "home")
-                rest == "close" ? home.close() : rest == "move" ? home.setFile(path(), key) : home.commitPending();
-            else
-                return onView(views_.at(first), rest.section(' ', 0, 0), rest.section(' ', 1));
-        } catch (const values::RuntimeFailure& failure) {
-            const QString told = QString(failure.text()).replace(path(), "FILE");
-            return views_.contains(first) ? told + "; " + standing(views_.at(first)) : told;
+        const QString first = line.section(' ', 0, 0), rest = line.section(' ', 1);
+        if (first == "file")
+            return rowsInFile(rest);
+        if (!views_.contains(first))
+            return refusalOf([&] {
+                if (first == "sql")
+                    runOnFile(rest.toUtf8());
+                else
+                    rest == "close" ? home.close() : rest == "move" ? home.setFile(path(), key) : home.commitPending();
+            });
+        TableView& view = views_.at(first);
+        QStringList told;
+        for (const QString& step : rest.startsWith("Sort") ? QStringList(rest) : rest.split(", ")) {
+            QString answer;
+            const QString refusal =
+                refusalOf([&] { answer = onView(view, step.section(' ', 0, 0), step.section(' ', 1)); });
+            told += answer + refusal;
         }
-        return "done";
+        told.removeAll(QString());
+        return (told << standing(view)).join("; ");
     }
 
 private:
     void TestBody() override { }
+
+    QString refusalOf(const std::function<void()>& work) const
+    {
+        try {
+            work();
+            return {};
+        } catch (const values::RuntimeFailure& failure) {
+            return QString(failure.text()).replace(path(), "FILE");
+        }
+    }
 
     // Read from a copy: the file itself is kept to its one connection.
     QString rowsInFile(const QString& table) const
@@ -66,7 +79,7 @@ private:
             return QString::fromStdString(std::string(view.snapshot().utf8(given.toInt(), 0)));
         else
             return onField(view, step, given.section(' ', 0, 0).toInt(), given.section(' ', 1));
-        return standing(view);
+        return {};
     }
 
     QString onField(TableView& view, const QString& step, int column, const QString& given)
@@ -86,7 +99,7 @@ private:
             return QVariant(step == "equals" ? field.equals(storage::FoldedText(given))
                                              : field.contains(storage::FoldedText(given)))
                 .toString();
-        return standing(view);
+        return {};
     }
 
     static QString standing(TableView& view)

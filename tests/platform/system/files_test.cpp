@@ -8,8 +8,9 @@
 #include "support/files.h"
 #include "support/print.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -22,7 +23,7 @@ public:
         putFile(at("new/below/b"), "three");
         putFile(at("kept.part"), "left by a run that was killed");
         // All that can lie in a folder, and what can lie in its way.
-        putFile(at("rich/data"), "new");
+        putFile(at("rich/data"), QByteArray(2'097'159, 'n')); // more than is copied at once
         putFile(at("rich/data-journal"), "left out");
         putFile(at("rich/below/further/.hidden"), "");
         QDir().mkdir(at("rich/empty"));
@@ -44,7 +45,23 @@ public:
             {"enter", [this] { sys::Folder(place.path()).madeEntered("linked"); }},
             {"exchange", [this] { sys::Folder(place.path()).exchange("new", "old"); }},
             {"into", [&] { sys::copyFolder(at("new"), QDir(place.path()).filePath(step.section(':', 1))); }},
-            {"replace", [this] { sys::copyFolder(at("rich/"), at("full/"), {}, isJournal); }}};
+            {"replace", [this] { sys::copyFolder(at("rich/"), at("full/"), {}, isJournal); }},
+            {"without-room",
+                [this] {
+                    const FullDisk full(2'000'000);
+                    sys::copyFolder(at("rich"), at("old"));
+                }},
+            {"unproved",
+                [this] {
+                    int proofs = 0;
+                    copyProvedBy([&proofs](const QString& copy) {
+                        EXPECT_TRUE(bytesOf(copy) == "two" || bytesOf(copy) == "three");
+                        if (++proofs == 2)
+                            throw values::RuntimeFailure(values::FailureKind::File, "not proved");
+                    });
+                }},
+            {"killed-before", [this] { killedBefore(); }},
+            {"lured", [this] { copyProvedBy([this](auto&) { lure(); }); }}};
         const std::map<QString, int> reasons{{"", 0}, {"EXDEV", EXDEV}, {"EPERM", EPERM}, {"ENOTSUP", ENOTSUP},
             {"ENOSYS", ENOSYS}, {"EMLINK", EMLINK}, {"EIO", EIO}, {"ENOSPC", ENOSPC}, {"EINVAL", EINVAL}};
         const auto before = treeOf(place.path());
@@ -54,7 +71,7 @@ public:
         const auto now = treeOf(place.path());
         for (const auto& [name, contents] : now)
             if (!before.contains(name) || before.at(name) != contents)
-                line += "; " + (contents == "(folder)" ? name + '/' : name + " = " + contents);
+                line += "; " + (contents == "(folder)" ? name + '/' : name + " = " + shortened(contents));
         for (const auto& [name, contents] : before)
             if (!now.contains(name))
                 line += "; no " + name;
@@ -62,6 +79,34 @@ public:
     }
 
 private:
+    void copyProvedBy(const std::function<void(const QString& copy)>& prove) const
+    {
+        sys::copyFolder(at("new"), at("old"), [&prove](const QString&, const QString& copy) { prove(copy); });
+    }
+
+    // The next copy isn't held up by what the killed one has left.
+    void killedBefore() const
+    {
+        const auto before = treeOf(at("old"));
+        EXPECT_EQ(inProcess([this] { copyProvedBy([](auto&) { _exit(1); }); }), 1);
+        EXPECT_THAT(treeOf(at("old")), testing::IsSupersetOf(before));
+        copyProvedBy([](auto&) {});
+        EXPECT_EQ(QFile::permissions(at("old/b")) & (QFile::ReadGroup | QFile::ReadOther), 0);
+    }
+
+    // Somebody puts a link in the way meanwhile.
+    void lure() const
+    {
+        if (QDir().rename(at("old/below"), at("old/moved")))
+            std::filesystem::create_symlink("../full", at("old/below").toStdString());
+    }
+
+    static std::string shortened(const std::string& contents)
+    {
+        const bool isOneLetter = contents.find_first_not_of(contents[0]) == std::string::npos;
+        return contents.size() > 99 && isOneLetter ? std::to_string(contents.size()) + contents[0] : contents;
+    }
+
     static bool isJournal(const QString& file) { return file.endsWith("/data-journal"); }
 
     QString at(const QString& name) const { return place.filePath(name); }

@@ -41,6 +41,8 @@ QString answer(const QString& kind, const QString& text)
             return Date::parse(text).toText();
         if (kind == "whole")
             return QString::number(wholeNumber(text));
+        if (kind == "grouped")
+            return groupedByThrees(text);
         const Currency amount = Currency::fromTenThousandths(text.toLongLong());
         return kind == "shown" ? amount.toText() : QString::number(amount.rounded().tenThousandths());
     } catch (const RuntimeFailure& failure) {
@@ -51,17 +53,13 @@ QString answer(const QString& kind, const QString& text)
 
 TEST(Values, AreReadAndShownAsTheListHasIt)
 {
-    expectSteps("platform/values/values.txt",
-        [](const QString& step) { return answer(step.section(' ', 0, 0), step.section(' ', 1)); });
+    expectSteps("platform/values/values.txt", [](const QString& step) {
+        QStringList answers;
+        for (const QString& text : step.section(' ', 1).split(" | "))
+            answers += answer(step.section(' ', 0, 0), text);
+        return answers.count(answers[0]) == answers.size() ? answers[0] : answers.join(" | ");
+    });
     EXPECT_THAT([] { Date::fromDayMonthYear(1, 257, 2006); }, mismatches);
-}
-
-TEST(GroupedByThrees, MovesTheCommasOfAnAmountAndNothingElse)
-{
-    const std::pair<QString, QString> texts[] = {{"$1250,000.00", "$1,250,000.00"}, {"$50,00.0050", "$5,000.0050"},
-        {"($1,2)", "($12)"}, {"$1,234.50", "$1,234.50"}, {"$1234.50", "$1234.50"}, {"$,000.00", "$,000.00"}};
-    for (const auto& [text, grouped] : texts)
-        EXPECT_EQ(groupedByThrees(text), grouped);
 }
 
 TEST(Values, OverflowIsAFailureAndLeavesTheValueAsItWas)
