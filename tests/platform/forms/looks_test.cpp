@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
-#include "platform/forms/looks/apply_look.h"
-#include "platform/forms/looks/style_painting.h"
 #include "platform/forms/screens/painting.h"
 #include "support/files.h"
 
@@ -10,11 +8,8 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QScreen>
-#include <QStyleOption>
-#include <QTableView>
 #include <QTemporaryDir>
 #include <QToolTip>
 #include <QTreeWidget>
@@ -23,7 +18,6 @@
 #include <cmath>
 
 namespace look = forms::look;
-namespace paint = forms::look::paint;
 
 namespace {
 
@@ -80,24 +74,29 @@ void expectWholeText(const QLabel& words, const QString& text)
 
 TEST_F(Looks, AMessageBoxShowsItsWholeTextInTheMiddleOfItsScreenAtEveryTypeSize)
 {
-    const std::tuple<int, QString, QString> boxes[] = {
-        {forms::box::Information, "Information", "          Account Has Been Updated!"},
-        {forms::box::Exclamation, "Warning", "You Must Select A Future Policy Expiration Date Before This Option!"},
-        {forms::box::Question, "Question", "Several words\n\n" + QString("A sentence of five words. ").repeated(9)},
-        {forms::box::Stop, "Error", "A folder without a blank: <b>/home/someone/</b>" + QString(40, u'x')}};
+    const look::Colours& the = look::colours();
+    const std::tuple<int, QString, QString, QColor> boxes[] = {
+        {forms::box::Information, "Information", "          Account Has Been Updated!", the.accent},
+        {forms::box::Exclamation, "Warning", "You Must Select A Future Policy Expiration Date Before This Option!",
+            the.warning},
+        {forms::box::Question, "Question", "Several words\n\n" + QString("A sentence of five words. ").repeated(9),
+            the.accent},
+        {forms::box::Stop, "Error", "A folder without a blank: <b>/home/someone/</b>" + QString(40, u'x'), the.danger}};
     useRealBoxes();
     for (const double points : {9.0, 12.0, 16.0}) {
         setDesktopFont(points);
         for (const auto& each : boxes) {
             const forms::WaitPointer pointer;
             whileModal([&] {
-                const auto& [_, name, text] = each;
+                const auto& [_, name, text, colour] = each;
                 const QWidget& box = *QApplication::activeModalWidget();
                 expectWholeText(*box.findChild<QLabel*>("qt_msgbox_label"), text);
                 EXPECT_LE(box.width(), box.screen()->availableGeometry().width());
                 EXPECT_LE((box.geometry().center() - form.window()->geometry().center()).manhattanLength(), 2);
                 const auto& sign = *box.findChild<QLabel*>("qt_msgboxex_icon_label");
                 EXPECT_EQ(sign.accessibleName() + box.windowTitle(), name + "Title");
+                const QImage disc = sign.pixmap().toImage();
+                EXPECT_EQ(disc.pixelColor(disc.width() / 2, 3), colour);
                 EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
                 press(Qt::Key_Enter);
             });
@@ -191,75 +190,6 @@ TEST_F(Looks, AScreenLargerThanTheDesktopShrinksItsPicturesThenItsGapsThenScroll
 
 // ---- painting
 
-// A letter for each colour of the program, "*" for all others.
-char letterOf(const QColor& colour)
-{
-    const look::Colours& the = look::colours();
-    const QColor colours[] = {the.accent, the.field, the.line, the.faded, the.buttonFace, the.pressed, the.quiet,
-        the.text, the.warning, the.danger, the.ground, colour};
-    return "a lfbpqtwd.*"[std::find(std::begin(colours), std::end(colours), colour) - std::begin(colours)];
-}
-
-QString drawn(const QImage& image)
-{
-    QString rows;
-    for (int y = 0; y < image.height(); ++y, rows += "|\n")
-        for (int x = 0; x < image.width(); ++x)
-            rows += letterOf(image.pixelColor(x, y));
-    return rows;
-}
-
-QImage painted(const QSize& size, const std::function<void(QPainter&)>& act)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(look::colours().ground);
-    QPainter painter(&image);
-    act(painter);
-    return image;
-}
-
-const QStyle::State on = QStyle::State_Enabled;
-
-// What a part of the style looks like in each state, side by side, and its colour there.
-QString band(const char* name, void (*act)(QPainter& painter, QStyleOptionButton& option))
-{
-    const QStyle::State states[] = {{}, on, on | QStyle::State_HasFocus, QStyle::State_HasFocus,
-        on | QStyle::State_MouseOver, on | QStyle::State_Sunken, on | QStyle::State_On, QStyle::State_On};
-    QString title = QString("== ") + name;
-    const QImage image = painted({146, 17}, [&](QPainter& painter) {
-        QStyleOptionButton option;
-        option.palette = QApplication::palette();
-        option.rect = QRect(1, 1, 16, 15);
-        for (const QStyle::State state : states) {
-            option.state = state;
-            act(painter, option);
-            option.rect.translate(18, 0);
-        }
-    });
-    for (int x = 9; x < image.width(); x += 18)
-        title += ' ' + image.pixelColor(x, 5).name();
-    return title + '\n' + drawn(image);
-}
-
-// Upright and lying: a bar that can be moved, one that is held, one with nothing to scroll and one that is off.
-void bars(QPainter& painter)
-{
-    for (int at = 0; at < 8; ++at) {
-        const int kind = at % 4;
-        const auto part = [&](int from, int length) {
-            const QRect upright(kind * 22 + 1, from, 20, length);
-            return at < 4 ? upright : QRect(90 + from, upright.x(), length, 20);
-        };
-        QStyleOptionSlider option;
-        option.orientation = at < 4 ? Qt::Vertical : Qt::Horizontal;
-        option.maximum = kind == 2 ? 0 : 9;
-        option.state = kind == 3 ? QStyle::State_None : kind == 1 ? on | QStyle::State_Sunken : on;
-        option.activeSubControls = kind < 2 ? QStyle::SC_ScrollBarSlider : QStyle::SC_None;
-        option.rect = part(0, 50);
-        paint::scrollBar(painter, option, part(0, 12), part(38, 12), part(12, 26), part(15, 14));
-    }
-}
-
 double luminance(const QColor& colour)
 {
     const auto linear = [](double share) {
@@ -271,91 +201,23 @@ double luminance(const QColor& colour)
 // The contrasts of text, hints, accents and links, which are 4.5 at least, and of lines and signs, 3 at least, to the
 // ground, a field, a button, a pressed button and an error, of which the last two have text alone. Then colours of the
 // palette by pairs, those of letters first, and of letters elsewhere.
-QString colours()
+TEST_F(Looks, ColoursAreAsKept)
 {
     const look::Colours& the = look::colours();
-    QString all = "== colours";
+    QString all;
     for (const QColor& mark : {the.text, the.quiet, the.accent, the.link, the.line, the.warning, the.danger}) {
-        all += '\n' + mark.name();
+        all += mark.name();
         for (const QColor& behind : {the.ground, the.field, the.buttonFace, the.pressed, the.error})
             all += QString(" %1").arg((luminance(behind) + 0.05) / (luminance(mark) + 0.05), 0, 'f', 1);
+        all += '\n';
     }
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        all += '\n';
         for (const auto role : {QPalette::Text, QPalette::Base, QPalette::HighlightedText, QPalette::Highlight,
                  QPalette::ToolTipText, QPalette::ToolTipBase, QPalette::WindowText, QPalette::ButtonText})
-            all += QApplication::palette().color(group, role).name() + ' ';
+            all += ' ' + QApplication::palette().color(group, role).name();
+        all += '\n';
     }
-    return all + '\n';
-}
-
-// The upper part of the signs of message boxes, and whether a mark is on them.
-QString signs()
-{
-    QString all = "== signs\n";
-    for (const auto kind : {QStyle::SP_MessageBoxQuestion, QStyle::SP_MessageBoxInformation,
-             QStyle::SP_MessageBoxWarning, QStyle::SP_MessageBoxCritical, QStyle::SP_ArrowBack}) {
-        const QPixmap sign = paint::sign(kind, 24, 1);
-        const QString rows = drawn(painted({24, 24}, [&sign](QPainter& painter) { painter.drawPixmap(0, 0, sign); }));
-        all += rows.left(6 * 26) + (rows.mid(6 * 26, 12 * 26).contains(' ') ? "with a mark\n" : "without one\n");
-    }
-    return all;
-}
-
-// Corners of days and the colour of their numbers: the first of the month, the 18th, the 24th and one of the next
-// month.
-QString daysOf(forms::MonthCalendar& month)
-{
-    auto& days = *month.widget()->findChild<QTableView*>();
-    QFont font = days.font();
-    font.setPixelSize(24);
-    font.setBold(true); // so that a number has a whole pixel of its colour
-    days.setFont(font);
-    settle();
-    QString all = "== month\n" + drawn(month.widget()->grab().toImage().copy(0, 0, 6, 5));
-    const QImage image = days.viewport()->grab().toImage();
-    for (const auto& [row, column] : {std::pair(0, 0), std::pair(2, 3), std::pair(3, 2), std::pair(4, 2)}) {
-        const QRect day = days.visualRect(days.model()->index(row, column));
-        const QString whole = drawn(image.copy(day));
-        for (const char letter : {'a', 't', 'q', ' '})
-            all += whole.contains(letter) ? letter : '-';
-        all += '\n' + drawn(image.copy(day.x() - 3, day.y() - 3, 14, 10));
-    }
-    return all;
-}
-
-TEST_F(Looks, ThePartsOfTheStyleAndAMonthArePaintedAsKept)
-{
-    setDesktopFont(12); // by which the inset of scroll bars goes
-    using Option = QStyleOptionButton;
-    QString all = colours();
-    all += band("button", [](QPainter& p, Option& option) { paint::button(p, option, false); });
-    all += band("filled button", [](QPainter& p, Option& option) { paint::button(p, option, true); });
-    all += band("default button and its icon", [](QPainter& p, Option& option) {
-        option.features = Option::DefaultButton;
-        paint::button(p, option, false);
-        QPixmap dark(4, 8);
-        dark.fill(look::colours().text);
-        option.icon = dark;
-        option.iconSize = dark.size();
-        paint::buttonLabel(p, option, option.state & QStyle::State_HasFocus);
-    });
-    all += band("square", [](QPainter& p, Option& option) { paint::square(p, option); });
-    all += band("ring", [](QPainter& p, Option& option) { paint::ring(p, option); });
-    all += band("arrow", [](QPainter& p, Option& option) {
-        paint::arrow(p, option.rect, paint::Heading((option.rect.x() / 18) % 4), look::colours().line);
-        paint::focusFrame(p, option.rect);
-    });
-    all += "== bars\n" + drawn(painted({142, 90}, bars)) + signs();
-    values::setToday(values::Date::fromDayMonthYear(24, 11, 2026));
-    form.month.widget()->setFixedSize(600, 400);
-    for (const int day : {18, 24}) {
-        form.month.setValue(values::Date::fromDayMonthYear(day, 11, 2026));
-        all += daysOf(form.month);
-        form.month.setFocus();
-    }
-    values::setToday({});
-    expectKept("platform/forms/painting.txt", all);
+    expectKept("platform/forms/colours.txt", all);
 }
 
 // What isn't of the colour of a field.

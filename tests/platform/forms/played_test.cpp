@@ -25,20 +25,14 @@
 
 #include <cmath>
 #include <deque>
+#include <set>
 #include <stdexcept>
 
 namespace {
 
-struct Scene {
-    std::string title;
-    QStringList lines;
-
-    friend void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.title; }
-};
-
 /// What a user and the code of screens do one after the other, and what comes of each step: the events, then all that
-/// looks otherwise than before. The scenes stand in screens.txt, which tells how its lines read, and in controls.txt.
-class Played : public FormsTest, public testing::WithParamInterface<Scene> {
+/// looks otherwise than before. The parameter is the list and the heading of a scene.
+class Played : public FormsTest, public testing::WithParamInterface<std::pair<QString, QString>> {
 protected:
     Played()
     {
@@ -58,23 +52,57 @@ protected:
         screen("Form").show();
         whatCame();
     }
+    ~Played() override { values::setToday({}); }
 
-    void playTo(const std::function<bool()>& end)
+    // A scene that names controls behind its title is played for each, which is "IT" and has the focus.
+    void playScene()
     {
-        while (!end() && next < lines.size()) {
-            const qsizetype here = ++next;
-            try {
-                play(lines[here - 1].section(" => ", 0, 0));
-            } catch (const values::RuntimeFailure& refusal) {
-                note('(' + refusal.text() + ')');
-            }
-            if (here == next)
-                compare();
+        const auto& [list, heading] = GetParam();
+        const QString part = partOf(list, heading), names = heading.section(" [", 1).remove(']');
+        for (const QString& it : names.split(' ')) {
+            lines = QString(part).replace(QRegularExpression("\\bIT\\b"), it).split('\n');
+            next = concluded = 0;
+            told.clear();
+            if (!it.isEmpty())
+                of({it}).setFocus(), whatCame();
+            playTo([] { return false; });
+            expectPart(list, heading,
+                it.isEmpty() ? told.join('\n') : told.join('\n').replace(QRegularExpression("\\b" + it + "\\b"), "IT"));
         }
     }
 
 private:
     using Words = const QStringList&;
+
+    void playTo(const std::function<bool()>& end)
+    {
+        while (!end() && next < lines.size()) {
+            const qsizetype here = ++next;
+            const QString steps = step();
+            for (const QString& each : takesAll(steps) ? QStringList(steps) : steps.split(", "))
+                playOrTell(each);
+            if (here == next)
+                conclude();
+        }
+    }
+
+    QString step() const { return lines[next - 1].section(" => ", 0, 0); }
+
+    // Of what stands behind these words all belongs to them.
+    static bool takesAll(const QString& steps)
+    {
+        return QStringList{"when", "once", "run", "returning", "dropping"}.contains(steps.section(' ', 0, 0));
+    }
+
+    void playOrTell(const QString& step)
+    {
+        try {
+            play(step);
+            settle();
+        } catch (const values::RuntimeFailure& refusal) {
+            note('(' + refusal.text() + ')');
+        }
+    }
 
     void play(const QString& step)
     {
@@ -83,11 +111,11 @@ private:
         deed(words);
     }
 
-    void compare()
+    // What comes when a line has been told already belongs to the next.
+    void conclude()
     {
-        const QString step = lines[next - 1].section(" => ", 0, 0);
-        const QString came = whatCame();
-        EXPECT_EQ(came.isEmpty() ? step : step + " => " + came, lines[next - 1]);
+        if (std::exchange(concluded, next) != next)
+            told += stepTold(step(), whatCame());
     }
 
     void note(const QString& event) { journal += event; }
@@ -184,21 +212,33 @@ private:
 
     static void repeatTwice(Qt::Key key, Qt::KeyboardModifiers modifiers) { repeat(key, modifiers, 2); }
 
+    void copy(const QString& text) { QGuiApplication::clipboard()->setText(seen["copied"] = text); }
+
     // As a window system tells it: with the code of the place on the keyboard and the time, the same for a repeat.
     void tell(QEvent::Type type, const QString& key, ulong when)
     {
         const QKeyCombination stroke = QKeySequence(key)[0];
         const auto code = stroke.key();
-        const QString text = code == Qt::Key_Delete ? "\x7f" : code == Qt::Key_F1 ? "" : key.right(1).toLower();
+        const std::map<Qt::Key, QString> special{{Qt::Key_Delete, "\x7f"}, {Qt::Key_F1, ""}, {Qt::Key_Return, "\r"}};
+        const QString text = special.contains(code) ? special.at(code) : key.right(1).toLower();
         QKeyEvent event(type, code, stroke.keyboardModifiers(), quint32(code), 0, 0, text);
         event.setTimestamp(when);
         QCoreApplication::sendEvent(forms::activeForm()->window()->windowHandle(), &event);
     }
 
-    // As long as a list is open it has the keys; a key that is on its way then comes to the screen.
-    static void pressBehind(Qt::Key key, Qt::KeyboardModifiers)
+    // What was on its way to a screen that has gone, or that has opened a list; or to a list that has closed.
+    void pressBehind(Words words)
     {
-        QTest::keyClick(forms::activeForm()->window()->windowHandle(), key);
+        QWidget* popup = QApplication::activePopupWidget();
+        QWindow* to = words[0] == "list" ? popup->windowHandle() : screen(words[0]).window()->windowHandle();
+        for (const QString& name : words.mid(1))
+            QTest::keyClick(to, QKeySequence(name)[0].key(), QKeySequence(name)[0].keyboardModifiers());
+    }
+
+    void clickBehind(Words words)
+    {
+        QWidget& widget = *of(words).widget();
+        QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, widget.geometry().center());
     }
 
     void turnWheel(Words words)
@@ -220,7 +260,7 @@ private:
     void playInFront()
     {
         whileModal([this] {
-            compare();
+            conclude();
             const QPointer<QWidget> modal = QApplication::activeModalWidget();
             playTo([&modal] { return !modal || !modal->isVisible(); });
         });
@@ -244,6 +284,32 @@ private:
 
     // ---- what there is to see
 
+    // The program's colours in a part of a control, from its upper left to its lower right.
+    void lookAt(Words words)
+    {
+        const forms::look::Colours& the = forms::look::colours();
+        const std::pair<const char*, QColor> colours[] = {{"accent", the.accent}, {"face", the.buttonFace},
+            {"faded", the.faded}, {"field", the.field}, {"line", the.line}, {"pressed", the.pressed},
+            {"quiet", the.quiet}, {"text", the.text}};
+        const QImage part = of(words).widget()->grab({place(words), place(words, 3)}).toImage();
+        std::set<QRgb> found;
+        for (int dot = 0; dot < part.width() * part.height(); ++dot)
+            found.insert(part.pixel(dot % part.width(), dot / part.width()));
+        for (const auto& [name, colour] : colours)
+            if (found.contains(colour.rgb()))
+                note(name);
+    }
+
+    // So that a number has a whole pixel of its colour.
+    void enlargeDays()
+    {
+        auto& days = *screen("Form").month.widget()->findChild<QTableView*>();
+        QFont font = days.font();
+        font.setPixelSize(24);
+        font.setBold(true);
+        days.setFont(font);
+    }
+
     // As assistive tools tell it.
     static QString nameOf(QWidget& window)
     {
@@ -263,7 +329,7 @@ private:
             note(front->activeControl()->name());
     }
 
-    static QString told(const forms::TextEntry& box)
+    static QString stateOf(const forms::TextEntry& box)
     {
         QString text = box.text();
         const int end = box.selectionStart() + box.selectionLength();
@@ -273,7 +339,7 @@ private:
         return '"' + shown + '"' + (box.toolTip().isEmpty() ? QString() : " tip " + box.toolTip());
     }
 
-    static QString told(const QLabel& label)
+    static QString stateOf(const QLabel& label)
     {
         const double share = label.font().pointSizeF() / QApplication::font().pointSizeF();
         return QString("\"%1\" %2 %3%%4")
@@ -282,7 +348,7 @@ private:
             .arg(label.alignment() & Qt::AlignHCenter ? " centred" : "");
     }
 
-    static QString told(const forms::RecordList& records)
+    static QString stateOf(const forms::RecordList& records)
     {
         QString all = QString("%1 of %2:").arg(records.picked()).arg(records.recordCount());
         for (int index = 0; index < records.recordCount(); ++index)
@@ -290,7 +356,7 @@ private:
         return all;
     }
 
-    static QString told(const forms::Picture& picture)
+    static QString stateOf(const forms::Picture& picture)
     {
         const QSizeF size = picture.widget()->size().toSizeF() / forms::look::pictureScale();
         return picture.widget()->accessibleName()
@@ -299,7 +365,7 @@ private:
     }
 
     // The month's name and what an assistive tool says of the place of the focus.
-    static QString told(const forms::MonthCalendar& month)
+    static QString stateOf(const forms::MonthCalendar& month)
     {
         const auto& days = *month.widget()->findChild<QTableView*>();
         QWidget* stop = QApplication::focusWidget();
@@ -313,12 +379,12 @@ private:
         return days.accessibleName() + (cell ? ": " + cell->text(QAccessible::Name) : QString());
     }
 
-    static QString told(const forms::Control& control)
+    static QString stateOf(const forms::Control& control)
     {
-        if (const auto* box = dynamic_cast<const forms::ComboBox*>(&control))
-            return QString("%1 %2 of %3").arg(told(*box)).arg(box->listIndex()).arg(itemsOf(*box).join(','));
+        if (const auto* box = dynamic_cast<const forms::ComboBox*>(&control); box && box->listCount() > 0)
+            return QString("%1 %2 of %3").arg(stateOf(*box)).arg(box->listIndex()).arg(itemsOf(*box).join(','));
         if (const auto* box = dynamic_cast<const forms::TextEntry*>(&control))
-            return told(*box);
+            return stateOf(*box);
         if (const auto* option = dynamic_cast<const forms::OptionButton*>(&control))
             return option->value() ? "on" : "off";
         if (const auto* check = dynamic_cast<const forms::CheckBox*>(&control))
@@ -326,16 +392,16 @@ private:
         if (const auto* bar = dynamic_cast<const forms::ProgressBar*>(&control))
             return QString("%1 of %2").arg(bar->value()).arg(bar->max());
         if (const auto* records = dynamic_cast<const forms::RecordList*>(&control))
-            return told(*records);
+            return stateOf(*records);
         if (const auto* month = dynamic_cast<const forms::MonthCalendar*>(&control))
-            return told(*month);
+            return stateOf(*month);
         if (const auto* picture = dynamic_cast<const forms::Picture*>(&control))
-            return told(*picture);
+            return stateOf(*picture);
         const auto* label = dynamic_cast<const forms::Label*>(&control);
-        return label ? told(*qobject_cast<const QLabel*>(label->widget())) : QString();
+        return label ? stateOf(*qobject_cast<const QLabel*>(label->widget())) : QString();
     }
 
-    static QString toldPopup()
+    static QString popupTold()
     {
         QWidget* popup = QApplication::activePopupWidget();
         auto* list = popup ? popup->findChild<QListView*>() : nullptr;
@@ -345,10 +411,10 @@ private:
     // What looks otherwise than it did the last time.
     QStringList changes()
     {
-        std::map<QString, QString> now{{"list", toldPopup()}, {"copied", QGuiApplication::clipboard()->text()}};
+        std::map<QString, QString> now{{"list", popupTold()}, {"copied", QGuiApplication::clipboard()->text()}};
         for (const auto& [name, form] : screens)
             for (const forms::Control* each : form->controls())
-                now.insert({(name == "Form" ? "" : name + '.') + each->name(), told(*each)});
+                now.insert({(name == "Form" ? "" : name + '.') + each->name(), stateOf(*each)});
         QStringList changed;
         for (const auto& [name, state] : now)
             if (state != std::exchange(seen[name], state))
@@ -364,13 +430,22 @@ private:
             note("(failed " + failure->handler + ' ' + failure->failure.section(": ", -1) + ')');
         if (const auto status = endStatus())
             note(QString("(ended %1)").arg(*status));
+        // A control is named at the first of several events.
+        QString last;
+        for (QString& event : journal) {
+            const QString control = event.section('.', 0, -2);
+            if (!control.isEmpty() && control == std::exchange(last, control))
+                event.remove(0, control.size());
+        }
         journal += changes();
         return std::exchange(journal, {}).join(' ').replace('\n', "\\n");
     }
 
     const QTemporaryDir folder;
-    const QStringList lines = GetParam().lines;
+    QStringList lines;
     qsizetype next = 0;
+    qsizetype concluded = 0;
+    QStringList told;
     ulong clock = 1;
     QStringList journal;
     std::map<QString, QString> seen;
@@ -386,7 +461,9 @@ private:
         {"down", [this](Words w) { tell(QEvent::KeyPress, w[0], clock); }},
         {"up", [this](Words w) { tell(QEvent::KeyRelease, w[0], ++clock); }}, {"wait", [this](Words) { ++clock; }},
         {"once", [this](Words w) { answerBy(text(w, 0))(); }}, // faster than the program answers
-        {"behind", [](Words w) { eachStroke(w, pressBehind); }}, {"type", [](Words w) { type(text(w, 0)); }},
+        {"behind", [this](Words w) { pressBehind(w); }}, {"late", [this](Words w) { clickBehind(w); }},
+        {"untimed", [this](Words w) { tell(QEvent::KeyPress, w[0], 0), tell(QEvent::KeyRelease, w[0], 0); }},
+        {"type", [](Words w) { type(text(w, 0)); }},
         // by mouse
         {"click", [this](Words w) { clickAt(of(w), place(w)); }}, {"again", [](Words) { clickAgain(); }},
         {"tremble", [this](Words w) { drag(of(w), QPoint(9, 16), QPoint(12, 16)); }},
@@ -394,6 +471,7 @@ private:
         {"right", [this](Words w) { note(rightClick(of(w), text(w)) ? "(menu)" : "(no menu)"); }},
         {"arrow", [this](Words w) { clickArrow(combo(w)); }}, {"pick", [this](Words w) { pick(combo(w), text(w)); }},
         {"wheel", [this](Words w) { turnWheel(w); }}, {"confirm", [](Words) { confirm(); }},
+        {"dismiss", [](Words) { QApplication::activeModalWidget()->close(); }},
         {"closeBox", [this](Words w) { closeBox(screen(w[0])); }},
         {"move", [this](Words w) { screen(w[0]).window()->move(w[1].toInt(), w[2].toInt()); }},
         {"raise", [this](Words w) { screen(w[0]).window()->windowHandle()->requestActivate(); }},
@@ -401,7 +479,8 @@ private:
         {"drop", [this](Words w) { note(drop(of(w), text(w)) ? "(taken)" : "(not taken)"); }},
         {"commit", [](Words w) { commit(text(w, 0)); }},
         {"assist", [this](Words w) { setByAssistant(of(w), text(w)); }},
-        {"copied", [this](Words w) { QGuiApplication::clipboard()->setText(seen["copied"] = text(w, 0)); }},
+        {"copied", [this](Words w) { copy(text(w, 0)); }},
+        {"fill", [this](Words w) { copy(QString(w[0].toInt(), 'x')); }},
         // the code, with screens
         {"show", [this](Words w) { screen(w[0]).show(); }}, {"hide", [this](Words w) { screen(w[0]).hide(); }},
         {"open", [this](Words w) { screen(w[0]).showModal(screen("Form")); }},
@@ -417,6 +496,7 @@ private:
         {"visible", [this](Words w) { of(w).setVisible(isYes(w)); }},
         {"skip", [this](Words w) { of(w).setTabIndex(-1); }},
         {"colour", [this](Words w) { paint(of(w), QColor(w.value(1))); }},
+        {"main", [this](Words w) { forms::look::mainAction(of<forms::CommandButton>(w)); }},
         {"refuse", [this](Words w) { forms::behaviours::noKeys(of(w)); }},
         // with boxes
         {"text", [this](Words w) { entry(w).setText(text(w)); }},
@@ -443,6 +523,7 @@ private:
         {"record", [this](Words w) { screen("Form").records.addRecord(w); }},
         {"change", [this](Words w) { screen("Form").records.setRecord(w[0].toInt(), w.mid(1)); }},
         {"empty", [this](Words) { screen("Form").records.clear(); }},
+        {"today", [](Words w) { values::setToday(values::Date::parse(w[0])); }},
         {"date", [this](Words w) { screen("Form").month.setValue(values::Date::parse(w[0])); }},
         {"caption", [this](Words w) { screen("Form").label.setCaption(text(w, 0)); }},
         {"role", [this](Words w) { of<forms::Label>(w).setRole(forms::TextRole(w[1].toInt())); }},
@@ -467,31 +548,29 @@ private:
         {"look", [this](Words) { look(); }},
         {"where", [this](Words w) { note(QDebug::toString(screen(w[0]).window()->geometry())); }},
         {"parent", [this](Words) { note(nameOf(*QApplication::activeModalWidget()->parentWidget())); }},
-        {"name", [this](Words) { note(nameOf(*screen("Form").window())); }},
+        {"name", [this](Words) { note(nameOf(*screen("Form").window())); }}, {"seen", [this](Words w) { lookAt(w); }},
+        {"large", [this](Words) { enlargeDays(); }},
         {"see", [this](Words w) { note(of(w).widget()->grab().toImage().pixelColor(place(w)).name()); }},
         {"then", [](Words) {}}, // a box or a modal screen is gone
     };
 };
 
-// The scenes of both lists, each with its title first.
-std::vector<Scene> scenes()
+std::vector<std::pair<QString, QString>> scenes()
 {
-    std::vector<Scene> all;
-    const QString folder = kept("platform/forms/");
-    const QByteArray lists = bytesOf(folder + "screens.txt") + bytesOf(folder + "controls.txt");
-    for (const QString& line : QString::fromUtf8(lists).split('\n', Qt::SkipEmptyParts))
-        if (line.startsWith("== "))
-            all.push_back({QString(line.mid(3)).remove(' ').toStdString(), {}});
-        else if (!line.startsWith('#'))
-            all.back().lines += line;
+    std::vector<std::pair<QString, QString>> all;
+    for (const char* list : {"platform/forms/screens.txt", "platform/forms/controls.txt"})
+        for (const QString& heading : partsOf(list))
+            all.emplace_back(list, heading);
     return all;
 }
 
-INSTANTIATE_TEST_SUITE_P(Out, Played, testing::ValuesIn(scenes()), [](const auto& scene) { return scene.param.title; });
+INSTANTIATE_TEST_SUITE_P(Out, Played, testing::ValuesIn(scenes()), [](const auto& scene) {
+    return scene.param.second.section(" [", 0, 0).remove(QRegularExpression("\\W")).toStdString();
+});
 
 TEST_P(Played, HasTheseConsequences)
 {
-    playTo([] { return false; });
+    playScene();
 }
 
 } // namespace
