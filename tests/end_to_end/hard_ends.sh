@@ -62,24 +62,7 @@ without_database() {
     [ ! -e "$Database" ] || fail "a database was laid into a folder that was there"
 }
 
-far_below() {
-    step "a home with a path of 600 characters, and a data home that is no absolute path"
-    local part
-    part=$(printf '%0200d' 0)
-    use_home "$Place/$part/$part/$part"
-    export XDG_DATA_HOME=data
-    lay_database
-    start_program
-    wait_screen frmIntroduction
-    keys alt+F4
-    answer far-below y
-    ends_with 0
-    same "$(dump "$Backup")" "$(dump "$Database")" "the backup is not the database"
-    unset XDG_DATA_HOME
-}
-
 killed_in_a_search
 told_to_end
 moved_away
 without_database
-far_below
