@@ -6,8 +6,7 @@ import signal
 import string
 import time
 from contextlib import contextmanager
-
-from watch import Finding
+from functools import partial
 
 TEXTS = (
     "a", "0", "12", "1250,000.00", "$50,00.00", ".5", "1/2/2026", "13/45/99999", "Attic", "attic", "Art", "Clock 7", "Brass",
@@ -16,11 +15,13 @@ TEXTS = (
 TRAVEL = ("Tab", "Tab", "Tab", "shift+Tab", "Up", "Down", "Left", "Right", "Home", "End", "Prior", "Next", "ctrl+Left",
     "ctrl+Right", "ctrl+Home", "ctrl+End", "ctrl+Prior", "ctrl+Next", "shift+End", "shift+Home")  # fmt: skip
 ANSWERS = ("Return", "Return", "Return", "KP_Enter", "space", "Escape", "alt+y", "alt+n", "y", "n")
-CLIPBOARD = ("ctrl+c", "ctrl+v", "ctrl+x", "ctrl+Insert", "shift+Insert", "shift+Delete", "ctrl+a", "ctrl+z", "ctrl+y")
+ACCESS_KEYS = tuple("alt+" + letter for letter in string.ascii_lowercase)
+CLIPBOARD = ("ctrl+a", "ctrl+a", "ctrl+c", "ctrl+v", "ctrl+x", "ctrl+Insert", "shift+Insert", "shift+Delete", "ctrl+z",
+    "ctrl+y")  # fmt: skip
 EDITING = ("BackSpace", "Delete", "BackSpace", "Delete", "Insert", "ctrl+BackSpace", "ctrl+Delete", "ctrl+k", "ctrl+u")
 SPECIAL = ("F1", "F1", "F4", "F4", "alt+Down", "alt+Down", "alt+Up", "F2", "F3", "F5", "F10", "Menu", "shift+F10", "Escape",
     "Escape", "ctrl+p", "ctrl+s", "ctrl+g", "ctrl+0", "ctrl+1", "ctrl+plus", "ctrl+minus", "ctrl+f", "alt+Left",
-    "alt+Right", "ctrl+w", "ctrl+q")  # fmt: skip
+    "alt+Right", "ctrl+w", "ctrl+q", "alt+F4", "alt+Tab")  # fmt: skip
 IN_LIST = ("Down", "Down", "Up", "Home", "End", "Next", "Prior", "Left", "Right", "space", "Return", "Escape", "Tab", "a", "k",
     "Delete", "F4", "alt+Up", "alt+Down", "F1")  # fmt: skip
 MODIFIERS = {"shift": "Shift_L", "ctrl": "Control_L", "alt": "Alt_L"}
@@ -97,22 +98,6 @@ class Hands:
     def do_settle(self):
         self.settle()
 
-    def do_front(self, kind):
-        for window in self._of(kind):
-            self.display.bring_forward(window)
-
-    def do_close(self, kind):
-        for window in self._of(kind):
-            self.display.close(window)
-
-    def do_resize(self, size):
-        width, height = map(int, size.split())
-        if window := self.display.active():
-            self.display.resize(window, width, height)
-
-    def _of(self, kind):
-        return [window for window in self.display.windows() if window.kind == kind]
-
     def _signal(self, number):
         if self.process.poll() is None:
             os.kill(self.process.pid, number)
@@ -162,10 +147,11 @@ class Gestures:
 
     def table(self):
         return (
-            (self.click_control, 30), (self.travel, 14), (self.answer, 12), (self.access_key, 12), (self.type_text, 12),
-            (self.open_list, 12), (self.answer_and_press, 12), (self.clipboard, 8), (self.special, 6),
-            (self.double_click, 6), (self.edit, 5), (self.press_anywhere, 4), (self.turn_wheel, 4), (self.drag, 3),
-            (self.pick_twice, 1), (self.hold_key, 1.2), (self.another_window, 0.8), (self.wait, 6),
+            (self.click_control, 30), (partial(self.strokes, TRAVEL, (1, 1, 2, 3, 6)), 14), (partial(self.strokes, ANSWERS), 12),
+            (partial(self.strokes, ACCESS_KEYS), 12), (self.type_text, 12), (self.open_list, 12), (self.answer_and_press, 12),
+            (partial(self.strokes, CLIPBOARD, (1, 2, 3)), 8), (partial(self.strokes, SPECIAL), 6), (self.double_click, 6),
+            (partial(self.strokes, EDITING, (1, 2, 5)), 5), (self.press_anywhere, 4), (self.turn_wheel, 4), (self.drag, 3),
+            (self.hold_key, 1.2), (self.wait, 6),
         )  # fmt: skip
 
     def burst(self):
@@ -181,36 +167,15 @@ class Gestures:
 
     # ---- keys
 
-    def travel(self):
-        for _ in range(self.random.choice((1, 1, 2, 3, 6))):
-            self.hands.stroke(self.random.choice(TRAVEL))
-
-    def answer(self):
-        self.hands.stroke(self.random.choice(ANSWERS))
-
-    def access_key(self):
-        self.hands.stroke("alt+" + self.random.choice(string.ascii_lowercase))
+    def strokes(self, keys, counts=(1,)):
+        for _ in range(self.random.choice(counts)):
+            self.hands.stroke(self.random.choice(keys))
 
     def type_text(self):
         self.hands.type(self.random.choice(TEXTS))
 
-    def edit(self):
-        for _ in range(self.random.choice((1, 2, 5))):
-            self.hands.stroke(self.random.choice(EDITING))
-
-    def clipboard(self):
-        if self.random.random() < 0.5:
-            self.hands.stroke("ctrl+a")
-        for _ in range(self.random.choice((1, 2, 3))):
-            self.hands.stroke(self.random.choice(CLIPBOARD))
-
-    def special(self):
-        self.hands.stroke(self.random.choice(SPECIAL))
-
     def hold_key(self):
-        keys = self.random.choice(
-            (self.random.choice(ANSWERS), "alt+" + self.random.choice(string.ascii_lowercase), self.random.choice(TRAVEL), "x")
-        )
+        keys = self.random.choice((*map(self.random.choice, (ANSWERS, ACCESS_KEYS, TRAVEL)), "x"))
         was_stopped = self.hands.is_stopped
         with self.hands.held(keys):
             self.hands.do(f"sleep {self.random.choice((0.75, 1.0, 1.4))}")
@@ -289,77 +254,32 @@ class Gestures:
     def unfold(self):
         hands, random = self.hands, self.random
         if random.random() < 0.6:
-            self.go_to(self.place_of("combo box"))
+            self.go_to(self.place_of(self.eyes.front(), "combo box"))
             hands.click()
         else:
             hands.stroke(random.choice(("alt+Down", "F4")))
         if not hands.is_stopped:
             hands.do(f"sleep {random.choice((0.0, 0.05, 0.2))}")
 
-    def pick_twice(self):
-        """Picks an item by one click, then the same by a double click: the second press of it must do nothing more."""
-        if self.hands.is_stopped:
-            return
-        place = self.place_of("combo box")
-        before = self.eyes.kind_in_front()
-        if before == self.pick(place, 1) and self.pick(place, 2) not in (before, None):
-            raise Finding("a double click in a list has pressed what lies behind it")
-
-    def pick(self, place, times):
-        """Returns the kind of the window in front after it; nothing where no list has opened."""
-        self.go_to(place)
-        self.hands.click()
-        self.hands.do("settle")
-        popups = self.eyes.popups()
-        if not popups:
-            return None
-        self.go_to((popups[-1].x + 20, popups[-1].y + popups[-1].height * 2 // 3))
-        self.hands.click(times=times, pause=0.05)
-        self.hands.do("settle")
-        return self.eyes.kind_in_front()
-
-    def place_of(self, role):
-        window = self.eyes.front()
-        boxes = [each for each in self.eyes.controls(window) if each[0] == role] if window else []
-        if not boxes:
+    def place_of(self, window, *roles):
+        """The middle of a control of such a role, or its arrow."""
+        controls = [each for each in self.eyes.controls(window) if each[0] in roles] if window else []
+        if not controls:
             return self.place()
-        _, name, left, top, width, height = self.random.choice(boxes)
-        self.hands.note(f"the list of {name!r}")
-        return window.x + left + width - height // 2, window.y + top + height // 2
+        role, name, left, top, width, height = self.random.choice(controls)
+        self.hands.note(f"{role} {name!r}")
+        x = width - height // 2 if role == "combo box" else width // 2
+        return window.x + left + x, window.y + top + height // 2
 
     def answer_and_press(self):
         """Answers, perhaps after a press that asks, and presses what was on the screen, before the answer can have come."""
         if self.random.random() < 0.5:
             self.go_to(self.place())
             self.hands.click()
-        place = self.place_behind()
-        self.answer()
+        place = self.place_of(self.eyes.screen_behind(), "push button", "text")
+        self.strokes(ANSWERS)
         if self.random.random() < 0.7:
             self.go_to(place)
             self.hands.click(times=self.random.choice((1, 1, 1, 2)))
         else:
-            self.random.choice((self.access_key, self.travel, self.answer, self.type_text))()
-
-    def place_behind(self):
-        window = self.eyes.screen_behind()
-        controls = [each for each in self.eyes.controls(window) if each[0] in ("push button", "text")] if window else []
-        if not controls:
-            return self.place()
-        role, name, left, top, width, height = self.random.choice(controls)
-        self.hands.note(f"behind: {role} {name!r}")
-        return window.x + left + width // 2, window.y + top + height // 2
-
-    # ---- windows
-
-    def another_window(self):
-        windows = self.eyes.windows()
-        if not windows:
-            return
-        window = self.random.choice(windows)
-        what = self.random.random()
-        if what < 0.6:
-            self.hands.do(f"front {window.kind}")
-        elif what < 0.85:
-            self.hands.do(f"close {window.kind}")
-        else:
-            self.hands.do(f"resize {self.random.randrange(300, 1024)} {self.random.randrange(200, 768)}")
+            self.strokes(self.random.choice((ACCESS_KEYS, TRAVEL, ANSWERS, TEXTS[:1])))

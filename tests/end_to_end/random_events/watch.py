@@ -41,13 +41,6 @@ class Eyes:
             self.behind = window
         return window
 
-    def kind_in_front(self):
-        window = self.front()
-        return window.kind if window else ""
-
-    def windows(self):
-        return self.display.windows()
-
     def popups(self):
         return self.display.popups()
 

@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """An X display: its keys and buttons, and the windows on it."""
 
-import time
 from collections import namedtuple
 
 import Xlib.display
@@ -13,7 +12,6 @@ from Xlib.protocol.event import ClientMessage
 # What a window is known by: its role, else its title.
 Window = namedtuple("Window", "kind x y width height xid")
 
-CLIENT_EVENTS = X.SubstructureNotifyMask | X.SubstructureRedirectMask
 GONE = Xlib.error.CatchError(Xlib.error.BadWindow)  # a window may have closed in the meantime
 
 
@@ -94,23 +92,6 @@ class Display:
     def _text(self, window, name):
         value = self._property(window, name)
         return value.decode(errors="replace") if isinstance(value, bytes) else value or ""
-
-    # ---- what a window manager says
-
-    def bring_forward(self, window):
-        self._tell_manager(window, "_NET_ACTIVE_WINDOW", [2, 0, 0, 0, 0])
-
-    def close(self, window):
-        self._tell_manager(window, "_NET_CLOSE_WINDOW", [0, 2, 0, 0, 0])
-
-    def resize(self, window, width, height):
-        self._window(window.xid).configure(width=width, height=height, onerror=GONE)
-        self.display.flush()
-
-    def _tell_manager(self, window, what, data):
-        event = ClientMessage(window=window.xid, client_type=self.display.intern_atom(what), data=(32, data))
-        self.root.send_event(event, event_mask=CLIENT_EVENTS, onerror=GONE)
-        self.display.flush()
 
     def ping(self, window):
         """A question that the program behind the window answers as soon as it reads what comes from the display."""
