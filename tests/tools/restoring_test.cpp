@@ -116,10 +116,6 @@ TEST_F(RestoringTest, AFailureAtAnyStepLeavesTodaysFileWithItsJournal)
         EXPECT_EQ(refused(failingAt(step)), exit_code::Failed);
         EXPECT_EQ(everything(), before);
     }
-    damage(backupFile());
-    EXPECT_EQ(refused(), exit_code::Unreadable);
-    putFile(backupFile(), old_);
-    EXPECT_EQ(everything(), before);
     const QString words = refusedWords([](int step) {
         Disk::refuse(step == 7 ? "link" : "never", EIO);
         failingAt(7)(step);
@@ -130,13 +126,6 @@ TEST_F(RestoringTest, AFailureAtAnyStepLeavesTodaysFileWithItsJournal)
     EXPECT_EQ(bytesOf(words.section("It lies in ", 1).chopped(1) + "/KTL.db-journal"), QByteArray(2000, 'j'));
     QDir().mkdir(today() + ".restoring-journal"); // which can't be cleared away
     EXPECT_TRUE(refusedWords({}).startsWith("File failure: removing "));
-}
-
-TEST_F(RestoringTest, IsDoneOnceTheBackupIsInPlaceWhateverFailsThen)
-{
-    const restoring::Result result = restoring::lay_Down(last(), failingAt(8));
-    EXPECT_EQ(line(result.summary, result.doubt, bytesOf(today()) == old_), "1 asset, $10.00, the disk, true");
-    EXPECT_EQ(bytesOf(places::earlierBackupsFolder() + '/' + result.putAside + "/KTL.db"), today_);
 }
 
 // What can't be copied gets a second name, until the next look.
