@@ -1,11 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writes that are refused, that fail in their midst, and that the end of the process breaks off.
-#include "failing_disk.h"
 #include "storage_test.h"
+
+#include <cerrno>
+#include <limits>
+
+#include <sys/syscall.h>
 
 using values::FailureKind;
 
 namespace {
+
+// The disk as the engine sees it: after so many changes every write, sync, cut and removal fails.
+constexpr int never = std::numeric_limits<int>::max();
+int changesLeft = never; // below 0 when one has failed
+
+template <class... Arguments>
+long change(long number, Arguments... arguments)
+{
+    if (changesLeft != never && changesLeft >= 0)
+        --changesLeft;
+    if (changesLeft >= 0)
+        return ::syscall(number, arguments...);
+    errno = ENOSPC;
+    return -1;
+}
 
 using FailedWriteTest = StorageTest;
 
@@ -51,7 +70,7 @@ const End ends[] = {
     {"closed by its last view", [](storage::Connection&, storage::TableView& view, int) { view.Close(); }, true},
     {"closed on a disk that works again",
         [](storage::Connection& home, storage::TableView&, int) {
-            FailingDisk::failFrom(FailingDisk::never);
+            changesLeft = never;
             home.close();
         },
         true, true},
@@ -65,14 +84,13 @@ class FailingSave : public StorageTest {
 protected:
     int session(int changes, const End& end) const
     {
-        const FailingDisk disk;
         storage::Connection session;
         session.setFile(path(), key);
         storage::TableView view(session, words::table);
         view.Open();
-        FailingDisk::failFrom(changes);
+        changesLeft = changes;
         const bool isSaved = !failureOf([&] { addWord(view, QString(3000, 'c')); });
-        const int outcome = (isSaved ? Saved : 0) | (FailingDisk::hasFailed() ? FaultMet : 0);
+        const int outcome = (isSaved ? Saved : 0) | (changesLeft < 0 ? FaultMet : 0);
         return outcome | (failureOf([&] { end.run(session, view, outcome); }) ? CloseTold : 0);
     }
 };
@@ -142,3 +160,24 @@ TEST_F(FailedWriteTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalOfASession
 }
 
 } // namespace
+
+// These stand before the system's own, for the engine too.
+ssize_t pwrite64(int file, const void* bytes, size_t count, off64_t at)
+{
+    return change(SYS_pwrite64, file, bytes, count, at);
+}
+
+int ftruncate64(int file, off64_t size) noexcept
+{
+    return static_cast<int>(change(SYS_ftruncate, file, size));
+}
+
+int fdatasync(int file)
+{
+    return static_cast<int>(change(SYS_fdatasync, file));
+}
+
+int unlink(const char* path) noexcept
+{
+    return static_cast<int>(change(SYS_unlink, path));
+}
