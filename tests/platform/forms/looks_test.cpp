@@ -5,6 +5,7 @@
 #include "support/files.h"
 
 #include <QApplication>
+#include <QBitmap>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
@@ -97,6 +98,8 @@ TEST_F(Looks, AMessageBoxShowsItsWholeTextInTheMiddleOfItsScreenAtEveryTypeSize)
                 EXPECT_EQ(sign.accessibleName() + box.windowTitle(), name + "Title");
                 const QImage disc = sign.pixmap().toImage();
                 EXPECT_EQ(disc.pixelColor(disc.width() / 2, 3), colour);
+                const QImage mark = disc.createMaskFromColor(the.field.rgba());
+                EXPECT_FALSE(QRegion(QBitmap::fromImage(mark)).isEmpty()) << "without a mark";
                 EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
                 press(Qt::Key_Enter);
             });
@@ -164,13 +167,13 @@ TEST_F(Looks, AScreenLargerThanTheDesktopShrinksItsPicturesThenItsGapsThenScroll
         const QSizeF bars = (window - seen).toSizeF() / QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         large.ok.setFocus(); // as a handler does; the toolkit itself follows the Tab key
         EXPECT_EQ(large.ok.widget()->visibleRegion().boundingRect().height(), large.ok.widget()->height());
-        const QString told = QString("picture %1, gap %2, cut %3 %4, bars %5 %6")
-                                 .arg(ornament.isVisible() ? 100 * ornament.widget()->height() / full : 0)
-                                 .arg(column->spacing() / gap)
-                                 .arg(hidden.width() > 0)
-                                 .arg(hidden.height() > 0)
-                                 .arg(bars.width())
-                                 .arg(bars.height());
+        QString told = QString("picture %1, gap %2, cut %3 %4, bars %5 %6")
+                           .arg(ornament.isVisible() ? 100 * ornament.widget()->height() / full : 0)
+                           .arg(column->spacing() / gap)
+                           .arg(hidden.width() > 0)
+                           .arg(hidden.height() > 0)
+                           .arg(bars.width())
+                           .arg(bars.height());
         large.hide();
         memo.setFixedHeight(100);
         large.show();
@@ -268,7 +271,7 @@ TEST_F(Looks, BoxesAndListsHaveRoomForWhatTheyAreMadeFor)
     EXPECT_EQ(form.line.widget()->width(), form.memo.widget()->width());
 }
 
-TEST_F(Looks, LongNamesAreToldApartInTheListAndBeginInTheBox)
+TEST_F(Looks, LongNamesAreToldApartInTheList)
 {
     const QString shelf = "The shelf behind the boiler, where preserves stand in rows";
     const QString house = "The house " + QString(99, 'x');
@@ -291,13 +294,6 @@ TEST_F(Looks, LongNamesAreToldApartInTheListAndBeginInTheBox)
     EXPECT_EQ(tip(4), "");
     EXPECT_EQ(tip(6), house + " B");
     press(Qt::Key_Escape);
-    pick(form.combo, shelf + " of ten");
-    EXPECT_EQ(form.combo.selectionStart(), 0) << "the end shows";
-    press(Qt::Key_Down);
-    EXPECT_EQ(form.combo.selectionStart(), 0) << "the end shows";
-    pick(form.combo, "beta");
-    type(" 2");
-    EXPECT_EQ(form.combo.text(), "beta 2");
     form.combo.clear();
     form.combo.addItems({"alpha"});
     form.combo.openList();

@@ -151,6 +151,8 @@ private:
     forms::TextEntry& entry(Words words) { return of<forms::TextEntry>(words); }
     forms::ComboBox& combo(Words words) { return of<forms::ComboBox>(words); }
 
+    QPushButton& button(Words words) { return *qobject_cast<QPushButton*>(of(words).widget()); }
+
     // In percents of the control's size; the middle where nothing is said.
     QPoint place(Words words, qsizetype at = 1)
     {
@@ -496,6 +498,7 @@ private:
         {"visible", [this](Words w) { of(w).setVisible(isYes(w)); }},
         {"skip", [this](Words w) { of(w).setTabIndex(-1); }},
         {"colour", [this](Words w) { paint(of(w), QColor(w.value(1))); }},
+        {"icon", [this](Words w) { button(w).setIcon(QIcon(folder.filePath("red.png"))); }},
         {"main", [this](Words w) { forms::look::mainAction(of<forms::CommandButton>(w)); }},
         {"refuse", [this](Words w) { forms::behaviours::noKeys(of(w)); }},
         // with boxes
@@ -503,6 +506,7 @@ private:
         {"from", [this](Words w) { entry(w).setSelectionStart(w[1].toInt()); }},
         {"length", [this](Words w) { entry(w).setSelectionLength(w[1].toInt()); }},
         {"select", [this](Words w) { entry(w).selectAll(); }},
+        {"width", [this](Words w) { combo(w).setWidthInCharacters(w[1].toInt()); }},
         {"limit", [this](Words w) { entry(w).setMaxLength(w[1].toInt()); }},
         {"lock", [this](Words w) { entry(w).setLocked(isYes(w)); }},
         {"keep", [this](Words w) { entry(w).setDeleteRefused(true); }},

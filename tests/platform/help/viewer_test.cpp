@@ -196,6 +196,7 @@ TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheD
     EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(0)->child(0)->toolTip(0), "Lists, long and short");
     EXPECT_EQ(viewer_->y(), (desktop.height() - forms::look::grid(88)) / 2);
     EXPECT_NEAR(shareOfContents(), 2 / 7.0, 0.02);
+    EXPECT_GT(part("print").x() - part("larger").x(), 700) << "the ways stand on the left";
     part<QSplitter>("halves").setSizes({0, 900});
     EXPECT_GT(part("ways").width(), 0) << "the divider hides nothing";
     QApplication::setFont(usual);
