@@ -18,13 +18,15 @@ public:
     void check_Already_Running();
     void open_First_Screen();
 
+    /// Opens all views of Data1, each on its first row.
+    static void open_Tables();
+
     /// The list that check_Already_Running asks for; tests give their own.
     static std::function<std::vector<sys::Process>()> list_Processes;
 
 private:
     void Form_Load() override;
     void start_Up();
-    void open_Tables();
     void check_Policy_Alert();
     void set_Report_Titles();
 };

@@ -2,7 +2,6 @@
 #include "support/screen_test.h"
 
 #include "data/places.h"
-#include "frame/frmStartup.h"
 #include "platform/storage/statement.h"
 #include "platform/values/date.h"
 #include "shared/conventions.h"
@@ -46,14 +45,6 @@ void ScreenTest::expectToStay(const std::function<void()>& leave, const QString&
     expectBox(question, YesNoQuestion, forms::Answer::No);
     leave();
     EXPECT_EQ(scene().remove(focus), before);
-}
-
-void ScreenTest::openData()
-{
-    useDatabase(places::databaseFile());
-    for (storage::TableView* view : {&Data1.rsGeneral, &Data1.rsBank, &Data1.rsIndoor, &Data1.rsMobile,
-             &Data1.rsInventory, &Data1.rsOutdoor, &Data1.rsPrint})
-        view->Open();
 }
 
 void ScreenTest::refuseWrites(const QByteArray& statement, const QByteArray& table, const QByteArray& rows)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "data/data_store.h"
+#include "frame/frmStartup.h"
 #include "support/forms_test.h"
 
 #include <QTemporaryDir>
@@ -33,8 +34,8 @@ protected:
     virtual std::optional<QString> happen(const QString& /*line*/) { return {}; }
     virtual QString lasting(const QString& told) const { return told; }
 
-    /// Opens all views of Data1, each on its first row; closes them, for tests of the start and of the end.
-    static void openData();
+    /// Opens all views of Data1 as the program does; closes them, for tests of the start and of the end.
+    static void openData() { frmStartup::open_Tables(); }
     static void closeData() { Data1.Home.close(); }
 
     /// From now on the file refuses a kind of statement on a table, or on some of its rows, as a full disk does, until

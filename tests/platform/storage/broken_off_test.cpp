@@ -33,7 +33,8 @@ TEST_F(FailedWriteTest, AFullDiskLeavesViewAndFileAsTheyWereAndTheNextWriteWorks
     openWith({"a"});
     {
         const FullDisk full(16'384);
-        EXPECT_EQ(failureOf([this] { addWord(wordsView, QString(200'000, 'x')); }), FailureKind::Database);
+        EXPECT_THAT([this] { addWord(wordsView, QString(200'000, 'x')); },
+            testing::ThrowsMessage<values::RuntimeFailure>(testing::HasSubstr("(File too large)")));
     }
     EXPECT_EQ(walk(wordsView), QStringList({"a"}));
     addWord(wordsView, "b");
