@@ -109,11 +109,18 @@ inline void expectSame(const QString& was, const QString& now)
                             << "\n  now:  " << now.section('\n', line, line + 2).toStdString();
 }
 
+/// Keeps a list, unless the test has failed: what went wrong is nothing to be expected the next time.
+inline void keep(const QString& file, const QString& now)
+{
+    if (!testing::Test::HasFailure())
+        putFile(kept(file), now.toUtf8());
+}
+
 /// Compares a whole list with what it is now.
 inline void expectKept(const QString& file, const QString& now)
 {
     if (keepsLists())
-        putFile(kept(file), now.toUtf8());
+        keep(file, now);
     else
         expectSame(QString::fromUtf8(bytesOf(kept(file))), now);
 }
@@ -140,7 +147,7 @@ inline void expectPart(const QString& file, const QString& heading, const QStrin
 {
     const QString was = partOf(file, heading), head = "== " + heading + '\n';
     if (keepsLists())
-        putFile(kept(file), linesOf(file).join('\n').replace(head + was, head + now).toUtf8());
+        keep(file, linesOf(file).join('\n').replace(head + was, head + now));
     else
         expectSame(was, now);
 }

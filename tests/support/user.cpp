@@ -314,7 +314,7 @@ void pick(forms::ComboBox& box, const QString& item)
     auto* view = popup ? popup->findChild<QAbstractItemView*>() : nullptr;
     const auto row = static_cast<int>(itemsOf(box).indexOf(item));
     if (!view || row < 0)
-        throw std::out_of_range((box.name() + " opens no list with " + item).toStdString());
+        throw NoSuchItem((box.name() + " opens no list with " + item).toStdString());
     const QModelIndex index = view->model()->index(row, 0);
     view->scrollTo(index);
     const QPoint middle = view->viewport()->mapTo(popup, view->visualRect(index).center());

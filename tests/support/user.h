@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QString>
 
+#include <stdexcept>
 #include <vector>
 
 class QWidget;
@@ -76,6 +77,11 @@ void commit(const QString& text);
 void setByAssistant(forms::Control& control, const QString& text);
 
 // ---- lists and windows
+
+/// Tells that a list doesn't open or has no such item, which a way may be about.
+struct NoSuchItem : std::out_of_range {
+    using std::out_of_range::out_of_range;
+};
 
 /// Opens the list with the mouse and clicks an item.
 void pick(forms::ComboBox& box, const QString& item);
