@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <exception>
 #include <functional>
+#include <tuple>
 
 namespace earlier {
 
@@ -170,7 +171,9 @@ std::vector<KeptFile> all()
         if (made.isValid() && QFileInfo(file).isFile())
             files.push_back({name, made, isForPutAside(name), file});
     }
-    std::ranges::stable_sort(files, [](const KeptFile& a, const KeptFile& b) { return a.made > b.made; });
+    // Of one second, the name of the later one has the higher number.
+    std::ranges::sort(files,
+        [](const KeptFile& a, const KeptFile& b) { return std::tie(a.made, a.name) > std::tie(b.made, b.name); });
     return files;
 }
 
