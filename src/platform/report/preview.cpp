@@ -48,8 +48,9 @@ Paper rememberedPaper()
 
 QString startFolder()
 {
-    if (!remembered().folder.isEmpty())
-        return remembered().folder;
+    const QString& last = remembered().folder;
+    if (!last.isEmpty() && QDir(last).exists()) // or it lies on a disk that was taken out
+        return last;
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QDir(documents).exists() ? documents : QDir::homePath();
 }

@@ -96,6 +96,7 @@ protected:
     {
         for (const char* variable : {"HOME", "XDG_CONFIG_HOME"})
             qputenv(variable, home_.path().toLocal8Bit());
+        takesJobs = true;
     }
 
     ~ReportPreview() override { delete preview_; }
