@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
 #include <QDialog>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QWindow>
 
@@ -26,6 +28,19 @@ TEST_F(FormInFront, KeysBehindSuggestionsThatHaveGoneAreForTheirBox)
     for (const Qt::Key key : {Qt::Key_E, Qt::Key_Minus, Qt::Key_A})
         QTest::keyClick(list, key);
     EXPECT_EQ(box.text(), "one-a");
+}
+
+TEST_F(FormInFront, QuickClicksOnTheBarOfAnOpenListAllCount)
+{
+    form.choice.addItems(QString("item ").repeated(100).split(' '));
+    form.choice.openList();
+    QWidget* list = QApplication::activePopupWidget();
+    QScrollBar* bar = list->findChild<QAbstractItemView*>()->verticalScrollBar();
+    for (const int pages : {1, 2}) {
+        QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval - 1; // which each click has added
+        QTest::mouseClick(list->windowHandle(), Qt::LeftButton, {}, bar->mapTo(list, QPoint(5, bar->height() / 2)));
+        EXPECT_EQ(bar->value(), pages * bar->pageStep());
+    }
 }
 
 } // namespace
