@@ -193,6 +193,8 @@ TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheD
     for (const char* step : {"open 9", "Ctrl+P", "seek lamps", "Ctrl+F", "type q"})
         take(step);
     expectKept("platform/help/parts.txt", parts().join('\n') + '\n');
+    for (const QLabel* label : viewer_->findChildren<QLabel*>())
+        EXPECT_TRUE(label->text() != "Find On This Page:" || label->buddy() == &part("findWords"));
     EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(0)->child(0)->toolTip(0), "Lists, long and short");
     EXPECT_EQ(viewer_->y(), (desktop.height() - forms::look::grid(88)) / 2);
     EXPECT_NEAR(shareOfContents(), 2 / 7.0, 0.02);
