@@ -40,7 +40,7 @@ constexpr Question questions[] = {
     {"update", "click cmdMain", "cmdWarranty"},
     {"update", "click cmdDelete", "cmdWarranty"},
     {"update; click cmdWarranty; put txtDescription x", "click cmdCancel", "cmdSave"},
-    {"click cmdSearch", "click cmdContinue", "cmdClearForm"},
+    {"click cmdSearch", "click cmdContinue", "cmdBack"},
     {"click cmdPersonal; click cmdInsInfo; type x", "click cmdCancel", "cmdClear"},
     {"click cmdPersonal", "click cmdBack(0)", "cmdBank"},
     {"click cmdPersonal; click cmdBank; click cmdUpdate", "click cmdBack", "cmdState"},
