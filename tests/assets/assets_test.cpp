@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/asset_screen.h"
-#include "shared/frmCalendar.h"
 #include "platform/storage/statement.h"
 #include "shared/frmCalendar.h"
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/frmBW_Splash.h"
-#include "shared/frmCalendar.h"
 #include "frame/frmExit.h"
 #include "frame/frmMain.h"
 #include "frame/frmProgress.h"
@@ -8,6 +7,7 @@
 #include "household/frmIntroduction.h"
 #include "platform/forms/look.h"
 #include "platform/help/book.h"
+#include "shared/frmCalendar.h"
 #include "support/files.h"
 #include "support/harness.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
+#include "platform/forms/looks/apply_look.h"
 #include "platform/forms/screens/painting.h"
 #include "support/files.h"
 
