@@ -13,6 +13,7 @@ public:
     forms::Label lblResult{*this, "lblResult"};
     forms::CommandButton cmdChoose{*this, "cmdChoose"};
     forms::CommandButton cmdClose{*this, "cmdClose"};
+    forms::Label lblSelIn{*this, "lblSelIn"};
     forms::Label lblCopyright{*this, "lblCopyright"};
     forms::Ticker tmStart{*this, "tmStart", 1};
 

@@ -18,6 +18,7 @@ void frmExport::look()
     lblTell.setCaption("All that Kestrill holds is written into a new folder: each table for a spreadsheet, all of "
                        "them in one file for other programs, the asset report and the cover sheet as PDF.\n\nThese "
                        "files are not encrypted. Anyone who opens the folder can read them.");
+    lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
     forms::look::configure({
         {cmdChoose, 0, "Choose &Folder...", " Click Here To Choose Where The Folder Is Made ", "save"},
@@ -40,5 +41,5 @@ void frmExport::look()
     page.add(lblResult);
     page.space(1);
     page.buttons({&cmdChoose, &cmdClose});
-    page.foot(nullptr, &lblCopyright);
+    page.foot(&lblSelIn, &lblCopyright);
 }

@@ -22,6 +22,7 @@ public:
     forms::ProgressBar pbRestore{*this, "pbRestore"};
     forms::CommandButton cmdRestore{*this, "cmdRestore"};
     forms::CommandButton cmdClose{*this, "cmdClose"};
+    forms::Label lblSelIn{*this, "lblSelIn"};
     forms::Label lblCopyright{*this, "lblCopyright"};
     forms::Ticker tmRead{*this, "tmRead", 1};
 

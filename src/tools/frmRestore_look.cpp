@@ -22,6 +22,7 @@ void frmRestore::look()
     lblToday.setCaption("Today's file: being read...");
     lblList.setCaption("&Backups, the newest first");
     lblList.nameFor(lstBackups);
+    lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
     lstBackups.setColumns(
         backups::headings(), {"12/30/2026 12:30 PM", "Earlier close", "32,000", "$1,000,000.00", "Damaged or foreign"});
@@ -62,5 +63,5 @@ void frmRestore::layOut()
     page.add(list);
     page.space(1);
     page.buttons({&cmdRestore, &cmdClose});
-    page.foot(nullptr, &lblCopyright);
+    page.foot(&lblSelIn, &lblCopyright);
 }

@@ -12,6 +12,7 @@ public:
     forms::Label lblHead{*this, "lblHead"};
     forms::ControlArray<forms::Label, 3> lblTell{*this, "lblTell"};
     forms::CommandButton cmdClose{*this, "cmdClose"};
+    forms::Label lblSelIn{*this, "lblSelIn"};
     forms::Label lblCopyright{*this, "lblCopyright"};
 
     /// Shows itself with what is there now, and the name of what was put aside, if anything was.

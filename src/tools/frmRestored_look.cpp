@@ -13,6 +13,7 @@ void frmRestored::look()
 {
     setTitle(conventions::Title);
     lblHead.setCaption("The Backup Is Restored");
+    lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
     forms::look::configure({{cmdClose, 0, "&Close", " Click Here To Close This Window ", "ok"}});
     forms::look::mainAction(cmdClose);
@@ -28,5 +29,5 @@ void frmRestored::look()
         page.space(1);
     }
     page.buttons({&cmdClose});
-    page.foot(nullptr, &lblCopyright);
+    page.foot(&lblSelIn, &lblCopyright);
 }

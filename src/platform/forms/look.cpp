@@ -106,6 +106,8 @@ void Page::foot(Label* helpHint, Label* footer)
         if (label == helpHint)
             line->addStretch();
     }
+    if (helpHint)
+        helpHint->openHelp();
     page_->addLayout(line);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/controls/displays.h"
 
+#include "platform/forms/input/keyboard.h"
 #include "platform/forms/looks/theme.h"
 #include "platform/forms/runtime/boundary.h"
 #include "platform/forms/screens/form.h"
@@ -9,6 +10,7 @@
 #include "platform/values/failure.h"
 
 #include <QAbstractItemView>
+#include <QAccessibleWidget>
 #include <QGroupBox>
 #include <QIcon>
 #include <QLabel>
@@ -30,6 +32,18 @@ public:
         setTextFormat(Qt::PlainText);
     }
 
+    void openHelp()
+    {
+        opensHelp_ = true;
+        setCursor(Qt::PointingHandCursor);
+    }
+    bool opensHelp() const { return opensHelp_; }
+
+    void click()
+    {
+        fromToolkit([this] { mouse_(true, true), mouse_(false, true); });
+    }
+
 protected:
     void mousePressEvent(QMouseEvent* event) override { report(event, true); }
     void mouseReleaseEvent(QMouseEvent* event) override { report(event, false); }
@@ -48,6 +62,7 @@ private:
 
     std::function<void(bool, bool)> mouse_;
     bool pressed_ = false;
+    bool opensHelp_ = false;
 };
 
 // ---- labels
@@ -123,6 +138,42 @@ void Label::alignAmounts()
     alignsAmounts_ = true;
     label_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setCaption(caption_);
+}
+
+void Label::openHelp()
+{
+    label_->openHelp();
+    Click = [this] { Keyboard::openHelpFor(form(), form().activeControl()); };
+}
+
+namespace {
+
+/// A button that has no place in the Tab order, since F1 does the same.
+class HelpLabelInterface : public QAccessibleWidget {
+public:
+    explicit HelpLabelInterface(LabelWidget& label)
+        : QAccessibleWidget(&label, QAccessible::Button, label.text())
+        , label_(label)
+    {
+    }
+
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& action) override
+    {
+        if (action == pressAction())
+            label_.click();
+    }
+
+private:
+    LabelWidget& label_;
+};
+
+} // namespace
+
+QAccessibleInterface* describeHelpLabel(QObject* object)
+{
+    auto* label = dynamic_cast<LabelWidget*>(object);
+    return label && label->opensHelp() ? new HelpLabelInterface(*label) : nullptr;
 }
 
 void Label::nameFor(Control& control)

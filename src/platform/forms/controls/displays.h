@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class QAccessibleInterface;
+class QObject;
 class QProgressBar;
 class QTimer;
 
@@ -34,6 +36,9 @@ public:
     /// has: the closing parenthesis of an amount below zero hangs over.
     void alignAmounts();
 
+    /// A click on it opens help as F1 does, and so does a screen reader that presses it.
+    void openHelp();
+
     /// Names a control: for assistive tools, and for the caption's access key, which moves the focus there.
     void nameFor(Control& control);
 
@@ -44,6 +49,9 @@ private:
     bool namesControl_ = false;
     bool alignsAmounts_ = false;
 };
+
+/// What assistive tools find in place of a label that opens help; null for any other object.
+QAccessibleInterface* describeHelpLabel(QObject* object);
 
 /// A picture of the program's resources. It grows with the font; at the least one it has its own size.
 class Picture : public Control {

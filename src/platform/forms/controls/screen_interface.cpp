@@ -59,6 +59,8 @@ QAccessibleInterface* describeWindow(const QString&, QObject* object)
         return new ScreenInterface(*window, window->form());
     if (auto* notice = dynamic_cast<Notice*>(object))
         return new QAccessibleWidget(notice, QAccessible::Notification);
+    if (QAccessibleInterface* label = describeHelpLabel(object))
+        return label;
     // A window that is no screen, as the help; the toolkit tells of a plain one as if it were a part of another.
     auto* widget = qobject_cast<QWidget*>(object);
     const bool isPlainWindow = widget && widget->isWindow() && widget->metaObject() == &QWidget::staticMetaObject;
