@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "data/places.h"
 #include "frame/frmMain.h"
 #include "household/frmIntroduction.h"
 #include "shared/frmCalendar.h"
-#include "support/files.h"
-#include "support/harness.h"
 #include "tools/frmRestore.h"
+#include "tools/tools_test.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -62,20 +60,21 @@ constexpr Question questions[] = {
 
 /// What is pressed right behind an answer counts as if it were pressed when the handler that asked has ended, where its
 /// screen is in front then and nothing else was asked; else it is dropped.
-class Questions : public ScreenTest, public testing::WithParamInterface<Question> {
+class Questions : public ToolsTest, public testing::WithParamInterface<Question> {
 protected:
     enum class Way { Enter, Space, AccessKey, Mouse, Escape };
     enum class Press { Mouse, AccessKey };
 
     Questions()
     {
+        openData();
         for (storage::TableView* names : {&Data1.rsIndoor, &Data1.rsOutdoor, &Data1.rsMobile})
             addNames(*names, {"Gong", "Gong", "Bell"});
         for (int count = 0; count < 2; ++count)
             addAssetRow({"Indoor", "Attic", "None", "None", "None", "Acme"});
         closeData();
         household_ = bytesOf(databaseFile());
-        putFile(backupFolder() + "/KTL.db", household_);
+        backUp();
     }
 
     std::optional<QString> happen(const QString& line) override
