@@ -22,6 +22,12 @@ struct Question {
     const char* way;
     const char* step;
     const char* next;
+
+    // Without semicolons, which would part the name of the test.
+    friend void PrintTo(const Question& question, std::ostream* out)
+    {
+        *out << QString("%1, %2").arg(question.way, question.step).replace(';', ',').toStdString();
+    }
 };
 
 constexpr Question questions[] = {
