@@ -143,16 +143,19 @@ void Label::alignAmounts()
 void Label::openHelp()
 {
     label_->openHelp();
+    // What assistive tools have found there until now was a text.
+    if (QAccessibleInterface* text = QAccessible::queryAccessibleInterface(label_))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(text));
     Click = [this] { Keyboard::openHelpFor(form(), form().activeControl()); };
 }
 
 namespace {
 
-/// A button that has no place in the Tab order, since F1 does the same.
+/// A link that has no place in the Tab order, since F1 does the same.
 class HelpLabelInterface : public QAccessibleWidget {
 public:
     explicit HelpLabelInterface(LabelWidget& label)
-        : QAccessibleWidget(&label, QAccessible::Button, label.text())
+        : QAccessibleWidget(&label, QAccessible::Link, label.text())
         , label_(label)
     {
     }
