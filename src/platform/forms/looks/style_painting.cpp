@@ -140,7 +140,7 @@ void buttonLabel(QPainter& painter, const QStyleOptionButton& option, bool isFil
     const QColor colour = isFilled
         ? colours().field
         : option.palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
-    const int gap = option.icon.isNull() ? 0 : option.iconSize.width() + captionGap;
+    const int gap = option.icon.isNull() ? 0 : option.iconSize.width() + (option.text.isEmpty() ? 0 : captionGap);
     const int width = gap + option.fontMetrics.size(flags, option.text).width();
     QRect place = option.rect;
     place.setLeft(place.left() + std::max(0, (place.width() - width) / 2));
