@@ -122,7 +122,7 @@ struct RightToLeft : report::Rows {
         std::mt19937 random(seed);
         std::vector<QString> words(20'000);
         for (QString& word : words)
-            for (unsigned letters = 2 + random() % 7; letters > 0; --letters)
+            for (auto letters = 2 + random() % 7; letters > 0; --letters)
                 word += QChar(int(0x05D0 + random() % 27));
         for (QString& text : texts)
             for (int word = 0; word < 40; ++word)
@@ -136,13 +136,13 @@ struct RightToLeft : report::Rows {
 
 void BM_BreakRightToLeft(benchmark::State& state)
 {
-    report::Document document;
-    document.layout = layouts::AssetReport();
+    report::Document described;
+    described.layout = layouts::AssetReport();
     unsigned seed = 0;
     for ([[maybe_unused]] auto round : state) {
         state.PauseTiming();
-        document.rows = std::make_shared<RightToLeft>(++seed);
-        const auto made = std::make_shared<report::Document>(document);
+        described.rows = std::make_shared<RightToLeft>(++seed);
+        const auto made = std::make_shared<report::Document>(described);
         state.ResumeTiming();
         benchmark::DoNotOptimize(report::Pages(made, letter()).count());
     }
