@@ -19,7 +19,7 @@ TEST_F(FormInFront, KeysBehindSuggestionsThatHaveGoneAreForTheirBox)
     QLineEdit box(&dialog);
     QCompleter suggestions({"on", "once"});
     box.setCompleter(&suggestions);
-    dialog.show();
+    dialog.open();
     dialog.activateWindow();
     settle();
     for (const Qt::Key key : {Qt::Key_O, Qt::Key_N})

@@ -130,13 +130,13 @@ bool InputFilter::filterWindow(QWindow& window, QEvent& event)
 }
 
 // The window system has sent it to a window that is hidden by now. Keys behind the one that has closed a list are for
-// the window below, which is the active one where the list belongs to none, as the toolkit's suggestions do; all else
+// the window below, which is the dialogue where the list belongs to none, as the toolkit's suggestions do; all else
 // is dropped, since another screen has come.
 void InputFilter::passOn(QWindow& window, QEvent& event)
 {
     QWindow* below = homeOf(&window);
-    if (below->type() == Qt::Popup && QApplication::activeWindow())
-        below = QApplication::activeWindow()->windowHandle();
+    if (below->type() == Qt::Popup && QApplication::activeModalWidget())
+        below = QApplication::activeModalWidget()->windowHandle();
     if (isKey(event) && below != &window && below->isVisible())
         QCoreApplication::sendEvent(below, &event);
     event.setAccepted(event.type() != QEvent::Close);
