@@ -112,27 +112,6 @@ TEST_F(ListEditors, ARefusedRowEndsAChangeOrADeletionWithTheRowsBeforeItStored)
     EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Location).join(' '), "Steeple Spire Spire");
 }
 
-TEST_F(ListEditors, ListItemsTooThoughNoMenuLeadsThere)
-{
-    openToAdd();
-    auto& changing = screen<frmUpdate>();
-    for (const QString& area : Areas) {
-        addNames(namesOf(area), {"0", "Bells", area + " Bell"});
-        changing.lblHead4.setCaption("Change " + area + " Item");
-        changing.cmbCat.setText("Bells");
-        changing.reload_Combo_Boxes();
-        EXPECT_EQ(itemsOf(asset().cmbType), QStringList({"< Add/Edit Item >", area + " Bell"}));
-    }
-    pick(asset().cmbCat, "< Add/Edit Category >");
-    asset().ListInEdit = "Item";
-    for (forms::ComboBox* box : {&asset().cmbType, &asset().cmbCat})
-        box->addItem("Mobile Bell");
-    screen<frmAddField>().txtAdd.setText("Mobile Bell");
-    click(screen<frmEditCmbBoxes>().cmdCancel);
-    EXPECT_EQ(
-        line(itemsOf(asset().cmbType).filter("Bell").size(), itemsOf(asset().cmbCat).filter("Bell").size()), "2, 2");
-}
-
 // The names differ by case, by accents and by blanks, are no names, or have two letters for one capital.
 TEST_F(ListEditors, AListTakesEachNameInTheSpellingThatComesFirst)
 {
