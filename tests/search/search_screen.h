@@ -53,21 +53,6 @@ protected:
             forms::box::Information + forms::box::YesNo, Answer::Yes);
     }
 
-    /// From the main menu, by the Enter key and then by the button: either way the word is selected afterwards.
-    void findNothing(const QString& word)
-    {
-        openFromMenu();
-        type(word);
-        const std::function<void()> starts[] = {[] { press(Qt::Key_Return); }, [] { click(search().cmdContinue); }};
-        for (const auto& start : starts) {
-            setBoxTitle(" Inventory Search Results");
-            expectBox("No Assets Were Found Based On The Information You Entered!", Exclamation);
-            setBoxTitle(" Kestrill by Brindlewick Software");
-            start();
-            EXPECT_EQ(scene(), "4 frmSearch: txtKey [" + word + "]");
-        }
-    }
-
     static QStringList staged(Print::Column column) { return columnOf(Data1.rsPrint, column); }
 
     /// What the rows of the page show in a column, as far as they can be opened.
