@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/frmMain.h"
 #include "reports/frmPrint.h"
-#include "search/frmSearch.h"
 #include "support/harness.h"
 
 #include <QApplication>
@@ -30,32 +29,6 @@ TEST_F(PrintMenu, GoesAsItIsKept)
         addAssetRow({area, "", "", item});
     Data1.rsInventory.Sort("Type");
     replay("reports/print_menu.txt");
-}
-
-// The progress display, which is the search screen's.
-TEST_F(PrintMenu, HidesTheProgressDisplayUnlessThereIsNothingToPrintAtAll)
-{
-    auto& search = screen<frmSearch>();
-    addAssetRow({"Indoor"});
-    addAssetRow({"Outdoor"});
-    addRow(Data1.rsPrint, {{Print::Type, "printed before"}});
-    forms::setMessageHandler([](const forms::Message&) { return forms::Answer::OK; });
-    for (forms::CommandButton* button : {&menu().cmdInPrint[0], &menu().cmdOutPrint[2], &menu().cmdAutoPrint[1],
-             &menu().cmdAllPrint[3], &menu().cmdFillOutForm[0], &menu().cmdBack[0], &menu().cmdCustom[4]}) {
-        search.raise_Progress();
-        search.pbSearch.setValue(1);
-        menu().show();
-        click(*button);
-        closeReport();
-        EXPECT_EQ(
-            line(search.pbSearch.isVisible(), search.lblHead[3].isVisible(), search.pbSearch.value()), "false, true, 0")
-            << button->name().toStdString();
-    }
-    removeRows(Data1.rsInventory);
-    menu().show();
-    click(menu().cmdAllPrint[3]);
-    EXPECT_EQ(
-        line(search.pbSearch.isVisible(), search.lblHead[3].isVisible(), search.pbSearch.max()), "true, false, 2");
 }
 
 TEST_F(PrintMenu, TellsThatNoReportCanBeMadeAndTheReportWhatFailsInIt)
