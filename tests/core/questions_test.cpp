@@ -16,57 +16,9 @@ using forms::screen;
 
 namespace {
 
-/// A box with a question: the way from the main menu to the screen that asks, the step that asks (behind a bar: in the
-/// calendar), and what of the screen the user presses behind the answer.
-struct Question {
-    const char* way;
-    const char* step;
-    const char* next;
-
-    // Without semicolons, which would part the name of the test.
-    friend void PrintTo(const Question& question, std::ostream* out)
-    {
-        *out << QString("%1, %2").arg(question.way, question.step).replace(';', ',').toStdString();
-    }
-};
-
-constexpr Question questions[] = {
-    {"", "click cmdLeave", "cmdIn"},
-    {"click cmdIn", "click cmdLeave(0)", "cmdAdd(0)"},
-    {"click cmdSearch", "close", "cmdBack"},
-    {"click cmdSearch; type Acme; press Return", "close", "cmdMain"},
-    {"click cmdPrint", "close", "cmdCustom(4)"},
-    {"click cmdPersonal", "click cmdExit", "cmdInsInfo"},
-    {"introduce", "close", "cmdOK"},
-    {"add", "click cmdClear", "cmdCancel"},
-    {"add", "click cmdCancel", "cmdMain"},
-    {"update", "click cmdCancel", "cmdDelete"},
-    {"update", "click cmdMain", "cmdWarranty"},
-    {"update", "click cmdDelete", "cmdWarranty"},
-    {"update; click cmdWarranty; put txtDescription x", "click cmdCancel", "cmdSave"},
-    {"click cmdSearch", "click cmdContinue", "cmdBack"},
-    {"click cmdPersonal; click cmdInsInfo; type x", "click cmdCancel", "cmdClear"},
-    {"click cmdPersonal", "click cmdBack(0)", "cmdBank"},
-    {"click cmdPersonal; click cmdBank; click cmdUpdate", "click cmdBack", "cmdState"},
-    {"account; click cmdPersonal; click cmdBank; click cmdUpdate; type x", "click cmdBack", "cmdState"},
-    {"account; click cmdPersonal; click cmdBank; click optEdit(2); click cmdUpdate", "click cmdState", "cmdBack"},
-    {"edit cmdIn Loc Location 0; type x", "click cmdCancel", "cmdUpdate"},
-    {"edit cmdIn Loc Location 1; pick cmbCat Gong", "click cmdCancel", "cmdUpdate"},
-    {"edit cmdIn Loc Location 2; pick cmbCat Gong", "click cmdCancel", "cmdUpdate"},
-    {"edit cmdIn Loc Location 2; pick cmbCat Attic", "click cmdUpdate", "cmdCancel"},
-    {"edit cmdOut Loc Location 2; pick cmbCat Gong", "click cmdUpdate", "cmdCancel"},
-    {"edit cmdAuto Loc Location 2; pick cmbCat Gong", "click cmdUpdate", "cmdCancel"},
-    {"edit cmdIn Cat Category 2; pick cmbCat Gong", "click cmdUpdate", "cmdCancel"},
-    {"edit cmdOut Cat Category 2; pick cmbCat Gong", "click cmdUpdate", "cmdCancel"},
-    {"edit cmdAuto Cat Category 2; pick cmbCat Gong", "click cmdUpdate", "cmdCancel"},
-    {"add", "click picDate | press Space", "calDate"},
-    {"add", "click picDate | undated", "calDate"},
-    {"restore", "click cmdRestore", "cmdClose"},
-};
-
 /// What is pressed right behind an answer counts as if it were pressed when the handler that asked has ended, where its
 /// screen is in front then and nothing else was asked; else it is dropped.
-class Questions : public ToolsTest, public testing::WithParamInterface<Question> {
+class Questions : public ToolsTest, public testing::WithParamInterface<QString> {
 protected:
     enum class Way { Enter, Space, AccessKey, Mouse, Escape };
     enum class Press { Mouse, AccessKey };
@@ -95,20 +47,23 @@ protected:
         else if (line == "undated")
             screen<frmCalendar>().calDate.setDay(0), press(Qt::Key_Return);
         else if (line == "add")
-            go("click cmdIn; click cmdAdd(0)");
+            go("click cmdIn, click cmdAdd(0)");
         else if (line == "update")
-            go("click cmdSearch; type Acme; press Return; click txtMore(0)");
+            go("click cmdSearch, type Acme, press Return, click txtMore(0)");
         else if (words[0] == "edit") // "edit cmdIn Loc Location 2"
-            go(QString("click %1; click cmdAdd(0); pick cmb%2 < Add/Edit %3 >; click optEdit(%4); click cmdUpdate")
+            go(QString("click %1, click cmdAdd(0), pick cmb%2 < Add/Edit %3 >, click optEdit(%4), click cmdUpdate")
                     .arg(words[1], words[2], words[3], words[4]));
         else
             return {};
         return QString();
     }
 
+    // Of the line of the list.
+    static QString part(int index) { return GetParam().split("/ ")[index].trimmed(); }
+
     void go(const QString& way)
     {
-        for (const QString& step : way.split("; ", Qt::SkipEmptyParts))
+        for (const QString& step : way.split(", ", Qt::SkipEmptyParts))
             EXPECT_EQ(played(step).join("; "), "") << step.toStdString();
     }
 
@@ -121,7 +76,7 @@ protected:
         openData();
         asked_.clear();
         screen<frmMain>().show();
-        go(GetParam().way);
+        go(part(0));
     }
 
     void note(const QString& question)
@@ -142,7 +97,7 @@ protected:
                 then();
             settle();
         };
-        const QStringList steps = QString(GetParam().step).split(" | ");
+        const QStringList steps = part(1).split(" | ");
         const auto inCalendar = [&] {
             const auto isOpen = [] { return screen<frmCalendar>().isVisible(); };
             answer();
@@ -183,7 +138,7 @@ protected:
 
     void pressNext(Press press) const
     {
-        forms::Control& next = control(*asking_, GetParam().next);
+        forms::Control& next = control(*asking_, part(2));
         const auto* button = dynamic_cast<forms::Button*>(&next);
         if (press == Press::Mouse)
             click(next);
@@ -262,6 +217,7 @@ TEST_P(Questions, AreAnsweredBeforeWhatIsPressedBehindTheAnswer)
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, Questions, testing::ValuesIn(questions));
+INSTANTIATE_TEST_SUITE_P(
+    Each, Questions, testing::ValuesIn(linesOf("core/questions.txt").filter(QRegularExpression("^[^#]"))));
 
 } // namespace

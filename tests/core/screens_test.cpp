@@ -3,7 +3,6 @@
 #include "frame/frmExit.h"
 #include "frame/frmMain.h"
 #include "frame/frmProgress.h"
-#include "frame/frmStartup.h"
 #include "household/frmIntroduction.h"
 #include "platform/forms/look.h"
 #include "platform/help/book.h"
@@ -20,8 +19,8 @@ using forms::screen;
 
 namespace {
 
-/// Each screen as it comes; and at each "tour" where the Tab key goes, the topics that F1 opens on the controls and the
-/// number under which the screen is hidden, as far as that wasn't told of it before.
+/// Each screen as it comes; and at each "tour" where the Tab key goes and the topics that F1 opens on the controls, as
+/// far as that wasn't told of it before.
 class AllScreens : public ScreenTest {
 protected:
     AllScreens()
@@ -123,27 +122,11 @@ protected:
         helped.remove(most);
         for (auto topic = helped.begin(); topic != helped.end(); ++topic)
             told += "F1 " + topic.key() + " at " + topic.value().join(' ');
-        told += numberOf(form);
         const auto wasTold = [&](const QString& line) { return told_.contains(form.name() + ": " + line); };
         told.removeIf(wasTold);
         for (const QString& line : told)
             told_ += form.name() + ": " + line;
         return told;
-    }
-
-    /// The number under which a screen is hidden.
-    static QString numberOf(forms::Form& form)
-    {
-        const int current = frmStartup::CurrentScreen;
-        QString numbers;
-        for (int number = 0; number <= 20; ++number) {
-            frmStartup::CurrentScreen = number;
-            screen<frmMain>().Hide_Screens();
-            numbers += form.isVisible() ? QString() : QString(" %1").arg(number);
-            form.show();
-        }
-        frmStartup::CurrentScreen = current;
-        return "hidden as" + numbers;
     }
 
     QStringList topics_{"frmProgress", "frmExit", "frmExport", "frmRestore", "frmRestored", "CoverSheet", "AssetReport",
@@ -165,17 +148,6 @@ TEST_F(AllScreens, AreGoneThroughByKeysHaveTheirHelpAndShowAllThatTheyHave)
         EXPECT_TRUE(book.knows(topic)) << topic.toStdString();
     for (const QString& topic : book.topics())
         EXPECT_TRUE(topic.toInt() == 0 || topics_.contains(topic)) << topic.toStdString() << " is of nothing";
-}
-
-TEST_F(AllScreens, ShowTheWorthOfAllWithBothViewsOnARow)
-{
-    for (const auto& leaveRow : {&storage::TableView::MovePrevious, &storage::TableView::MoveNext}) {
-        (Data1.rsGeneral.*leaveRow)();
-        screen<frmMain>().show();
-        click(screen<frmMain>().cmdValue);
-        for (const storage::TableView* view : {&Data1.rsGeneral, &Data1.rsInventory})
-            EXPECT_FALSE(view->atBOF() || view->atEOF());
-    }
 }
 
 } // namespace

@@ -1,113 +1,79 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/thinning.h"
 
+#include "support/files.h"
 #include "support/print.h"
-#include "support/scene.h"
 
 #include <QStringList>
-
-#include <gmock/gmock.h>
 
 #include <algorithm>
 
 namespace {
 
-constexpr qint64 Plenty = 1'000'000;
+// What closes have left, and what goes at the next one, as the list has it: by their days.
+class Closes {
+public:
+    QString follow(const QString& step)
+    {
+        const QStringList words = step.split(' ');
+        if (words[0] == "evenings")
+            evenings(at(words[1] + "T20:00"), at(words[2] + "T20:00"));
+        else if (words[0] == "minutes")
+            for (int minute = 0; minute < words[2].toInt(); ++minute)
+                kept_.push_back({at(words[1]).addSecs(60 * minute), 1});
+        else if (words[0] == "days")
+            for (int day = 0; day < words[2].toInt(); ++day)
+                kept_.push_back({at(words[1]).addDays(day), 1});
+        else if (words[0] == "reverse")
+            std::ranges::reverse(kept_);
+        else if (words[0] == "proved")
+            kept_[words[1].toUInt()].isProved = true;
+        else
+            return told(left(at(words[1]), words.value(2, "1000000").toInt()));
+        return {};
+    }
 
-QDateTime at(const QString& moment)
-{
-    return QDateTime::fromString(moment, Qt::ISODate);
-}
+private:
+    static QDateTime at(const QString& moment) { return QDateTime::fromString(moment, Qt::ISODate); }
 
-// One each evening, from a day on, back to another one.
-std::vector<thinning::Kept> evenings(const QString& last, const QString& first)
-{
-    std::vector<thinning::Kept> kept;
-    for (QDateTime made = at(last + "T20:00:00"); made >= at(first + "T20:00:00"); made = made.addDays(-1))
-        kept.push_back({made, 1});
-    return kept;
-}
+    // One each evening, from a day on, back to another one.
+    void evenings(const QDateTime& last, const QDateTime& first)
+    {
+        kept_.clear();
+        for (QDateTime made = last; made >= first; made = made.addDays(-1))
+            kept_.push_back({made, 1});
+    }
 
-// What is left, by its days.
-QStringList left(std::vector<thinning::Kept> kept, const QString& now, qint64 room = Plenty)
-{
-    std::vector<std::size_t> gone = thinning::givenUp(kept, at(now), room);
-    std::ranges::sort(gone, std::greater());
-    for (const std::size_t index : gone)
-        kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(index));
-    QStringList left;
-    for (const thinning::Kept& each : kept)
-        left += each.made.date().toString(Qt::ISODate);
-    return left;
-}
+    QStringList left(const QDateTime& now, qint64 room) const
+    {
+        const std::vector<std::size_t> gone = thinning::givenUp(kept_, now, room);
+        QStringList left;
+        for (std::size_t index = 0; index < kept_.size(); ++index)
+            if (std::ranges::find(gone, index) == gone.end())
+                left += kept_[index].made.date().toString(Qt::ISODate);
+        return left;
+    }
+
+    // "2026-11: 24 23 22; 2026-10: 31".
+    static QString told(const QStringList& days)
+    {
+        QStringList months;
+        for (const QString& day : days) {
+            const QString month = day.left(7) + ':';
+            if (months.isEmpty() || !months.last().startsWith(month))
+                months += month;
+            months.last() += ' ' + day.mid(8);
+        }
+        return months.join("; ");
+    }
+
+    std::vector<thinning::Kept> kept_;
+};
 
 } // namespace
 
-// 24 November 2026 is a Tuesday.
-TEST(Thinning, KeepsTheLastOfEachDayWeekAndMonthBackToTheDay)
+TEST(Thinning, LeavesWhatTheListHas)
 {
-    std::vector<thinning::Kept> kept = evenings("2026-11-24", "2022-01-01");
-    QStringList wanted;
-    for (int day = 24; day > 14; --day)
-        wanted += QString("2026-11-%1").arg(day); // the last ten, a week among them
-    wanted += {"2026-11-08", "2026-11-01", "2026-10-31", "2026-10-25", "2026-10-18", "2026-10-11", "2026-10-04",
-        "2026-09-30", "2026-09-27", "2026-08-31"};
-    for (QDate month(2026, 8, 1); month > QDate(2024, 12, 1); month = month.addMonths(-1))
-        wanted += month.addDays(-1).toString(Qt::ISODate);
-    wanted += "2024-11-30";
-    EXPECT_EQ(left(kept, "2026-11-24T21:00:00"), wanted);
-    std::ranges::reverse(kept);
-    std::ranges::reverse(wanted);
-    EXPECT_EQ(left(kept, "2026-11-24T21:00:00"), wanted) << "in any order";
-    for (int minute = 10; minute < 22; ++minute)
-        kept.push_back({at(QString("2026-11-24T20:%1:00").arg(minute)), 1});
-    const QStringList busy = left(kept, "2026-11-24T21:00:00");
-    EXPECT_EQ(line(busy.count("2026-11-24"), busy.count("2026-11-23"), busy.count("2026-11-17")), "10, 1, 0");
-}
-
-TEST(Thinning, TellsAgesByTheOrderWhereTheClockHasJumped)
-{
-    std::vector<thinning::Kept> kept = evenings("2026-11-24", "2025-01-01");
-    const QStringList before = left(kept, "2026-11-24T21:00:00");
-    const auto months = [](const QStringList& days) {
-        QStringList found;
-        for (const QString& day : days)
-            found += day.left(7);
-        found.removeDuplicates();
-        return found;
-    };
-    // One close ten years ahead, two of them, and the clock right again.
-    EXPECT_EQ(months(left(kept, "2036-11-24T21:00:00")), months(before));
-    std::vector<thinning::Kept> wrong = kept;
-    wrong.push_back({at("2036-11-24T21:00:00"), 1});
-    EXPECT_EQ(months(left(wrong, "2036-11-25T21:00:00")), months(before) + QStringList("2036-11"));
-    EXPECT_EQ(left(wrong, "2026-11-24T21:00:00"), before + QStringList("2036-11-24"));
-    for (int day = 1; day < 30; ++day)
-        wrong.push_back({at("2036-11-24T21:00:00").addDays(day), 1});
-    EXPECT_EQ(left(wrong, "2026-11-24T21:00:00", 1).first(2), QStringList({"2026-11-24", "2026-10-31"}));
-    // And in the past, for one close.
-    EXPECT_EQ(left(kept, "1970-01-01T00:00:00"), before);
-    EXPECT_EQ(left({}, "1970-01-01T00:00:00"), QStringList());
-}
-
-TEST(Thinning, GivesUpDenseRecentOnesWhereThereIsNoRoomAndKeepsTheNewestTheOldestAndTheMonths)
-{
-    std::vector<thinning::Kept> kept = evenings("2026-11-24", "2025-12-25");
-    const auto oldest = [&kept](qsizetype room) { return left(kept, "2026-11-24T21:00:00", room); };
-    const QStringList all = oldest(Plenty);
-    QStringList rooms;
-    for (qsizetype room = all.size() - 1; room >= 0; --room) {
-        const QStringList now = oldest(room);
-        for (const QString& gone : oldest(room + 1))
-            if (!now.contains(gone))
-                rooms += gone;
-    }
-    // The last ten that are no day's any more, then days, then weeks.
-    EXPECT_EQ(rooms.join(' '),
-        "2026-11-16 2026-11-17 2026-11-18 2026-11-19 2026-11-20 2026-11-21 2026-11-23 "
-        "2026-09-27 2026-10-04 2026-10-11 2026-10-18 2026-10-25 2026-11-01 2026-11-08 2026-11-15 2026-11-22");
-    EXPECT_EQ(oldest(0).first(4), QStringList({"2026-11-24", "2026-10-31", "2026-09-30", "2026-08-31"}));
-    EXPECT_EQ(oldest(0).last(), "2025-12-31");
-    kept[5].isProved = kept[7].isProved = true;
-    EXPECT_EQ(oldest(0).first(3), QStringList({"2026-11-24", "2026-11-19", "2026-10-31"})) << "the newest proved";
+    Closes closes;
+    expectSteps("core/thinning.txt", [&closes](const QString& step) { return closes.follow(step); });
 }
