@@ -7,8 +7,6 @@
 #include "support/disk.h"
 #include "tools/household.h"
 
-#include <QProcess>
-
 #include <algorithm>
 
 namespace {
@@ -154,15 +152,7 @@ TEST_F(RestoringTest, NobodyOpensTheFileFromItsPuttingAsideToItsLastStep)
             _exit(3);
         }
     };
-    // Whatever other programs are called.
-    const QString editor = below("an editor of Kestrill");
-    ASSERT_TRUE(QFile::copy("/bin/sleep", editor));
-    QProcess another;
-    another.start(editor, {"600"});
-    ASSERT_TRUE(another.waitForStarted());
     restoring::lay_Down(last(), [&open](int step) { EXPECT_EQ(inProcess(open), 3) << step; });
-    another.kill();
-    another.waitForFinished();
     EXPECT_EQ(bytesOf(today()), old_);
     const storage::FileLock running(today());
     EXPECT_EQ(refused(), exit_code::InUse);
