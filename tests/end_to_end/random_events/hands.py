@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What random hands do: gestures, each a few strokes and presses, which are written down so that they can be repeated."""
+"""What random hands do: gestures, each a few strokes and presses, which are written down."""
 
 import os
 import signal
@@ -37,7 +37,6 @@ class Hands:
         self.display = display
         self.log = log
         self.process = None
-        self.settle = None  # how to wait until the program has taken what has come
         self.events = 0
         self.pressed = set()  # keys
         self.done = time.monotonic()  # when the last act was done
@@ -48,12 +47,6 @@ class Hands:
         word, *rest = act.split(" ", 1)
         getattr(self, "do_" + word)(*rest)
         self.done = time.monotonic()
-
-    def repeat(self, line):
-        pause, act = line.split(" ", 1)
-        time.sleep(int(pause) / 1000)
-        self.do(act)
-        return act
 
     def let_go(self):
         """Of what a gesture that was broken off has left pressed."""
@@ -94,9 +87,6 @@ class Hands:
     def do_continue(self):
         self.is_stopped = False
         self._signal(signal.SIGCONT)
-
-    def do_settle(self):
-        self.settle()
 
     def _signal(self, number):
         if self.process.poll() is None:

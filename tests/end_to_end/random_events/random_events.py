@@ -46,7 +46,6 @@ class Life:
             )  # fmt: skip
         self.watch = Watch(display, self.process, self.printed)
         self.hands.process = self.process
-        self.hands.settle = self.watch.settle
 
     def go(self, drive):
         """Returns what is found, or nothing."""
@@ -127,34 +126,17 @@ class Run:
             last = kind
             unseen += done
             if unseen > UNSEEN or self.source.random() < 0.5:
-                life.hands.do("settle")
+                life.watch.settle()
                 life.watch.look()
                 self.eyes.learn()
                 unseen = 0
-
-    def repeat(self):
-        self.home(self.options.repeat / "home")
-        acts = (self.options.repeat / "events.log").read_text().splitlines()
-        life = Life(self.folder, acts[0].strip("# ").split(":")[0], self.display)
-        life.hands.note(acts[0].strip("# "))
-        self.conclude(life, life.go(lambda life: self.play(life, acts)))
-
-    @staticmethod
-    def play(life, acts):
-        for line in acts:
-            if life.watch.has_ended():
-                return
-            if not line.startswith("#") and life.hands.repeat(line) == "settle":
-                life.watch.look()
-        life.hands.do("settle")
-        life.watch.look()
 
     def conclude(self, life, finding):
         self.events += life.hands.events
         if not finding:
             return
         self.findings += 1
-        left = self.options.pictures / ("repeated" if self.options.repeat else f"finding-{self.findings}")
+        left = self.options.pictures / f"finding-{self.findings}"
         shutil.rmtree(left, ignore_errors=True)
         left.mkdir()
         for file in (life.acts, life.printed, life.picture, *(self.folder / "life").glob("core*")):
@@ -179,7 +161,6 @@ def read_options():
     parser.add_argument("--pictures", type=Path, required=True)
     parser.add_argument("--events", type=int, default=200_000)
     parser.add_argument("--seed", default=str(random.randrange(10**6)))
-    parser.add_argument("--repeat", type=Path, help="a finding's folder: its events once more, instead of random ones")
     parser.add_argument("--go-on", action="store_true", help="after a finding")
     return parser.parse_args()
 
@@ -187,14 +168,11 @@ def read_options():
 def main():
     options = read_options()
     run = Run(options)
-    if options.repeat:
-        run.repeat()
-    else:
-        print(f"seed {options.seed}", flush=True)
-        run.go()
-        run.tell()
-        lines = (f"{events}\t{kind or 'no window, or the end'}\n" for kind, events in run.seen.items())
-        (options.pictures / "seen.txt").write_text("".join(lines))
+    print(f"seed {options.seed}", flush=True)
+    run.go()
+    run.tell()
+    lines = (f"{events}\t{kind or 'no window, or the end'}\n" for kind, events in run.seen.items())
+    (options.pictures / "seen.txt").write_text("".join(lines))
     sys.exit(1 if run.findings else 0)
 
 
