@@ -22,10 +22,18 @@ updated() {
     answer update-refused Return
     text 1500 # the refusal has put the focus there
     enter frmAddUpDel Make 'Northlight & Sons'
-    keys alt+u
+    hold Return # which updates once and answers no box
     answer asset-updated Return
     expect "select Make, Amount, Model, [Parts Type] from Inventory" 'Northlight & Sons|$1500.00|V-300 "Pro"|None'
     expect "select AssetValue from Personal_Info" 15000000
+}
+
+# hold KEY: until it has repeated itself a few times.
+hold() {
+    xdotool keydown "$1"
+    sleep 1
+    xdotool keyup "$1"
+    wait_still
 }
 
 warranty_by_mouse_and_keys() {

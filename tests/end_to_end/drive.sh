@@ -332,13 +332,14 @@ front() {
 
 has_title() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
 
-# save_as FILE [suggested]: by the window of the report in front; a name that it suggests is not typed.
+# save_as FILE: by the window of the report in front.
 save_as() {
     local report
     report=$(screen_in_front)
     keys ctrl+s
     until_true "the dialogue to save" has_title "Save Report As"
-    [ "${2:-}" ] || { keys ctrl+a && text "$1"; }
+    keys ctrl+a
+    text "$1"
     keys Return
     until_true "$1" test -s "$1"
     wait_screen "$report"

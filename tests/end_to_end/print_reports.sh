@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# On paper: the reports looked at, printed and saved, with a print service, a stopped one and none.
+# On paper: the reports looked at, printed and saved, by a print service of the run.
 
 # shellcheck source=tests/end_to_end/print_service.sh
 . "$Here/print_service.sh"
@@ -66,31 +66,14 @@ some_pages_and_the_other_reports() {
     report_saved FillOutForm form "Year Asset Was Made =>" "(Select One)"
 }
 
-troubled_printing() {
-    step "a queue that is stopped, one that refuses, and no print service at all; closed while the report is open"
+closed_meanwhile() {
+    step "closed while a report is open"
     front frmPrint
     go AssetReport alt+o
-    cupsdisable Paper
-    print_all
-    until_true "the job that waits" job_waits
-    wait_screen AssetReport
-    cupsreject Paper
-    print_all
-    answer print-refused Return
-    kill "$PrintService"
-    until_true "the end of the print service" has_ended "$PrintService"
-    front AssetReport
-    keys ctrl+p
-    answer print-without-service Return
-    front AssetReport
-    save_as "$Pictures/Asset Report $(date +%F).pdf" suggested
-    holds "$Pictures/Asset Report $(date +%F).pdf" "Spanner 1"
     front frmPrint
     go frmMain alt+c
     leave print-exit
 }
-
-job_waits() { [ -n "$(lpstat -o)" ]; }
 
 household printing "update Personal_Info set [Last] = 'Fairbanks', [Policy Company] = 'Tidewater', [AssetValue] = 78342900;
     $(assets 1000 "case when i = 1 then 'Outdoor' when i < 12 then 'Indoor' else 'Mobile' end, 'Attic', 'Art', 'Spanner ' || i,
@@ -101,5 +84,5 @@ start_at_menu
 an_area
 page_of_the_help
 some_pages_and_the_other_reports
-troubled_printing
+closed_meanwhile
 unset CUPS_SERVER

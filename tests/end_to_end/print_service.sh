@@ -12,7 +12,6 @@ start_print_service() {
     sed -i "s|@service@|$Service|" "$Service"/*.conf
     export CUPS_SERVER=$Service/socket
     /usr/sbin/cupsd -f -c "$Service/cupsd.conf" -s "$Service/cups-files.conf" &
-    PrintService=$!
     until_true "the print service and its queue" add_queue
 }
 
