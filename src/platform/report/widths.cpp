@@ -9,7 +9,6 @@ namespace report {
 namespace {
 
 constexpr double measuredPoints = 50;
-constexpr float unknown = -1;
 constexpr float notSimple = -2;
 constexpr std::size_t mostWords = 100'000; // some megabytes
 
@@ -44,14 +43,6 @@ const CharacterWidths& CharacterWidths::of(bool bold)
     return bold ? heavy : plain;
 }
 
-float CharacterWidths::operator[](QChar character) const
-{
-    float& width = widths_[character.unicode()];
-    if (width == unknown)
-        width = isSimple(character.unicode()) ? measured(character) : notSimple;
-    return width;
-}
-
 bool CharacterWidths::areSimple(QStringView text) const
 {
     return std::all_of(text.begin(), text.end(), [this](QChar character) { return (*this)[character] >= 0; });
@@ -67,6 +58,8 @@ double CharacterWidths::sum(QStringView text) const
 
 float CharacterWidths::measured(QChar character) const
 {
+    if (!isSimple(character.unicode()))
+        return notSimple;
     return float(metrics_.horizontalAdvance(character) / (measuredPoints * TwipsPerPoint));
 }
 

@@ -22,13 +22,21 @@ class CharacterWidths {
 public:
     static const CharacterWidths& of(bool bold);
 
-    /// Negative where the character isn't simple.
-    float operator[](QChar character) const;
+    /// Negative where the character isn't simple. Asked some millions of times for a long report.
+    float operator[](QChar character) const
+    {
+        float& width = widths_[character.unicode()];
+        if (width == unknown)
+            width = measured(character);
+        return width;
+    }
 
     bool areSimple(QStringView text) const;
     double sum(QStringView text) const;
 
 private:
+    static constexpr float unknown = -1;
+
     explicit CharacterWidths(bool bold);
     float measured(QChar character) const;
 
