@@ -17,12 +17,14 @@ namespace forms {
 
 namespace {
 
-// A list or a menu is part of the window over which it opens.
+// A list or a menu is part of the window over which it opens; where it belongs to none, as the toolkit's suggestions
+// do, of the dialogue in front.
 QWindow* homeOf(QWindow* window)
 {
     while (window->type() == Qt::Popup && window->transientParent())
         window = window->transientParent();
-    return window;
+    const QWidget* dialog = window->type() == Qt::Popup ? QApplication::activeModalWidget() : nullptr;
+    return dialog ? dialog->windowHandle() : window;
 }
 
 enum class Sort { Other, AccessKey, KeyDown, KeyUp, Press, Release, Wheel, Close };
@@ -130,15 +132,12 @@ bool InputFilter::filterWindow(QWindow& window, QEvent& event)
 }
 
 // The window system has sent it to a window that is hidden by now. Keys behind the one that has closed a list are for
-// the window below, which is the dialogue where the list belongs to none, as the toolkit's suggestions do; all else
-// is dropped, since another screen has come.
+// the window below; all else is dropped, since another screen has come.
 void InputFilter::passOn(QWindow& window, QEvent& event)
 {
-    QWindow* below = homeOf(&window);
-    if (below->type() == Qt::Popup && QApplication::activeModalWidget())
-        below = QApplication::activeModalWidget()->windowHandle();
-    if (isKey(event) && below != &window && below->isVisible())
-        QCoreApplication::sendEvent(below, &event);
+    QWindow* home = homeOf(&window);
+    if (isKey(event) && home != &window && home->isVisible())
+        QCoreApplication::sendEvent(home, &event);
     event.setAccepted(event.type() != QEvent::Close);
 }
 
