@@ -58,8 +58,7 @@ std::function<void()> Preview::handler(const std::function<void()>& action)
 
 QPushButton* Preview::button(const char* objectName, const QString& caption, const char* icon, const QString& toolTip)
 {
-    auto* made =
-        new BarButton(QIcon(QStringLiteral(":/pictures/icons/%1.png").arg(QLatin1String(icon))), caption, bar_);
+    auto* made = new BarButton(forms::look::buttonIcon(icon), caption, bar_);
     name(*made, objectName, toolTip.section(QStringLiteral(" ("), 0, 0), toolTip);
     return made;
 }
