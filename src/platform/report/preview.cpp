@@ -37,8 +37,8 @@ struct Remembered {
 
 Remembered& remembered()
 {
-    static Remembered the;
-    return the;
+    static Remembered instance;
+    return instance;
 }
 
 Paper rememberedPaper()
@@ -230,7 +230,7 @@ void Preview::tell(const Ending& ending)
     if (ending.outcome == Outcome::NothingChosen)
         status_->setText(QStringLiteral("Nothing was printed: the report has no such page."));
     if (ending.outcome == Outcome::Unanswered)
-        status_->setText(QStringLiteral("The printer has not answered: look whether the report is being printed."));
+        status_->setText(QStringLiteral("The printer has not answered: check whether the report is being printed."));
 }
 
 } // namespace report

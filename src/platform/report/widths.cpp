@@ -65,8 +65,8 @@ float CharacterWidths::measured(QChar character) const
 
 WordWidths& WordWidths::of(Type type)
 {
-    static std::map<std::pair<double, bool>, WordWidths> the;
-    return the.try_emplace({type.points, type.bold}, type).first->second;
+    static std::map<std::pair<double, bool>, WordWidths> instances;
+    return instances.try_emplace({type.points, type.bold}, type).first->second;
 }
 
 double WordWidths::operator[](QStringView word)
