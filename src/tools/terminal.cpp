@@ -7,6 +7,7 @@
 #include "tools/system_words.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <csignal>
@@ -34,13 +35,12 @@ void say(std::FILE* stream, const QString& text)
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
-// A variable of a script that isn't set, mostly.
-void refuseEmptyNames(const QCommandLineParser& parser)
+// A variable of a script that isn't set, mostly. The parser complains where it is asked for the value of an option that
+// has none, and doesn't tell which these are.
+void refuseEmptyNames(const QStringList& arguments)
 {
-    QStringList names = parser.positionalArguments();
-    for (const QString& option : parser.optionNames())
-        names += parser.values(option);
-    if (names.contains(QString()))
+    const QRegularExpression isEmpty(QStringLiteral("\\A(--[a-z-]+=)?\\z"));
+    if (arguments.mid(1).indexOf(isEmpty) >= 0)
         throw Refusal(exit_code::Usage, QStringLiteral("An empty name is none; see --help."));
 }
 
@@ -148,7 +148,7 @@ int run(QCommandLineParser& parser, const QStringList& arguments, const std::fun
         return whereHeard(exit_code::Done);
     }
     return whereHeard(outcomeOf([&] {
-        refuseEmptyNames(parser);
+        refuseEmptyNames(arguments);
         return command();
     }));
 }
