@@ -49,11 +49,34 @@ PageSet setIn(const QPrintDialog& dialog)
     return sets && sets->isEnabled() ? static_cast<PageSet>(sets->currentIndex()) : PageSet::All;
 }
 
-PageChoice choiceIn(const QPrintDialog& dialog, const QPrinter& printer)
+/// The toolkit's, but for what it says of the pages: a later one of its versions refuses "3-1" by a box of its own.
+class PrintDialog : public QPrintDialog {
+public:
+    using QPrintDialog::QPrintDialog;
+
+    std::optional<QPageRanges> ranges() const { return ranges_; }
+
+private:
+    void accept() override
+    {
+        ranges_ = rangesIn(*this);
+        const QPointer<QLineEdit> pages = findChild<QLineEdit*>(QStringLiteral("pagesLineEdit"));
+        const QString typed = pages ? pages->text() : QString();
+        if (pages)
+            pages->setText(QStringLiteral("1"));
+        QPrintDialog::accept();
+        if (pages)
+            pages->setText(typed);
+    }
+
+    std::optional<QPageRanges> ranges_;
+};
+
+PageChoice choiceIn(const PrintDialog& dialog, const QPrinter& printer)
 {
     PageChoice choice;
     choice.currentOnly = printer.printRange() == QPrinter::CurrentPage;
-    choice.ranges = rangesIn(dialog);
+    choice.ranges = dialog.ranges();
     choice.set = setIn(dialog);
     choice.lastFirst = printer.pageOrder() == QPrinter::LastPageFirst;
     return choice;
@@ -89,7 +112,7 @@ private:
 
 std::optional<PageChoice> askForPrinter(QPrinter& printer, const PrintQuestion& question, QWidget* window)
 {
-    const QPointer<QPrintDialog> dialog(new QPrintDialog(&printer, window)); // which the window may take along
+    const QPointer<PrintDialog> dialog(new PrintDialog(&printer, window)); // which the window may take along
     dialog->setObjectName(question.name);
     dialog->setOptions(question.choices);
     dialog->setMinMax(1, question.pages);
