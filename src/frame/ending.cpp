@@ -126,8 +126,8 @@ QString whatIsKnown()
     } catch (const values::RuntimeFailure& failure) {
         wrong = failure.text();
     }
-    return QStringLiteral("Your data may not be whole. %1\nThe database: %2%3\n%4")
-        .arg(wrong, places::databaseFile(), journalAdvice(), backupPlace());
+    return QStringLiteral("Your data may not be whole.\nThe file with your list: %1%2\n%3\nWhat was found: %4")
+        .arg(places::databaseFile(), journalAdvice(), backupPlace(), wrong);
 }
 
 } // namespace ending

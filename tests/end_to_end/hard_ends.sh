@@ -43,7 +43,7 @@ moved_away() {
     mv "$Database" "$Place/elsewhere.db"
     keys alt+s
     until_true "the reason on the error output" grep -q 'KTL.db was moved' "$Log"
-    see "" moved-away # the report
+    see FailureBox moved-away
     keys Return
     ends_with 1
     same "$(sql "$Place/elsewhere.db" "select City from Personal_Info")" None "a row went into the file moved away"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/prepare.h"
 
+#include "platform/forms/boxes/failure_box.h"
 #include "platform/forms/controls/screen_interface.h"
 #include "platform/forms/input/input_filter.h"
 #include "platform/forms/input/keyboard.h"
@@ -23,4 +24,5 @@ void forms::prepare(QApplication& application, const look::Theme& theme)
     filter.guard(application);
     setFrameSteps([&filter] { filter.handlerEnded(); }, [&stage] { stage.handOnFront(); });
     describeWindows();
+    setReportBox(showFailure);
 }

@@ -6,7 +6,8 @@
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QMessageBox>
+#include <QClipboard>
+#include <QLabel>
 
 #include <cstdio>
 
@@ -21,21 +22,28 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
         std::fputs("cleaned up, ", stderr);
         forms::runAsHandler("late", [] { std::fputs("no handler may run any more", stderr); });
     };
-    form.answers["ok.Click"] = [] { throw values::RuntimeFailure(values::FailureKind::InvalidCall, "why"); };
+    auto& kept =
+        static_cast<TrialForm&>(forms::detail::keepScreen(typeid(TrialForm), std::make_unique<TrialForm>(journal)));
+    kept.show();
+    kept.answers["ok.Click"] = [] { throw values::RuntimeFailure(values::FailureKind::InvalidCall, "why"); };
     const auto run = [&] {
         forms::setFailureReporter({});
         forms::setReportWords("Title, ", [] { return QString("All is safe."); });
         forms::onEnd(cleanUp);
         whileModal([&] {
-            const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
-            std::fputs(qPrintable(box.windowTitle() + box.text()), stderr);
+            const QWidget& box = *QApplication::activeModalWidget();
+            std::fputs(qPrintable(box.windowTitle()), stderr);
+            for (const QLabel* words : box.findChildren<QLabel*>())
+                std::fputs(qPrintable(words->text() + u'\n'), stderr);
+            press({Qt::Key_Tab, Qt::Key_Space}); // Copy Details
+            std::fputs(qPrintable(QGuiApplication::clipboard()->text()), stderr);
             press(Qt::Key_Return);
         });
-        click(form.ok);
+        click(kept.ok);
     };
     EXPECT_EXIT(run(), testing::ExitedWithCode(1),
-        "^cleaned up, Form.ok_Click: .*why\nTitle, The program has to close: an operation failed.\n\n.*why\n\n"
-        "Where: Form.ok_Click\n\nAll is safe.$");
+        "^cleaned up, Form.ok_Click: (.*why)\nTitle, \n“OK” could not be carried out. The program has to close.\nAll "
+        "is safe.\nFor whoever helps you:\n.*why\nForm.ok_Click\n.*why\nForm.ok_Click$");
     const auto end = [&] {
         forms::setProcessEnder({});
         forms::onEnd(cleanUp);

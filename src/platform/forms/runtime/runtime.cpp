@@ -3,10 +3,8 @@
 
 #include "platform/forms/runtime/boundary.h"
 #include "platform/forms/runtime/event.h"
-#include "platform/values/failure.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QThread>
 #include <QTimer>
 
@@ -33,6 +31,7 @@ struct Runtime {
     std::function<void(int)> ender;
     std::function<void(const FailureReport&)> reporter;
     std::function<void(int, const QString&)> helpHandler;
+    std::function<void(const FailureReport&, const QString&, const QString&)> reportBox;
     QString title;
     std::function<QString()> closingWords;
 };
@@ -58,12 +57,9 @@ void cleanUp()
 
 void showReport(const FailureReport& report)
 {
-    QMessageBox box(QMessageBox::Critical, runtime().title,
-        QStringLiteral("The program has to close: an operation failed.\n\n%1\n\nWhere: %2\n\n%3")
-            .arg(report.failure, report.handler.isEmpty() ? QStringLiteral("outside of any handler") : report.handler,
-                runtime().closingWords ? runtime().closingWords() : QString()));
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    const Runtime& state = runtime();
+    if (state.reportBox)
+        state.reportBox(report, state.title, state.closingWords ? state.closingWords() : QString());
 }
 
 // The name belongs to one exception: another that was caught in silence gives its name to nobody.
@@ -72,10 +68,10 @@ QString handlerOf(const std::exception_ptr& failed)
     return runtime().failed == failed ? runtime().failedHandler : QString();
 }
 
-void report(const QString& failure)
+void report(const QString& failure, std::optional<values::FailureKind> kind = {})
 {
     Runtime& state = runtime();
-    const FailureReport what{handlerOf(std::current_exception()), failure};
+    const FailureReport what{handlerOf(std::current_exception()), failure, kind};
     if (state.reporter) {
         state.reporter(what);
         return;
@@ -158,7 +154,7 @@ void reportCurrentException() noexcept
     } catch (const ProcessEnd&) {
         // A test stands in for the end of the process.
     } catch (const values::RuntimeFailure& failure) {
-        report(failure.text());
+        report(failure.text(), failure.kind());
     } catch (const std::exception& failure) {
         report(QString::fromUtf8(failure.what()));
     } catch (...) {
@@ -209,6 +205,11 @@ void setProcessEnder(std::function<void(int)> ender)
 void setFailureReporter(std::function<void(const FailureReport&)> reporter)
 {
     runtime().reporter = std::move(reporter);
+}
+
+void setReportBox(std::function<void(const FailureReport&, const QString&, const QString&)> show)
+{
+    runtime().reportBox = std::move(show);
 }
 
 void setReportWords(const QString& title, std::function<QString()> closingWords)

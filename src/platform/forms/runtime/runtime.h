@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/values/failure.h"
+
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace forms {
 
@@ -28,10 +31,14 @@ void setProcessEnder(std::function<void(int status)> ender);
 struct FailureReport {
     QString handler; ///< "frmAddUpDel.cmdAdd_Click"
     QString failure; ///< the failure's own text
+    std::optional<values::FailureKind> kind; ///< nothing for a failure of another sort
 };
 
 /// Takes the place of the run-time report and of the end of the process that follows it, for tests.
 void setFailureReporter(std::function<void(const FailureReport&)> reporter);
+
+/// The box that shows the run-time report. Without one the report goes to the error output alone.
+void setReportBox(std::function<void(const FailureReport&, const QString& title, const QString& closingWords)> show);
 
 /// Title of the run-time report's box, and its closing words, which are asked for once the clean-up of onEnd() has run.
 void setReportWords(const QString& title, std::function<QString()> closingWords);
