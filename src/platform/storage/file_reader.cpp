@@ -66,4 +66,11 @@ Snapshot FileReader::rows(const TableDefinition& table)
     return {texts_, table, rows};
 }
 
+qint64 FileReader::lastNumber(const TableDefinition& table)
+{
+    Statement select(handle_.get(), "SELECT seq FROM sqlite_sequence WHERE name = ?");
+    select.bind(1, table.name);
+    return select.step() ? select.number(0) : 0;
+}
+
 } // namespace storage

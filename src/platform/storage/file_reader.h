@@ -35,6 +35,13 @@ public:
     /// or one of its columns, or is damaged.
     Snapshot rows(const TableDefinition& table);
 
+    /// The number that a table has given last, to a row that may have gone since: none is given twice. 0 where it has
+    /// given none. Failures: Database.
+    qint64 lastNumber(const TableDefinition& table);
+
+    /// The number of the last transaction stored in the file. Failures: Database.
+    qint64 generation() const { return generationOf(handle_.get()); }
+
     /// What lay beside the file.
     JournalBeside journal() const { return journal_; }
 

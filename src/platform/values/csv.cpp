@@ -29,13 +29,21 @@ bool isPlainNumber(std::string_view cell)
         && std::ranges::count(cell, '.') <= 1;
 }
 
+bool isFormula(std::string_view cell)
+{
+    const bool beginsSo = !cell.empty() && std::string_view("=+-@\t\r\n").find(cell.front()) != std::string_view::npos;
+    return beginsSo && !isPlainNumber(cell);
+}
+
 } // namespace
 
-void addCell(std::string& line, std::string_view cell, bool isFirst)
+void addCell(std::string& line, std::string_view cell, bool isFirst, char separator)
 {
     if (!isFirst)
-        line += ',';
-    if (cell.find_first_of("\",\r\n") == std::string_view::npos && !cell.starts_with(' ') && !cell.ends_with(' ')) {
+        line += separator;
+    const bool isPlain =
+        cell.find_first_of("\"\r\n") == std::string_view::npos && cell.find(separator) == std::string_view::npos;
+    if (isPlain && !cell.starts_with(' ') && !cell.ends_with(' ')) {
         line.append(cell);
         return;
     }
@@ -52,13 +60,19 @@ void endLine(std::string& line)
 
 std::string neutral(std::string_view cell)
 {
-    const bool isFormula = !cell.empty() && std::string_view("=+-@\t\r\n").find(cell.front()) != std::string_view::npos;
-    return (isFormula && !isPlainNumber(cell) ? "'" : "") + std::string(cell);
+    return (isFormula(cell) ? "'" : "") + std::string(cell);
 }
 
-Reader::Reader(Source source, std::size_t longestRow)
+std::string_view withoutApostrophe(std::string_view cell)
+{
+    const bool isNeutral = cell.starts_with('\'') && isFormula(cell.substr(1));
+    return cell.substr(isNeutral ? 1 : 0);
+}
+
+Reader::Reader(Source source, std::size_t longestRow, char separator)
     : source_(std::move(source))
     , longestRow_(longestRow)
+    , separator_(separator)
 {
 }
 
@@ -106,8 +120,8 @@ bool Reader::readCell(std::string& cell)
 {
     if (peek() == '"')
         readQuoted(cell);
-    while (!isAtSeparator())
-        add(cell, take());
+    for (; !isAtSeparator(); count())
+        cell += static_cast<char>(take());
     return endCell();
 }
 
@@ -123,7 +137,8 @@ void Reader::readQuoted(std::string& cell)
         if (byte == '"')
             take();
         line_ += byte == '\n' ? 1 : 0;
-        add(cell, byte);
+        cell += static_cast<char>(byte);
+        count();
     }
     if (!isAtSeparator())
         refuse("text follows behind a closing quotation mark");
@@ -132,13 +147,14 @@ void Reader::readQuoted(std::string& cell)
 bool Reader::isAtSeparator()
 {
     const int byte = peek();
-    return byte == End || byte == ',' || byte == '\r' || byte == '\n';
+    return byte == End || byte == static_cast<unsigned char>(separator_) || byte == '\r' || byte == '\n';
 }
 
 bool Reader::endCell()
 {
     const int byte = take();
-    if (byte == ',')
+    count();
+    if (byte == static_cast<unsigned char>(separator_))
         return true;
     if (byte == '\r' && peek() == '\n')
         take();
@@ -146,12 +162,12 @@ bool Reader::endCell()
     return false;
 }
 
-void Reader::add(std::string& cell, int byte)
+// Empty cells take memory, too.
+void Reader::count()
 {
     if (++inRow_ > longestRow_)
         throw RuntimeFailure(FailureKind::Overflow,
             QStringLiteral("line %1: a row of more than %2 bytes").arg(rowLine_).arg(longestRow_));
-    cell += static_cast<char>(byte);
 }
 
 void Reader::refuse(const char* why) const
