@@ -12,6 +12,9 @@
 namespace editing {
 struct Kind;
 }
+namespace asset_rules {
+struct Requirement;
+}
 
 /// The asset screen, on which one asset is entered, or one that was found is shown for update and deletion. It has no
 /// load of its own: check_Form_Type prepares it.
@@ -112,15 +115,13 @@ private:
     bool leaving_Is_Confirmed();
     void return_To_Results();
 
-    struct Requirement;
     void check_Input();
     bool has_All_Required();
-    void refuse(const Requirement& unmet);
-    void settle_Receipt_Location();
+    forms::TextEntry& field_Of(Inventory::Column column);
+    void refuse(const asset_rules::Requirement& unmet);
     void store_Asset();
     void add_Asset_Row();
     void put_Fields(storage::TableView& row);
-    static void move_Asset_Value(values::Currency less, values::Currency more);
     void add_To_Item_List();
     bool names_Are_Known(storage::TableView& table);
     void tell_And_Go_On();

@@ -2,6 +2,7 @@
 // What is done with an asset that is there: its warranty, updating, deleting and printing it.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmWar.h"
+#include "data/asset_rules.h"
 #include "platform/values/failure.h"
 #include "reports/frmPrint.h"
 #include "reports/reports.h"
@@ -55,7 +56,7 @@ void frmAddUpDel::follow_Price()
 {
     if (txtPPrice.text() == SavedPrice)
         return;
-    move_Asset_Value(Currency::parse(SavedPrice), Currency::parse(txtPPrice.text()));
+    asset_rules::moveAssetValue(Data1.rsGeneral, Currency::parse(SavedPrice), Currency::parse(txtPPrice.text()));
     SavedPrice = txtPPrice.text();
 }
 
@@ -73,7 +74,7 @@ void frmAddUpDel::cmdDelete_Click()
     Data1.rsInventory.Delete();
     Data1.rsInventory.Update();
     // What stands in the box, not SavedPrice, on purpose: a price that was typed and not updated makes the total drift.
-    move_Asset_Value(Currency::parse(txtPPrice.text()), {});
+    asset_rules::moveAssetValue(Data1.rsGeneral, Currency::parse(txtPPrice.text()), {});
     screen<frmSearchResults>().FromSearchScreen = false;
     hide();
     ways::frmMain().show();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assets/frmAddUpDel.h"
+#include "data/asset_rules.h"
 #include "platform/forms/look.h"
 #include "shared/conventions.h"
 
@@ -139,19 +140,19 @@ void frmAddUpDel::giveFirstValues()
 {
     const struct {
         forms::TextEntry& box;
-        int maxLength;
+        Inventory::Column column;
         const char* text;
     } texts[] = {
-        {txtMake, 49, "Unknown"},
-        {txtMod, 49, "Unknown"},
-        {txtSerial, 49, "Unknown"},
-        {txtPur, 254, "dd/mm/yyyy"},
-        {txtPPrice, 254, ""},
-        {txtLoc, 254, "None"},
-        {txtDescription, 195, ""},
+        {txtMake, Inventory::Make, "Unknown"},
+        {txtMod, Inventory::Model, "Unknown"},
+        {txtSerial, Inventory::SerialVinId, "Unknown"},
+        {txtPur, Inventory::DatePurchased, "dd/mm/yyyy"},
+        {txtPPrice, Inventory::Amount, ""},
+        {txtLoc, Inventory::ReceiptLocation, "None"},
+        {txtDescription, Inventory::Description, ""},
     };
-    for (const auto& [box, maxLength, text] : texts) {
-        box.setMaxLength(maxLength);
+    for (const auto& [box, column, text] : texts) {
+        box.setMaxLength(asset_rules::limitOf(column));
         box.setText(text);
     }
     cmbArea.addItems({"Indoor", "Mobile", "Outdoor"});

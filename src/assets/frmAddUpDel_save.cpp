@@ -2,8 +2,7 @@
 // Checking and saving the asset on the screen.
 #include "assets/frmAddUpDel.h"
 #include "assets/frmWar.h"
-#include "data/name_markers.h"
-#include "platform/values/date.h"
+#include "data/asset_rules.h"
 #include "platform/values/failure.h"
 #include "platform/values/text.h"
 #include "shared/conventions.h"
@@ -11,44 +10,6 @@
 #include <tuple>
 
 using forms::screen;
-
-/// A field without which no asset is saved.
-struct frmAddUpDel::Requirement {
-    forms::TextEntry& field;
-    bool (*isUnmet)(const QString& text);
-    const char* message;
-    const char* replacement = nullptr; ///< what the field then holds
-};
-
-namespace {
-
-bool isEmpty(const QString& text)
-{
-    return text.isEmpty();
-}
-
-bool isNoDate(const QString& text)
-{
-    return text.isEmpty() || values::equalUpper(text, "mm/dd/yyyy");
-}
-
-bool isFuture(const QString& text)
-{
-    return values::Date::parse(text) > values::Today();
-}
-
-// "$0.00" is a price.
-bool isNoPrice(const QString& text)
-{
-    return text.isEmpty() || text == "$.00";
-}
-
-constexpr Inventory::Column warrantyColumns[] = {Inventory::PartsType, Inventory::PartsAmount, Inventory::PartsCoverage,
-    Inventory::PartsMonth, Inventory::PartsDay, Inventory::PartsYear, Inventory::LaborType, Inventory::LaborAmount,
-    Inventory::LaborCoverage, Inventory::LaborMonth, Inventory::LaborDay, Inventory::LaborYear,
-    Inventory::WarrantyDescription};
-
-} // namespace
 
 // ---- the check
 
@@ -58,7 +19,7 @@ void frmAddUpDel::check_Input()
     try {
         if (!has_All_Required())
             return;
-        settle_Receipt_Location();
+        txtLoc.setText(asset_rules::receiptLocation(txtLoc.text(), NoReceipt));
         if (!optPurNewUsed[0].value() && !optPurNewUsed[1].value()) {
             // Only a hint, on purpose: the save goes on.
             conventions::MsgBox("Please Indicate How The Asset Was Purchased...New or Used.", forms::box::Exclamation);
@@ -74,26 +35,8 @@ void frmAddUpDel::check_Input()
 
 bool frmAddUpDel::has_All_Required()
 {
-    const auto isNoLocation = [](const QString& text) { return text.isEmpty() || text == names::LocationMarker; };
-    const auto isNoCategory = [](const QString& text) { return text.isEmpty() || text == names::CategoryMarker; };
-    const Requirement requirements[] = {
-        {cmbLoc, isNoLocation, "The Location Of The Asset Must Be Selected Before Saving!"},
-        {cmbCat, isNoCategory, "The Category Of The Asset Must Be Selected Before Saving!"},
-        {cmbType, isEmpty, "An Item Must Be Selected Before Saving Asset!"},
-        {cmbYear, isEmpty, "The Year The Asset Was Made Must Be Entered Before Saving!", "2005"},
-        {txtMake, isEmpty,
-            "The Make Of The Asset Must Be Entered Before Saving!  If Unavailable Please Type \"Unknown\"", "Unknown"},
-        {txtMod, isEmpty,
-            "The Model Of The Asset Must Be Entered Before Saving!  If Unavailable Please Type \"Unknown\"", "Unknown"},
-        {txtSerial, isEmpty,
-            "The Serial Number Of The Asset Must Be Entered Before Saving...If Unavailable Please Type \"Unknown\"",
-            "Unknown"},
-        {txtPur, isNoDate, "The Purchase Date Of The Asset Must Be Entered Before Saving!"},
-        {txtPur, isFuture, "The Purchase Date Can Not Be A Future Date!"},
-        {txtPPrice, isNoPrice, "The Purchase Price Of The Asset Must Be Entered Before Saving!"},
-    };
-    for (const Requirement& requirement : requirements) {
-        if (!requirement.isUnmet(requirement.field.text()))
+    for (const asset_rules::Requirement& requirement : asset_rules::requirements()) {
+        if (!requirement.isUnmet(field_Of(requirement.column).text()))
             continue;
         refuse(requirement);
         return false;
@@ -101,30 +44,28 @@ bool frmAddUpDel::has_All_Required()
     return true;
 }
 
-void frmAddUpDel::refuse(const Requirement& unmet)
+forms::TextEntry& frmAddUpDel::field_Of(Inventory::Column column)
 {
-    conventions::MsgBox(unmet.message, forms::box::Exclamation);
-    if (unmet.replacement)
-        unmet.field.setText(unmet.replacement);
-    unmet.field.setFocus();
-    InputBad = true;
+    for (const auto& [field, its] : plain_Fields())
+        if (its == column)
+            return field;
+    return txtPPrice;
 }
 
-// A text that stands there although "No" was stepped on last is not specified rather than none: on purpose.
-void frmAddUpDel::settle_Receipt_Location()
+void frmAddUpDel::refuse(const asset_rules::Requirement& unmet)
 {
-    const QString Loc = txtLoc.text();
-    if (values::equalUpper(Loc, "None") || (Loc.isEmpty() && NoReceipt))
-        txtLoc.setText("None");
-    else if (Loc.isEmpty() || NoReceipt)
-        txtLoc.setText("Not Specified");
+    conventions::MsgBox(unmet.message, forms::box::Exclamation);
+    forms::TextEntry& field = field_Of(unmet.column);
+    if (unmet.replacement)
+        field.setText(unmet.replacement);
+    field.setFocus();
+    InputBad = true;
 }
 
 // The one answer to every fault of a save.
 void frmAddUpDel::refuse_Date()
 {
-    conventions::MsgBox(
-        "Invalid Purchase Date...Be Sure The Format Is mm/dd/yyyy (Example: 12/25/2005)", forms::box::Exclamation);
+    conventions::MsgBox(asset_rules::InvalidDate, forms::box::Exclamation);
     txtPur.setFocus();
     InputBad = true;
 }
@@ -148,7 +89,7 @@ void frmAddUpDel::save_It()
 void frmAddUpDel::store_Asset()
 {
     add_Asset_Row();
-    move_Asset_Value({}, values::Currency::parse(txtPPrice.text()));
+    asset_rules::moveAssetValue(Data1.rsGeneral, {}, values::Currency::parse(txtPPrice.text()));
     add_To_Item_List();
     if (!ways::frmMain().FromResults)
         tell_And_Go_On();
@@ -160,8 +101,7 @@ void frmAddUpDel::add_Asset_Row()
     assets.AddNew();
     put_Fields(assets);
     assets.Fields(Inventory::Purchased) = optPurNewUsed[0].value() ? "New" : "Used";
-    for (const Inventory::Column column : warrantyColumns)
-        assets.Fields(column) = "None";
+    asset_rules::putNoWarranty(assets);
     assets.Update();
 }
 
@@ -177,13 +117,6 @@ void frmAddUpDel::put_Fields(storage::TableView& row)
     row.Fields(Inventory::Description) = txtDescription.text();
 }
 
-void frmAddUpDel::move_Asset_Value(values::Currency less, values::Currency more)
-{
-    auto& general = Data1.rsGeneral;
-    general.Fields(General::AssetValue) = general.Fields(General::AssetValue).currency() - less + more;
-    general.Update();
-}
-
 void frmAddUpDel::add_To_Item_List()
 {
     LocIsNew = CatIsNew = ItemIsNew = true;
@@ -191,13 +124,7 @@ void frmAddUpDel::add_To_Item_List()
     // A table without rows learns nothing.
     if (!area || area->nameTable().RecordCount() == 0 || names_Are_Known(area->nameTable()))
         return;
-    auto& table = area->nameTable();
-    table.AddNew();
-    table.Fields(Names::Location) = cmbLoc.text();
-    table.Fields(Names::Category) = cmbCat.text();
-    table.Fields(Names::Type) = cmbType.text();
-    table.Fields(Names::Standard) = names::Blank;
-    table.Update();
+    asset_rules::addNames(area->nameTable(), cmbLoc.text(), cmbCat.text(), cmbType.text());
     if (area->preparesBeforeTelling && chkClear.value() == 1)
         load_Add_Mode();
 }
