@@ -64,6 +64,10 @@ Household::Household(const QString& file, FileReader::Locks locks)
         tables_.push_back(orUnreadable(QStringLiteral("Another version"), [&] { return reader.rows(*table); }));
     if (this->table("Personal_Info").rowCount() == 0)
         throw UnreadableHousehold(QStringLiteral("Another version"), QStringLiteral("it holds no household"));
+    orUnreadable(QStringLiteral("Damaged"), [&] {
+        generation_ = reader.generation();
+        lastAsset_ = reader.lastNumber(this->table("Inventory").definition());
+    });
     total_ = proofs::sumOf(this->table("Inventory"));
 }
 

@@ -33,6 +33,10 @@ public:
 
     storage::JournalBeside journal() const { return journal_; }
 
+    /// The number of the last transaction stored in the file, and of the last asset that it has given one.
+    qint64 generation() const { return generation_; }
+    qint64 lastAsset() const { return lastAsset_; }
+
     int assets() const;
 
     /// The sum of all amounts that can be read; nothing where it goes beyond what an amount can be.
@@ -45,6 +49,8 @@ private:
     std::vector<storage::Snapshot> tables_;
     storage::JournalBeside journal_ = storage::JournalBeside::None;
     std::optional<values::Currency> total_;
+    qint64 generation_ = 0;
+    qint64 lastAsset_ = 0;
 };
 
 /// "1 asset", "2 assets"
