@@ -27,11 +27,6 @@ const QString SchemaFile = QStringLiteral("kestrill.schema.json");
 const QString ReadmeFile = QStringLiteral("README.txt");
 constexpr int RowsBetweenTellings = 256;
 
-QString csvFileOf(const storage::TableDefinition& table)
-{
-    return QString::fromUtf8(table.name) + QStringLiteral(".csv");
-}
-
 // One export under way: what is written so far, of what all there is.
 class Export {
 public:
@@ -233,6 +228,11 @@ void writeBelow(const Household& household, const QString& path, const QString& 
 }
 
 } // namespace
+
+QString csvFileOf(const storage::TableDefinition& table)
+{
+    return QString::fromUtf8(table.name) + QStringLiteral(".csv");
+}
 
 QStringList fileNames()
 {

@@ -27,7 +27,8 @@ bool isFormerExport(const QString& folder);
 /// A folder below another one that nobody has yet, with the day in its name.
 QString freshFolderIn(const QString& folder);
 
-/// The names of the files of an export.
+/// The names of the files of an export, and of that of a table.
 QStringList fileNames();
+QString csvFileOf(const storage::TableDefinition& table);
 
 } // namespace exporting

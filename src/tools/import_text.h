@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+namespace importing {
+
+/// How the bytes of a file make a text.
+enum class Encoding { Utf8, Utf16, Windows1252 };
+
+QString nameOf(Encoding encoding);
+
+/// The largest file that is read: many times what the largest household needs.
+inline constexpr qint64 LargestFile = qint64{128} << 20;
+
+/// The bytes of a file. Nothing but a regular one is opened, and none that is larger. Failures: Refusal.
+std::string bytesOfFile(const QString& path);
+
+/// A text as UTF-8, without a mark of the byte order, and what it was before.
+struct Text {
+    std::string utf8;
+    Encoding encoding = Encoding::Utf8;
+};
+
+/// Makes text of bytes. Failures: Refusal, where they are none: a picture, a spreadsheet program's own file.
+Text textOf(std::string bytes, const QString& path);
+
+/// Whether bytes are UTF-8 throughout.
+bool isUtf8(std::string_view bytes);
+
+} // namespace importing
