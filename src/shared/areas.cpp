@@ -37,6 +37,11 @@ const Area& orMobile(const Area* area)
 
 } // namespace
 
+std::span<const Area> all()
+{
+    return table();
+}
+
 const Area& ofMenuTitle(const QString& title)
 {
     return orMobile(first([&title](const Area& area) { return area.menuTitle == title; }));

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <span>
+
 /// The three areas in which a household keeps its assets, and what differs between them.
 namespace areas {
 
@@ -19,6 +21,9 @@ struct Area {
 
     storage::TableView& nameTable() const { return Data1.*names; }
 };
+
+/// All three, in the order of the main menu.
+std::span<const Area> all();
 
 /// The area of a title; Mobile for any title but the other two.
 const Area& ofMenuTitle(const QString& title);

@@ -8,6 +8,7 @@ namespace commands {
 
 int restore(const QStringList& arguments);
 int exportAll(const QStringList& arguments);
+int importAll(const QStringList& arguments);
 int check(const QStringList& arguments);
 
 } // namespace commands

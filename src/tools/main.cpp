@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One program with several names: kestrill-restore, kestrill-export and kestrill-check, each a link to it.
+// One program with several names: kestrill-restore, kestrill-export, kestrill-import and kestrill-check, each a
+// link to it.
 #include "platform/values/file_name.h"
 #include "tools/commands.h"
 #include "tools/exit_codes.h"
@@ -21,6 +22,7 @@ struct Tool {
 constexpr Tool tools[] = {
     {"kestrill-restore", commands::restore, windows::restore},
     {"kestrill-export", commands::exportAll, windows::exportAll},
+    {"kestrill-import", commands::importAll, nullptr},
     {"kestrill-check", commands::check, nullptr},
 };
 
@@ -52,7 +54,8 @@ int runCalled(int& argc, char* argv[])
     const auto* tool =
         std::find_if(std::begin(tools), std::end(tools), [&](const Tool& each) { return name == each.name; });
     if (tool == std::end(tools)) {
-        terminal::complain(QStringLiteral("Call it as kestrill-restore, kestrill-export or kestrill-check."));
+        terminal::complain(
+            QStringLiteral("Call it as kestrill-restore, kestrill-export, kestrill-import or kestrill-check."));
         return exit_code::Usage;
     }
     if (argc == 1 && tool->window && isDisplayThere())

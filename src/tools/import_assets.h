@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tools/import_plan.h"
+
+namespace importing {
+
+/// Makes assets of the rows of a source, by the rules of the asset screen.
+class AssetRows {
+public:
+    AssetRows(const Source& source, const Choices& choices);
+
+    /// The asset of a row; what is wrong with it is added to the reasons.
+    Asset assetOf(const Row& row, QStringList& reasons) const;
+
+    /// Tells a plan how rows are read, as far as a user should know it.
+    void describe(Plan& plan) const;
+
+private:
+    Asset fromTable(const Row& row, QStringList& reasons) const;
+    void takeCell(const Row& row, std::size_t at, Asset& asset, QStringList& reasons) const;
+    void fillIn(Asset& asset) const;
+    void readTyped(Asset& asset, QStringList& reasons) const;
+    void readDate(QString& text, QStringList& reasons) const;
+    void limit(Asset& asset, QStringList& reasons) const;
+    QStringList columnOf(Inventory::Column column) const;
+
+    const Source& source_;
+    const Choices& choices_;
+    std::vector<Target> targets_;
+    DateReader dates_;
+    AmountReader amounts_;
+};
+
+} // namespace importing
