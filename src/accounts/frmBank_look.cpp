@@ -15,6 +15,7 @@ constexpr int LongestEntry = 254;
 constexpr int LongestType = 255;
 constexpr int EntryWidth = 60; // characters
 constexpr int ShortWidth = 18;
+constexpr int LeastWidth = 12;
 
 // No frame, which a screen reader would tell of.
 QWidget* separator(frmBank& form)
@@ -98,8 +99,8 @@ void frmBank::lookOfEntries()
 void frmBank::lookOfButtons()
 {
     forms::look::configure({
-        {cmdPrevious, 13, "<= &Previous", " Click Here To Go To The Previous Financial Account ", "previous"},
-        {cmdNext, 14, "&Next =>", " Click Here To Go To The Next Financial Account ", "next"},
+        {cmdPrevious, 13, "<= &Previous", " Click Here To Go To The Previous Financial Account ", nullptr},
+        {cmdNext, 14, "&Next =>", " Click Here To Go To The Next Financial Account ", nullptr},
         {cmdBack, 15, "&Cancel", " Click Here To Return To Previous Window ", "cancel"},
         {cmdState, 16, "&Add New Account", "", "plus"}, // until the menu says what it does
     });
@@ -128,8 +129,8 @@ void frmBank::answer()
 
 void frmBank::layOut()
 {
-    txtBalance.setWidthInCharacters(ShortWidth);
-    txtDate.setWidthInCharacters(ShortWidth);
+    txtBalance.setWidthInCharacters(ShortWidth, LeastWidth);
+    txtDate.setWidthInCharacters(ShortWidth, LeastWidth);
     forms::look::FieldRows rows;
     rows.wideRow(lblHead[1], {&txtAddress});
     rows.wideRow(lblHead[7], {&txtCity, &lblSubhead[4], &cmbState});
@@ -139,7 +140,7 @@ void frmBank::layOut()
     rows.wideRow(lblHead[3], {&txtAccount});
     rows.wideRow(lblHead[4], {&txtRoute});
     rows.row(lblHead[5], {&txtBalance, &lblChoice[6], &txtDate, &picDate});
-    rows.layout()->setColumnMinimumWidth(1, forms::look::fieldWidth(EntryWidth));
+    rows.setWidthInCharacters(EntryWidth);
     lblSubhead[4].nameFor(cmbState);
     lblChoice[6].nameFor(txtDate);
 
@@ -149,8 +150,7 @@ void frmBank::layOut()
     page.add(rows.layout());
     page.column()->addWidget(separator(*this));
     page.add(stepsOrRequest(*this));
-    page.buttons({&cmdBack, &cmdState});
-    forms::look::equalWidths({&cmdPrevious, &cmdNext, &cmdBack, &cmdState});
+    page.buttons({&cmdState, &cmdBack});
+    forms::look::equalWidths({&cmdPrevious, &cmdNext, &cmdState, &cmdBack});
     page.foot(&lblSelIn, &lblCopyright);
-    forms::look::mainAction(cmdState);
 }

@@ -48,6 +48,7 @@ void frmEditBankBoxes::optEdit_Click(int Index)
     auto& account = screen<frmBank>();
     account.cmdState.setCaption(modes[Index].caption);
     account.cmdState.setIcon(modes[Index].icon);
+    account.cmdState.setDestructive(Index == Delete);
     AccountMode = Index;
     account.picDate.setEnabled(Index != Delete);
 }

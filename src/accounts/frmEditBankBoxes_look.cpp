@@ -5,10 +5,10 @@ frmEditBankBoxes::frmEditBankBoxes()
     : AccountMenu("frmEditBankBoxes", 15,
         {"Add/Edit Financial Account",
             {
-                {"&Add", " Select This Option To Add A Financial Account, Then Select Continue "},
-                {"&View / Update",
+                {"&Add", "plus", " Select This Option To Add A Financial Account, Then Select Continue "},
+                {"&View / Update", "pencil",
                     " Select This Option To View or Update An Existing Financial Account, Then Select Continue "},
-                {"&Delete",
+                {"&Delete", "trash",
                     " Select This Option To Delete A Financial Account You No Longer Have Or Want, Then Select "
                     "Continue "},
             },

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int FieldWidth = 32; // characters
+constexpr int LeastWidth = 18;
 constexpr int OwnHelp = 12001; // of what keeps its number in all areas
 constexpr int FirstYear = 1950;
 constexpr int LastYear = 2050;
@@ -77,21 +78,24 @@ QLayout* purchaseColumn(frmAddUpDel& screen)
     return column;
 }
 
+// All of equal width, in two halves.
 QLayout* buttonGrid(frmAddUpDel& screen)
 {
-    forms::CommandButton* const rows[][4] = {
-        {&screen.cmdWarranty, &screen.cmdAdd, &screen.cmdUpdate, &screen.cmdDelete},
-        {&screen.cmdCancel, &screen.cmdMain, &screen.cmdClear, &screen.cmdPrint}};
-    auto* grid = new QGridLayout;
-    grid->setSpacing(forms::look::grid(1));
-    for (int row = 0; row < 2; ++row) {
-        for (int column = 0; column < 4; ++column) {
-            grid->addWidget(rows[row][column]->widget(), row, column);
+    forms::CommandButton* const halves[][2][2] = {
+        {{&screen.cmdAdd, &screen.cmdUpdate}, {&screen.cmdPrint, &screen.cmdClear}},
+        {{&screen.cmdDelete, &screen.cmdWarranty}, {&screen.cmdCancel, &screen.cmdMain}}};
+    auto* both = forms::look::besideOrBelow(forms::look::grid(1));
+    for (const auto& half : halves) {
+        auto* grid = new QGridLayout;
+        grid->setSpacing(forms::look::grid(1));
+        for (int column = 0; column < 2; ++column) {
+            for (int row = 0; row < 2; ++row)
+                grid->addWidget(half[row][column]->widget(), row, column);
             grid->setColumnStretch(column, 1);
         }
-        forms::look::equalWidths({rows[row][0], rows[row][1], rows[row][2], rows[row][3]});
+        both->addLayout(grid, 1);
     }
-    return grid;
+    return both;
 }
 
 } // namespace
@@ -230,24 +234,21 @@ void frmAddUpDel::answerButtons()
 void frmAddUpDel::layOut()
 {
     for (forms::ComboBox* box : {&cmbArea, &cmbLoc, &cmbCat, &cmbType, &cmbYear})
-        box->setWidthInCharacters(FieldWidth);
+        box->setWidthInCharacters(FieldWidth, LeastWidth);
     for (forms::TextBox* box : {&txtMake, &txtMod, &txtSerial, &txtPPrice, &txtLoc})
-        box->setWidthInCharacters(FieldWidth);
-    txtPur.setWidthInCharacters(FieldWidth / 2);
-    txtDescription.setSizeInCharacters(FieldWidth, 3);
+        box->setWidthInCharacters(FieldWidth, LeastWidth);
+    txtPur.setWidthInCharacters(FieldWidth / 2, LeastWidth * 2 / 3);
+    txtDescription.setSizeInCharacters(FieldWidth, 3, LeastWidth);
 
-    auto* fields = new QHBoxLayout;
-    fields->setSpacing(forms::look::grid(4));
+    auto* fields = forms::look::besideOrBelow(forms::look::grid(4));
     fields->addLayout(assetColumn(*this));
     fields->addLayout(purchaseColumn(*this), 1);
-    auto* boxes = new QHBoxLayout;
-    boxes->setSpacing(forms::look::grid(4));
+    auto* boxes = forms::look::besideOrBelow(forms::look::grid(4));
     boxes->addWidget(chkWar.widget());
     boxes->addWidget(chkClear.widget());
     boxes->addStretch();
 
-    forms::look::mainAction(cmdAdd);
-    forms::look::mainAction(cmdUpdate);
+    cmdDelete.setDestructive(true);
     forms::look::Page page(*this);
     page.title(lblHead);
     page.add(fields);

@@ -130,17 +130,17 @@ void frmWar::answer(const Expiry& end)
 void frmWar::size()
 {
     for (forms::ComboBox* box : {&cmbParts, &cmbLabor})
-        box->setWidthInCharacters(14);
+        box->setWidthInCharacters(14, 10);
     for (forms::TextBox* box : {&txtPAmt, &txtLAmt})
-        box->setWidthInCharacters(14);
+        box->setWidthInCharacters(14, 9);
     for (forms::TextBox* box : {&txtPCover, &txtLCover})
-        box->setWidthInCharacters(6);
+        box->setWidthInCharacters(6, 4);
     for (const Expiry& end : expiries_) {
         end.month.setWidthInCharacters(6);
         end.day.setWidthInCharacters(5);
         end.year.setWidthInCharacters(7);
     }
-    txtDescription.setSizeInCharacters(50, 5);
+    txtDescription.setSizeInCharacters(50, 5, 20);
     txtDescription.widget()->setMaximumWidth(QWIDGETSIZE_MAX); // as wide as the table above it
 }
 
@@ -194,7 +194,7 @@ void frmWar::layOut()
     page.add(table());
     page.space(1);
     page.instruction(lblHead[2]);
-    page.buttons({&cmdCancel, &cmdSave});
+    page.buttons({&cmdSave, &cmdCancel});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }

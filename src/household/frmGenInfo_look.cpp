@@ -138,13 +138,12 @@ void frmGenInfo::arrange()
     lblInfo[General::Middle].nameFor(txtInfo[General::Middle]);
     lblInfo[General::ZIP].nameFor(txtInfo[General::ZIP]);
 
-    rows.layout()->setColumnMinimumWidth(1, forms::look::fieldWidth(50));
+    rows.setWidthInCharacters(50);
     rows.gap();
     rows.buttons({&cmdInsInfo, &cmdBank});
     rows.gap();
     rows.words(lblHead[2]);
     rows.buttons({&cmdContinue[0], &cmdBack[0], &cmdExit});
-    forms::look::mainAction(cmdContinue[0]);
 
     forms::look::Page page(*this);
     page.title(lblHead[0]);

@@ -56,8 +56,8 @@ void frmInsInfo::look()
     forms::look::configure(
         {
             {cmdUpdate, 5, "&Update", " Click Here To Update Insurance Information ", "ok", plain},
-            {cmdCancel, 6, "&Cancel", " Click Here To Return To The Personal Information Window ", "cancel", plain},
-            {cmdClear, 7, "Cle&ar", " Click Here To Clear This Form ", "clear", plain},
+            {cmdClear, 6, "Cle&ar", " Click Here To Clear This Form ", "clear", plain},
+            {cmdCancel, 7, "&Cancel", " Click Here To Return To The Personal Information Window ", "cancel", plain},
         },
         HelpNumber);
     picDate.setPicture(":/pictures/calendar.png", "Calendar");
@@ -118,7 +118,7 @@ void frmInsInfo::layOut()
     page.title(lblHead[0]);
     page.add(middle);
     page.space(3);
-    page.buttons({&cmdUpdate, &cmdCancel, &cmdClear});
+    page.buttons({&cmdUpdate, &cmdClear, &cmdCancel});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }

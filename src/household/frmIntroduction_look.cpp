@@ -42,7 +42,7 @@ void frmIntroduction::look()
 
     cmdOK.Click = [this] { cmdOK_Click(); };
     forms::behaviours::pressedColour(cmdOK);
-    forms::look::mainAction(cmdOK);
+    cmdOK.setDefault(true);
     arrange();
 }
 

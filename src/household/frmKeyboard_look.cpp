@@ -14,6 +14,7 @@ void frmKeyboard::look()
     cmdUpdate.setToolTip(" Click Here To Continue ");
     cmdUpdate.setIcon(":/pictures/icons/ok.png");
     cmdUpdate.setTabIndex(0);
+    cmdUpdate.setDefault(true);
     lblCopyright.setCaption(conventions::Footer);
 
     cmdUpdate.Click = [this] { cmdUpdate_Click(); };

@@ -13,6 +13,7 @@ void frmDelField::look()
         {cmbCat, 0, " Select The Item You Want To Be Deleted "},
     });
     editing::lookOf(parts, {cmdUpdate, 1, "&Delete", " Click Here To Delete Selected Item ", "trash"});
+    cmdUpdate.setDestructive(true);
     forms::behaviours::lengthCap(cmbCat, 255);
     cmdUpdate.Click = [this] { cmdUpdate_Click(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };

@@ -5,9 +5,9 @@ frmEditCmbBoxes::frmEditCmbBoxes()
     : OptionMenu("frmEditCmbBoxes", 12,
         {"Add/Edit Location",
             {
-                {"&Add", " Select This Option To Add An Item To List, Then Select Continue "},
-                {"C&hange", " Select This Option To Change A Name Currently In List, Then Select Continue "},
-                {"&Delete", " Select This Option To Delete A Name Currently In List, Then Select Continue "},
+                {"&Add", "plus", " Select This Option To Add An Item To List, Then Select Continue "},
+                {"C&hange", "pencil", " Select This Option To Change A Name Currently In List, Then Select Continue "},
+                {"&Delete", "trash", " Select This Option To Delete A Name Currently In List, Then Select Continue "},
             },
             " Click Here To Add, Change Or Delete ", " Click Here To Return To Previous Window ", 0})
 {

@@ -17,19 +17,20 @@ struct ColumnLook {
     const char* name; // as it is read out
     int header; // of lblSubHead; none below 0
     int width; // characters
+    int least; // where the desktop has no room for more
     forms::Alignment alignment;
 };
 
 // From left to right. Numbers stand on the right, where they can be compared.
 constexpr ColumnLook columnLooks[] = {
-    {&frmSearchResults::txtMore, "Update", -1, 6, forms::Alignment::Centre},
-    {&frmSearchResults::txtItem, "Item", 0, 5, forms::Alignment::Right},
-    {&frmSearchResults::txtArea, "Area", 1, 7, forms::Alignment::Left},
-    {&frmSearchResults::txtLocation, "Location", 2, 14, forms::Alignment::Left},
-    {&frmSearchResults::txtType, "Asset", 3, 16, forms::Alignment::Left},
-    {&frmSearchResults::txtYear, "Year", 4, 6, forms::Alignment::Right},
-    {&frmSearchResults::txtMake, "Make", 5, 13, forms::Alignment::Left},
-    {&frmSearchResults::txtModel, "Model", 6, 13, forms::Alignment::Left},
+    {&frmSearchResults::txtMore, "Update", -1, 6, 6, forms::Alignment::Centre},
+    {&frmSearchResults::txtItem, "Item", 0, 5, 5, forms::Alignment::Right},
+    {&frmSearchResults::txtArea, "Area", 1, 7, 7, forms::Alignment::Left},
+    {&frmSearchResults::txtLocation, "Location", 2, 14, 8, forms::Alignment::Left},
+    {&frmSearchResults::txtType, "Asset", 3, 16, 9, forms::Alignment::Left},
+    {&frmSearchResults::txtYear, "Year", 4, 6, 6, forms::Alignment::Right},
+    {&frmSearchResults::txtMake, "Make", 5, 13, 7, forms::Alignment::Left},
+    {&frmSearchResults::txtModel, "Model", 6, 13, 7, forms::Alignment::Left},
 };
 
 constexpr frmSearchResults::ResultColumn frmSearchResults::*longTexts[] = {&frmSearchResults::txtArea,
@@ -91,10 +92,10 @@ void frmSearchResults::look()
     lblCopyright.setCaption(conventions::Footer);
     forms::look::configure(
         {
-            {cmdPrevious, 0, "<= Pre&vious", " Click Here To Go To Previous Page ", "previous"},
-            {cmdNext, 1, "&Next =>", " Click Here To Go To Next Page ", "next"},
-            {cmdBack, 2, "New &Search", " Click Here To Return To Previous Window ", "magnifier"},
-            {cmdPrint, 3, "&Print Results", " Click Here To Print All Of The Assets From This Search ", "printer"},
+            {cmdPrevious, 0, "<= Pre&vious", " Click Here To Go To Previous Page ", nullptr},
+            {cmdNext, 1, "&Next =>", " Click Here To Go To Next Page ", nullptr},
+            {cmdPrint, 2, "&Print Results", " Click Here To Print All Of The Assets From This Search ", "printer"},
+            {cmdBack, 3, "New &Search", " Click Here To Return To Previous Window ", "magnifier"},
             {cmdMain, 4, "&Main Menu", " Click Here To Return To Main Menu ", "back"},
         },
         HelpNumber);
@@ -141,7 +142,7 @@ void frmSearchResults::lookOfRows()
             box.setLocked(true);
             box.setBackColour(LightGrey);
             box.setAlignment(look.alignment);
-            box.setWidthInCharacters(look.width);
+            box.setWidthInCharacters(look.width, look.least);
             box.setSpokenName(QStringLiteral("%1, row %2").arg(look.name).arg(row + 1));
             box.setVisible(false);
             forms::look::keepPlace(box);
@@ -184,7 +185,7 @@ void frmSearchResults::layOut()
     page.add(counts);
     page.add(resultGrid(*this));
     page.space(1);
-    page.buttons({&cmdPrevious, &cmdNext, &cmdBack, &cmdPrint, &cmdMain});
+    page.buttons({&cmdPrevious, &cmdNext, &cmdPrint, &cmdBack, &cmdMain});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }

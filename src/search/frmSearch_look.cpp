@@ -12,23 +12,14 @@
 namespace {
 
 constexpr int HelpNumber = 4001;
-constexpr int WordWidth = 56; // characters
-constexpr int ListWidth = 36;
-
-QLayout* centred(QLayout* inner)
-{
-    auto* line = new QHBoxLayout;
-    line->addStretch();
-    line->addLayout(inner);
-    line->addStretch();
-    return line;
-}
+constexpr int FieldWidth = 48; // characters
+constexpr int LeastWidth = 24;
 
 // The bar and the line of text share one spot, of which nothing moves when they change places.
 QLayout* oneSpot(forms::Label& words, forms::ProgressBar& bar)
 {
     auto* spot = new QGridLayout;
-    bar.widget()->setFixedWidth(forms::look::fieldWidth(ListWidth));
+    bar.widget()->setFixedWidth(forms::look::fieldWidth(LeastWidth));
     spot->addWidget(words.widget(), 0, 0, Qt::AlignCenter);
     spot->addWidget(bar.widget(), 0, 0, Qt::AlignCenter);
     spot->setRowMinimumHeight(0, std::max(words.widget()->sizeHint().height(), bar.widget()->sizeHint().height()));
@@ -98,33 +89,30 @@ void frmSearch::answer()
 
 void frmSearch::layOut()
 {
-    txtKey.setWidthInCharacters(WordWidth);
+    txtKey.setWidthInCharacters(FieldWidth, LeastWidth);
     for (forms::ComboBox* list : {&cmbArea, &cmbLocation, &cmbCat, &cmbType})
-        list->setWidthInCharacters(ListWidth);
-    lblHead[1].setRole(forms::TextRole::Heading);
-    lblHead[2].setRole(forms::TextRole::Heading);
+        list->setWidthInCharacters(FieldWidth, LeastWidth);
     lblHead[2].nameFor(txtKey);
     lblHead[3].setRole(forms::TextRole::Instruction);
     lblHead[4].setRole(forms::TextRole::Hint);
 
-    forms::look::FieldRows lists;
-    lists.row(lblArea, {&cmbArea});
-    lists.row(lblLocation, {&cmbLocation});
-    lists.row(lblCat, {&cmbCat});
-    lists.row(lblType, {&cmbType});
+    forms::look::FieldRows fields;
+    fields.heading(lblHead[2]);
+    fields.below(txtKey);
+    fields.below(lblHead[4]);
+    fields.heading(lblHead[1]);
+    fields.row(lblArea, {&cmbArea});
+    fields.row(lblLocation, {&cmbLocation});
+    fields.row(lblCat, {&cmbCat});
+    fields.row(lblType, {&cmbType});
 
     forms::look::Page page(*this);
     page.title(lblHead[0]);
-    page.space(1);
-    page.add(lblHead[2]);
-    page.add(txtKey);
-    page.add(lblHead[4]);
-    page.add(lblHead[1]);
-    page.add(centred(lists.layout()));
+    page.add(fields.layout());
     page.space(1);
     page.add(oneSpot(lblHead[3], pbSearch));
     page.space(1);
-    page.buttons({&cmdBack, &cmdClearForm, &cmdContinue});
+    page.buttons({&cmdContinue, &cmdClearForm, &cmdBack});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }

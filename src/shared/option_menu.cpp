@@ -4,13 +4,7 @@
 #include "platform/forms/look.h"
 #include "shared/conventions.h"
 
-#include <QVBoxLayout>
-
-namespace {
-
-constexpr int Width = 50; // characters
-
-} // namespace
+#include <QGridLayout>
 
 OptionMenu::OptionMenu(const QString& name, int number, const MenuLook& look)
     : NumberedScreen(name, number)
@@ -31,26 +25,22 @@ OptionMenu::OptionMenu(const QString& name, int number, const MenuLook& look)
             {cmdCancel, 4, "&Cancel", look.tipOfCancel, "cancel"},
         },
         look.helpNumber);
-    layOut();
+    layOut(look);
 }
 
-void OptionMenu::layOut()
+void OptionMenu::layOut(const MenuLook& look)
 {
-    auto* options = new QVBoxLayout;
-    options->setContentsMargins(forms::look::grid(4), 0, 0, 0);
-    options->setSpacing(forms::look::grid(1));
+    forms::look::Choices options;
     for (int Index = 0; Index < optEdit.count(); ++Index)
-        options->addWidget(optEdit[Index].widget(), 0, Qt::AlignLeft);
+        options.add(optEdit[Index], look.options[Index].icon);
 
     forms::look::Page page(*this);
-    page.column()->addStrut(forms::look::fieldWidth(Width));
     page.title(lblHead);
-    page.space(1);
     page.instruction(lblHead2);
-    page.add(options);
-    page.space(1);
+    page.add(options.layout());
+    page.space(2);
     page.instruction(lblHead3);
-    page.buttons({&cmdUpdate, &cmdCancel});
+    page.wideButtons({&cmdUpdate, &cmdCancel});
     page.space(1);
     page.foot(&lblSelIn, &lblCopyright);
 }

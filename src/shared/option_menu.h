@@ -19,6 +19,7 @@ public:
 protected:
     struct OptionLook {
         const char* caption;
+        const char* icon;
         const char* toolTip;
     };
 
@@ -33,5 +34,5 @@ protected:
     OptionMenu(const QString& name, int number, const MenuLook& look);
 
 private:
-    void layOut();
+    void layOut(const MenuLook& look);
 };

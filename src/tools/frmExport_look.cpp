@@ -24,7 +24,7 @@ void frmExport::look()
         {cmdChoose, 0, "Choose &Folder...", " Click Here To Choose Where The Folder Is Made ", "save"},
         {cmdClose, 1, "&Close", " Click Here To Close This Window ", "exit"},
     });
-    forms::look::mainAction(cmdChoose);
+    cmdChoose.setDefault(true);
     cmdChoose.Click = [this] { cmdChoose_Click(); };
     cmdClose.Click = [this] { close(); };
     tmStart.Timer = [this] { tmStart_Timer(); };

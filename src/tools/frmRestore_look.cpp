@@ -10,6 +10,7 @@ namespace {
 
 constexpr int LineLength = 74; // characters
 constexpr int RowsInSight = 10;
+constexpr int LeastRows = 4;
 
 } // namespace
 
@@ -28,13 +29,12 @@ void frmRestore::look()
         backups::headings(), {"12/30/2026 12:30 PM", "Earlier close", "32,000", "$1,000,000.00", "Damaged or foreign"});
     lstBackups.alignRight(2);
     lstBackups.alignRight(3);
-    lstBackups.setRows(RowsInSight);
+    lstBackups.setRows(RowsInSight, LeastRows);
     forms::look::configure({{lstBackups, 0, " Choose The Backup To Go Back To "}});
     forms::look::configure({
         {cmdRestore, 1, "&Restore...", " Click Here To Go Back To The Chosen Backup ", "reset"},
         {cmdClose, 2, "&Close", " Click Here To Leave Everything As It Is ", "exit"},
     });
-    forms::look::mainAction(cmdRestore);
     cmdRestore.setDefault(true);
 
     lstBackups.Click = [this] { lstBackups_Click(); };

@@ -26,13 +26,12 @@ protected:
         click(screen<frmMain>().cmdValue);
     }
 
-    /// How far from the left of the screen the decimal point of an amount stands.
-    static int pointOf(const forms::Label& amount)
+    /// How far from the left of the screen the last digit of a number ends.
+    static int endOf(const forms::Label& number)
     {
-        const auto& label = static_cast<const QLabel&>(*amount.widget());
-        const QString cents = label.text().mid(label.text().indexOf('.'));
-        const QPoint end = label.contentsRect().topRight();
-        return label.mapTo(label.window(), end).x() - label.fontMetrics().horizontalAdvance(cents);
+        const auto& label = static_cast<const QLabel&>(*number.widget());
+        const int overhanging = label.text().endsWith(')') ? label.fontMetrics().horizontalAdvance(')') : 0;
+        return label.mapTo(label.window(), label.contentsRect().topRight()).x() - overhanging;
     }
 };
 
@@ -46,8 +45,9 @@ TEST_F(Totals, AreSummedUpAnewAtEachLookAndComparedWithTheCoverage)
     addAssets(1, "Outdoor", "-$5.00");
     screen<frmMain>().show();
     replay("household/totals.txt");
-    for (const auto* amount : {&screen<frmTotals>().lblOutdoorTots, &screen<frmTotals>().lblGrandTot})
-        EXPECT_EQ(pointOf(*amount), pointOf(screen<frmTotals>().lblIndoorTots));
+    const auto& totals = screen<frmTotals>();
+    for (const auto* number : {&totals.lblOutdoorTots, &totals.lblTotNumAssets, &totals.lblGrandTot})
+        EXPECT_EQ(endOf(*number), endOf(totals.lblIndoorTots));
 }
 
 TEST_F(Totals, EndTheProgramOnACoverageThatIsNoAmountAndOnMoreAssetsThanACountHolds)

@@ -65,7 +65,8 @@ QStringList partsOf(const forms::Control& control)
     const bool mayGiveWay = control.name() == "imgHome"; // where the desktop is small
     const std::pair<const char*, bool> marks[] = {{"on", isOn(control)}, {"locked", entry && entry->isLocked()},
         {"grey", !control.isEnabled()}, {"hidden", !control.isVisible() && !mayGiveWay},
-        {"red", control.backColour() == forms::look::colours().error}, {"default", button && button->isDefault()}};
+        {"red", control.backColour() == forms::look::colours().error}, {"default", button && button->isDefault()},
+        {"destructive", button && button->isDestructive()}};
     QStringList parts(valueOf(control));
     for (const auto& [mark, hasMark] : marks)
         if (hasMark)

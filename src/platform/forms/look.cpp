@@ -155,6 +155,23 @@ void FieldRows::words(Label& label)
     grid_->addWidget(label.widget(), grid_->rowCount(), 0, 1, 2);
 }
 
+void FieldRows::heading(Label& label)
+{
+    label.setRole(TextRole::Heading);
+    below(label);
+}
+
+void FieldRows::below(Control& control)
+{
+    grid_->addWidget(control.widget(), grid_->rowCount(), 1);
+}
+
+// In the first row of the grid, which holds nothing else.
+void FieldRows::setWidthInCharacters(int characters)
+{
+    grid_->addItem(new QSpacerItem(fieldWidth(characters), 0, QSizePolicy::Preferred, QSizePolicy::Minimum), 0, 1);
+}
+
 void FieldRows::gap()
 {
     grid_->setRowMinimumHeight(grid_->rowCount(), look::grid(1));
@@ -167,12 +184,22 @@ Choices::Choices()
     grid_->setVerticalSpacing(grid(3));
 }
 
+namespace {
+
+QAbstractButton& enlarged(const Control& control, const QSize& least)
+{
+    auto& button = *static_cast<QAbstractButton*>(control.widget());
+    button.setFont(fontOf(TextRole::Heading));
+    button.setIconSize(QSize(grid(1), grid(1)) * 7 / 2);
+    button.setMinimumSize(least);
+    return button;
+}
+
+} // namespace
+
 void Choices::add(CommandButton& button, Label& purpose, const QString& words)
 {
-    auto& push = *static_cast<QPushButton*>(button.widget());
-    push.setFont(fontOf(TextRole::Heading));
-    push.setIconSize(QSize(grid(1), grid(1)) * 7 / 2);
-    push.setMinimumSize(grid(18), grid(7));
+    QAbstractButton& push = enlarged(button, {grid(18), grid(7)});
     purpose.setCaption(words);
     purpose.setRole(TextRole::Instruction);
     purpose.wrapAt(36);
@@ -181,9 +208,21 @@ void Choices::add(CommandButton& button, Label& purpose, const QString& words)
     grid_->addWidget(purpose.widget(), row, 1, Qt::AlignVCenter);
 }
 
-void mainAction(CommandButton& button)
+void Choices::add(OptionButton& option, const QString& icon)
 {
-    button.widget()->setProperty(mainActionProperty, true);
+    QAbstractButton& card = enlarged(option, {grid(36), grid(6)});
+    card.setProperty(choiceProperty, true);
+    giveIcon(card, icon);
+    grid_->setVerticalSpacing(grid(3) / 2);
+    grid_->addWidget(&card, grid_->rowCount(), 0);
+}
+
+QBoxLayout* besideOrBelow(int gap)
+{
+    auto* pair = new QHBoxLayout;
+    pair->setSpacing(gap);
+    pair->setProperty(pairProperty, true);
+    return pair;
 }
 
 QLayout* sideBySide(std::initializer_list<Control*> controls)
@@ -202,7 +241,8 @@ void configure(std::initializer_list<ButtonLook> buttons, int helpNumber)
         look.button.setTabIndex(look.tabIndex);
         look.button.setCaption(look.caption);
         look.button.setToolTip(look.toolTip);
-        look.button.setIcon(buttonIcon(look.icon));
+        if (look.icon)
+            giveIcon(static_cast<QAbstractButton&>(*look.button.widget()), look.icon);
         look.button.setHelpNumber(helpNumber);
         if (look.pressed == PressedLook::Shown)
             behaviours::pressedColour(look.button);
@@ -218,6 +258,12 @@ void configure(std::initializer_list<FieldLook> fields, int helpNumber)
         if (look.maxLength > 0)
             dynamic_cast<TextEntry&>(look.control).setMaxLength(look.maxLength);
     }
+}
+
+void giveIcon(QAbstractButton& button, const QString& name)
+{
+    button.setIcon(buttonIcon(name));
+    button.setLayoutDirection(name == QLatin1String("next") ? Qt::RightToLeft : Qt::LeftToRight);
 }
 
 // A list is known by the label that belongs to it and by nothing else, be it one that nobody sees.

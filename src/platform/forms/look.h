@@ -8,12 +8,15 @@
 
 #include <initializer_list>
 
+class QAbstractButton;
+class QBoxLayout;
 class QLayout;
 class QVBoxLayout;
 
 namespace forms {
 class CommandButton;
-}
+class OptionButton;
+} // namespace forms
 
 /// The pieces that screens are laid out with.
 namespace forms::look {
@@ -66,9 +69,16 @@ public:
     /// A row whose controls go to the right edge: a box without a width of its own takes what the others leave.
     void wideRow(Label& label, std::initializer_list<Control*> controls);
 
-    /// Buttons of equal width across the boxes, and words across the whole row.
+    /// Buttons of equal width across the boxes, words across the whole row, and a heading above the boxes.
     void buttons(std::initializer_list<CommandButton*> row);
     void words(Label& label);
+    void heading(Label& label);
+
+    /// A control that stands at the edge of the boxes without a label beside it.
+    void below(Control& control);
+
+    /// How wide the boxes are together, in characters, where the desktop has room for them.
+    void setWidthInCharacters(int characters);
 
     /// Half a row of room before the next one.
     void gap();
@@ -81,12 +91,13 @@ private:
     QGridLayout* grid_;
 };
 
-/// Large buttons below each other, each with what it is for beside it: the choices of a menu.
+/// Large buttons below each other, each with what it is for beside it, or large options: the choices of a menu.
 class Choices {
 public:
     Choices();
 
     void add(CommandButton& button, Label& purpose, const QString& words);
+    void add(OptionButton& option, const QString& icon);
 
     QGridLayout* layout() const { return grid_; }
 
@@ -94,8 +105,8 @@ private:
     QGridLayout* grid_;
 };
 
-/// Marks the button that does what the screen is for: it is filled with the accent.
-void mainAction(CommandButton& button);
+/// Two parts side by side or, where the desktop is too narrow for that, the second below the first.
+QBoxLayout* besideOrBelow(int gap);
 
 /// Whether the mouse gives a button the pressed colour and takes it away again.
 enum class PressedLook { Shown, None };
@@ -106,7 +117,7 @@ struct ButtonLook {
     int tabIndex;
     const char* caption;
     const char* toolTip;
-    const char* icon; ///< a picture of the resource folder of icons, by its name without ending
+    const char* icon; ///< a picture of the resource folder of icons, by its name without ending; null for none
     PressedLook pressed = PressedLook::Shown;
 };
 
@@ -123,6 +134,9 @@ struct FieldLook {
 
 /// Gives each control what its line says, and all of them the help number unless it is 0.
 void configure(std::initializer_list<FieldLook> fields, int helpNumber = 0);
+
+/// Gives a button a picture of the resource folder of icons, which stands on the side to which it points.
+void giveIcon(QAbstractButton& button, const QString& name);
 
 /// Names a box for assistive tools where no label stands before it.
 void nameForTools(QWidget& box, const QString& name);

@@ -11,7 +11,8 @@ namespace help::parts {
 
 QPushButton* button(QWidget& parent, const ButtonLook& look)
 {
-    auto* made = new QPushButton(forms::look::buttonIcon(look.icon), QString::fromLatin1(look.caption), &parent);
+    auto* made = new QPushButton(QString::fromLatin1(look.caption), &parent);
+    forms::look::giveIcon(*made, QString::fromLatin1(look.icon));
     const QByteArray words = QByteArray(look.toolTip).split('(').first().trimmed();
     name(*made, look.name, words.constData(), look.toolTip);
     return made;

@@ -70,6 +70,10 @@ void expectWholeText(const QLabel& words, const QString& text)
     const QRect needed = metrics.boundingRect(QRect(0, 0, place.width(), 0), Qt::TextWordWrap, text);
     EXPECT_TRUE(needed.width() <= place.width() && needed.height() <= place.height()) << text.toStdString();
     EXPECT_LE(place.width(), metrics.averageCharWidth() * 62) << "lines too long to read";
+    const QRect narrower(0, 0, place.width() - metrics.averageCharWidth(), 0);
+    const QRect inNarrower = metrics.boundingRect(narrower, Qt::TextWordWrap, text);
+    EXPECT_TRUE(inNarrower.height() > needed.height() || inNarrower.width() > narrower.width())
+        << "a last line is shorter than it has to be: " << text.toStdString();
     EXPECT_TRUE(words.window()->rect().contains(words.geometry())) << text.toStdString();
 }
 
@@ -189,6 +193,38 @@ TEST_F(Looks, AScreenLargerThanTheDesktopShrinksItsPicturesThenItsGapsThenScroll
     EXPECT_EQ(shown({0, 900}), "picture 0, gap 0.5, cut 1 1, bars 1 1");
     EXPECT_EQ(shown({-100, 900}), "picture 0, gap 0.5, cut 0 1, bars 1 0");
     EXPECT_EQ(shown({900, -300}), "picture 0, gap 0.5, cut 1 0, bars 0 1");
+}
+
+TEST_F(Looks, BoxesGiveUpWidthAndPairsGoBelowEachOtherBeforeAnythingIsCutAtTheSide)
+{
+    settle();
+    const QString words = "Words that have all the room";
+    const auto shown = [&](int characters, int least) {
+        TrialForm wide(journal, "Wide");
+        auto* pair = look::besideOrBelow(look::grid(1));
+        for (forms::Control* each : wide.controls())
+            each->setVisible(each == &wide.line || each == &wide.combo || each == &wide.ok);
+        wide.line.setWidthInCharacters(characters, least);
+        wide.combo.setWidthInCharacters(characters, least);
+        wide.line.setElided(true);
+        wide.line.setText(words);
+        pair->addWidget(wide.line.widget());
+        pair->addWidget(wide.combo.widget());
+        qobject_cast<QVBoxLayout*>(wide.canvas()->layout())->insertLayout(0, pair);
+        wide.show();
+        settle();
+        const QWidget& line = *wide.line.widget();
+        EXPECT_NEAR(line.width(), wide.combo.widget()->width(), 1);
+        return QString("%1, %2, cut %3, tip %4")
+            .arg(line.width() == look::fieldWidth(characters) ? "whole" : "narrow",
+                line.y() == wide.combo.widget()->y() ? "beside" : "below")
+            .arg(wide.canvas()->width() > wide.canvas()->parentWidget()->width())
+            .arg(wide.line.toolTip());
+    };
+    EXPECT_EQ(shown(30, 10), "whole, beside, cut 0, tip ");
+    EXPECT_EQ(shown(70, 10), "narrow, beside, cut 0, tip ");
+    EXPECT_EQ(shown(70, 60), "whole, below, cut 0, tip ");
+    EXPECT_EQ(shown(120, 110), "narrow, below, cut 1, tip ");
 }
 
 // ---- painting
@@ -317,15 +353,16 @@ TEST_F(Looks, TextsStandWhereTheyBelong)
     EXPECT_EQ(inkOf(picture(form.line)).size(), inkOf(whole).size());
     EXPECT_NE(picture(form.line), whole);
 
-    const int room = QFontMetrics(look::fontOf(forms::TextRole::Heading)).horizontalAdvance(".00)");
-    const std::tuple<forms::TextRole, QString, QString> amounts[] = {{forms::TextRole::Heading, "($5.00)", ".00)"},
-        {forms::TextRole::Body, "$1,234.56", ".56"}, {forms::TextRole::Body, "None", ""}};
+    const int room = QFontMetrics(look::fontOf(forms::TextRole::Heading)).horizontalAdvance(')');
+    const std::tuple<forms::TextRole, QString, QString> amounts[] = {{forms::TextRole::Heading, "($5.00)", ")"},
+        {forms::TextRole::Body, "($5.00)", ")"}, {forms::TextRole::Body, "$1,234.56", ""},
+        {forms::TextRole::Heading, "8", ""}};
     form.label.alignAmounts();
     const QWidget& label = *form.label.widget();
-    for (const auto& [role, amount, cents] : amounts) {
+    for (const auto& [role, amount, overhanging] : amounts) {
         form.label.setRole(role);
         form.label.setCaption(amount);
-        EXPECT_EQ(label.contentsMargins().right() + label.fontMetrics().horizontalAdvance(cents), room);
+        EXPECT_EQ(label.contentsMargins().right() + label.fontMetrics().horizontalAdvance(overhanging), room);
     }
 }
 

@@ -290,9 +290,9 @@ private:
     void lookAt(Words words)
     {
         const forms::look::Colours& the = forms::look::colours();
-        const std::pair<const char*, QColor> colours[] = {{"accent", the.accent}, {"face", the.buttonFace},
-            {"faded", the.faded}, {"field", the.field}, {"line", the.line}, {"pressed", the.pressed},
-            {"quiet", the.quiet}, {"text", the.text}};
+        const std::pair<const char*, QColor> colours[] = {{"accent", the.accent}, {"danger", the.danger},
+            {"face", the.buttonFace}, {"faded", the.faded}, {"field", the.field}, {"line", the.line},
+            {"pressed", the.pressed}, {"quiet", the.quiet}, {"text", the.text}};
         const QImage part = of(words).widget()->grab({place(words), place(words, 3)}).toImage();
         std::set<QRgb> found;
         for (int dot = 0; dot < part.width() * part.height(); ++dot)
@@ -499,7 +499,8 @@ private:
         {"skip", [this](Words w) { of(w).setTabIndex(-1); }},
         {"colour", [this](Words w) { paint(of(w), QColor(w.value(1))); }},
         {"icon", [this](Words w) { button(w).setIcon(QIcon(folder.filePath("red.png"))); }},
-        {"main", [this](Words w) { forms::look::mainAction(of<forms::CommandButton>(w)); }},
+        {"turn", [this](Words w) { of(w).widget()->setLayoutDirection(Qt::RightToLeft); }},
+        {"destructive", [this](Words w) { of<forms::CommandButton>(w).setDestructive(true); }},
         {"refuse", [this](Words w) { forms::behaviours::noKeys(of(w)); }},
         // with boxes
         {"text", [this](Words w) { entry(w).setText(text(w)); }},

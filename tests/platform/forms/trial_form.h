@@ -29,7 +29,7 @@ public:
             each->addItems({"alpha", "beta", "gamma"});
         locked.setLocked(true);
         records.setColumns({"Made", "Price"}, {"2026-11-24", "$1,000"});
-        records.setRows(3);
+        records.setRows(3, 3);
         picture.widget()->setFixedSize(40, 40);
         month.widget()->setFixedSize(forms::look::grid(50), forms::look::grid(40));
         month.setValue(values::Date::fromDayMonthYear(31, 1, 2007));

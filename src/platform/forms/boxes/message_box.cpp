@@ -26,6 +26,24 @@ namespace {
 constexpr int leastCharacters = 34; // of a line, so that a short text doesn't cut off the title
 constexpr int mostCharacters = 60; // of a line, on which the eye still finds its way
 
+// The least width in which a text takes no more lines than in the widest: its lines are of about one length, and no
+// word is left alone at the end.
+int balancedWidth(const QString& text, const QFontMetrics& metrics, int widest)
+{
+    const auto taken = [&](int width) {
+        return metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, text).size();
+    };
+    const int height = taken(widest).height();
+    int tooNarrow = 0;
+    int enough = taken(widest).width() + 1;
+    while (enough - tooNarrow > 1) {
+        const int middle = (tooNarrow + enough) / 2;
+        const QSize size = taken(middle);
+        (size.height() > height || size.width() > middle ? tooNarrow : enough) = middle;
+    }
+    return enough;
+}
+
 /// A box that grows with its text and then breaks it into lines; the toolkit measures it before it knows the font. F1
 /// opens the help of what the user was at when the box came.
 class Box : public QMessageBox {
@@ -70,11 +88,13 @@ private:
     {
         const QFontMetrics metrics = words.fontMetrics();
         const int room = screen()->availableGeometry().width() - look::grid(16); // icon and margins stand beside it
-        const QRect line(0, 0, std::min(metrics.averageCharWidth() * mostCharacters, room), 0);
-        const int needed = metrics.boundingRect(line, Qt::TextWordWrap, words.text()).width() + 1;
-        const QMargins margins = words.contentsMargins();
+        const int needed =
+            balancedWidth(words.text(), metrics, std::min(metrics.averageCharWidth() * mostCharacters, room));
+        QMargins margins = words.contentsMargins();
         const int around = margins.left() + margins.right() + std::max(0, words.indent());
         const int width = std::max(needed + around, look::fieldWidth(leastCharacters));
+        margins.setRight(margins.right() + width - needed - around); // the lines break where they would in a narrow box
+        words.setContentsMargins(margins);
         words.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         words.setWordWrap(true);
         words.setFixedSize(width, words.heightForWidth(width));

@@ -2,6 +2,7 @@
 #include "platform/forms/controls/buttons.h"
 
 #include "platform/forms/controls/button_widget.h"
+#include "platform/forms/looks/light_style.h"
 #include "platform/forms/looks/theme.h"
 #include "platform/forms/runtime/boundary.h"
 #include "platform/forms/screens/form.h"
@@ -81,6 +82,17 @@ void CommandButton::setDefault(bool isDefault)
 bool CommandButton::isDefault() const
 {
     return form().defaultButton() == this;
+}
+
+void CommandButton::setDestructive(bool destructive)
+{
+    button()->setProperty(look::destructiveProperty, destructive);
+    button()->update();
+}
+
+bool CommandButton::isDestructive() const
+{
+    return button()->property(look::destructiveProperty).toBool();
 }
 
 // ---- option buttons

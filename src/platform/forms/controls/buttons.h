@@ -55,6 +55,10 @@ public:
     void setDefault(bool isDefault);
     bool isDefault() const;
 
+    /// A button that takes away what doesn't come back looks like no other one.
+    void setDestructive(bool destructive);
+    bool isDestructive() const;
+
 private:
     bool answersEnter() const override { return true; }
     void clicked();

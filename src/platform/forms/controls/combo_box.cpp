@@ -3,6 +3,7 @@
 
 #include "platform/forms/controls/item_list.h"
 #include "platform/forms/controls/line_edit.h"
+#include "platform/forms/controls/own_width.h"
 #include "platform/forms/input/input_filter.h"
 #include "platform/forms/input/keyboard.h"
 #include "platform/forms/looks/theme.h"
@@ -41,10 +42,10 @@ private:
 
 /// The toolkit's box, with what it does on its own taken out: it completes nothing, adds nothing and doesn't turn with
 /// the wheel.
-class ComboEdit : public QComboBox {
+class ComboEdit : public OwnWidth<QComboBox> {
 public:
     ComboEdit(QWidget* parent, ComboBox& box, ComboStyle style, ItemList& items)
-        : QComboBox(parent)
+        : OwnWidth(parent)
         , box_(box)
         , items_(items)
     {
@@ -405,9 +406,9 @@ void ComboBox::setBackColour(const QColor& colour)
     combo_->entry()->setPalette(palette);
 }
 
-void ComboBox::setWidthInCharacters(int characters)
+void ComboBox::setWidthInCharacters(int characters, int least)
 {
-    combo_->setFixedWidth(look::fieldWidth(characters));
+    combo_->setOwnWidth(look::fieldWidth(characters), look::fieldWidth(least > 0 ? least : characters));
 }
 
 void ComboBox::openList()

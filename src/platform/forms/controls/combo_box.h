@@ -48,8 +48,8 @@ public:
 
     void setBackColour(const QColor& colour) override;
 
-    /// Makes the box wide enough for so many average characters.
-    void setWidthInCharacters(int characters);
+    /// Makes the box wide enough for so many average characters; `least` as for a box of text.
+    void setWidthInCharacters(int characters, int least = 0);
 
     /// Opens the list, as the user's click on the arrow does.
     void openList();

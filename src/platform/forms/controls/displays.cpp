@@ -44,11 +44,22 @@ public:
         fromToolkit([this] { mouse_(true, true), mouse_(false, true); });
     }
 
+    // A text that is broken into lines has one width, and so one height: a layout that had to ask for it would take no
+    // room from other parts.
+    bool hasHeightForWidth() const override { return false; }
+    QSize sizeHint() const override { return sized(QLabel::sizeHint()); }
+    QSize minimumSizeHint() const override { return sized(QLabel::minimumSizeHint()); }
+
 protected:
     void mousePressEvent(QMouseEvent* event) override { report(event, true); }
     void mouseReleaseEvent(QMouseEvent* event) override { report(event, false); }
 
 private:
+    QSize sized(const QSize& hint) const
+    {
+        return wordWrap() ? QSize(maximumWidth(), heightForWidth(maximumWidth())) : hint;
+    }
+
     void report(QMouseEvent* event, bool down)
     {
         event->accept();
@@ -69,13 +80,12 @@ private:
 
 namespace {
 
-// What is left free on the right of a number, so that its point stands where that of an amount in larger type does.
+// What is left free on the right of a number, for the closing parenthesis of one below zero.
 int marginBehind(const QString& number, const QFontMetrics& metrics)
 {
     const QFontMetrics largest(look::fontOf(TextRole::Heading));
-    const qsizetype point = number.indexOf(u'.');
-    const int shown = point < 0 ? 0 : metrics.horizontalAdvance(number.mid(point));
-    return largest.horizontalAdvance(QStringLiteral(".00)")) - shown;
+    const int shown = number.endsWith(u')') ? metrics.horizontalAdvance(u')') : 0;
+    return largest.horizontalAdvance(u')') - shown;
 }
 
 } // namespace

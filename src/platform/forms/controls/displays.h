@@ -32,8 +32,8 @@ public:
     /// Breaks the text into lines at the given width in average characters.
     void wrapAt(int characters);
 
-    /// Stands on the right, amounts of several labels one below the other on their decimal points, whichever role each
-    /// has: the closing parenthesis of an amount below zero hangs over.
+    /// Stands on the right, the last digits of several labels one below the other, whichever role each has: the closing
+    /// parenthesis of an amount below zero hangs over.
     void alignAmounts();
 
     /// A click on it opens help as F1 does, and so does a screen reader that presses it.

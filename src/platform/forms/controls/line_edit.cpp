@@ -13,7 +13,7 @@
 namespace forms {
 
 LineEdit::LineEdit(QWidget* parent, TextEntry& box)
-    : QLineEdit(parent)
+    : OwnWidth(parent)
     , Entry(box, Lines::One)
 {
     setMaxLength(std::numeric_limits<int>::max());
@@ -52,6 +52,18 @@ QRect LineEdit::room() const
 bool LineEdit::fits(const QString& text) const
 {
     return fontMetrics().horizontalAdvance(text) <= room().width();
+}
+
+void LineEdit::tellWhole(const QString& text)
+{
+    if (elided_)
+        setToolTip(fits(text) ? QString() : asToolTip(text));
+}
+
+void LineEdit::resizeEvent(QResizeEvent* event)
+{
+    QLineEdit::resizeEvent(event);
+    tellWhole(text());
 }
 
 void LineEdit::paintEvent(QPaintEvent* event)

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "platform/forms/controls/entry.h"
+#include "platform/forms/controls/own_width.h"
 
 #include <QLineEdit>
 
 namespace forms {
 
 /// The entry of one line, of a text box or of a combo box; for the layer itself, not for screens.
-class LineEdit : public QLineEdit, public Entry {
+class LineEdit : public OwnWidth<QLineEdit>, public Entry {
 public:
     LineEdit(QWidget* parent, TextEntry& box);
 
@@ -25,8 +26,12 @@ public:
     /// Whether the box has room for the whole of a text.
     bool fits(const QString& text) const;
 
+    /// Has the tool tip tell the whole of a text that ends in an ellipsis.
+    void tellWhole(const QString& text);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;

@@ -20,7 +20,7 @@ QString withLineEnds(QString raw)
 } // namespace
 
 MemoEdit::MemoEdit(QWidget* parent, TextEntry& box)
-    : QPlainTextEdit(parent)
+    : OwnWidth(parent)
     , Entry(box, Lines::Several)
 {
     setUndoRedoEnabled(false);

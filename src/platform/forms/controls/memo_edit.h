@@ -2,13 +2,14 @@
 #pragma once
 
 #include "platform/forms/controls/entry.h"
+#include "platform/forms/controls/own_width.h"
 
 #include <QPlainTextEdit>
 
 namespace forms {
 
 /// The entry of several lines; for the layer itself, not for screens.
-class MemoEdit : public QPlainTextEdit, public Entry {
+class MemoEdit : public OwnWidth<QPlainTextEdit>, public Entry {
 public:
     MemoEdit(QWidget* parent, TextEntry& box);
 

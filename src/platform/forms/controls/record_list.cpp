@@ -32,6 +32,16 @@ public:
         connect(this, &QTreeWidget::currentItemChanged, this, [this] { pickedByAssistant(); });
     }
 
+    void setOwnHeight(int height, int least)
+    {
+        height_ = height;
+        setMinimumHeight(least);
+        setMaximumHeight(height);
+        updateGeometry();
+    }
+
+    QSize sizeHint() const override { return {QTreeWidget::sizeHint().width(), height_}; }
+
 protected:
     void keyPressEvent(QKeyEvent* event) override
     {
@@ -84,6 +94,7 @@ private:
     }
 
     RecordList& control_;
+    int height_ = 0;
 };
 
 RecordList::RecordList(Form& form, const QString& name)
@@ -168,12 +179,13 @@ void RecordList::setPicked(int index)
     Click.fire();
 }
 
-void RecordList::setRows(int rows)
+void RecordList::setRows(int rows, int least)
 {
     QStyleOptionViewItem option;
     option.initFrom(list_);
     const int row = list_->style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, list_).height();
-    list_->setFixedHeight(list_->header()->sizeHint().height() + row * rows + 2 * list_->frameWidth());
+    const int around = list_->header()->sizeHint().height() + 2 * list_->frameWidth();
+    list_->setOwnHeight(around + row * rows, around + row * least);
 }
 
 } // namespace forms

@@ -31,8 +31,8 @@ public:
     int picked() const;
     void setPicked(int index);
 
-    /// Makes room for so many records; what is more scrolls.
-    void setRows(int rows);
+    /// Makes room for so many records, and for `least` where the desktop has no room for them; what is more scrolls.
+    void setRows(int rows, int least);
 
 private:
     class Widget;

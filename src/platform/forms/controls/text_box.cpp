@@ -85,8 +85,7 @@ Entry* TextBox::entry() const
 
 void TextBox::setText(const QString& text)
 {
-    if (edit_->isElided())
-        setToolTip(edit_->fits(text) ? QString() : asToolTip(text));
+    edit_->tellWhole(text);
     TextEntry::setText(text);
 }
 
@@ -103,9 +102,9 @@ void TextBox::setAlignment(Alignment alignment)
     edit_->setAlignment(horizontal | Qt::AlignVCenter);
 }
 
-void TextBox::setWidthInCharacters(int characters)
+void TextBox::setWidthInCharacters(int characters, int least)
 {
-    edit_->setFixedWidth(look::fieldWidth(characters));
+    edit_->setOwnWidth(look::fieldWidth(characters), look::fieldWidth(least > 0 ? least : characters));
 }
 
 // ---- several lines
@@ -122,10 +121,11 @@ Entry* MemoBox::entry() const
     return edit_;
 }
 
-void MemoBox::setSizeInCharacters(int characters, int lines)
+void MemoBox::setSizeInCharacters(int characters, int lines, int least)
 {
     const int around = 2 * (edit_->frameWidth() + static_cast<int>(edit_->document()->documentMargin()));
-    edit_->setFixedSize(look::fieldWidth(characters), edit_->fontMetrics().lineSpacing() * lines + around);
+    edit_->setOwnWidth(look::fieldWidth(characters), look::fieldWidth(least > 0 ? least : characters));
+    edit_->setFixedHeight(edit_->fontMetrics().lineSpacing() * lines + around);
 }
 
 } // namespace forms

@@ -69,11 +69,12 @@ public:
 
     void setAlignment(Alignment alignment);
 
-    /// Makes the box wide enough for so many average characters.
-    void setWidthInCharacters(int characters);
+    /// Makes the box wide enough for so many average characters; `least` where the desktop has no room for more, and 0
+    /// for a box that never gives any up.
+    void setWidthInCharacters(int characters, int least = 0);
 
-    /// For a box of fixed width: a text too long for it ends in an ellipsis, but while the box has the focus, and
-    /// stands whole in the tool tip.
+    /// For a box that nobody types into: a text too long for it ends in an ellipsis, but while the box has the focus,
+    /// and stands whole in the tool tip.
     void setElided(bool elided);
 
 private:
@@ -87,8 +88,8 @@ class MemoBox : public TextEntry {
 public:
     MemoBox(Form& form, const QString& name);
 
-    /// Makes the box so many average characters wide and so many lines high.
-    void setSizeInCharacters(int characters, int lines);
+    /// Makes the box so many average characters wide, and `least` as for a box of one line, and so many lines high.
+    void setSizeInCharacters(int characters, int lines, int least = 0);
 
 private:
     Entry* entry() const override;

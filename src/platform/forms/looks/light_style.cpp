@@ -31,11 +31,25 @@ int arrowWidth()
     return grid(2) + grid(1) / 2;
 }
 
-// A main action is filled unless it is pressed.
-bool isFilled(const QStyleOption& option, const QWidget* widget)
+bool has(const QWidget* widget, const char* property)
 {
-    return widget && widget->property(mainActionProperty).toBool() && (option.state & QStyle::State_Enabled)
-        && !(option.state & QStyle::State_Sunken) && option.palette.color(QPalette::Button) == colours().buttonFace;
+    return widget && widget->property(property).toBool();
+}
+
+// A default button is filled unless it is pressed.
+paint::Ink inkOf(const QStyleOption& option, const QWidget* widget)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool isDefault = button && (button->features & QStyleOptionButton::DefaultButton);
+    const bool isAtRest = (option.state & QStyle::State_Enabled) && !(option.state & QStyle::State_Sunken)
+        && option.palette.color(QPalette::Button) == colours().buttonFace;
+    return {isDefault && isAtRest, has(widget, destructiveProperty)};
+}
+
+// How far an option's mark and words stand inside the face of a choice.
+int choiceMargin()
+{
+    return grid(1) * 3 / 2;
 }
 
 // The caption of a group box has a row of its own above the frame.
@@ -69,7 +83,7 @@ void LightStyle::drawPrimitive(
 {
     switch (element) {
     case PE_PanelButtonCommand:
-        paint::button(*painter, *option, isFilled(*option, widget));
+        paint::button(*painter, *option, inkOf(*option, widget));
         return;
     case PE_IndicatorCheckBox:
         paint::square(*painter, *option);
@@ -121,14 +135,17 @@ void LightStyle::drawControl(
 {
     switch (element) {
     case CE_PushButtonLabel:
-        paint::buttonLabel(*painter, *qstyleoption_cast<const QStyleOptionButton*>(option), isFilled(*option, widget));
+        paint::buttonLabel(*painter, *qstyleoption_cast<const QStyleOptionButton*>(option), inkOf(*option, widget));
         return;
     case CE_ComboBoxLabel:
         drawComboLabel(*qstyleoption_cast<const QStyleOptionComboBox*>(option), *painter, widget);
         return;
     case CE_CheckBox:
     case CE_RadioButton: {
-        QProxyStyle::drawControl(element, option, painter, widget);
+        if (has(widget, choiceProperty))
+            drawChoice(*qstyleoption_cast<const QStyleOptionButton*>(option), *painter, widget);
+        else
+            QProxyStyle::drawControl(element, option, painter, widget);
         // The toolkit shows the focus only to those who have pressed Tab.
         const auto focusRect = element == CE_CheckBox ? SE_CheckBoxFocusRect : SE_RadioButtonFocusRect;
         if (option->state & State_HasFocus)
@@ -141,6 +158,17 @@ void LightStyle::drawControl(
     default:
         QProxyStyle::drawControl(element, option, painter, widget);
     }
+}
+
+// The toolkit paints mark and words from the left edge on, wherever the option's place begins.
+void LightStyle::drawChoice(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget) const
+{
+    paint::choice(painter, option);
+    QStyleOptionButton inside(option);
+    inside.rect.setWidth(option.rect.width() - 2 * choiceMargin());
+    painter.translate(choiceMargin(), 0);
+    QProxyStyle::drawControl(CE_RadioButton, &inside, &painter, widget);
+    painter.translate(-choiceMargin(), 0);
 }
 
 void LightStyle::drawComplexControl(
@@ -222,6 +250,8 @@ QRect LightStyle::subElementRect(SubElement element, const QStyleOption* option,
         if (frame && frame->lineWidth > 0)
             return option->rect.adjusted(entryInset(), 2, -entryInset(), -2);
     }
+    if (element == SE_RadioButtonFocusRect && has(widget, choiceProperty))
+        return option->rect;
     return QProxyStyle::subElementRect(element, option, widget);
 }
 
@@ -246,6 +276,8 @@ QSize LightStyle::sizeFromContents(
         return size + QSize(grid(1) + captionGap / 2, grid(1) / 2);
     case CT_CheckBox:
     case CT_RadioButton:
+        if (has(widget, choiceProperty))
+            return size + QSize(2 * choiceMargin(), 0);
         return size + QSize(captionGap, captionGap / 2); // room for the frame of the focus
     case CT_LineEdit:
     case CT_ComboBox:

@@ -3,15 +3,18 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionButton;
 class QStyleOptionComboBox;
 
 namespace forms::look {
 
-/// The name of the widget property of a button that is the screen's main action.
-inline constexpr char mainActionProperty[] = "mainAction";
+/// The names of widget properties: of a button that takes away what doesn't come back, and of an option that is shown
+/// as large as the button of a menu.
+inline constexpr char destructiveProperty[] = "destructive";
+inline constexpr char choiceProperty[] = "choice";
 
 /// The toolkit's plain style with flat, rounded buttons and boxes in the program's colours; for the layer itself. What
-/// can be measured grows with the font.
+/// can be measured grows with the font. A button that answers Enter wherever the focus is, is filled, and no other.
 class LightStyle : public QProxyStyle {
 public:
     LightStyle();
@@ -36,6 +39,7 @@ public:
 private:
     static bool drawFrame(
         PrimitiveElement element, const QStyleOption& option, QPainter& painter, const QWidget* widget);
+    void drawChoice(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget) const;
     void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const;
     void drawComboLabel(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const;
 };

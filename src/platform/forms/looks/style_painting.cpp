@@ -55,6 +55,22 @@ Frame frameOf(const QStyleOption& option)
     return showsFocus(option) ? Frame{colours().accent, focusWidth} : Frame{colours().line, 1};
 }
 
+QColor colourOf(Ink ink)
+{
+    return ink.isDestructive ? colours().danger : colours().accent;
+}
+
+// What is written on a button.
+QColor letters(const QStyleOptionButton& option, Ink ink)
+{
+    const bool enabled = isOn(option, QStyle::State_Enabled);
+    if (ink.isFilled)
+        return colours().field;
+    if (ink.isDestructive && enabled)
+        return colours().danger;
+    return option.palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
+}
+
 QColor markOf(const QStyleOption& option)
 {
     return isOn(option, QStyle::State_Enabled) ? colours().accent : colours().faded;
@@ -68,15 +84,15 @@ QPixmap canvas(int size, qreal ratio)
     return pixmap;
 }
 
-// The icon in its own colours, or in that of the caption on a filled button.
-QPixmap tinted(const QStyleOptionButton& option, qreal ratio, bool isFilled)
+// The icon in its own colours, or in that of the caption on a button that stands out.
+QPixmap tinted(const QStyleOptionButton& option, qreal ratio, Ink ink)
 {
-    const auto mode = isOn(option, QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
-    QPixmap picture = option.icon.pixmap(option.iconSize, ratio, mode);
-    if (isFilled) {
+    const bool enabled = isOn(option, QStyle::State_Enabled);
+    QPixmap picture = option.icon.pixmap(option.iconSize, ratio, enabled ? QIcon::Normal : QIcon::Disabled);
+    if (ink.isFilled || (ink.isDestructive && enabled)) {
         QPainter painter(&picture);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(QRect(QPoint(), option.iconSize), colours().field);
+        painter.fillRect(QRect(QPoint(), option.iconSize), letters(option, ink));
     }
     return picture;
 }
@@ -111,46 +127,53 @@ void panel(QPainter& painter, const QRect& rect, const QColor& face, const QColo
     painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
 }
 
-void button(QPainter& painter, const QStyleOption& option, bool isFilled)
+void button(QPainter& painter, const QStyleOption& option, Ink ink)
 {
     const Colours& theme = colours();
-    QColor face = isFilled ? theme.accent : option.palette.color(QPalette::Button);
+    QColor face = ink.isFilled ? colourOf(ink) : option.palette.color(QPalette::Button);
     if (!isOn(option, QStyle::State_Enabled))
         face = theme.ground.lighter(103);
     else if (isOn(option, QStyle::State_Sunken))
         face = theme.pressed;
     else if (isOn(option, QStyle::State_MouseOver))
-        face = face.lighter(isFilled ? 115 : 103);
-    const auto* asButton = qstyleoption_cast<const QStyleOptionButton*>(&option);
+        face = face.lighter(ink.isFilled ? 115 : 103);
     Frame frame = frameOf(option);
-    if (isOn(option, QStyle::State_Enabled) && asButton && (asButton->features & QStyleOptionButton::DefaultButton))
-        frame.line = theme.accent;
+    if (isOn(option, QStyle::State_Enabled) && (ink.isFilled || ink.isDestructive))
+        frame.line = colourOf(ink);
     panel(painter, option.rect, face, frame.line, frame.width);
-    // On a face of the accent's colour its frame alone would not show the focus.
-    if (isFilled && showsFocus(option)) {
+    // On a face of its own colour a frame alone would not show the focus.
+    if (ink.isFilled && showsFocus(option)) {
         constexpr int gap = 3;
         panel(painter, option.rect.adjusted(gap, gap, -gap, -gap), Qt::transparent, theme.field, 1);
     }
 }
 
-void buttonLabel(QPainter& painter, const QStyleOptionButton& option, bool isFilled)
+void buttonLabel(QPainter& painter, const QStyleOptionButton& option, Ink ink)
+{
+    const int flags = Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
+    const int words = option.fontMetrics.size(flags, option.text).width();
+    const int gap = option.icon.isNull() ? 0 : option.iconSize.width() + (option.text.isEmpty() ? 0 : captionGap);
+    const bool iconBehind = option.direction == Qt::RightToLeft;
+    QRect place = option.rect;
+    place.setLeft(place.left() + std::max(0, (place.width() - gap - words) / 2));
+    if (gap > 0) {
+        const int left = iconBehind ? place.left() + words + gap - option.iconSize.width() : place.left();
+        const QRect square(
+            QPoint(left, place.top() + (place.height() - option.iconSize.height()) / 2 + 1), option.iconSize);
+        painter.drawPixmap(square, tinted(option, painter.device()->devicePixelRatioF(), ink));
+    }
+    painter.setPen(letters(option, ink));
+    painter.drawText(place.adjusted(iconBehind ? 0 : gap, 0, 0, 0), flags, option.text);
+}
+
+void choice(QPainter& painter, const QStyleOption& option)
 {
     const bool enabled = isOn(option, QStyle::State_Enabled);
-    const int flags = Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
-    const QColor colour = isFilled
-        ? colours().field
-        : option.palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
-    const int gap = option.icon.isNull() ? 0 : option.iconSize.width() + (option.text.isEmpty() ? 0 : captionGap);
-    const int width = gap + option.fontMetrics.size(flags, option.text).width();
-    QRect place = option.rect;
-    place.setLeft(place.left() + std::max(0, (place.width() - width) / 2));
-    if (gap > 0) {
-        const QRect square(
-            QPoint(place.left(), place.top() + (place.height() - option.iconSize.height()) / 2 + 1), option.iconSize);
-        painter.drawPixmap(square, tinted(option, painter.device()->devicePixelRatioF(), isFilled));
-    }
-    painter.setPen(colour);
-    painter.drawText(place.adjusted(gap, 0, 0, 0), flags, option.text);
+    QColor face = enabled ? colours().buttonFace : colours().ground.lighter(103);
+    if (enabled && isOn(option, QStyle::State_MouseOver))
+        face = face.lighter(103);
+    const QColor line = enabled ? colours().line : colours().faded;
+    panel(painter, option.rect, face, enabled && isOn(option, QStyle::State_On) ? colours().accent : line, 1);
 }
 
 void box(QPainter& painter, const QStyleOption& option)

@@ -20,11 +20,20 @@ enum class Heading { Up, Down, Left, Right };
 /// A flat, rounded face with a frame.
 void panel(QPainter& painter, const QRect& rect, const QColor& face, const QColor& line, qreal width);
 
-/// The face of a command button; the default button is marked, the focused one more so.
-void button(QPainter& painter, const QStyleOption& option, bool isFilled);
+/// How a command button stands out from the others.
+struct Ink {
+    bool isFilled = false;
+    bool isDestructive = false; ///< in the colour of danger, not in that of the accent
+};
 
-/// Icon and caption of a command button.
-void buttonLabel(QPainter& painter, const QStyleOptionButton& option, bool isFilled);
+/// The face of a command button; the focused one is marked.
+void button(QPainter& painter, const QStyleOption& option, Ink ink);
+
+/// Icon and caption of a command button; the icon stands on the right where the button is laid out from the right.
+void buttonLabel(QPainter& painter, const QStyleOptionButton& option, Ink ink);
+
+/// The face behind an option that is shown like a button of a menu.
+void choice(QPainter& painter, const QStyleOption& option);
 
 /// The face of a box with an entry or a list.
 void box(QPainter& painter, const QStyleOption& option);

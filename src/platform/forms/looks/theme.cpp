@@ -137,4 +137,17 @@ void tighten(QLayout& layout)
     layout.invalidate();
 }
 
+bool stackLastPair(QLayout& layout)
+{
+    QBoxLayout* last = nullptr;
+    for (QBoxLayout* pair : layout.findChildren<QBoxLayout*>())
+        if (pair->property(pairProperty).toBool() && pair->direction() == QBoxLayout::LeftToRight)
+            last = pair;
+    if (!last)
+        return false;
+    last->setDirection(QBoxLayout::TopToBottom);
+    last->setSpacing(rowGap());
+    return true;
+}
+
 } // namespace forms::look

@@ -85,4 +85,11 @@ QSize leastWindow();
 /// Halves the gaps of a layout, where the desktop has no room for them.
 void tighten(QLayout& layout);
 
+/// The name of the property of a layout of two parts, side by side, that may stand below each other.
+inline constexpr char pairProperty[] = "pair";
+
+/// Puts the second part of the last such pair below the first, in a layout and those within. False where no pair is
+/// left.
+bool stackLastPair(QLayout& layout);
+
 } // namespace forms::look

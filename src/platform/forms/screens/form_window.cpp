@@ -56,13 +56,13 @@ void FormWindow::fitAndPlace()
     makeFit(room);
     QSize size = scroller_->widget()->sizeHint();
     const int bar = scroller_->verticalScrollBar()->sizeHint().width();
-    if (size.height() > room.height())
+    if (isTooHigh(room))
         size.rwidth() += bar;
-    if (size.width() > room.width())
+    if (isTooWide(room))
         size.rheight() += bar;
-    size = size.boundedTo(room).expandedTo(minimumSize_.boundedTo(room));
-    minimumSize_ = size; // a screen never shrinks between two visits
-    setFixedSize(size);
+    // A screen never shrinks between two visits.
+    lastSize_ = size.boundedTo(room).expandedTo(leastSize_.expandedTo(lastSize_).boundedTo(room));
+    setFixedSize(lastSize_);
     place(
         desktop.marginsRemoved(frameMargins_), under ? centre_ : desktop.center() + QPoint(0, frameMargins_.top() / 2));
 }
@@ -102,8 +102,19 @@ void FormWindow::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow())
         return;
-    frameMargins_ = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+    learnFrame();
     Stage::instance().windowActivated(form_);
+}
+
+// The first window was placed before anybody knew how large its frame is.
+void FormWindow::learnFrame()
+{
+    const QMargins known = std::exchange(frameMargins_, windowHandle() ? windowHandle()->frameMargins() : QMargins());
+    if (!known.isNull() || frameMargins_.isNull() || screen()->availableGeometry().contains(frameGeometry()))
+        return;
+    const ToolkitCall call;
+    lastSize_ = {};
+    fitAndPlace();
 }
 
 // Around a point, and within the room that the desktop has inside a frame.
@@ -116,22 +127,33 @@ void FormWindow::place(const QRect& room, const QPoint& centre)
     move(inside.topLeft() - QPoint(frameMargins_.left(), frameMargins_.top()));
 }
 
-// On a small desktop the pictures give up their room first, then the gaps; what is left scrolls. They don't come
-// back into what the gaps have given up: a screen looks the same at each visit.
+// On a small desktop boxes and pictures give up their room first, then the gaps; then the second of a pair goes below
+// the first, and what is left scrolls. Pictures don't come back into what the gaps have given up: a screen looks the
+// same at each visit.
 void FormWindow::makeFit(const QSize& room)
 {
-    const auto fits = [this, &room] {
-        scroller_->widget()->layout()->activate(); // inner layouts measure again
-        const QSize size = scroller_->widget()->sizeHint();
-        return size.width() <= room.width() && size.height() <= room.height();
-    };
     for (const double share : {1.0, 0.75, 0.5, 0.0}) {
         showPictures(tight_ ? 0 : share);
-        if (fits())
+        if (!isTooWide(room) && !isTooHigh(room))
             return;
     }
+    QLayout& layout = *scroller_->widget()->layout();
     if (!std::exchange(tight_, true))
-        look::tighten(*scroller_->widget()->layout());
+        look::tighten(layout);
+    while (isTooWide(room) && look::stackLastPair(layout)) { }
+}
+
+// The bar beside a screen that is too high takes room, too.
+bool FormWindow::isTooWide(const QSize& room) const
+{
+    const int bar = isTooHigh(room) ? scroller_->verticalScrollBar()->sizeHint().width() : 0;
+    return scroller_->widget()->minimumSizeHint().width() + bar > room.width();
+}
+
+bool FormWindow::isTooHigh(const QSize& room) const
+{
+    scroller_->widget()->layout()->activate(); // inner layouts measure again
+    return scroller_->widget()->minimumSizeHint().height() > room.height();
 }
 
 void FormWindow::showPictures(double share)

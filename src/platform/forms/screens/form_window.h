@@ -23,7 +23,7 @@ public:
 
     void reveal(QWidget* widget);
 
-    void setLeastSize(const QSize& size) { minimumSize_ = minimumSize_.expandedTo(size); }
+    void setLeastSize(const QSize& size) { leastSize_ = leastSize_.expandedTo(size); }
 
     /// Takes the canvas's own size, or what of it the desktop has room for, and the place of the screen before; the
     /// first one takes the middle of the desktop.
@@ -38,12 +38,16 @@ protected:
 
 private:
     void place(const QRect& room, const QPoint& centre);
+    void learnFrame();
     void makeFit(const QSize& room);
+    bool isTooWide(const QSize& room) const;
+    bool isTooHigh(const QSize& room) const;
     void showPictures(double share);
 
     Form& form_;
     QScrollArea* scroller_;
-    QSize minimumSize_;
+    QSize leastSize_;
+    QSize lastSize_; // at the visit before
     bool tight_ = false;
     inline static QMargins frameMargins_; // known once a first window has been shown
     inline static QPoint centre_; // of the screen shown or moved last, without its frame
