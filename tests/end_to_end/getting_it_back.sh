@@ -43,6 +43,24 @@ by_the_window() {
     tell_to_end
 }
 
+# Nobody knows how large the frame of a first window is before it is there.
+in_large_type() {
+    step "in large type the first window of a program stays within the display, frame and all"
+    QT_FONT_DPI=140 start "$Commands/kestrill-restore"
+    wait_screen frmRestore
+    until_true "a window within the display" is_within_display
+    shot backups-in-large-type
+    keys alt+c
+    ends_with 0
+}
+
+is_within_display() {
+    local bottom frame
+    read -r _ _ _ bottom <<<"$(rectangle_of "$(active_window)")"
+    read -r -a frame <<<"$(xprop -id "$(active_window)" _NET_FRAME_EXTENTS | sed 's/.*= //; s/,//g')"
+    [ "${frame[3]}" -gt 0 ] && [ $((bottom + frame[3])) -le 768 ]
+}
+
 by_the_command() {
     step "damaged again: the command brings the last backup back, and says what it is"
     local status=0
@@ -76,5 +94,6 @@ everything_out() {
 
 two_closes
 by_the_window
+in_large_type
 by_the_command
 everything_out
