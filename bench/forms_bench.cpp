@@ -3,6 +3,7 @@
 #include "assets/money_field.h"
 #include "platform/forms/controls/behaviours.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/look.h"
 
 #include <benchmark/benchmark.h>
 
@@ -25,6 +26,9 @@ public:
         forms::behaviours::digitsOnly(digits);
         money.setMaxLength(254);
         memo.setMaxLength(195);
+        forms::look::Page page(*this, forms::look::PageSize::Own);
+        for (forms::Control* box : std::initializer_list<forms::Control*>{&digits, &money, &memo})
+            page.add(*box);
     }
 
     forms::TextBox digits{*this, "digits"};

@@ -20,7 +20,7 @@ constexpr int menuTopic = 1001;
 QWidget* window()
 {
     for (QWidget* each : QApplication::topLevelWidgets())
-        if (each->objectName() == "help")
+        if (each->windowRole() == "help")
             return each;
     return nullptr;
 }

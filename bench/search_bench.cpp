@@ -89,6 +89,27 @@ void searchAll(benchmark::State& state)
     state.counters["found"] = static_cast<int>(screen<frmSearchResults>().MatchCount);
 }
 
+// As after an update of an asset, which may have changed what is found.
+void returnToResults(benchmark::State& state)
+{
+    const Household household;
+    searchFor({});
+    int number = 0;
+    for ([[maybe_unused]] auto round : state) {
+        state.PauseTiming();
+        Data1.rsInventory.MoveFirst();
+        Data1.rsInventory.Fields(Inventory::Make) = QStringLiteral("Make %1").arg(++number);
+        Data1.rsInventory.Update();
+        state.ResumeTiming();
+        asUser([] {
+            auto& results = screen<frmSearchResults>();
+            results.FromSearchScreen = false;
+            results.load_From_Search_Screen();
+            results.show();
+        });
+    }
+}
+
 void sortByMake(benchmark::State& state)
 {
     const Household household;
@@ -183,6 +204,7 @@ void quietHandler(QtMsgType, const QMessageLogContext&, const QString&) { }
 
 BENCHMARK(copyAndReadBare)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(searchAll)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(returnToResults)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(sortByMake)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(containsBare)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(searchNowhere)->UseRealTime()->Unit(benchmark::kMillisecond);
