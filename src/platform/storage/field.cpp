@@ -89,7 +89,7 @@ const QString& Field::text() const
 
 std::string_view Field::upper() const
 {
-    return view_.texts().utf8(view_.texts().upper(textId()));
+    return view_.texts().upper(textId());
 }
 
 bool Field::contains(const FoldedText& text) const
@@ -99,10 +99,8 @@ bool Field::contains(const FoldedText& text) const
     return upper().find(text.upper()) != std::string_view::npos;
 }
 
-qint64 Field::integer() const
+qint64 Field::storedInteger() const
 {
-    if (view_.column(ordinal_).type == ColumnType::Identity && view_.edit_ != TableView::Edit::New)
-        return view_.rowNumber();
     const std::string_view digits = view_.texts().utf8(view_.cell(ordinal_));
     qint64 number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);

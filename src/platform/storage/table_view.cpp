@@ -92,27 +92,12 @@ void TableView::load()
 
 // Position
 
-void TableView::stand(int row, Place otherwise)
-{
-    if (place_ == Place::Hole)
-        rows_.recycle(row_);
-    row_ = row;
-    place_ = row == RowSet::none ? otherwise : Place::Row;
-}
-
 void TableView::MoveFirst()
 {
     Update();
     if (rows_.count() == 0)
         throw RuntimeFailure(FailureKind::NoCurrentRecord, QString::fromUtf8(definition_.name));
     stand(rows_.first(), Place::Behind);
-}
-
-void TableView::MoveNext()
-{
-    Update();
-    if (place_ != Place::Behind)
-        stand(place_ == Place::Before ? rows_.first() : rows_.next(row_), Place::Behind);
 }
 
 void TableView::MovePrevious()
@@ -147,33 +132,14 @@ void TableView::sortBy(const SortKey& key, std::vector<int>& order) const
 
 // Values
 
-Field TableView::Fields(int ordinal)
+void TableView::refuseColumn(int ordinal)
 {
-    if (ordinal < 0 || static_cast<std::size_t>(ordinal) >= definition_.columns.size())
-        throw RuntimeFailure(FailureKind::InvalidCall, QStringLiteral("no column %1").arg(ordinal));
-    return Field(*this, ordinal);
+    throw RuntimeFailure(FailureKind::InvalidCall, QStringLiteral("no column %1").arg(ordinal));
 }
 
-TextId TableView::cell(int ordinal) const
+void TableView::refuseRow() const
 {
-    if (edit_ != Edit::None)
-        return pending_[static_cast<std::size_t>(ordinal)];
-    requireRow();
-    return rows_.cell(row_, ordinal);
-}
-
-// What a column that the database numbers holds, at hand without its text: a walk to a row of a given number looks at
-// nothing else.
-qint64 TableView::rowNumber() const
-{
-    requireRow();
-    return rows_.rowId(row_);
-}
-
-void TableView::requireRow() const
-{
-    if (place_ != Place::Row)
-        throw RuntimeFailure(FailureKind::NoCurrentRecord, QString::fromUtf8(definition_.name));
+    throw RuntimeFailure(FailureKind::NoCurrentRecord, QString::fromUtf8(definition_.name));
 }
 
 void TableView::put(int ordinal, TextId value)
@@ -213,7 +179,7 @@ void TableView::AddNew()
     edit_ = Edit::New;
 }
 
-void TableView::Update()
+void TableView::storePending()
 {
     // Whatever becomes of it, nothing is pending afterwards.
     switch (std::exchange(edit_, Edit::None)) {

@@ -58,6 +58,7 @@ public:
     bool contains(const FoldedText& text) const;
 
 private:
+    qint64 storedInteger() const;
     TextId textId() const;
     std::string_view upper() const;
 
@@ -98,18 +99,31 @@ public:
     void MoveFirst();
 
     /// Behind the last row, `MoveNext` stays there; so does `MovePrevious` before the first.
-    void MoveNext();
+    void MoveNext()
+    {
+        Update();
+        if (place_ != Place::Behind)
+            stand(place_ == Place::Before ? rows_.first() : rows_.next(row_), Place::Behind);
+    }
     void MovePrevious();
 
     /// Column `ordinal` of the current row, counted from 0. Failures: InvalidCall, where there is no such column.
-    Field Fields(int ordinal);
+    Field Fields(int ordinal)
+    {
+        requireColumn(ordinal);
+        return Field(*this, ordinal);
+    }
 
     /// Begins a new row, which is the current one: its texts are empty, its numbers and amounts zero. It counts once it
     /// is stored.
     void AddNew();
 
     /// Stores what is pending; the row stays current. Nothing happens where nothing is pending.
-    void Update();
+    void Update()
+    {
+        if (edit_ != Edit::None)
+            storePending();
+    }
 
     /// Drops what is pending. In place of a new row the one before is current again.
     void CancelUpdate();
@@ -140,14 +154,32 @@ private:
     TextId initial(ColumnType type) const;
     TextId cell(int ordinal) const;
     qint64 rowNumber() const;
-    void requireRow() const;
+    void requireRow() const
+    {
+        if (place_ != Place::Row)
+            refuseRow();
+    }
+    [[noreturn]] void refuseRow() const;
+    void requireColumn(int ordinal) const
+    {
+        if (ordinal < 0 || static_cast<std::size_t>(ordinal) >= definition_.columns.size())
+            refuseColumn(ordinal);
+    }
+    [[noreturn]] static void refuseColumn(int ordinal);
     void put(int ordinal, TextId value);
     TextId cellFor(const Column& column, const QString& value) const;
 
     void load();
     void shut();
     void sortBy(const SortKey& key, std::vector<int>& order) const;
-    void stand(int row, Place otherwise);
+    void stand(int row, Place otherwise)
+    {
+        if (place_ == Place::Hole)
+            rows_.recycle(row_);
+        row_ = row;
+        place_ = row == RowSet::none ? otherwise : Place::Row;
+    }
+    void storePending();
     void storeNew();
     void storeEdit();
     int bind(Statement& statement, std::span<const TextId> cells) const;
@@ -169,5 +201,29 @@ private:
     std::optional<Statement> update_;
     std::optional<Statement> delete_;
 };
+
+// What a walk through many rows does at each of them.
+
+inline TextId TableView::cell(int ordinal) const
+{
+    if (edit_ != Edit::None)
+        return pending_[static_cast<std::size_t>(ordinal)];
+    requireRow();
+    return rows_.cell(row_, ordinal);
+}
+
+// What a column that the database numbers holds, at hand without its text.
+inline qint64 TableView::rowNumber() const
+{
+    requireRow();
+    return rows_.rowId(row_);
+}
+
+inline qint64 Field::integer() const
+{
+    if (view_.column(ordinal_).type == ColumnType::Identity && view_.edit_ != TableView::Edit::New)
+        return view_.rowNumber();
+    return storedInteger();
+}
 
 } // namespace storage

@@ -19,7 +19,7 @@ TextId TextPool::intern(std::string_view utf8)
     if (const auto known = numbers_.find(utf8); known != numbers_.end())
         return known->second;
     const auto id = static_cast<TextId>(texts_.size());
-    texts_.push_back({std::string(utf8), {}, unknown});
+    texts_.push_back({std::string(utf8)});
     numbers_.emplace(texts_.back().utf8, id);
     return id;
 }
@@ -43,12 +43,12 @@ const QString& TextPool::text(TextId id) const
     return text.text;
 }
 
-// Not by the pool's own text, which would stay in memory.
-TextId TextPool::upper(TextId id)
+std::string_view TextPool::upper(TextId id)
 {
-    if (texts_[id].upper == unknown)
-        texts_[id].upper = intern(values::upper(textOf(texts_[id].utf8)));
-    return texts_[id].upper;
+    Text& text = texts_[id];
+    if (!text.upper)
+        text.upper = std::make_unique<const std::string>(values::upperUtf8(text.utf8));
+    return *text.upper;
 }
 
 void TextPool::clear()

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <deque>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -34,17 +35,16 @@ public:
     /// The same as UTF-8; it stays where it is until `clear`.
     std::string_view utf8(TextId id) const { return texts_[id].utf8; }
 
-    /// The number of the same text in upper case, by the rule of `values::upper`. It is made at the first question.
-    TextId upper(TextId id);
+    /// The same in upper case, by the rule of `values::upper`. It is made at the first question.
+    std::string_view upper(TextId id);
 
     void clear();
 
 private:
-    static constexpr TextId unknown = ~TextId{0};
     struct Text {
         std::string utf8;
-        mutable QString text; // once it has been looked at
-        TextId upper = unknown; // once it has been asked for
+        mutable QString text = {}; // once it has been looked at
+        std::unique_ptr<const std::string> upper = {}; // once it has been asked for
     };
 
     std::deque<Text> texts_; // by number

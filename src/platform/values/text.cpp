@@ -24,6 +24,17 @@ QString upper(const QString& text)
     return text.toUpper();
 }
 
+std::string upperUtf8(std::string_view utf8)
+{
+    const auto isPlain = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (!std::ranges::all_of(utf8, isPlain))
+        return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toUpper().toStdString();
+    std::string text(utf8);
+    for (char& letter : text)
+        letter = static_cast<char>(letter >= 'a' && letter <= 'z' ? letter - 'a' + 'A' : letter);
+    return text;
+}
+
 bool equalUpper(const QString& a, const QString& b)
 {
     const qsizetype common = std::min(a.size(), b.size());

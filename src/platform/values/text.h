@@ -3,11 +3,17 @@
 
 #include <QString>
 
+#include <string>
+#include <string_view>
+
 namespace values {
 
 /// The text in upper case: all of Unicode, by the same rules under every locale ("i" becomes "I" in Turkish too), where
 /// a character has no single capital by its capitals ("ß" becomes "SS").
 QString upper(const QString& text);
+
+/// The same of a text in UTF-8.
+std::string upperUtf8(std::string_view utf8);
 
 /// True where `upper(a) == upper(b)`, without making the two where the texts are ASCII.
 bool equalUpper(const QString& a, const QString& b);
