@@ -24,5 +24,7 @@ void frmBW_Splash::tmrLoad_Timer()
 {
     hide();
     tmrLoad.setEnabled(false);
+    Picture1.release();
+    giveUpWindow(); // it never comes again
     forms::screen<frmStartup>();
 }

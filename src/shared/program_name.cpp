@@ -8,10 +8,12 @@
 
 namespace {
 
+// In the sizes of a bar and a list of windows: each window hands all of them to the desktop, which takes larger ones
+// from its own folders.
 QIcon programIcon()
 {
     QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128, 256, 512})
+    for (const int size : {16, 32, 48, 64, 128})
         icon.addFile(QStringLiteral(":/pictures/logo-%1.png").arg(size));
     return icon;
 }

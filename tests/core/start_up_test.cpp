@@ -64,7 +64,7 @@ protected:
 TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
 {
     nameProgram();
-    EXPECT_EQ(QApplication::windowIcon().availableSizes().size(), 7);
+    EXPECT_EQ(QApplication::windowIcon().availableSizes().size(), 5);
     screen<frmBW_Splash>().show();
     closeBox(screen<frmBW_Splash>()); // refuses
     EXPECT_EQ(scene(), "20 frmBW_Splash");

@@ -13,6 +13,7 @@
 #include <QAccessibleWidget>
 #include <QGroupBox>
 #include <QIcon>
+#include <QImageReader>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -208,10 +209,13 @@ public:
 
     void setPicture(const QString& resource)
     {
-        natural_ = QPixmap(resource).deviceIndependentSize();
+        resource_ = resource;
+        natural_ = QImageReader(resource).size();
         picture_ = look::icon(resource);
         resize(1);
     }
+
+    void release() { picture_ = look::icon(resource_); }
 
     void setShare(double share)
     {
@@ -237,6 +241,7 @@ private:
         setFixedSize((natural_ * share * look::pictureScale()).toSize());
     }
 
+    QString resource_;
     QSizeF natural_;
     QIcon picture_;
     double share_ = 1;
@@ -261,6 +266,11 @@ void Picture::setPicture(const QString& resource, const QString& description)
 {
     picture_->setPicture(resource);
     picture_->setAccessibleName(description);
+}
+
+void Picture::release()
+{
+    picture_->release();
 }
 
 void Picture::setShare(double share)

@@ -64,6 +64,9 @@ public:
     /// Shows it at a share of its size; at 0 it leaves its room to the others.
     void setShare(double share);
 
+    /// Gives up the memory that the picture takes, until it is painted again.
+    void release();
+
 private:
     /// One that answers nothing may give up its room.
     void takeShare(double share) override;

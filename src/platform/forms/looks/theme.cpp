@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/looks/theme.h"
 
+#include "platform/forms/looks/picture_engine.h"
+
 #include <QApplication>
 #include <QFontMetrics>
 #include <QGridLayout>
@@ -73,16 +75,7 @@ int fieldWidth(int characters)
 
 QIcon icon(const QString& resource)
 {
-    QIcon icon;
-    for (const char* size : {".png", "@2x.png", "@3x.png", "@4x.png"}) {
-        QString file = resource;
-        QPixmap picture(file.replace(QLatin1String(".png"), QLatin1String(size)));
-        if (picture.isNull())
-            continue;
-        picture.setDevicePixelRatio(1); // sizes are told apart by their pixels
-        icon.addPixmap(picture);
-    }
-    return icon;
+    return QIcon(new PictureEngine(resource));
 }
 
 double pictureScale()

@@ -139,6 +139,12 @@ void Form::hide()
         stage.giveUpFront();
 }
 
+void Form::giveUpWindow()
+{
+    if (!shown_)
+        window_->giveUp();
+}
+
 void Form::showModal(Form& owner)
 {
     if (modalLoop_)

@@ -46,6 +46,10 @@ public:
     void hide();
     bool isVisible() const { return shown_; }
 
+    /// Gives up what the window system keeps for a hidden screen, which is as much memory as the screen has pixels,
+    /// until it is shown again.
+    void giveUpWindow();
+
     /// Does what the close box does: asks Form_Unload and, unless it cancels, hides the screen and destroys it.
     void close();
 

@@ -29,6 +29,9 @@ public:
     /// first one takes the middle of the desktop.
     void fitAndPlace();
 
+    /// Gives the native window up; the next showing makes another.
+    void giveUp() { destroy(); }
+
 protected:
     bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
