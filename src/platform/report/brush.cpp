@@ -3,6 +3,8 @@
 
 #include "platform/report/glyph_pictures.h"
 
+#include <QTextLayout>
+
 #include <algorithm>
 
 namespace report {
@@ -55,7 +57,7 @@ void Brush::paint(const Section& section, int row) const
     for (const Picture& picture : section.pictures)
         draw(picture);
     for (const Label& label : section.labels)
-        write(decoded(label.text), label.place, label.type, label.align);
+        write(label);
     for (const Field& field : section.fields)
         write(formatted(document_.rows->text(row, field.column), field.format), field.place, field.type, field.align);
     for (const Box& box : section.boxes)
@@ -99,6 +101,20 @@ QString Brush::decoded(const QString& text) const
         .replace(QStringLiteral("%P"), QString::number(pages_))
         .replace(QStringLiteral("%d"), document_.moment.date)
         .replace(QStringLiteral("%T"), document_.moment.time);
+}
+
+// A label stands on every page, and most of them beside every row: those are laid out once.
+void Brush::write(const Label& label) const
+{
+    const Place& place = label.place;
+    const QTextLayout* laidOut = spoken_ || label.text.contains(u'%') ? nullptr : laidOutOnce(label.text, label.type);
+    if (!laidOut || laidOut->lineAt(0).naturalTextWidth() > place.width) {
+        write(decoded(label.text), place, label.type, label.align);
+        return;
+    }
+    const QTextLine line = laidOut->lineAt(0);
+    const double left = place.left + (place.width - line.naturalTextWidth()) * shareOf(label.align);
+    laidOut->draw(&painter_, {left, place.top + ascentOf(label.type) - line.ascent()});
 }
 
 void Brush::write(const QString& text, const Place& place, Type type, Align align) const

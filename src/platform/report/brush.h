@@ -33,6 +33,7 @@ public:
 
 private:
     QString decoded(const QString& text) const;
+    void write(const Label& label) const;
     void write(const QString& text, const Place& place, Type type, Align align) const;
     void writeLine(const QString& text, double left, double baseLine, Type type) const;
     void say(const QString& text, double left, double baseLine) const;

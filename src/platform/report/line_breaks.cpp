@@ -11,32 +11,53 @@ namespace {
 
 constexpr char16_t firstIdeograph = 0x3000;
 
-bool mayBreakAfter(QChar character)
+bool mayBreakBetween(QChar before, QChar behind)
 {
-    return character == u' ' || character == u'-' || character.unicode() >= firstIdeograph;
+    return before == u' ' || before == u'-' || before.unicode() >= firstIdeograph || behind.unicode() >= firstIdeograph;
 }
 
-// Breaks one paragraph behind blanks and hyphens and around ideographs; a longer word wherever the line is full.
-void breakSimple(QStringView text, const CharacterWidths& widths, double width, std::vector<QStringView>& lines)
+// Behind a blank or a hyphen, around an ideograph, or where the line is full.
+qsizetype lastOpportunity(QStringView text, qsizetype start, qsizetype full)
+{
+    for (qsizetype at = full; at > start; --at)
+        if (mayBreakBetween(text[at - 1], text[at]))
+            return at;
+    return full;
+}
+
+constexpr qsizetype notKnown = -1;
+
+// Where the line that begins at `start` ends; not known where a width isn't. Every character of a long report goes
+// through here.
+qsizetype endOfLine(QStringView text, qsizetype start, const CharacterWidths& widths, double width)
+{
+    double filled = 0;
+    for (qsizetype at = start; at < text.size(); ++at) {
+        const auto advance = double(widths.known(text[at]));
+        if (advance < 0)
+            return notKnown;
+        filled += advance;
+        if (filled > width && text[at] != u' ' && at > start)
+            return lastOpportunity(text, start, at);
+    }
+    return text.size();
+}
+
+// False where a character isn't simple.
+bool breakSimple(QStringView text, const CharacterWidths& widths, double width, std::vector<QStringView>& lines)
 {
     qsizetype start = 0;
-    qsizetype opportunity = 0;
-    double filled = 0;
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        const double advance = double(widths[text[at]]);
-        if (text[at].unicode() >= firstIdeograph)
-            opportunity = at;
-        if (filled + advance > width && text[at] != u' ' && at > start) {
-            const qsizetype end = opportunity > start ? opportunity : at;
-            lines.push_back(text.mid(start, end - start));
-            start = end;
-            filled = widths.sum(text.mid(start, at - start));
+    do {
+        qsizetype end = endOfLine(text, start, widths, width);
+        if (end == notKnown) {
+            if (!widths.areSimple(text)) // which measures them all
+                return false;
+            end = endOfLine(text, start, widths, width);
         }
-        filled += advance;
-        if (mayBreakAfter(text[at]))
-            opportunity = at + 1;
-    }
-    lines.push_back(text.mid(start));
+        lines.push_back(text.mid(start, end - start));
+        start = end;
+    } while (start < text.size());
+    return true;
 }
 
 // ---- what isn't simple
@@ -137,12 +158,11 @@ void breakOther(QStringView text, Type type, double width, std::vector<QStringVi
 void breakParagraph(QStringView text, Type type, double width, std::vector<QStringView>& lines)
 {
     const CharacterWidths& widths = CharacterWidths::of(type.bold);
-    if (text.isEmpty())
-        lines.push_back(text);
-    else if (widths.areSimple(text))
-        breakSimple(text, widths, width * kerningSlack / (type.points * TwipsPerPoint), lines);
-    else
-        breakOther(text, type, width, lines);
+    const std::size_t before = lines.size();
+    if (breakSimple(text, widths, width * kerningSlack / (type.points * TwipsPerPoint), lines))
+        return;
+    lines.resize(before);
+    breakOther(text, type, width, lines);
 }
 
 } // namespace

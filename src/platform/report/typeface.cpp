@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <memory>
+#include <tuple>
 
 namespace report {
 
@@ -51,6 +53,16 @@ double fittingPoints(double points, double needed, double available)
     return std::floor(points * available / needed * pointSteps) / pointSteps;
 }
 
+std::unique_ptr<QTextLayout> laidOut(const QString& text, Type type)
+{
+    auto layout = std::make_unique<QTextLayout>(text, fontOf(type));
+    layout->setCacheEnabled(true);
+    layout->beginLayout();
+    layout->createLine();
+    layout->endLayout();
+    return layout;
+}
+
 } // namespace
 
 const QFont& fontOf(Type type)
@@ -83,6 +95,17 @@ double widthOf(const QString& text, Type type)
     const QTextLine line = layout.createLine();
     layout.endLayout();
     return line.naturalTextWidth();
+}
+
+const QTextLayout* laidOutOnce(const QString& text, Type type)
+{
+    if (!CharacterWidths::of(type.bold).areSimple(text))
+        return nullptr;
+    static std::map<std::tuple<QString, double, bool>, std::unique_ptr<QTextLayout>> kept;
+    const auto [entry, isNew] = kept.try_emplace({text, type.points, type.bold});
+    if (isNew)
+        entry->second = laidOut(text, type);
+    return entry->second.get();
 }
 
 Fitted fit(const QString& text, Type type, double width)

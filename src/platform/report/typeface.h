@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QTextLayout;
+
 namespace report {
 
 inline constexpr double TwipsPerPoint = 20;
@@ -37,6 +39,9 @@ Fitted fit(const QString& text, Type type, double width);
 
 /// The text's width.
 double widthOf(const QString& text, Type type);
+
+/// A text of plain letters on one line, which is laid out at its first use and kept; null for any other.
+const QTextLayout* laidOutOnce(const QString& text, Type type);
 
 /// The lines into which a text of several lines falls; they are views of it. Each is at most `width` wide, blanks at
 /// its end aside. There is always one.

@@ -22,7 +22,7 @@ class CharacterWidths {
 public:
     static const CharacterWidths& of(bool bold);
 
-    /// Negative where the character isn't simple. Asked some millions of times for a long report.
+    /// Negative where the character isn't simple.
     float operator[](QChar character) const
     {
         float& width = widths_[character.unicode()];
@@ -30,6 +30,10 @@ public:
             width = measured(character);
         return width;
     }
+
+    /// The same, and negative too where the character hasn't been met yet. Asked some millions of times for a long
+    /// report.
+    float known(QChar character) const { return widths_[character.unicode()]; }
 
     bool areSimple(QStringView text) const;
     double sum(QStringView text) const;
