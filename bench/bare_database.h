@@ -15,7 +15,8 @@ public:
     explicit BareDatabase(const QString& path)
     {
         check(sqlite3_open_v2(path.toUtf8(), &handle_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr));
-        check(sqlite3_key(handle_, databaseKey().constData(), static_cast<int>(databaseKey().size())));
+        const QByteArray key = databaseKey().passphrase;
+        check(sqlite3_key(handle_, key.constData(), static_cast<int>(key.size())));
         run("PRAGMA cipher_compatibility = 3");
         run("SELECT count(*) FROM sqlite_master");
         run("PRAGMA journal_mode=TRUNCATE; PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=FULL;"

@@ -87,7 +87,8 @@ void proveBare(const QString& path)
 {
     sqlite3* database = nullptr;
     check(sqlite3_open_v2(path.toUtf8().constData(), &database, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK);
-    check(sqlite3_key(database, databaseKey().constData(), static_cast<int>(databaseKey().size())) == SQLITE_OK);
+    const QByteArray key = databaseKey().passphrase;
+    check(sqlite3_key(database, key.constData(), static_cast<int>(key.size())) == SQLITE_OK);
     run(database, "PRAGMA cipher_compatibility = 3");
     run(database, "PRAGMA quick_check");
     for (const storage::TableDefinition* table : databaseTables())

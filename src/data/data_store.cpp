@@ -155,9 +155,11 @@ void stageAsset()
         Data1.rsPrint.Fields(column) = Data1.rsInventory.Fields(column);
 }
 
-QByteArray databaseKey()
+// The salt is that of the file that the program comes with, and so of nearly every household's.
+storage::FileKey databaseKey()
 {
-    return QByteArrayLiteral("R2916mTq47DxWuHzEoN");
+    return {"R2916mTq47DxWuHzEoN", "5cf6ee792cdf05e1ba2b6325c41a5f10",
+        "15493f0bff541ab4fe0c241f01cb4db3e0a761814dd31db46eee89c062d9cf9a"};
 }
 
 std::span<const TableDefinition* const> databaseTables()

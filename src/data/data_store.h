@@ -129,7 +129,7 @@ void rewind(storage::TableView& view);
 void stageAsset();
 
 /// The key of the database file.
-QByteArray databaseKey();
+storage::FileKey databaseKey();
 
 /// The seven tables.
 std::span<const storage::TableDefinition* const> databaseTables();

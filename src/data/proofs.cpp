@@ -31,7 +31,7 @@ constexpr const storage::TableDefinition* tables[] = {&table};
 // A key as the engine takes it as it is: to make one of a passphrase is slow on purpose.
 QByteArray bookKey()
 {
-    return "x'" + QCryptographicHash::hash(databaseKey(), QCryptographicHash::Sha256).toHex() + '\'';
+    return "x'" + QCryptographicHash::hash(databaseKey().passphrase, QCryptographicHash::Sha256).toHex() + '\'';
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "data/data_store.h"
 #include "data/shipped_database.h"
 #include "data/standard_names.h"
+#include "platform/storage/schema.h"
 #include "support/print.h"
 #include "support/rows.h"
 
@@ -25,6 +26,14 @@ TEST(ShippedDatabase, HoldsTheNamesOfEachAreaTheHouseholdsRowAndNothingElse)
     EXPECT_EQ(rowsOf(store.rsMobile, 0, Names::Standard), QStringList({leading, "Car|Parts|Jack|1"}));
     EXPECT_EQ(rowsOf(store.rsGeneral, General::Last, General::First), QStringList("None|None"));
     EXPECT_EQ(store.rsInventory.RecordCount() + store.rsPrint.RecordCount() + store.rsBank.RecordCount(), 0);
+}
+
+// Whatever the passphrase: the key that is known for the salt of the shipped file opens it.
+TEST(ShippedDatabase, OpensByTheKeyThatIsKnown)
+{
+    storage::FileKey key = databaseKey();
+    key.passphrase = "another";
+    EXPECT_EQ(storage::checkDatabase(KESTRILL_SHIPPED_DATABASE, key).size(), 7u);
 }
 
 TEST(StandardNames, EachFaultIsTold)

@@ -69,7 +69,7 @@ Connection::~Connection()
     }
 }
 
-void Connection::setFile(const QString& path, const QByteArray& key)
+void Connection::setFile(const QString& path, const FileKey& key)
 {
     if (isOpen())
         throw RuntimeFailure(FailureKind::InvalidCall, QStringLiteral("the database is open"));
@@ -88,7 +88,7 @@ void Connection::open()
     handle_ = std::move(opened);
 }
 
-void Connection::open(const QString& path, const QByteArray& key)
+void Connection::open(const QString& path, const FileKey& key)
 {
     setFile(path, key);
     open();

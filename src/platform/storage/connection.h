@@ -23,7 +23,7 @@ public:
     ~Connection();
 
     /// Names the file that `open` opens, and its key. Failures: InvalidCall while the connection is open.
-    void setFile(const QString& path, const QByteArray& key);
+    void setFile(const QString& path, const FileKey& key);
 
     /// Opens the file named, unless it is open. Failures: Database, where the file is missing, empty, damaged,
     /// read-only, no database, under another key or in use by another process. The file is then as it was, and no file
@@ -31,7 +31,7 @@ public:
     void open();
 
     /// `setFile` and `open` in one.
-    void open(const QString& path, const QByteArray& key);
+    void open(const QString& path, const FileKey& key);
 
     /// Closes all views that are still open, and the file. Pending edits are dropped; staging tables are written first.
     /// Failures: Database, where a staging table can't be written, the file has left its place, or a write that failed
@@ -60,7 +60,7 @@ private:
     void shut();
 
     QString path_;
-    QByteArray key_;
+    FileKey key_;
     std::shared_ptr<TextPool> texts_ = std::make_shared<TextPool>(); // snapshots share it
     Handle handle_;
     FileIdentity file_; // the one that is open

@@ -112,13 +112,31 @@ int reasonOf(sqlite3* handle, int code)
     return sqlite3_system_errno(handle);
 }
 
+// The first bytes of a file. They are read by the engine's own way, since a file that is closed takes all locks of the
+// process with it.
+QByteArray saltOf(sqlite3* handle)
+{
+    constexpr int saltSize = 16;
+    QByteArray salt(saltSize, '\0');
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    const bool isRead = file && file->pMethods && file->pMethods->xRead(file, salt.data(), saltSize, 0) == SQLITE_OK;
+    return isRead ? salt.toHex() : QByteArray();
+}
+
+QByteArray keyFor(sqlite3* handle, const FileKey& key)
+{
+    return !key.knownSalt.isEmpty() && saltOf(handle) == key.knownSalt ? "x'" + key.knownKey + '\'' : key.passphrase;
+}
+
 // What version 4 of the engine has to be told, and version 3 passes over: files have the form of 3, which either opens,
 // and failures are told by the caller instead of being written to the terminal.
-int unlock(sqlite3* handle, const QByteArray& key)
+int unlock(sqlite3* handle, const FileKey& key)
 {
     int code = sqlite3_exec(handle, "PRAGMA cipher_log_level = NONE", nullptr, nullptr, nullptr);
+    const QByteArray words = keyFor(handle, key);
     if (code == SQLITE_OK)
-        code = sqlite3_key(handle, key.constData(), static_cast<int>(key.size()));
+        code = sqlite3_key(handle, words.constData(), static_cast<int>(words.size()));
     if (code == SQLITE_OK)
         code = sqlite3_exec(handle, "PRAGMA cipher_compatibility = 3", nullptr, nullptr, nullptr);
     return code;
@@ -193,7 +211,7 @@ void throwEngineFailure(sqlite3* handle, int code)
     throw values::RuntimeFailure(values::FailureKind::Database, words);
 }
 
-Handle openFile(const QString& path, const QByteArray& key, Access access)
+Handle openFile(const QString& path, const FileKey& key, Access access)
 {
     const QFileInfo file = fileAt(path);
     refuseUnlessRegular(file.filePath());

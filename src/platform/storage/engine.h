@@ -19,6 +19,21 @@ struct CloseHandle {
 /// An open database file of the engine.
 using Handle = std::unique_ptr<sqlite3, CloseHandle>;
 
+/// What opens a file: a passphrase, which the engine turns into a key by a slow derivation with the file's salt. Of one
+/// salt that key may be known, which then is used at once. Salt and key are given as hexadecimal digits.
+struct FileKey {
+    FileKey(const QByteArray& words = {}, const QByteArray& salt = {}, const QByteArray& keyWithSalt = {})
+        : passphrase(words)
+        , knownSalt(salt)
+        , knownKey(keyWithSalt)
+    {
+    }
+
+    QByteArray passphrase;
+    QByteArray knownSalt;
+    QByteArray knownKey;
+};
+
 enum class Access {
     ReadOnly,
     ReadWrite,
@@ -27,7 +42,7 @@ enum class Access {
 
 /// Opens an existing file under its key and reads from it, which proves the key. Never makes a file. Its path may be as
 /// long as the system takes it. Failures: Database.
-Handle openFile(const QString& path, const QByteArray& key, Access access);
+Handle openFile(const QString& path, const FileKey& key, Access access);
 
 /// The number of the last transaction stored in the file. Failures: Database.
 qint64 generationOf(sqlite3* handle);

@@ -14,7 +14,7 @@ namespace storage {
 
 namespace {
 
-JournalBeside journalOf(const QString& path, const QByteArray& key, FileReader::Locks locks)
+JournalBeside journalOf(const QString& path, const FileKey& key, FileReader::Locks locks)
 {
     if (locks == FileReader::Locks::Respected && isInUse(path))
         throw FileInUse(path);
@@ -28,7 +28,7 @@ FileInUse::FileInUse(const QString& path)
 {
 }
 
-FileReader::FileReader(const QString& path, const QByteArray& key, Locks locks)
+FileReader::FileReader(const QString& path, const FileKey& key, Locks locks)
     : journal_(journalOf(path, key, locks))
     , handle_(opened(path, key, locks))
 {
@@ -39,7 +39,7 @@ FileReader::FileReader(const QString& path, const QByteArray& key, Locks locks)
     readOnce(handle_.get());
 }
 
-Handle FileReader::opened(const QString& path, const QByteArray& key, Locks locks)
+Handle FileReader::opened(const QString& path, const FileKey& key, Locks locks)
 {
     if (journal_ == JournalBeside::Foreign)
         return openFile(path, key, Access::AsItLies);

@@ -26,7 +26,7 @@ public:
     };
 
     /// Opens the file. Failures: FileInUse; Database, with the reason, as at `Connection::open`.
-    FileReader(const QString& path, const QByteArray& key, Locks locks = Locks::Respected);
+    FileReader(const QString& path, const FileKey& key, Locks locks = Locks::Respected);
 
     /// Reads it to its last page: each page's checksum, its structure. Failures: Database.
     void readThrough();
@@ -46,7 +46,7 @@ public:
     JournalBeside journal() const { return journal_; }
 
 private:
-    Handle opened(const QString& path, const QByteArray& key, Locks locks);
+    Handle opened(const QString& path, const FileKey& key, Locks locks);
 
     JournalBeside journal_;
     std::optional<CopyWithJournal> copy_; // outlives the handle

@@ -23,7 +23,7 @@ namespace {
 
 const QString Suffix = QStringLiteral("-journal");
 
-std::optional<qint64> generationIn(const QString& path, const QByteArray& key, Access access)
+std::optional<qint64> generationIn(const QString& path, const FileKey& key, Access access)
 {
     try {
         return generationOf(openFile(path, key, access).get());
@@ -33,7 +33,7 @@ std::optional<qint64> generationIn(const QString& path, const QByteArray& key, A
 }
 
 // What the file would be once the journal was played back.
-std::optional<qint64> generationPlayedBack(const QString& file, const QByteArray& key)
+std::optional<qint64> generationPlayedBack(const QString& file, const FileKey& key)
 {
     const CopyWithJournal copy(file);
     return generationIn(copy.file(), key, Access::ReadWrite);
@@ -41,7 +41,7 @@ std::optional<qint64> generationPlayedBack(const QString& file, const QByteArray
 
 // Each transaction counts the generation up, and its journal holds the one before. So a file in the middle of that
 // transaction has the one or the other. A file that can't be read is left to its journal.
-bool isForeign(const QString& file, const QByteArray& key)
+bool isForeign(const QString& file, const FileKey& key)
 {
     const std::optional<qint64> lies = generationIn(file, key, Access::AsItLies);
     if (!lies)
@@ -85,7 +85,7 @@ CopyWithJournal::CopyWithJournal(const QString& file)
     QFile::setPermissions(this->file(), QFile::ReadOwner | QFile::WriteOwner);
 }
 
-JournalBeside journalBeside(const QString& path, const QByteArray& key)
+JournalBeside journalBeside(const QString& path, const FileKey& key)
 {
     const QString file = fileWithJournal(path);
     if (file.isEmpty())
@@ -93,7 +93,7 @@ JournalBeside journalBeside(const QString& path, const QByteArray& key)
     return isForeign(file, key) ? JournalBeside::Foreign : JournalBeside::Own;
 }
 
-void setForeignJournalAside(const QString& path, const QByteArray& key)
+void setForeignJournalAside(const QString& path, const FileKey& key)
 {
     const QString file = fileWithJournal(path);
     if (file.isEmpty())

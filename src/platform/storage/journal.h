@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
+#include "platform/storage/engine.h"
+
 #include <QString>
 #include <QTemporaryDir>
 
@@ -15,7 +16,7 @@ enum class JournalBeside {
 };
 
 /// Finds out which. Nobody may have the file open. Failures: Database, where this can't be found out.
-JournalBeside journalBeside(const QString& path, const QByteArray& key);
+JournalBeside journalBeside(const QString& path, const FileKey& key);
 
 /// A file and its journal in a folder of their own, for as long as it lives: opening the copy plays the journal back.
 /// It is as encrypted as the file. Failures: Database, where there is no room.
@@ -33,6 +34,6 @@ private:
 /// copied over the file of a session that broke off. Played back by the engine it would destroy the file. It is kept as
 /// "NAME-foreign-journal". A journal that may belong to the file is left to the engine, and so is a file in use.
 /// Failures: Database, where this can't be found out or done; all is then left as it was.
-void setForeignJournalAside(const QString& path, const QByteArray& key);
+void setForeignJournalAside(const QString& path, const FileKey& key);
 
 } // namespace storage

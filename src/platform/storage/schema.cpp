@@ -29,7 +29,7 @@ qint64 countRows(sqlite3* handle, const QByteArray& table)
 
 } // namespace
 
-void createDatabase(const QString& path, const QByteArray& key, std::span<const TableDefinition* const> tables)
+void createDatabase(const QString& path, const FileKey& key, std::span<const TableDefinition* const> tables)
 {
     createPrivateFile(path);
     const Handle handle = openFile(path, key, Access::ReadWrite);
@@ -39,7 +39,7 @@ void createDatabase(const QString& path, const QByteArray& key, std::span<const 
     transaction.commit();
 }
 
-std::vector<TableCount> checkDatabase(const QString& path, const QByteArray& key)
+std::vector<TableCount> checkDatabase(const QString& path, const FileKey& key)
 {
     const Handle handle = openFile(path, key, Access::ReadOnly);
     proveIntact(handle.get());

@@ -55,7 +55,7 @@ TEST_F(ConnectionTest, RefusesADamagedCutOrForeignFileAndLeavesItAsItWas)
         EXPECT_EQ(failureOf([this] { storage::checkDatabase(path(), key); }), FailureKind::Database) << what;
     }
     putFile(path(), whole);
-    home.setFile(path(), "another key");
+    home.setFile(path(), QByteArray("another key"));
     expectRefusal("wrong key");
     home.setFile(folder.filePath("none.db"), key);
     expectRefusal("missing");

@@ -37,7 +37,7 @@ inline constexpr storage::TableDefinition stage{"Stage", columns, true};
 /// A database of three tables, not opened, in a folder of its own, whose path is longer than the engine takes.
 class StorageTest : public testing::Test {
 protected:
-    static constexpr auto key =
+    static inline const QByteArray key =
         "x'000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f'"; // quick: no phrase
     static constexpr const storage::TableDefinition* tables[] = {&things::table, &words::table, &words::stage};
 
