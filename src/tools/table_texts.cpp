@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QString>
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 
@@ -24,6 +25,11 @@ std::optional<qint64> numberIn(std::string_view text)
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
     const bool isWhole = failure == std::errc() && end == text.data() + text.size();
     return isWhole ? std::optional(number) : std::nullopt;
+}
+
+bool isPlain(char byte)
+{
+    return byte >= ' ' && byte <= '~' && byte != '"' && byte != '\\';
 }
 
 // Without a detour by floating point. A cell that is no number stays as it is.
@@ -125,9 +131,11 @@ std::string csvRow(const Snapshot& table, int row)
     return line;
 }
 
-// The toolkit writes whole documents, and no text alone.
+// The toolkit writes whole documents, and no text alone; what it would write as it is needs no document.
 std::string jsonText(std::string_view text)
 {
+    if (std::ranges::all_of(text, isPlain))
+        return '"' + std::string(text) + '"';
     const QJsonArray list{QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))};
     const QByteArray json = QJsonDocument(list).toJson(QJsonDocument::Compact);
     return json.sliced(1, json.size() - 2).toStdString();
