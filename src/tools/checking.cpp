@@ -5,6 +5,7 @@
 #include "data/name_markers.h"
 #include "platform/values/date.h"
 #include "platform/values/text.h"
+#include "tools/printable.h"
 
 #include <algorithm>
 #include <limits>
@@ -136,15 +137,6 @@ constexpr Rule alertRules[] = {
 };
 
 constexpr Rule quietRule{"Personal_Info", General::PolicyExpiration, isDateOrNone, "is no date", InsuranceScreen};
-
-// What stands in a file may be made to upset a terminal.
-QString printable(const QString& text)
-{
-    QString shown = text.left(60);
-    std::replace_if(
-        shown.begin(), shown.end(), [](QChar character) { return !character.isPrint(); }, QChar(u'?'));
-    return shown;
-}
 
 // Rows that the database numbers are told by their numbers, others are counted from 1.
 QString placeOf(const Snapshot& table, int row, int column)

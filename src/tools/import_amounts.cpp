@@ -14,29 +14,40 @@ namespace importing {
 
 namespace {
 
-// Digits, points and commas are left; a minus where there is one, and nothing where anything else stands there.
+// Digits, points and commas are left, and a minus in front where it is below zero; nothing of what is no amount.
 std::optional<QString> bare(const QString& text)
 {
-    static const QRegularExpression currency(QStringLiteral("^(?:[A-Za-z]{1,3}|[A-Za-z]{0,2}\\p{Sc})$"));
-    static const QRegularExpression shortened(QStringLiteral("[A-Za-z]+\\.")); // "Fr. 20"
-    QString digits;
-    QString around;
-    bool isBelowZero = false;
-    for (const QChar character : QString(text).remove(shortened)) {
-        if (values::digits::isDigit(character) || character == u'.' || character == u',')
-            digits += character;
-        else if (character == u'-' || character == u'(' || character == QChar(0x2212))
-            isBelowZero = true;
-        else if (!character.isSpace() && character != u'\'' && character != QChar(0x2019) && character != u')')
-            around += character;
-    }
-    static const QRegularExpression noCents(QStringLiteral("[.,]$")); // "50.-", and the point of "Fr."
-    if (isBelowZero && digits.contains(noCents)) {
-        isBelowZero = false;
+    static const QString currency = QStringLiteral("(?:[A-Za-z]{1,3}\\.?|[A-Za-z]{0,3}\\p{Sc})?\\s*");
+    static const QRegularExpression form(QStringLiteral("^\\s*(?<before>[-(]?)\\s*") + currency
+        + QStringLiteral("(?<within>-?)\\s*(?<digits>[0-9.,'\\p{Z}]*[0-9][.,]?)(?<behind>-?)\\s*") + currency
+        + QStringLiteral("[-)]?\\s*$"));
+    // A minus, dashes and an apostrophe as typesetters have them.
+    QString plain = text;
+    for (const char16_t dash : {u'\u2212', u'\u2013', u'\u2014'})
+        plain.replace(QChar(dash), u'-');
+    plain.replace(QChar(0x2019), u'\'');
+    const QRegularExpressionMatch match = form.match(plain);
+    if (!match.hasMatch())
+        return {};
+    static const QRegularExpression between(QStringLiteral("['\\p{Z}]"));
+    QString digits = match.captured(u"digits").remove(between);
+    const bool hasNoCents = digits.endsWith(u'.') || digits.endsWith(u','); // "50.-"
+    if (hasNoCents)
         digits.chop(1);
+    const bool isBelowZero = !match.captured(u"before").isEmpty() || !match.captured(u"within").isEmpty()
+        || (!match.captured(u"behind").isEmpty() && !hasNoCents);
+    return (isBelowZero ? QStringLiteral("-") : QString()) + digits;
+}
+
+bool isGrouped(const QString& whole, QChar separator)
+{
+    const QStringList groups = whole.split(separator);
+    for (qsizetype i = 0; i < groups.size(); ++i) {
+        const bool isRight = i == 0 ? groups[i].size() <= 3 : groups[i].size() == 3;
+        if (!values::digits::areAll(groups[i]) || (groups.size() > 1 && !isRight))
+            return false;
     }
-    const bool isAmount = !digits.isEmpty() && (around.isEmpty() || currency.match(around).hasMatch());
-    return isAmount ? std::optional((isBelowZero ? QStringLiteral("-") : QString()) + digits) : std::nullopt;
+    return true;
 }
 
 struct Told {
@@ -58,19 +69,10 @@ Told told(const QString& digits)
     const DecimalSign sign = point >= 0 ? DecimalSign::Point : DecimalSign::Comma;
     const DecimalSign other = point >= 0 ? DecimalSign::Comma : DecimalSign::Point;
     const bool isRepeated = digits.count(digits[at]) > 1;
+    if (isRepeated && !isGrouped(digits, digits[at]))
+        return {};
     const bool isThousands = isRepeated || digits.size() - at - 1 == 3;
     return {isThousands ? other : sign, isRepeated || !isThousands};
-}
-
-bool isGrouped(const QString& whole, QChar separator)
-{
-    const QStringList groups = whole.split(separator);
-    for (qsizetype i = 0; i < groups.size(); ++i) {
-        const bool isRight = i == 0 ? groups[i].size() <= 3 : groups[i].size() == 3;
-        if (!values::digits::areAll(groups[i]) || (groups.size() > 1 && !isRight))
-            return false;
-    }
-    return true;
 }
 
 AmountRead amountOf(const QString& digits, DecimalSign sign)
@@ -80,11 +82,11 @@ AmountRead amountOf(const QString& digits, DecimalSign sign)
     const QString whole = digits.section(decimal, 0, 0);
     const QString cents = digits.section(decimal, 1);
     if (digits.count(decimal) > 1 || !values::digits::areAll(cents) || !isGrouped(whole, grouping))
-        return {{}, QStringLiteral("The Purchase Price Has Another Decimal Sign Than The Others")};
+        return {{}, QStringLiteral("It Has Another Decimal Sign Than The Others")};
     if (cents.size() > 2 && !QStringView(cents).sliced(2).toString().remove(u'0').isEmpty())
-        return {{}, QStringLiteral("The Purchase Price Has Parts Of A Cent")};
+        return {{}, QStringLiteral("It Has Parts Of A Cent")};
     const auto amount = Currency::tryParse(QString(whole).remove(grouping) + u'.' + cents.left(2));
-    return amount ? AmountRead{amount, {}} : AmountRead{{}, QStringLiteral("The Purchase Price Is Too Large")};
+    return amount ? AmountRead{amount, {}} : AmountRead{{}, QStringLiteral("It Is Too Large")};
 }
 
 } // namespace
@@ -117,14 +119,14 @@ AmountRead AmountReader::read(const QString& text) const
 {
     const std::optional<QString> digits = bare(text);
     if (!digits)
-        return {{}, QStringLiteral("The Purchase Price Is No Amount")};
+        return {{}, QStringLiteral("It Is No Amount")};
     if (digits->startsWith(u'-'))
-        return {{}, QStringLiteral("The Purchase Price Is Below Zero")};
+        return {{}, QStringLiteral("It Is Below Zero")};
     if (sign_ != DecimalSign::Unknown)
         return amountOf(*digits, sign_);
     const bool needsSign = digits->contains(u'.') || digits->contains(u',');
     if (needsSign)
-        return {{}, QStringLiteral("The Purchase Price Can Be Read In Two Ways: The Decimal Sign Must Be Told")};
+        return {{}, QStringLiteral("It Can Be Read In Two Ways: The Decimal Sign Must Be Told")};
     return amountOf(*digits, DecimalSign::Point);
 }
 

@@ -5,6 +5,7 @@
 #include "data/name_markers.h"
 #include "platform/values/csv.h"
 #include "platform/values/text.h"
+#include "tools/printable.h"
 
 #include <algorithm>
 
@@ -38,10 +39,8 @@ constexpr Inventory::Column defaulted[] = {Inventory::Year, Inventory::Make, Inv
 
 QString shown(const QString& text)
 {
-    QString printable = text.left(40);
-    std::replace_if(
-        printable.begin(), printable.end(), [](QChar character) { return !character.isPrint(); }, QChar(u'?'));
-    return text.size() > printable.size() ? printable + QStringLiteral("...") : printable;
+    constexpr qsizetype most = 40;
+    return printable(text, most) + (text.size() > most ? QStringLiteral("...") : QString());
 }
 
 QString reason(Inventory::Column column, const QString& text, const QString& words)
@@ -104,7 +103,8 @@ void readWord(Asset& asset, Inventory::Column column, QStringList& reasons)
     const QString stored = storedWord(column, asset[column]);
     if (stored.isEmpty())
         reasons += reason(column, asset[column], faultOfWord(column));
-    asset[column] = stored;
+    else
+        asset[column] = stored;
 }
 
 void require(const Asset& asset, QStringList& reasons)
@@ -142,7 +142,7 @@ Asset fromExport(const Row& row, QStringList& reasons)
         reasons += reason(Inventory::DatePurchased, date, QString::fromLatin1(asset_rules::InvalidDate));
     const QString& amount = asset[Inventory::Amount];
     if (!amount.isEmpty() && !values::Currency::tryParse(amount))
-        reasons += reason(Inventory::Amount, amount, QStringLiteral("The Purchase Price Is No Amount"));
+        reasons += reason(Inventory::Amount, amount, QStringLiteral("It Is No Amount"));
     return asset;
 }
 
@@ -162,6 +162,10 @@ AssetRows::AssetRows(const Source& source, const Choices& choices)
 Asset AssetRows::assetOf(const Row& row, QStringList& reasons) const
 {
     const bool isTable = source_.kind() == Source::Kind::Table;
+    if (isTable && row.cells.size() != targets_.size()) {
+        reasons += QStringLiteral("The Row Has %1 Cells Under %2 Headings").arg(row.cells.size()).arg(targets_.size());
+        return {};
+    }
     Asset asset = isTable ? fromTable(row, reasons) : fromExport(row, reasons);
     fillIn(asset);
     if (isTable)
@@ -190,14 +194,10 @@ QStringList AssetRows::columnOf(Inventory::Column column) const
 Asset AssetRows::fromTable(const Row& row, QStringList& reasons) const
 {
     Asset asset;
-    if (row.cells.size() != targets_.size())
-        reasons += QStringLiteral("The Row Has %1 Cells Under %2 Headings").arg(row.cells.size()).arg(targets_.size());
-    for (std::size_t at = 0; at < std::min(row.cells.size(), targets_.size()); ++at)
-        if (targets_[at].kind == Target::Field)
-            takeCell(row, at, asset, reasons);
-    for (std::size_t at = 0; at < std::min(row.cells.size(), targets_.size()); ++at)
-        if (targets_[at].kind == Target::EndOfDescription)
-            takeCell(row, at, asset, reasons);
+    for (const auto kind : {Target::Field, Target::EndOfDescription})
+        for (std::size_t at = 0; at < targets_.size(); ++at)
+            if (targets_[at].kind == kind)
+                takeCell(row, at, asset, reasons);
     return asset;
 }
 

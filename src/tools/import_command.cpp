@@ -94,7 +94,8 @@ Value chosen(const QCommandLineParser& parser, const QCommandLineOption& option,
         return {};
     const std::optional<Value> value = named(parser.value(option));
     if (!value)
-        refuseUsage(QStringLiteral("--%1 is no %2").arg(option.names().first(), option.valueName()));
+        refuseUsage(QStringLiteral("\"%1\" is no %2 for --%3")
+                        .arg(parser.value(option), option.valueName().toLower(), option.names().first()));
     return *value;
 }
 

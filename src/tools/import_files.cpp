@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The files that an import writes beside the household's: wrong rows, and the template.
+#include "platform/system/paths.h"
 #include "platform/values/csv.h"
 #include "platform/values/failure.h"
 #include "tools/exit_codes.h"
@@ -65,6 +66,8 @@ Cells wrongRow(const Source& source, const WrongRow& wrong, std::size_t width)
 template <class Write>
 void writeFile(const QString& path, Write write)
 {
+    if (sys::kindOf(path) != sys::Kind::Nothing)
+        throw Refusal(exit_code::Failed, QStringLiteral("%1 is there already. Give the name of a new file.").arg(path));
     try {
         TextFile out(path);
         write(out);

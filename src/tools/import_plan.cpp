@@ -7,6 +7,7 @@
 #include "tools/exit_codes.h"
 #include "tools/import_assets.h"
 #include "tools/import_household.h"
+#include "tools/printable.h"
 
 #include <QHash>
 #include <QSet>
@@ -233,7 +234,7 @@ QStringList newNamesOf(const Plan& plan)
             QStringList names;
             for (const NewName& name : plan.newNames)
                 if (name.area == area.area && name.kind == kind)
-                    names += name.name;
+                    names += printable(name.name);
             if (names.isEmpty())
                 continue;
             const QString further =
@@ -297,7 +298,7 @@ std::vector<QStringList> mapOf(const Source& source, const std::vector<Target>& 
     for (std::size_t i = 0; i < source.columns().size(); ++i) {
         const ColumnSeen& column = source.columns()[i];
         const Target target = targets.empty() ? source.targets()[i] : targets[i];
-        map.push_back({column.heading, nameOf(target), column.example});
+        map.push_back({printable(column.heading), nameOf(target), printable(column.example)});
     }
     return map;
 }

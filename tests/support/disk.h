@@ -15,5 +15,9 @@ public:
     /// From now on every call fails, with the reason, whose line begins with what this expression matches.
     static void refuse(const QString& calls, int reason);
 
+    /// Ends the process in place of the call of that number, counted from now on, of all that change a file or a name.
+    static void endAt(int call);
+    static constexpr int Ended = 77; ///< its status then
+
     inline static QStringList told;
 };

@@ -146,7 +146,7 @@ protected:
     static int command(const QStringList& words)
     {
         static const std::map<QString, int (*)(const QStringList&)> commands{
-            {"check", commands::check}, {"export", commands::exportAll}, {"restore", commands::restore}};
+            {"check", commands::check}, {"export", commands::exportAll}, {"import", commands::importAll}, {"restore", commands::restore}};
         return commands.at(words[0])(words);
     }
 
