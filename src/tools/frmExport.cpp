@@ -1,27 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmExport.h"
 
-#include "platform/forms/boxes/folder_choice.h"
-#include "platform/report/progress.h"
+#include "platform/forms/boxes/file_choice.h"
 #include "shared/conventions.h"
 #include "tools/exit_codes.h"
 #include "tools/exporting.h"
+#include "tools/shown_progress.h"
 #include "tools/source.h"
 
 #include <QDir>
-
-namespace {
-
-constexpr int Percent = 100;
-
-// The program is an application of its own for the moment: no other window of it takes input.
-exporting::Progress shownIn(report::ProgressWindow& window)
-{
-    return [progress = window.progress()](
-               int done, int all) { return progress(static_cast<int>(qint64{done} * Percent / std::max(all, 1))); };
-}
-
-} // namespace
 
 frmExport::frmExport()
     : forms::Form("frmExport")
@@ -72,8 +59,8 @@ void frmExport::export_To(const QString& folder)
     lblResult.setCaption("Please Wait...");
     const Household household(sourceFile({}));
     {
-        report::ProgressWindow window("Everything is being written...", Percent, this->window());
-        exporting::write(household, folder, exporting::Former::Kept, shownIn(window));
+        ShownProgress progress("Everything is being written...", window());
+        exporting::write(household, folder, exporting::Former::Kept, progress.told());
     }
     lblResult.setCaption(
         QStringLiteral("Written: %1, in the folder\n%2").arg(household.summary(), QDir::toNativeSeparators(folder)));

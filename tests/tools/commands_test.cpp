@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools_test.h"
 
-#include "platform/forms/boxes/folder_choice.h"
+#include "platform/forms/boxes/file_choice.h"
 #include "platform/storage/file_lock.h"
 #include "platform/values/file_name.h"
 #include "support/disk.h"
@@ -28,7 +28,7 @@ namespace {
 // A test whose list tells what happens to the household and its files.
 class ListedTest : public ToolsTest {
 protected:
-    ~ListedTest() override { forms::setFolderHandler({}); }
+    ~ListedTest() override { forms::setChoiceHandler({}); }
 
     std::optional<QString> happen(const QString& line) override
     {
@@ -67,7 +67,7 @@ protected:
             // And to the windows.
             {"open", [&] { open(path); }}, {"read", [&] { read(path.toInt()); }},
             {"begin", [&] { screen<frmExport>().tmStart.elapse(), seen = QString("| asked %1").arg(asked_); }},
-            {"choose", [&] { forms::setFolderHandler([this, path] { return ++asked_, path; }); }},
+            {"choose", [&] { forms::setChoiceHandler([this, path] { return ++asked_, path; }); }},
             {"listed", [&] { seen = listed(path.toInt()); }},
             {"status", [&] { seen = "| " + QString::number(endStatus().value_or(-1)); }}};
         const auto event = events.find(words[0]);

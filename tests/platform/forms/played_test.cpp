@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
-#include "platform/forms/boxes/folder_choice.h"
+#include "platform/forms/boxes/file_choice.h"
 #include "platform/values/failure.h"
 #include "support/files.h"
 

@@ -132,15 +132,29 @@ void RecordList::clear()
 
 void RecordList::addRecord(const QStringList& texts)
 {
+    addRecords({texts});
+}
+
+// The toolkit is quick with many that come together.
+void RecordList::addRecords(const std::vector<QStringList>& records)
+{
     {
         const ToolkitCall call;
-        auto* item = new QTreeWidgetItem(list_, texts);
-        for (int column = 0; column < list_->columnCount(); ++column)
-            item->setTextAlignment(
-                column, Qt::Alignment(list_->headerItem()->textAlignment(column)) | Qt::AlignVCenter);
+        QList<QTreeWidgetItem*> items;
+        for (const QStringList& texts : records)
+            items.append(itemOf(texts));
+        list_->addTopLevelItems(items);
     }
-    if (picked() < 0)
+    if (picked() < 0 && !records.empty())
         setPicked(0);
+}
+
+QTreeWidgetItem* RecordList::itemOf(const QStringList& texts) const
+{
+    auto* item = new QTreeWidgetItem(texts);
+    for (int column = 0; column < list_->columnCount(); ++column)
+        item->setTextAlignment(column, Qt::Alignment(list_->headerItem()->textAlignment(column)) | Qt::AlignVCenter);
+    return item;
 }
 
 void RecordList::setRecord(int index, const QStringList& texts)

@@ -5,7 +5,10 @@
 
 #include <QStringList>
 
+#include <vector>
+
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace forms {
 
@@ -23,6 +26,9 @@ public:
 
     void clear();
     void addRecord(const QStringList& texts);
+
+    /// Adds many at once, with the result of adding them one by one.
+    void addRecords(const std::vector<QStringList>& records);
     void setRecord(int index, const QStringList& texts);
     QStringList record(int index) const;
     int recordCount() const;
@@ -36,6 +42,8 @@ public:
 
 private:
     class Widget;
+
+    QTreeWidgetItem* itemOf(const QStringList& texts) const;
 
     Widget* list_;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/forms/boxes/folder_choice.h"
+#include "platform/forms/boxes/file_choice.h"
 
 #include "platform/forms/boxes/file_dialog_room.h"
 #include "platform/forms/screens/form.h"
@@ -11,25 +11,22 @@ namespace forms {
 
 namespace {
 
-std::function<QString()>& folderHandler()
+std::function<QString()>& choiceHandler()
 {
     static std::function<QString()> instance;
     return instance;
 }
 
-} // namespace
-
-QString chooseFolder(const QString& title, const QString& start)
+QString choose(const QString& title, const QString& start, const std::function<void(QFileDialog&)>& prepare)
 {
     Stage& stage = Stage::instance();
     stage.interrupted();
-    if (folderHandler())
-        return folderHandler()();
+    if (choiceHandler())
+        return choiceHandler()();
     stage.settle();
     Form* front = stage.active();
     QFileDialog dialog(front ? front->window() : nullptr, title, start);
-    dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
+    prepare(dialog);
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Choose"));
     giveRoom(dialog);
     const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
@@ -39,9 +36,27 @@ QString chooseFolder(const QString& title, const QString& start)
     return chosen;
 }
 
-void setFolderHandler(std::function<QString()> handler)
+} // namespace
+
+QString chooseFolder(const QString& title, const QString& start)
 {
-    folderHandler() = std::move(handler);
+    return choose(title, start, [](QFileDialog& dialog) {
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+    });
+}
+
+QString chooseFile(const QString& title, const QString& start, const QStringList& kinds)
+{
+    return choose(title, start, [&kinds](QFileDialog& dialog) {
+        dialog.setFileMode(QFileDialog::ExistingFile);
+        dialog.setNameFilters(kinds);
+    });
+}
+
+void setChoiceHandler(std::function<QString()> handler)
+{
+    choiceHandler() = std::move(handler);
 }
 
 } // namespace forms
