@@ -204,6 +204,32 @@ backups() {
     wait "$Program" || true
 }
 
+# A list of a householder's own: colors have no field, and one price is missing.
+import() {
+    step "the import"
+    cat >"$HOME/My things.csv" <<'END'
+Thing,Room,Kind,Brand,Bought,Paid,Color
+Coffee Machine,Kitchen,Appliances,Brightwater,11/25/2022,$249.00,black
+Armchair,Living Room,Furniture,Hearth & Home,3/14/2015,"$1,180.00",green
+Piano,Living Room,Musical Instruments,Hollis & Daughter,6/30/1998,"$6,400.00",walnut
+Wall Clock,Hall,Clocks,,5/17/2004,,brass
+Television,Family Room,Electronics,Northlight,12/2/2023,$899.00,
+END
+    start "$Build/bin/kestrill-import"
+    until_true "the question for the file" has_title "Choose The List To Import"
+    text "$HOME/My things.csv"
+    keys Return
+    wait_screen frmImport
+    keys alt+a
+    text indoor
+    keys alt+h
+    portrait import frmImport
+    keys alt+n
+    portrait import-plan frmImportPlan
+    kill -TERM "$Program"
+    wait "$Program" || true
+}
+
 # The closing screen is gone in a moment: a large database keeps it, and the program is held while it is looked at.
 closing() {
     step "the closing"
@@ -233,4 +259,5 @@ reports
 search_and_asset
 name_lists
 backups
+import
 closing

@@ -8,7 +8,6 @@
 #include "tools/terminal.h"
 
 #include <QCommandLineParser>
-#include <QFile>
 
 #include <algorithm>
 
@@ -139,22 +138,14 @@ void refuseUnconfirmed(bool isSaid)
 
 void carryOut(const Source& source, const Plan& plan, const QString& wrongFile)
 {
-    const bool hasFile = !plan.wrong.empty() && !wrongFile.isEmpty();
-    if (hasFile)
-        write_Wrong_Rows(source, plan, wrongFile);
-    try {
-        terminal::Count count;
-        const Result result = carry_Out(plan, [&count](int done, int all) { return count.tell(done, all); });
-        count.clear();
-        terminal::print(QStringLiteral("Imported: %1").arg(result.summary));
-        terminal::print(QStringLiteral("To go back: kestrill-restore --restore %1").arg(result.putAside));
-    } catch (const Refusal&) {
-        if (hasFile)
-            QFile::remove(wrongFile);
-        throw;
-    }
-    if (hasFile)
-        terminal::print(QStringLiteral("Wrong rows: %1").arg(sys::absolutePath(wrongFile)));
+    const QString file = plan.wrong.empty() ? QString() : wrongFile;
+    terminal::Count count;
+    const Result result = carry_Out(source, plan, file, [&count](int done, int all) { return count.tell(done, all); });
+    count.clear();
+    terminal::print(QStringLiteral("Imported: %1").arg(result.summary));
+    terminal::print(QStringLiteral("To go back: kestrill-restore --restore %1").arg(result.putAside));
+    if (!file.isEmpty())
+        terminal::print(QStringLiteral("Wrong rows: %1").arg(sys::absolutePath(file)));
 }
 
 struct Order {

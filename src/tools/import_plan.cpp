@@ -258,6 +258,20 @@ Plan planned(const Source& source, const Choices& choices, const Household& toda
     return Planning(source, choices, today, progress).run();
 }
 
+QStringList besidesAssetsOf(const Plan& plan)
+{
+    QStringList lines;
+    if (!plan.accounts.empty())
+        lines +=
+            counted(static_cast<qsizetype>(plan.accounts.size()), "account", "accounts") + QStringLiteral(" to come");
+    if (plan.knownAccounts > 0)
+        lines += counted(plan.knownAccounts, "account is", "accounts are") + QStringLiteral(" there already");
+    if (!plan.household.empty())
+        lines += counted(static_cast<qsizetype>(plan.household.size()), "entry", "entries")
+            + QStringLiteral(" of the personal information and the policy to be filled in");
+    return lines;
+}
+
 QStringList summaryOf(const Plan& plan)
 {
     QStringList lines;
@@ -267,14 +281,7 @@ QStringList summaryOf(const Plan& plan)
                 QStringLiteral("%1: %2, %3").arg(area.area, counted(area.assets, "asset", "assets"), area.sum.toText());
     lines += QStringLiteral("To come: %1, %2")
                  .arg(counted(static_cast<qsizetype>(plan.assets.size()), "asset", "assets"), plan.sum.toText());
-    if (!plan.accounts.empty())
-        lines +=
-            counted(static_cast<qsizetype>(plan.accounts.size()), "account", "accounts") + QStringLiteral(" to come");
-    if (plan.knownAccounts > 0)
-        lines += counted(plan.knownAccounts, "account is", "accounts are") + QStringLiteral(" there already");
-    if (!plan.household.empty())
-        lines += counted(static_cast<qsizetype>(plan.household.size()), "entry", "entries")
-            + QStringLiteral(" of the personal information and the policy to be filled in");
+    lines += besidesAssetsOf(plan);
     lines += newNamesOf(plan);
     if (!plan.known.empty())
         lines += counted(static_cast<qsizetype>(plan.known.size()), "asset is", "assets are")

@@ -91,6 +91,9 @@ Plan planned(const Source& source, const Choices& choices, const Household& toda
 QStringList summaryOf(const Plan& plan);
 QStringList wrongLinesOf(const Plan& plan);
 
+/// What comes beside assets out of an export.
+QStringList besidesAssetsOf(const Plan& plan);
+
 /// What goes where: a line of heading, target and example for each column.
 std::vector<QStringList> mapOf(const Source& source, const std::vector<Target>& targets);
 

@@ -8,6 +8,8 @@
 #include "tools/exit_codes.h"
 #include "tools/put_aside.h"
 
+#include <QFile>
+
 namespace importing {
 
 namespace {
@@ -121,6 +123,19 @@ Result carry_Out(const Plan& plan, const Progress& progress)
     const QString name =
         aside::changeBehindCopy(refuseStale, [&](qint64 generation) { Writing(plan, progress).run(generation); });
     return {Household(places::databaseFile()).summary(), name};
+}
+
+Result carry_Out(const Source& source, const Plan& plan, const QString& wrongFile, const Progress& progress)
+{
+    if (wrongFile.isEmpty())
+        return carry_Out(plan, progress);
+    write_Wrong_Rows(source, plan, wrongFile);
+    try {
+        return carry_Out(plan, progress);
+    } catch (const Refusal&) {
+        QFile::remove(wrongFile);
+        throw;
+    }
 }
 
 } // namespace importing

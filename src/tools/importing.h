@@ -17,6 +17,10 @@ struct Result {
 /// cancelled, and where the system refuses; the file is then as it was.
 Result carry_Out(const Plan& plan, const Progress& progress = {});
 
+/// The same, with the wrong rows of its source written into a new file before, unless its name is empty. That file is
+/// taken away again where the import is refused.
+Result carry_Out(const Source& source, const Plan& plan, const QString& wrongFile, const Progress& progress = {});
+
 /// Writes the wrong rows of a source into a new file of the same headings, with a column more that says why. Failures:
 /// Refusal, where there is a file already and where the system refuses.
 void write_Wrong_Rows(const Source& source, const Plan& plan, const QString& file);

@@ -22,7 +22,7 @@ struct Tool {
 constexpr Tool tools[] = {
     {"kestrill-restore", commands::restore, windows::restore},
     {"kestrill-export", commands::exportAll, windows::exportAll},
-    {"kestrill-import", commands::importAll, nullptr},
+    {"kestrill-import", commands::importAll, windows::importAll},
     {"kestrill-check", commands::check, nullptr},
 };
 

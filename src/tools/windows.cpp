@@ -6,6 +6,7 @@
 #include "shared/program_name.h"
 #include "shared/theme.h"
 #include "tools/frmExport.h"
+#include "tools/frmImport.h"
 #include "tools/frmRestore.h"
 
 #include <QApplication>
@@ -35,6 +36,11 @@ int restore(int& argc, char* argv[])
 int exportAll(int& argc, char* argv[])
 {
     return run<frmExport>(argc, argv);
+}
+
+int importAll(int& argc, char* argv[])
+{
+    return run<frmImport>(argc, argv);
 }
 
 } // namespace windows

@@ -6,5 +6,6 @@ namespace windows {
 
 int restore(int& argc, char* argv[]);
 int exportAll(int& argc, char* argv[]);
+int importAll(int& argc, char* argv[]);
 
 } // namespace windows

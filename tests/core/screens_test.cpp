@@ -144,8 +144,8 @@ protected:
         return told;
     }
 
-    QStringList topics_{"frmProgress", "frmExit", "frmExport", "frmRestore", "frmRestored", "CoverSheet", "AssetReport",
-        "MsgBox"}; // of other programs, and without a control
+    QStringList topics_{"frmProgress", "frmExit", "frmExport", "frmImport", "frmImportPlan", "frmImported",
+        "frmRestore", "frmRestored", "CoverSheet", "AssetReport", "MsgBox"}; // of other programs, and without a control
     QStringList told_, screens_;
 };
 

@@ -8,6 +8,7 @@
 #include "support/pdf_text.h"
 #include "tools/commands.h"
 #include "tools/frmExport.h"
+#include "tools/frmImport.h"
 #include "tools/frmRestore.h"
 #include "tools/terminal.h"
 
@@ -66,9 +67,9 @@ protected:
             {"show", [&] { seen = "| " + QString::fromUtf8(bytesOf(path)).split('\n').filter(rest).join("\n| "); }},
             // And to the windows.
             {"open", [&] { open(path); }}, {"read", [&] { read(path.toInt()); }},
-            {"begin", [&] { screen<frmExport>().tmStart.elapse(), seen = QString("| asked %1").arg(asked_); }},
+            {"begin", [&] { begin(), seen = QString("| asked %1").arg(asked_); }},
             {"choose", [&] { forms::setChoiceHandler([this, path] { return ++asked_, path; }); }},
-            {"listed", [&] { seen = listed(path.toInt()); }},
+            {"listed", [&] { seen = listed(path.toInt()); }}, {"records", [&] { seen = records(words[1]); }},
             {"status", [&] { seen = "| " + QString::number(endStatus().value_or(-1)); }}};
         const auto event = events.find(words[0]);
         if (event == events.end())
@@ -101,7 +102,25 @@ private:
     static void open(const QString& name)
     {
         forms::destroyScreens();
-        name == "frmRestore" ? screen<frmRestore>().show() : screen<frmExport>().show();
+        if (name == "frmRestore")
+            screen<frmRestore>().show();
+        else
+            name == "frmImport" ? screen<frmImport>().show() : screen<frmExport>().show();
+    }
+
+    static void begin()
+    {
+        const bool isImport = forms::activeForm()->name() == "frmImport";
+        (isImport ? screen<frmImport>().tmStart : screen<frmExport>().tmStart).elapse();
+    }
+
+    static QString records(const QString& name)
+    {
+        const auto& list = dynamic_cast<forms::RecordList&>(control(*forms::activeForm(), name));
+        QStringList seen;
+        for (int i = 0; i < list.recordCount(); ++i)
+            seen += (i == list.picked() ? "> " : "| ") + list.record(i).join('\t').replace('\n', "\\n");
+        return seen.join('\n');
     }
 
     // So many backups, or all.
