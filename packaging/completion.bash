@@ -27,7 +27,7 @@ _kestrill() {
     --from) options=$(_kestrill_backups) files=-f ;;
     --dates) options="mdy dmy ymd" files= ;;
     --decimal) options="point comma" files= ;;
-    --skip-wrong | --template) options= files=-f ;;
+    --skip-wrong | --template) options='' files=-f ;;
     *) options+=" --help --version" ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" ${files:+"$files"} -- "$word")

@@ -157,7 +157,7 @@ struct Order {
     bool isSaid = false;
 };
 
-int import(Order order)
+int bringIn(Order order)
 {
     restoring::refuse_While_Running();
     QStringList headings;
@@ -245,7 +245,7 @@ int importAll(const QStringList& arguments)
                 refuseUsage(QStringLiteral("\"%1\" is no field that --set can fill").arg(field));
             order.choices.otherwise[target.column] = text;
         }
-        return import(std::move(order));
+        return bringIn(std::move(order));
     });
 }
 

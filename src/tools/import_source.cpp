@@ -174,7 +174,7 @@ void Source::readExport(const QString& folder)
     rows_ = std::move(tables_["Inventory"]);
 }
 
-void Source::readTable(std::string bytes, const QStringList& headings)
+void Source::readTable(const std::string& bytes, const QStringList& headings)
 {
     if (isInventory(bytes)) {
         kind_ = Kind::Inventory;
@@ -188,7 +188,7 @@ void Source::readTable(std::string bytes, const QStringList& headings)
         rows_ = std::move(tables_["Inventory"]);
         return;
     }
-    const Text text = importing::textOf(std::move(bytes), path_);
+    const Text text = importing::textOf(bytes, path_);
     encoding_ = text.encoding;
     const Beginning beginning = bestBeginning(text.utf8, headings);
     separator_ = beginning.separator();

@@ -54,7 +54,7 @@ public:
     const std::vector<Row>& rowsOf(std::string_view table) const;
 
 private:
-    void readTable(std::string bytes, const QStringList& headings);
+    void readTable(const std::string& bytes, const QStringList& headings);
     void readRows(std::string_view text);
     void readExport(const QString& folder);
     void lookAtColumns();

@@ -179,23 +179,22 @@ std::string bytesOfFile(const QString& path)
     return bytes;
 }
 
-Text textOf(std::string bytes, const QString& path)
+Text textOf(std::string_view bytes, const QString& path)
 {
     refuseOtherPrograms(bytes, path);
-    const std::string_view all = bytes;
     Text text;
-    if (all.starts_with("\xFF\xFE") || all.starts_with("\xFE\xFF")) {
-        const bool isLittle = all.starts_with('\xFF');
-        text = {fromUtf16(all.substr(2), isLittle ? QStringConverter::Utf16LE : QStringConverter::Utf16BE, path),
+    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) {
+        const bool isLittle = bytes.starts_with('\xFF');
+        text = {fromUtf16(bytes.substr(2), isLittle ? QStringConverter::Utf16LE : QStringConverter::Utf16BE, path),
             Encoding::Utf16};
-    } else if (const auto utf16 = utf16Of(all); utf16 != QStringConverter::Utf8) {
-        text = {fromUtf16(all, utf16, path), Encoding::Utf16};
-    } else if (all.starts_with("\xEF\xBB\xBF") || isUtf8(all)) {
-        if (!isUtf8(all))
+    } else if (const auto utf16 = utf16Of(bytes); utf16 != QStringConverter::Utf8) {
+        text = {fromUtf16(bytes, utf16, path), Encoding::Utf16};
+    } else if (bytes.starts_with("\xEF\xBB\xBF") || isUtf8(bytes)) {
+        if (!isUtf8(bytes))
             refuseNoText(path);
-        text = {std::string(all.substr(all.starts_with("\xEF\xBB\xBF") ? 3 : 0)), Encoding::Utf8};
+        text = {std::string(bytes.substr(bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0)), Encoding::Utf8};
     } else {
-        text = {fromWindows1252(all, path), Encoding::Windows1252};
+        text = {fromWindows1252(bytes, path), Encoding::Windows1252};
     }
     refuseNoise(text.utf8, path);
     return text;

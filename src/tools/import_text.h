@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <string>
+#include <string_view>
 
 namespace importing {
 
@@ -25,7 +26,7 @@ struct Text {
 };
 
 /// Makes text of bytes. Failures: Refusal, where they are none: a picture, a spreadsheet program's own file.
-Text textOf(std::string bytes, const QString& path);
+Text textOf(std::string_view bytes, const QString& path);
 
 /// Whether bytes are UTF-8 throughout.
 bool isUtf8(std::string_view bytes);
