@@ -164,8 +164,8 @@ protected:
 
     static int command(const QStringList& words)
     {
-        static const std::map<QString, int (*)(const QStringList&)> commands{
-            {"check", commands::check}, {"export", commands::exportAll}, {"import", commands::importAll}, {"restore", commands::restore}};
+        static const std::map<QString, int (*)(const QStringList&)> commands{{"check", commands::check},
+            {"export", commands::exportAll}, {"import", commands::importAll}, {"restore", commands::restore}};
         return commands.at(words[0])(words);
     }
 
