@@ -9,7 +9,8 @@
 namespace {
 
 constexpr int LineLength = 74; // characters
-constexpr int RowsInSight = 6;
+constexpr int RowsInSight = 7;
+constexpr int LeastRows = 4; // on a small desktop
 constexpr int ShowWidth = 34; // characters
 
 } // namespace
@@ -24,7 +25,7 @@ void frmImportPlan::look()
     lblCopyright.setCaption(conventions::Footer);
     lstRows.setColumns({"Where", "What"},
         {"Outdoor Category", "The Purchase Price Of The Asset Must Be Entered Before Saving! 1234567"});
-    lstRows.setRows(RowsInSight);
+    lstRows.setRows(RowsInSight, LeastRows);
     lstRows.setSpokenName("What Will Be Imported");
     forms::look::configure({
         {cmbShow, 0, " Choose What The List Shows "},
@@ -41,7 +42,6 @@ void frmImportPlan::look()
         {cmdBack, 6, "&Back", " Click Here To Return To The Previous Window ", "back"},
         {cmdClose, 7, "&Close", " Click Here To Leave Everything As It Is ", "exit"},
     });
-    forms::look::mainAction(cmdImport);
     answer();
     layOut();
 }

@@ -12,7 +12,8 @@
 namespace {
 
 constexpr int FileLength = 62; // characters
-constexpr int RowsInSight = 6;
+constexpr int RowsInSight = 7;
+constexpr int LeastRows = 5; // on a small desktop
 
 // Words above each of some boxes that stand side by side.
 QGridLayout* below(std::initializer_list<std::pair<forms::Label*, forms::Control*>> boxes)
@@ -49,7 +50,7 @@ void frmImport::look()
     lblCopyright.setCaption(conventions::Footer);
     lstColumns.setColumns({"Heading", "Goes To", "First Text"},
         {"Where the thing stands now", "End Of Description", "Camcorder with its case and two"});
-    lstColumns.setRows(RowsInSight);
+    lstColumns.setRows(RowsInSight, LeastRows);
     cmbTarget.addItems(importing::targetNames());
     cmbDates.addItem("Found Out");
     for (const auto order :
@@ -76,7 +77,6 @@ void frmImport::look()
         {cmdNext, 9, "&Next", " Click Here To See What Will Be Imported ", "next"},
         {cmdClose, 10, "&Close", " Click Here To Leave Everything As It Is ", "exit"},
     });
-    forms::look::mainAction(cmdNext);
     answer();
     layOut();
 }

@@ -3,6 +3,8 @@
 #include "shared/conventions.h"
 #include "tools/frmImported.h"
 
+#include <QVBoxLayout>
+
 namespace {
 
 constexpr int LineLength = 64; // characters
@@ -16,18 +18,21 @@ void frmImported::look()
     lblSelIn.setCaption(conventions::HelpHint);
     lblCopyright.setCaption(conventions::Footer);
     forms::look::configure({{cmdClose, 0, "&Close", " Click Here To Close This Window ", "ok"}});
-    forms::look::mainAction(cmdClose);
     cmdClose.setDefault(true);
     cmdClose.Click = [this] { close(); };
 
-    forms::look::Page page(*this);
-    page.title(lblHead);
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(forms::look::grid(2));
     for (int line = 0; line < lblTell.count(); ++line) {
         lblTell[line].setRole(line == 0 ? forms::TextRole::Instruction : forms::TextRole::Body);
         lblTell[line].wrapAt(LineLength);
-        page.add(lblTell[line]);
-        page.space(1);
+        lines->addWidget(lblTell[line].widget());
     }
+
+    forms::look::Page page(*this);
+    page.title(lblHead);
+    page.add(lines);
+    page.space(1);
     page.buttons({&cmdClose});
     page.foot(&lblSelIn, &lblCopyright);
 }
