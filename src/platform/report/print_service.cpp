@@ -16,8 +16,8 @@ namespace {
 
 constexpr int secondsToFind = 5;
 
-/// What is called of the print service's library, which is loaded when somebody prints: it brings along twenty others, a
-/// twelfth of what the program takes of memory. None of it is there on a system without the library.
+/// What is called of the print service's library, which is loaded when somebody prints: it brings along twenty others,
+/// a twelfth of what the program takes of memory. None of it is there on a system without the library.
 struct Service {
     decltype(&cupsGetDests) getPrinters;
     decltype(&cupsFreeDests) freePrinters;
