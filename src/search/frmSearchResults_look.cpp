@@ -148,7 +148,7 @@ void frmSearchResults::lookOfRows()
             forms::look::keepPlace(box);
         }
         for (const auto boxes : longTexts)
-            (this->*boxes)[row].setElided(true);
+            (this->*boxes)[row].setToldWhole(true);
         makeLink(txtMore[row]);
         txtIDNum[row].setVisible(false);
     }

@@ -511,7 +511,7 @@ private:
         {"limit", [this](Words w) { entry(w).setMaxLength(w[1].toInt()); }},
         {"lock", [this](Words w) { entry(w).setLocked(isYes(w)); }},
         {"keep", [this](Words w) { entry(w).setDeleteRefused(true); }},
-        {"elide", [this](Words w) { of<forms::TextBox>(w).setElided(isYes(w)); }},
+        {"whole", [this](Words w) { of<forms::TextBox>(w).setToldWhole(isYes(w)); }},
         {"cap", [this](Words w) { forms::behaviours::lengthCap(entry(w), w[1].toInt()); }},
         {"digits", [this](Words w) { forms::behaviours::digitsOnly(entry(w)); }},
         {"add", [this](Words w) { combo(w).addItems(text(w).split(',')); }},

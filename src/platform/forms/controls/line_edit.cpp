@@ -56,7 +56,7 @@ bool LineEdit::fits(const QString& text) const
 
 void LineEdit::tellWhole(const QString& text)
 {
-    if (elided_)
+    if (toldWhole_)
         setToolTip(fits(text) ? QString() : asToolTip(text));
 }
 
@@ -68,7 +68,7 @@ void LineEdit::resizeEvent(QResizeEvent* event)
 
 void LineEdit::paintEvent(QPaintEvent* event)
 {
-    if (!elided_ || hasFocus() || fits(text())) {
+    if (hasFocus() || hasSelectedText() || fits(text())) {
         QLineEdit::paintEvent(event);
         return;
     }

@@ -8,7 +8,8 @@
 
 namespace forms {
 
-/// The entry of one line, of a text box or of a combo box; for the layer itself, not for screens.
+/// The entry of one line, of a text box or of a combo box; for the layer itself, not for screens. A text too long for
+/// it ends in an ellipsis while the focus is elsewhere.
 class LineEdit : public OwnWidth<QLineEdit>, public Entry {
 public:
     LineEdit(QWidget* parent, TextEntry& box);
@@ -19,14 +20,11 @@ public:
     int selectionStart() const override;
     QString selectedText() const override { return QLineEdit::selectedText(); }
 
-    /// Whether a text too long for the box ends in an ellipsis while the focus is elsewhere.
-    void setElided(bool elided) { elided_ = elided; }
-    bool isElided() const { return elided_; }
-
     /// Whether the box has room for the whole of a text.
     bool fits(const QString& text) const;
 
-    /// Has the tool tip tell the whole of a text that ends in an ellipsis.
+    /// Whether the tool tip tells the whole of a text that is too long; and tells it of a text that is to come.
+    void setToldWhole(bool told) { toldWhole_ = told; }
     void tellWhole(const QString& text);
 
 protected:
@@ -56,7 +54,7 @@ private:
     void toolkitKey(QKeyEvent& event) override { QLineEdit::keyPressEvent(&event); }
     void toolkitInput(QInputMethodEvent& event) override { QLineEdit::inputMethodEvent(&event); }
 
-    bool elided_ = false;
+    bool toldWhole_ = false;
 };
 
 } // namespace forms

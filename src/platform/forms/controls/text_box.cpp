@@ -89,9 +89,9 @@ void TextBox::setText(const QString& text)
     TextEntry::setText(text);
 }
 
-void TextBox::setElided(bool elided)
+void TextBox::setToldWhole(bool told)
 {
-    edit_->setElided(elided);
+    edit_->setToldWhole(told);
 }
 
 void TextBox::setAlignment(Alignment alignment)

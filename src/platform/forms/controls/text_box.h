@@ -60,7 +60,7 @@ private:
     bool deleteRefused_ = false;
 };
 
-/// A text box of one line.
+/// A text box of one line. A text too long for it ends in an ellipsis while the focus is elsewhere.
 class TextBox : public TextEntry {
 public:
     TextBox(Form& form, const QString& name);
@@ -73,9 +73,8 @@ public:
     /// for a box that never gives any up.
     void setWidthInCharacters(int characters, int least = 0);
 
-    /// For a box that nobody types into: a text too long for it ends in an ellipsis, but while the box has the focus,
-    /// and stands whole in the tool tip.
-    void setElided(bool elided);
+    /// For a box that nobody types into: its tool tip tells the whole of a text that is too long for it.
+    void setToldWhole(bool told);
 
 private:
     Entry* entry() const override;
