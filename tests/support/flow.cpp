@@ -24,7 +24,8 @@ forms::Control& named(const QString& name)
 QMap<QString, QStringList> screensAsTheyCome()
 {
     static const QRegularExpression listed("^(\\w+)(?:\\(([\\d ]+)\\))?(.*)$");
-    static const QRegularExpression betweenParts(", (?=(on|locked|grey|hidden|red|default|destructive|tip|limit|list|help)\\b)");
+    static const QRegularExpression betweenParts(
+        ", (?=(on|locked|grey|hidden|red|default|destructive|tip|limit|list|help)\\b)");
     QMap<QString, QStringList> all;
     QString form;
     for (const QString& line : QString::fromUtf8(bytesOf(kept("core/screens_as_they_come.txt"))).split('\n')) {
