@@ -143,6 +143,7 @@ Asset fromExport(const Row& row, QStringList& reasons)
     const QString& amount = asset[Inventory::Amount];
     if (!amount.isEmpty() && !values::Currency::tryParse(amount))
         reasons += reason(Inventory::Amount, amount, QStringLiteral("It Is No Amount"));
+    asset[Inventory::Amount] = values::groupedByThrees(amount);
     return asset;
 }
 

@@ -3,12 +3,15 @@
 
 #include "data/asset_rules.h"
 #include "data/places.h"
-#include "platform/storage/statement.h"
+#include "platform/storage/row_writer.h"
 #include "shared/areas.h"
 #include "tools/exit_codes.h"
 #include "tools/put_aside.h"
 
 #include <QFile>
+
+#include <algorithm>
+#include <string_view>
 
 namespace importing {
 
@@ -16,7 +19,14 @@ namespace {
 
 constexpr int RowsBetweenTellings = 256;
 
-/// The rows of a plan, written through the program's own views.
+const storage::TableDefinition& table(std::string_view name)
+{
+    const auto tables = databaseTables();
+    return **std::find_if(
+        tables.begin(), tables.end(), [name](const storage::TableDefinition* each) { return each->name == name; });
+}
+
+/// The rows of a plan, written through the program's own views; the assets without, for they may be many.
 class Writing {
 public:
     Writing(const Plan& plan, const Progress& progress)
@@ -50,7 +60,7 @@ void Writing::run(qint64 generation)
     if (storage::generationOf(store_.Home.handle()) != generation) // between the copy and this moment
         aside::refuseStale();
     for (storage::TableView* view :
-        {&store_.rsGeneral, &store_.rsBank, &store_.rsIndoor, &store_.rsMobile, &store_.rsInventory, &store_.rsOutdoor})
+        {&store_.rsGeneral, &store_.rsBank, &store_.rsIndoor, &store_.rsMobile, &store_.rsOutdoor})
         view->Open();
     storage::Transaction all(store_.Home.handle());
     writeAssets();
@@ -70,12 +80,9 @@ void Writing::step()
 
 void Writing::writeAssets()
 {
-    storage::TableView& assets = store_.rsInventory;
+    storage::RowWriter assets(store_.Home.handle(), table("Inventory"));
     for (const Asset& asset : plan_.assets) {
-        assets.AddNew();
-        for (std::size_t column = Inventory::Area; column < asset.size(); ++column)
-            assets.Fields(static_cast<int>(column)) = asset[column];
-        assets.Update();
+        assets.add(asset);
         step();
     }
     asset_rules::moveAssetValue(store_.rsGeneral, {}, plan_.sum);
