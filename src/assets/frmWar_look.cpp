@@ -130,9 +130,9 @@ void frmWar::answer(const Expiry& end)
 void frmWar::size()
 {
     for (forms::ComboBox* box : {&cmbParts, &cmbLabor})
-        box->setWidthInCharacters(14, 10);
+        box->setWidthInCharacters(14, 13); // "Manufacturer"
     for (forms::TextBox* box : {&txtPAmt, &txtLAmt})
-        box->setWidthInCharacters(14, 9);
+        box->setWidthInCharacters(14, 8);
     for (forms::TextBox* box : {&txtPCover, &txtLCover})
         box->setWidthInCharacters(6, 4);
     for (const Expiry& end : expiries_) {
