@@ -231,8 +231,12 @@ int importAll(const QStringList& arguments)
         }
         if (files.size() != 1 || parser.isSet(sample))
             refuseUsage(QStringLiteral("Give the file to import, or --template FILE"));
-        Order order{files.first(), mappedIn(parser.values(map)), {}, parser.value(skip), parser.isSet(dryRun),
-            parser.isSet(yes)};
+        Order order;
+        order.file = files.first();
+        order.mapped = mappedIn(parser.values(map));
+        order.wrongFile = parser.value(skip);
+        order.isDryRun = parser.isSet(dryRun);
+        order.isSaid = parser.isSet(yes);
         order.choices.dates = chosen<DateOrder>(parser, dates, dateOrderNamed);
         order.choices.decimals = chosen<DecimalSign>(parser, decimals, decimalSignNamed);
         order.choices.cutsTexts = parser.isSet(cut);
