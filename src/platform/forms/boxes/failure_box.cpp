@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/boxes/failure_box.h"
 
+#include "platform/forms/boxes/longest_line.h"
 #include "platform/forms/controls/buttons.h"
 #include "platform/forms/looks/theme.h"
 #include "platform/forms/screens/form.h"
@@ -13,7 +14,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QStyle>
 
 #include <algorithm>
@@ -21,8 +21,6 @@
 namespace forms {
 
 namespace {
-
-constexpr int charactersOfALine = 60; // on which the eye still finds its way
 
 /// Where a handler belongs, as far as it is a screen's.
 struct Place {
@@ -104,9 +102,7 @@ QLabel* addWords(QGridLayout& rows, int row, TextRole role, const QString& words
     label->setWordWrap(true);
     label->setFont(look::fontOf(role));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    const int room = label->screen()->availableGeometry().width() - look::grid(16); // icon and margins stand beside it
-    label->setFixedWidth(
-        std::min(QFontMetrics(look::fontOf(TextRole::Body)).averageCharWidth() * charactersOfALine, room));
+    label->setFixedWidth(longestLine(QFontMetrics(look::fontOf(TextRole::Body)), *label->screen()));
     rows.addWidget(label, row, 1);
     return label;
 }

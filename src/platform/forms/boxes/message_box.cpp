@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/boxes/message_box.h"
 
+#include "platform/forms/boxes/longest_line.h"
 #include "platform/forms/input/keyboard.h"
 #include "platform/forms/looks/theme.h"
 #include "platform/forms/runtime/boundary.h"
@@ -15,7 +16,6 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
-#include <QScreen>
 
 #include <algorithm>
 
@@ -24,7 +24,6 @@ namespace forms {
 namespace {
 
 constexpr int leastCharacters = 34; // of a line, so that a short text doesn't cut off the title
-constexpr int mostCharacters = 60; // of a line, on which the eye still finds its way
 
 // The least width in which a text takes no more lines than in the widest: its lines are of about one length, and no
 // word is left alone at the end.
@@ -87,9 +86,7 @@ private:
     void fitWords(QLabel& words) const
     {
         const QFontMetrics metrics = words.fontMetrics();
-        const int room = screen()->availableGeometry().width() - look::grid(16); // icon and margins stand beside it
-        const int needed =
-            balancedWidth(words.text(), metrics, std::min(metrics.averageCharWidth() * mostCharacters, room));
+        const int needed = balancedWidth(words.text(), metrics, longestLine(metrics, *screen()));
         QMargins margins = words.contentsMargins();
         const int around = margins.left() + margins.right() + std::max(0, words.indent());
         const int width = std::max(needed + around, look::fieldWidth(leastCharacters));
