@@ -167,6 +167,11 @@ std::span<const TableDefinition* const> databaseTables()
     return tables;
 }
 
+const TableDefinition& databaseTable(std::string_view name)
+{
+    return **std::ranges::find(tables, name, &TableDefinition::name);
+}
+
 void useDatabase(const QString& path)
 {
     Data1.Home.setFile(path, databaseKey());

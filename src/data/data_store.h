@@ -4,6 +4,8 @@
 #include "platform/storage/connection.h"
 #include "platform/storage/table_view.h"
 
+#include <string_view>
+
 // The columns of the tables by their ordinals.
 
 namespace General {
@@ -131,8 +133,9 @@ void stageAsset();
 /// The key of the database file.
 storage::FileKey databaseKey();
 
-/// The seven tables.
+/// The seven tables, and the one of a name that one of them has.
 std::span<const storage::TableDefinition* const> databaseTables();
+const storage::TableDefinition& databaseTable(std::string_view name);
 
 /// Names the file that the views open.
 void useDatabase(const QString& path);

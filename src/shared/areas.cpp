@@ -14,11 +14,12 @@ namespace {
 const std::array<Area, 3>& table()
 {
     static const std::array<Area, 3> areas{{
-        {"Indoor", "Indoor Asset Management", 9001, "Add Indoor Asset To Inventory", 12001, &DataStore::rsIndoor, true},
+        {"Indoor", "Indoor Asset Management", 9001, "Add Indoor Asset To Inventory", 12001, &DataStore::rsIndoor,
+            "Indoor_Items", true},
         {"Outdoor", "Outdoor Asset Management", 10001, "Add Outdoor Asset To Inventory", 13001, &DataStore::rsOutdoor,
-            false},
+            "Outdoor_Items", false},
         {"Mobile", "Mobile Asset Management", 11001, "Add Mobile Asset To Inventory", 14001, &DataStore::rsMobile,
-            false},
+            "Mobile_Items", false},
     }};
     return areas;
 }

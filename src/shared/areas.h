@@ -17,6 +17,7 @@ struct Area {
     QString addHeading; ///< of the asset screen while an asset is added
     int addHelp; ///< the asset screen's help number then
     storage::TableView DataStore::*names; ///< the area's name table
+    const char* namesTable; ///< and what that is called in the file
     bool preparesBeforeTelling; ///< a new name makes the screen ready for the next asset before the user is told
 
     storage::TableView& nameTable() const { return Data1.*names; }

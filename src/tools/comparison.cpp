@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/comparison.h"
 
+#include "tools/checking.h"
+
 #include <map>
 #include <string>
 
@@ -61,7 +63,7 @@ int missingRows(const Snapshot& table, const Snapshot& other)
 int missingNames(const Household& household, const Household& other)
 {
     int missing = 0;
-    for (const char* table : {"Indoor_Items", "Outdoor_Items", "Mobile_Items"})
+    for (const char* table : checking::NameTables)
         missing += missingRows(household.table(table), other.table(table));
     return missing;
 }

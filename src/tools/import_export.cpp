@@ -33,13 +33,6 @@ std::vector<const TableDefinition*> tablesOfExport()
     return tables;
 }
 
-const TableDefinition& inventory()
-{
-    const auto tables = databaseTables();
-    return **std::find_if(tables.begin(), tables.end(),
-        [](const TableDefinition* table) { return std::string_view(table->name) == "Inventory"; });
-}
-
 std::string_view headingsOf(std::string_view text)
 {
     text.remove_prefix(text.starts_with("\xEF\xBB\xBF") ? 3 : 0);
@@ -82,7 +75,7 @@ std::vector<Row> rowsOf(std::string_view text, const TableDefinition& table, std
                     .arg(table.columns.size() + further));
         row.cells.resize(table.columns.size());
         rows.push_back(row);
-        if (&table == &inventory())
+        if (&table == &databaseTable("Inventory"))
             refuseTooMany(rows.size(), path);
     }
     return rows;
@@ -184,7 +177,7 @@ void JsonRows::readRow(std::string_view object)
             refuse(path_, QStringLiteral("row %1 of %2 lacks \"%3\"").arg(taken.line).arg((*table)->name, column.name));
         taken.cells.push_back(cell.toVariant().toString().toStdString());
     }
-    if (*table == &inventory())
+    if (*table == &databaseTable("Inventory"))
         refuseTooMany(rows.size(), path_);
 }
 
@@ -231,16 +224,16 @@ Tables tablesInJson(std::string_view json, const QString& path)
 
 bool isInventory(std::string_view text)
 {
-    const std::string own = headingsOf(inventory());
+    const std::string own = headingsOf(databaseTable("Inventory"));
     const std::string_view headings = headingsOf(text);
     return headings == own || headings == own + ',' + ReasonHeading.toStdString();
 }
 
 std::vector<Row> inventoryRows(std::string_view text, const QString& path)
 {
-    const std::size_t further = headingsOf(text) == headingsOf(inventory()) ? 0 : 1;
+    const std::size_t further = headingsOf(text) == headingsOf(databaseTable("Inventory")) ? 0 : 1;
     try {
-        return rowsOf(text, inventory(), further, path);
+        return rowsOf(text, databaseTable("Inventory"), further, path);
     } catch (const values::RuntimeFailure& failure) {
         refuse(path, failure.text().section(QStringLiteral(": "), 1));
     }

@@ -42,10 +42,8 @@ Cells headingsOf(const Source& source)
         for (const ColumnSeen& column : source.columns())
             headings.push_back(column.heading.toStdString());
     } else {
-        for (const storage::TableDefinition* table : databaseTables())
-            if (std::string_view(table->name) == "Inventory")
-                for (const storage::Column& column : table->columns)
-                    headings.emplace_back(column.name);
+        for (const storage::Column& column : databaseTable("Inventory").columns)
+            headings.emplace_back(column.name);
     }
     headings.push_back(ReasonHeading.toStdString());
     return headings;

@@ -74,16 +74,9 @@ void refuseStopping(const Source& source, const Row& record)
 
 } // namespace
 
-const char* nameTableOf(const QString& area)
+std::vector<Plan::NameRow> newNameRows(const Source& source, const Household& today, const char* namesTable)
 {
-    if (area == "Indoor")
-        return "Indoor_Items";
-    return area == "Outdoor" ? "Outdoor_Items" : "Mobile_Items";
-}
-
-std::vector<Plan::NameRow> newNameRows(const Source& source, const Household& today, const QString& area)
-{
-    const Snapshot& table = today.table(nameTableOf(area));
+    const Snapshot& table = today.table(namesTable);
     const auto identityOf = [](const Plan::NameRow& row) {
         return row[0] + QChar(0x1F) + row[1] + QChar(0x1F) + row[2];
     };
@@ -91,7 +84,7 @@ std::vector<Plan::NameRow> newNameRows(const Source& source, const Household& to
     for (int row = 0; row < table.rowCount(); ++row)
         ++there[identityOf({table.text(row, 0), table.text(row, 1), table.text(row, 2)})];
     std::vector<Plan::NameRow> missing;
-    for (const Row& row : source.rowsOf(nameTableOf(area))) {
+    for (const Row& row : source.rowsOf(namesTable)) {
         const Plan::NameRow named{cell(row, 0), cell(row, 1), cell(row, 2)};
         const bool isDead =
             std::all_of(named.begin(), named.end(), [](const QString& name) { return name == names::Blank; });

@@ -5,11 +5,8 @@
 
 namespace importing {
 
-/// The name table of an area.
-const char* nameTableOf(const QString& area);
-
 /// The rows of an export's name table that today's lacks. A row that it has more often comes as often as is missing.
-std::vector<Plan::NameRow> newNameRows(const Source& source, const Household& today, const QString& area);
+std::vector<Plan::NameRow> newNameRows(const Source& source, const Household& today, const char* namesTable);
 
 /// Plans the accounts of an export, but those whose number is there already.
 void takeAccounts(const Source& source, const Household& today, Plan& plan);

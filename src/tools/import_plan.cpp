@@ -97,8 +97,9 @@ void Planning::lookAtToday()
     runningTotal_ = Currency::tryParse(general.text(0, General::AssetValue)).value_or(Currency());
     total_ = today_.total().value_or(Currency());
     for (std::size_t i = 0; i < plan_.areas.size(); ++i) {
-        plan_.areas[i].area = areas::all()[i].name;
-        names_[areas::all()[i].name] = namesIn(today_.table(nameTableOf(areas::all()[i].name)));
+        const areas::Area& area = areas::all()[i];
+        plan_.areas[i].area = area.name;
+        names_[area.name] = namesIn(today_.table(area.namesTable));
     }
     plan_.generation = today_.generation();
     plan_.skipsWrong = choices_.skipsWrong;
@@ -180,7 +181,7 @@ void Planning::count(const Asset& asset, QStringList& reasons)
 void Planning::learn(const Asset& asset)
 {
     const QString& area = asset[Inventory::Area];
-    if (source_.isExport() || today_.table(nameTableOf(area)).rowCount() == 0)
+    if (source_.isExport() || today_.table(areas::ofName(area).namesTable).rowCount() == 0)
         return;
     const Plan::NameRow row{asset[Inventory::Location], asset[Inventory::Category], asset[Inventory::Type]};
     const KnownNames& known = names_[area];
@@ -210,7 +211,7 @@ void Planning::takeExport()
     takeAccounts(source_, today_, plan_);
     takeHousehold(source_, today_, plan_);
     for (const areas::Area& area : areas::all()) {
-        for (const Plan::NameRow& row : newNameRows(source_, today_, area.name)) {
+        for (const Plan::NameRow& row : newNameRows(source_, today_, area.namesTable)) {
             plan_.nameRows[area.name].push_back(row);
             noteNew(area.name, row);
         }

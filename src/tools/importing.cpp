@@ -10,21 +10,11 @@
 
 #include <QFile>
 
-#include <algorithm>
-#include <string_view>
-
 namespace importing {
 
 namespace {
 
 constexpr int RowsBetweenTellings = 256;
-
-const storage::TableDefinition& table(std::string_view name)
-{
-    const auto tables = databaseTables();
-    return **std::find_if(
-        tables.begin(), tables.end(), [name](const storage::TableDefinition* each) { return each->name == name; });
-}
 
 /// The rows of a plan, written through the program's own views; the assets without, for they may be many.
 class Writing {
@@ -80,7 +70,7 @@ void Writing::step()
 
 void Writing::writeAssets()
 {
-    storage::RowWriter assets(store_.Home.handle(), table("Inventory"));
+    storage::RowWriter assets(store_.Home.handle(), databaseTable("Inventory"));
     for (const Asset& asset : plan_.assets) {
         assets.add(asset);
         step();

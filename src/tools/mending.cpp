@@ -5,6 +5,7 @@
 #include "data/name_markers.h"
 #include "data/places.h"
 #include "platform/storage/statement.h"
+#include "shared/areas.h"
 #include "tools/checking.h"
 #include "tools/put_aside.h"
 
@@ -27,9 +28,8 @@ values::Currency sumOf(TableView& assets)
 
 TableView& nameTable(DataStore& store, std::string_view table)
 {
-    if (table == "Indoor_Items")
-        return store.rsIndoor;
-    return table == "Outdoor_Items" ? store.rsOutdoor : store.rsMobile;
+    const auto all = areas::all();
+    return store.*std::ranges::find(all, table, &areas::Area::namesTable)->names;
 }
 
 void addMarkerRow(TableView& table)
