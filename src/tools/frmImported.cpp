@@ -2,13 +2,16 @@
 #include "tools/frmImported.h"
 
 #include "tools/exit_codes.h"
+#include "tools/outcome_look.h"
 
 #include <QDir>
 
 frmImported::frmImported()
     : forms::Form("frmImported")
 {
-    look();
+    lblHead.setCaption("The Assets Are Imported");
+    outcome::lookOf(
+        {*this, lblHead, {&lblTell[0], &lblTell[1], &lblTell[2], &lblTell[3]}, cmdClose, lblSelIn, lblCopyright});
 }
 
 void frmImported::Form_Unload(bool& cancel)

@@ -19,6 +19,5 @@ public:
     void tell(const importing::Plan& plan, const importing::Result& result, const QString& wrongFile);
 
 private:
-    void look();
     void Form_Unload(bool& cancel) override;
 };

@@ -2,11 +2,13 @@
 #include "tools/frmRestored.h"
 
 #include "tools/exit_codes.h"
+#include "tools/outcome_look.h"
 
 frmRestored::frmRestored()
     : forms::Form("frmRestored")
 {
-    look();
+    lblHead.setCaption("The Backup Is Restored");
+    outcome::lookOf({*this, lblHead, {&lblTell[0], &lblTell[1], &lblTell[2]}, cmdClose, lblSelIn, lblCopyright});
 }
 
 void frmRestored::Form_Unload(bool& cancel)

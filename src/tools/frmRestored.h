@@ -19,6 +19,5 @@ public:
     void tell(const QString& made, const restoring::Result& result);
 
 private:
-    void look();
     void Form_Unload(bool& cancel) override;
 };
