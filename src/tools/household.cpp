@@ -84,9 +84,13 @@ int Household::assets() const
 
 QString Household::summary() const
 {
-    const std::optional<Currency> sum = total();
-    return counted(assets(), QStringLiteral("asset"), QStringLiteral("assets")) + QStringLiteral(", ")
-        + (sum ? sum->toText() : QStringLiteral("more than can be counted"));
+    return summaryOf(assets(), total());
+}
+
+QString summaryOf(int assets, const std::optional<Currency>& total)
+{
+    return counted(assets, QStringLiteral("asset"), QStringLiteral("assets")) + QStringLiteral(", ")
+        + (total ? total->toText() : QStringLiteral("more than can be counted"));
 }
 
 QString counted(int count, const QString& one, const QString& many)

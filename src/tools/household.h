@@ -53,5 +53,8 @@ private:
     qint64 lastAsset_ = 0;
 };
 
+/// The same of so many assets, and of a total where there is one.
+QString summaryOf(int assets, const std::optional<values::Currency>& total);
+
 /// "1 asset", "2 assets"
 QString counted(int count, const QString& one, const QString& many);

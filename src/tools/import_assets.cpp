@@ -7,6 +7,8 @@
 #include "platform/values/text.h"
 #include "tools/printable.h"
 
+#include <QStringTokenizer>
+
 #include <algorithm>
 
 using values::Date;
@@ -14,25 +16,6 @@ using values::Date;
 namespace importing {
 
 namespace {
-
-/// What the asset screen has in a field from the beginning.
-QString screenDefault(Inventory::Column column)
-{
-    switch (column) {
-    case Inventory::Year:
-        return QString::number(values::Today().year());
-    case Inventory::Make:
-    case Inventory::Model:
-    case Inventory::SerialVinId:
-        return QStringLiteral("Unknown");
-    case Inventory::Purchased:
-        return QStringLiteral("New");
-    case Inventory::Receipt:
-        return QStringLiteral("No");
-    default:
-        return column >= Inventory::Description ? QStringLiteral("None") : QString();
-    }
-}
 
 constexpr Inventory::Column defaulted[] = {Inventory::Year, Inventory::Make, Inventory::Model, Inventory::SerialVinId,
     Inventory::Purchased, Inventory::Receipt, Inventory::Description};
@@ -84,9 +67,14 @@ constexpr Word words[] = {
 // Nothing for a word that is none of them.
 QString storedWord(Inventory::Column column, const QString& text)
 {
-    for (const Word& word : words)
-        if (word.column == column && QString::fromLatin1(word.others).split(u' ').contains(text.toLower()))
-            return QString::fromLatin1(word.stored);
+    const QString lower = text.toLower();
+    for (const Word& word : words) {
+        if (word.column != column)
+            continue;
+        for (const QLatin1String other : qTokenize(QLatin1String(word.others), u' '))
+            if (other == lower)
+                return QString::fromLatin1(word.stored);
+    }
     return {};
 }
 
@@ -157,7 +145,26 @@ AssetRows::AssetRows(const Source& source, const Choices& choices)
                                                  : DateReader(choices.dates))
     , amounts_(choices.decimals == DecimalSign::Unknown ? AmountReader(columnOf(Inventory::Amount))
                                                         : AmountReader(choices.decimals))
+    , thisYear_(QString::number(values::Today().year()))
 {
+}
+
+QString AssetRows::screenDefault(Inventory::Column column) const
+{
+    switch (column) {
+    case Inventory::Year:
+        return thisYear_;
+    case Inventory::Make:
+    case Inventory::Model:
+    case Inventory::SerialVinId:
+        return QStringLiteral("Unknown");
+    case Inventory::Purchased:
+        return QStringLiteral("New");
+    case Inventory::Receipt:
+        return QStringLiteral("No");
+    default:
+        return column >= Inventory::Description ? QStringLiteral("None") : QString();
+    }
 }
 
 Asset AssetRows::assetOf(const Row& row, QStringList& reasons) const

@@ -17,6 +17,8 @@ public:
     void describe(Plan& plan) const;
 
 private:
+    // What the asset screen has in a field from the beginning.
+    QString screenDefault(Inventory::Column column) const;
     Asset fromTable(const Row& row, QStringList& reasons) const;
     void takeCell(const Row& row, std::size_t at, Asset& asset, QStringList& reasons) const;
     void fillIn(Asset& asset) const;
@@ -30,6 +32,7 @@ private:
     std::vector<Target> targets_;
     DateReader dates_;
     AmountReader amounts_;
+    QString thisYear_; // a question to the system, which is not asked for each row
 };
 
 } // namespace importing

@@ -136,6 +136,15 @@ void refuseUnconfirmed(bool isSaid)
         throw Refusal(exit_code::Declined, QStringLiteral("Nothing was changed."));
 }
 
+Plan lookedThrough(const Source& source, const Choices& choices)
+{
+    terminal::Count count;
+    Plan plan = planned(source, choices, Household(places::databaseFile()),
+        [&count](int done, int all) { return count.tell(done, all); });
+    count.clear();
+    return plan;
+}
+
 void carryOut(const Source& source, const Plan& plan, const QString& wrongFile)
 {
     const QString file = plan.wrong.empty() ? QString() : wrongFile;
@@ -165,10 +174,7 @@ int bringIn(Order order)
         headings += mapped.heading;
     const Source source(order.file, headings);
     order.choices.targets = targetsWith(source, order.mapped);
-    const Plan plan = [&] {
-        const Household today(places::databaseFile());
-        return planned(source, order.choices, today);
-    }();
+    const Plan plan = lookedThrough(source, order.choices);
     tellSource(source, order.choices);
     for (const QString& line : summaryOf(plan))
         terminal::print(line);

@@ -10,6 +10,8 @@
 
 #include <QFile>
 
+using values::Currency;
+
 namespace importing {
 
 namespace {
@@ -113,13 +115,17 @@ Result carry_Out(const Plan& plan, const Progress& progress)
 {
     if (!plan.isPossible())
         throw Refusal(exit_code::Unreadable, QStringLiteral("Nothing was changed: there are rows that can't go in."));
-    const auto refuseStale = [&plan](const Household& today) {
+    Result result;
+    const auto look = [&](const Household& today) {
         if (today.generation() != plan.generation)
             aside::refuseStale();
+        const std::optional<Currency> total = today.total();
+        result.summary =
+            ::summaryOf(today.assets() + static_cast<int>(plan.assets.size()), total ? *total + plan.sum : total);
     };
-    const QString name =
-        aside::changeBehindCopy(refuseStale, [&](qint64 generation) { Writing(plan, progress).run(generation); });
-    return {Household(places::databaseFile()).summary(), name};
+    result.putAside =
+        aside::changeBehindCopy(look, [&](qint64 generation) { Writing(plan, progress).run(generation); });
+    return result;
 }
 
 Result carry_Out(const Source& source, const Plan& plan, const QString& wrongFile, const Progress& progress)

@@ -49,21 +49,20 @@ public:
     {
     }
 
-    void make(const std::function<void(const Household& today)>& refuseStale) const;
+    /// Gives the generation of the copy.
+    qint64 make(const std::function<void(const Household& today)>& refuseStale) const;
     void giveUp() const;
-    qint64 generation() const { return storage::generationOf(opened().get()); }
     QString name() const { return folder_.name(); }
 
 private:
     static QString fileName() { return QFileInfo(places::databaseFile()).fileName(); }
     QString file() const { return folder_.pathOf(fileName()); }
-    storage::Handle opened() const { return storage::openFile(file(), databaseKey(), storage::Access::ReadOnly); }
 
     sys::Folder kept_;
     sys::Folder folder_;
 };
 
-void Aside::make(const std::function<void(const Household& today)>& refuseStale) const
+qint64 Aside::make(const std::function<void(const Household& today)>& refuseStale) const
 {
     const storage::FileLock alone(places::databaseFile());
     if (!alone.isHeld())
@@ -71,10 +70,12 @@ void Aside::make(const std::function<void(const Household& today)>& refuseStale)
     const Household today(places::databaseFile(), FileReader::Locks::Passed);
     refuseStale(today);
     folder_.copy(sys::Folder(QFileInfo(places::databaseFile()).path()), fileName(), fileName());
-    if (rowsOf(Household(file())) != rowsOf(today))
+    const Household copy(file());
+    if (rowsOf(copy) != rowsOf(today))
         throw Refusal(exit_code::Failed, QStringLiteral("Nothing was changed: %1 is no whole copy.").arg(file()));
     folder_.sync();
     kept_.sync();
+    return copy.generation();
 }
 
 void Aside::giveUp() const
@@ -100,8 +101,7 @@ QString changeBehindCopy(const std::function<void(const Household& today)>& refu
     const Aside aside;
     try {
         settle();
-        aside.make(refuseStale);
-        change(aside.generation());
+        change(aside.make(refuseStale));
     } catch (const values::RuntimeFailure& failure) {
         aside.giveUp();
         if (storage::isInUse(places::databaseFile()))
