@@ -12,6 +12,12 @@ household furnished "update Personal_Info set [First] = 'Ann', [Last] = 'Fairban
 use_home "$Place/new"
 lay_database
 
+for home in furnished new; do
+    for ((row = 1; row <= 400; row++)); do
+        echo "Indoor,Attic,Art,Clock $((row * 3)),B,$row/7/2006,$((row % 7 * 100)).5,\"Colour: red, $row\""
+    done | sed '1i Area,Room,Category,Item,Model,Bought,Cost,Notes' >"$Place/$home/list.csv"
+done
+
 # shellcheck source=tests/end_to_end/print_service.sh
 . "$Here/print_service.sh"
 start_print_service
@@ -19,7 +25,7 @@ start_print_service
 step "random events"
 mkdir "$Place/programs"
 ln -s "$Build/bin/Kestrill" "$Place/programs/Kestrill"
-for tool in kestrill-restore kestrill-export; do
+for tool in kestrill-restore kestrill-export kestrill-import; do
     ln -s "$Build/bin/kestrill-tools" "$Place/programs/$tool"
 done
 export ASAN_OPTIONS=exitcode=99 UBSAN_OPTIONS=print_stacktrace=1

@@ -141,7 +141,7 @@ class Gestures:
             (partial(self.strokes, ACCESS_KEYS), 12), (self.type_text, 12), (self.open_list, 12), (self.answer_and_press, 12),
             (partial(self.strokes, CLIPBOARD, (1, 2, 3)), 8), (partial(self.strokes, SPECIAL), 6), (self.double_click, 6),
             (partial(self.strokes, EDITING, (1, 2, 5)), 5), (self.press_anywhere, 4), (self.turn_wheel, 4), (self.drag, 3),
-            (self.hold_key, 1.2), (self.wait, 6),
+            (self.hold_key, 1.2), (self.wait, 6), (self.name_list, 1.5),
         )  # fmt: skip
 
     def burst(self):
@@ -163,6 +163,11 @@ class Gestures:
 
     def type_text(self):
         self.hands.type(self.random.choice(TEXTS))
+
+    def name_list(self):
+        """Where a file is asked for, chooses the list to import; elsewhere it is a text and an answer."""
+        self.hands.type("list.csv")
+        self.hands.stroke("Return")
 
     def hold_key(self):
         keys = self.random.choice((*map(self.random.choice, (ANSWERS, ACCESS_KEYS, TRAVEL)), "x"))

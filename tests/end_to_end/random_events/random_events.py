@@ -24,7 +24,7 @@ HERE = Path(__file__).parent
 LIFE = (1500, 12000)  # events until a run of a program is told to end
 STUCK = 3000  # events in front of the same window
 UNSEEN = 150  # events between two waits for the program
-PROGRAMS = {"Kestrill": 0.9, "kestrill-restore": 0.06, "kestrill-export": 0.04}
+PROGRAMS = {"Kestrill": 0.84, "kestrill-restore": 0.06, "kestrill-export": 0.04, "kestrill-import": 0.06}
 
 
 class Life:
