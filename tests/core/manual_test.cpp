@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/help/book.h"
 #include "platform/help/word_index.h"
+#include "shared/manual.h"
 #include "support/files.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QSet>
 #include <QTextBlock>
+#include <QTextBrowser>
 #include <QTextDocument>
 
 namespace {
@@ -57,6 +60,20 @@ TEST_F(HelpPages, AnswerTheQuestionsOfAHouseholder)
             pages += hit.page;
         return pages.first(qMin(pages.size(), 2)).join(' ');
     });
+}
+
+TEST(Manual, OpensByTheNumberOfAControlAndWithoutOneByTheNameOfItsWindow)
+{
+    const auto opened = [](int number) {
+        manual::open(number, "frmExport");
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            if (const auto* page = window->findChild<QTextBrowser*>("page"); page && window->isVisible())
+                return page->source().path() + "#" + page->source().fragment();
+        return QString();
+    };
+    EXPECT_EQ(opened(3001), "/help/totals.html#top");
+    EXPECT_EQ(opened(0), "/help/export.html#window");
+    QApplication::closeAllWindows();
 }
 
 } // namespace
