@@ -83,7 +83,7 @@ Book::Book()
         for (int row = 0; row < rows.rowCount(); ++row)
             entries_.push_back({rows.text(row, State), {rows.text(row, Assets).toLongLong(), rows.text(row, Total)}});
     } catch (const RuntimeFailure&) {
-        entries_.clear();
+        // As if nothing had been proved yet.
     }
 }
 

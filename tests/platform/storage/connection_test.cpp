@@ -110,6 +110,7 @@ TEST_F(ConnectionTest, TellsAtTheNextWriteAndAtTheCloseThatTheFileHasLeftItsPlac
         EXPECT_EQ(failureOf([this] { home.commitPending(); }), FailureKind::Database);
         stageView.AddNew();
         stageView.Update();
+        EXPECT_EQ(failureOf([this] { stageView.Close(); }), FailureKind::Database);
         EXPECT_EQ(failureOf([this] { home.close(); }), FailureKind::Database);
         EXPECT_FALSE(home.isOpen());
     }
