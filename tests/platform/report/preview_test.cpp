@@ -79,12 +79,15 @@ int cupsPrintFile(const char* queue, const char* file, const char* title, int co
 
 namespace {
 
-/// A user who has enough of a wait as soon as it is told.
+/// A user who has enough of a wait as soon as it is told, and by whom.
 class Impatience : public QObject {
     bool eventFilter(QObject* shown, QEvent* event) override
     {
-        if (event->type() == QEvent::Show && shown->objectName() == "reportWait")
+        if (event->type() == QEvent::Show && shown->objectName() == "reportWait") {
+            const auto* wait = static_cast<QWidget*>(shown);
+            EXPECT_EQ(wait->windowTitle(), wait->parentWidget()->windowTitle());
             QMetaObject::invokeMethod(shown, "cancel", Qt::QueuedConnection);
+        }
         return false;
     }
 };
