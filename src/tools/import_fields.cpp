@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/import_fields.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <iterator>
 
@@ -9,7 +11,7 @@ namespace importing {
 namespace {
 
 /// A field of the asset and warranty screens, and the words that other lists have for it, in small letters without
-/// blanks and signs.
+/// blanks and signs: first those that mean nothing else.
 struct Known {
     const char* name;
     Inventory::Column column;
@@ -20,18 +22,18 @@ constexpr Known fields[] = {
     {"Area", Inventory::Area, "area indooroutdoor zone"},
     {"Location", Inventory::Location, "location place room where roomlocation locationroom position"},
     {"Category", Inventory::Category, "category group class assetcategory itemcategory kind"},
-    {"Item", Inventory::Type, "item type itemname name asset assetname object thing article product title"},
-    {"Year", Inventory::Year, "year yearmade modelyear yearofmanufacture madein"},
+    {"Item", Inventory::Type, "itemname name assetname asset object thing article product title type"},
+    {"Year", Inventory::Year, "yearmade modelyear yearofmanufacture"},
     {"Make", Inventory::Make, "make brand manufacturer maker brandname makebrand"},
     {"Model", Inventory::Model, "model modelnumber modelno modelnr modelname"},
-    {"Serial", Inventory::SerialVinId, "serial serialnumber serialno serialnr serialvinid serialid sn vin vinnumber"},
+    {"Serial", Inventory::SerialVinId, "serialnumber serialno serialnr serialvinid serialid sn vin vinnumber vinnr"},
     {"New Or Used", Inventory::Purchased, "neworused newused condition purchased"},
     {"Purchase Date", Inventory::DatePurchased,
-        "purchasedate datepurchased purchased date bought datebought dateofpurchase purchasedon boughton acquired "
-        "dateacquired acquisitiondate"},
+        "datepurchased dateofpurchase purchased purchasedon datebought boughton bought dateacquired acquisitiondate "
+        "acquired date"},
     {"Purchase Price", Inventory::Amount,
-        "purchaseprice amount price cost value paid pricepaid purchasecost purchaseamount originalcost originalprice "
-        "costprice purchasevalue"},
+        "pricepaid purchasecost purchaseamount purchasevalue originalprice originalcost costprice price cost amount "
+        "paid value"},
     {"Receipt On File", Inventory::Receipt, "receiptonfile receipt hasreceipt receiptyesno proofofpurchase"},
     {"Receipt Location", Inventory::ReceiptLocation, "receiptlocation receiptplace whereisthereceipt"},
     {"Description", Inventory::Description, "description notes note comments comment remarks remark details memo"},
@@ -52,17 +54,32 @@ constexpr Known fields[] = {
 };
 
 // What numbers the rows of a list, and what an import has said of them.
-constexpr const char* numbering = "id no nr number row index line count whatiswrong";
+constexpr const char* numbering = "id no nr row index line whatiswrong";
 
 const QString EndName = QStringLiteral("End Of Description");
 const QString OutName = QStringLiteral("Left Out");
 
+// What a heading says of how its texts are written: "Price (USD)".
+QString withoutHint(QString heading)
+{
+    static const QRegularExpression hint(
+        QStringLiteral(
+            "[(\\[]\\s*(?:[A-Z]{0,2}\\p{Sc}|USD|EUR|GBP|CAD|AUD|NZD|CHF|SEK|NOK|DKK|[DMY]{1,4}[-/.][DMY]{1,4}"
+            "[-/.][DMY]{1,4}|yes\\s*/\\s*no|y\\s*/\\s*n|required|optional)\\s*[)\\]]"),
+        QRegularExpression::CaseInsensitiveOption);
+    return heading.remove(hint);
+}
+
+// "Item #" is no item but its number.
 QString folded(const QString& heading)
 {
     QString word;
-    for (const QChar character : heading)
+    for (const QChar character : withoutHint(heading)) {
         if (character.isLetterOrNumber())
             word += character.toLower();
+        else if (character == u'#')
+            word += QStringLiteral("nr");
+    }
     return word;
 }
 
@@ -82,12 +99,12 @@ bool isNewOrUsed(const QString& text)
     return word == "new" || word == "used" || word == "secondhand";
 }
 
-// "Purchased" heads dates in most lists, and here whether a thing was new.
-bool fits(const Known& field, const ColumnSeen& column)
+// "Purchased" heads dates in most lists, and here whether a thing was new; "Condition" mostly how good it is.
+bool fits(const Known& field, const QString& word, const ColumnSeen& column)
 {
-    if (folded(column.heading) != "purchased")
-        return true;
-    return (field.column == Inventory::Purchased) == isNewOrUsed(column.example);
+    if (word == "purchased")
+        return (field.column == Inventory::Purchased) == isNewOrUsed(column.example);
+    return word != "condition" || isNewOrUsed(column.example);
 }
 
 class Finding {
@@ -97,44 +114,42 @@ public:
         , targets_(columns.size())
         , isFound_(columns.size())
     {
+        for (const ColumnSeen& column : columns)
+            words_.push_back(folded(column.heading));
     }
 
     std::vector<Target> run()
     {
+        for (const Known& field : fields)
+            find(field, ownNameOf(field));
+        for (const Known& field : fields)
+            for (const QString& word : QString::fromLatin1(field.words).split(u' '))
+                find(field, word);
         for (std::size_t i = 0; i < columns_.size(); ++i)
-            find(i, [](const Known& field, const QString& word) { return ownNameOf(field) == word; });
-        for (std::size_t i = 0; i < columns_.size(); ++i)
-            find(i, [](const Known& field, const QString& word) { return isAmong(field.words, word); });
-        for (std::size_t i = 0; i < columns_.size(); ++i)
-            if (!isFound_[i] && columns_[i].filled > 0 && !isNumbering(columns_[i].heading))
+            if (!isFound_[i] && columns_[i].filled > 0 && !isAmong(numbering, words_[i]))
                 targets_[i].kind = Target::EndOfDescription;
         return targets_;
     }
 
 private:
-    static bool isNumbering(const QString& heading)
+    // What heads two columns alike doesn't tell which of them is meant.
+    void find(const Known& field, const QString& word)
     {
-        return isAmong(numbering, folded(heading)) || heading.trimmed() == "#";
-    }
-
-    template <class Test>
-    void find(std::size_t at, Test test)
-    {
-        const QString word = folded(columns_[at].heading);
-        if (isFound_[at] || word.isEmpty())
+        const Target target{Target::Field, field.column};
+        if (std::find(targets_.begin(), targets_.end(), target) != targets_.end())
             return;
-        for (const Known& field : fields) {
-            const Target target{Target::Field, field.column};
-            const bool isTaken = std::find(targets_.begin(), targets_.end(), target) != targets_.end();
-            if (isTaken || !test(field, word) || !fits(field, columns_[at]))
-                continue;
-            targets_[at] = target;
-            isFound_[at] = true;
+        std::vector<std::size_t> headed;
+        for (std::size_t i = 0; i < columns_.size(); ++i)
+            if (!isFound_[i] && words_[i] == word && fits(field, word, columns_[i]))
+                headed.push_back(i);
+        if (headed.size() != 1)
             return;
-        }
+        targets_[headed.front()] = target;
+        isFound_[headed.front()] = true;
     }
 
     const std::vector<ColumnSeen>& columns_;
+    std::vector<QString> words_; // of their headings
     std::vector<Target> targets_;
     std::vector<bool> isFound_;
 };
