@@ -3,6 +3,7 @@
 
 #include "platform/values/digits.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -14,22 +15,34 @@ namespace importing {
 
 namespace {
 
-// Digits, points and commas are left, and a minus in front where it is below zero; nothing of what is no amount.
+// Blanks, a minus, dashes and an apostrophe as typesetters have them become those of a keyboard.
+QString plainOf(QString text)
+{
+    for (QChar& character : text)
+        if (character.isSpace())
+            character = u' ';
+    for (const char16_t dash : {u'\u2212', u'\u2013', u'\u2014'})
+        text.replace(QChar(dash), u'-');
+    return text.replace(QChar(0x2019), u'\'');
+}
+
+// Digits, points and commas are left, and a minus in front where it is below zero; nothing of what is no amount. Blanks
+// and apostrophes stand between thousands alone. What stands behind may be a multiple or a hundredth instead of a
+// currency, or a credit: "5k", "99p".
 std::optional<QString> bare(const QString& text)
 {
-    static const QString currency = QStringLiteral("(?:[A-Za-z]{1,3}\\.?|[A-Za-z]{0,3}\\p{Sc})?\\s*");
+    static const QString currency = QStringLiteral("(?:\\p{L}{1,3}\\.?|\\p{L}{0,3}\\p{Sc})?\\s*");
+    static const QString number =
+        QStringLiteral("(?<digits>[0-9]{1,3}(?:[' ][0-9]{3})+(?:[.,][0-9]*)?|[0-9.,]*[0-9][.,]?)");
+    static const QString noCurrency =
+        QStringLiteral("(?!(?i:[kmcp]|ct|cr|th|tsd|mio|mln|mn|bn|mrd|ea|pcs|st)(?!\\p{L}))");
     static const QRegularExpression form(QStringLiteral("^\\s*(?<before>[-(]?)\\s*") + currency
-        + QStringLiteral("(?<within>-?)\\s*(?<digits>[0-9.,'\\p{Z}]*[0-9][.,]?)(?<behind>-?)\\s*") + currency
+        + QStringLiteral("(?<within>-?)\\s*") + number + QStringLiteral("(?<behind>-?)\\s*") + noCurrency + currency
         + QStringLiteral("[-)]?\\s*$"));
-    // A minus, dashes and an apostrophe as typesetters have them.
-    QString plain = text;
-    for (const char16_t dash : {u'\u2212', u'\u2013', u'\u2014'})
-        plain.replace(QChar(dash), u'-');
-    plain.replace(QChar(0x2019), u'\'');
-    const QRegularExpressionMatch match = form.match(plain);
+    const QRegularExpressionMatch match = form.match(plainOf(text));
     if (!match.hasMatch())
         return {};
-    static const QRegularExpression between(QStringLiteral("['\\p{Z}]"));
+    static const QRegularExpression between(QStringLiteral("[' ]"));
     QString digits = match.captured(u"digits").remove(between);
     const bool hasNoCents = digits.endsWith(u'.') || digits.endsWith(u','); // "50.-"
     if (hasNoCents)
@@ -42,6 +55,8 @@ std::optional<QString> bare(const QString& text)
 bool isGrouped(const QString& whole, QChar separator)
 {
     const QStringList groups = whole.split(separator);
+    if (groups.size() > 1 && (groups[0].isEmpty() || groups[0].startsWith(u'0')))
+        return false;
     for (qsizetype i = 0; i < groups.size(); ++i) {
         const bool isRight = i == 0 ? groups[i].size() <= 3 : groups[i].size() == 3;
         if (!values::digits::areAll(groups[i]) || (groups.size() > 1 && !isRight))
@@ -56,9 +71,10 @@ struct Told {
 };
 
 // The sign that stands before the cents, whatever the others are like. Three digits behind a single sign are thousands:
-// there is no tenth of a cent; but a program may write it.
-Told told(const QString& digits)
+// there is no tenth of a cent; but a program may write it, which is sure where they can't be thousands.
+Told told(QString digits)
 {
+    digits.remove(u'-');
     const qsizetype point = digits.lastIndexOf(u'.');
     const qsizetype comma = digits.lastIndexOf(u',');
     if (point >= 0 && comma >= 0)
@@ -71,7 +87,7 @@ Told told(const QString& digits)
     const bool isRepeated = digits.count(digits[at]) > 1;
     if (isRepeated && !isGrouped(digits, digits[at]))
         return {};
-    const bool isThousands = isRepeated || digits.size() - at - 1 == 3;
+    const bool isThousands = isRepeated || (digits.size() - at == 4 && isGrouped(digits, digits[at]));
     return {isThousands ? other : sign, isRepeated || !isThousands};
 }
 
@@ -96,6 +112,29 @@ std::optional<DecimalSign> decimalSignNamed(const QString& word)
     if (word == "point")
         return DecimalSign::Point;
     return word == "comma" ? std::optional(DecimalSign::Comma) : std::nullopt;
+}
+
+bool isAmount(const QString& text)
+{
+    return bare(text).has_value();
+}
+
+QStringList currenciesIn(const QStringList& amounts)
+{
+    static const QHash<QString, QString> signs{{"USD", "$"}, {"US$", "$"}, {"EUR", "\u20AC"}, {"GBP", "\u00A3"}};
+    constexpr qsizetype most = 8;
+    QStringList currencies;
+    for (const QString& text : amounts) {
+        QString currency;
+        for (const QChar character : text)
+            if (character.isLetter() || character.category() == QChar::Symbol_Currency)
+                currency += character.toUpper();
+        currency = signs.value(currency, currency);
+        const bool isNew = !currency.isEmpty() && currencies.size() < most && !currencies.contains(currency);
+        if (isNew && isAmount(text))
+            currencies += currency;
+    }
+    return currencies;
 }
 
 AmountReader::AmountReader(const QStringList& column)

@@ -15,6 +15,12 @@ enum class DecimalSign { Unknown, Point, Comma };
 /// "point" or "comma"; nothing for another word.
 std::optional<DecimalSign> decimalSignNamed(const QString& word);
 
+/// Whether a text is an amount, whatever its decimal sign and its size.
+bool isAmount(const QString& text);
+
+/// The currencies that stand with amounts, each once, by its sign where it has one; no more than some.
+QStringList currenciesIn(const QStringList& amounts);
+
 /// An amount that was read, or why it can't be.
 struct AmountRead {
     std::optional<values::Currency> amount;

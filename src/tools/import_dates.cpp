@@ -22,12 +22,19 @@ constexpr DateOrder orders[] = {DateOrder::MonthFirst, DateOrder::DayFirst, Date
 /// The three parts of a date as they stand, or nothing of them.
 using Parts = std::array<QString, 3>;
 
-std::optional<Parts> partsOf(const QString& text)
+// A name of a day in front and a time behind count for nothing.
+std::optional<Parts> partsOf(QString text)
 {
-    static const QRegularExpression form(QStringLiteral(
-        "^\\s*([A-Za-z]+|\\d{1,4})(?:\\s*[-/.,]\\s*|\\s+)([A-Za-z]+|\\d{1,2})(?:\\s*[-/.,]\\s*|\\s+)(\\d{1,4})"
-        "(?:[T "
-        ",]+\\d{1,2}:\\d\\d(?::\\d\\d(?:[.,]\\d+)?)?\\s*(?:[AaPp]\\.?[Mm]\\.?|Z|[+-]\\d\\d:?\\d\\d)?)?\\.?\\s*$"));
+    static const QString day = QStringLiteral("(?:(?:mon|tue|wed|thu|fri|sat|sun)[a-z]*[.,]*\\s+)?");
+    static const QString first = QStringLiteral("([a-z]+|\\d{1,4})"), second = QStringLiteral("([a-z]+|\\d{1,2})");
+    static const QString between = QStringLiteral("(?:(?<=\\d)(?:st|nd|rd|th))?(?:\\s*[-/.,]\\s*|\\s+)");
+    static const QString time = QStringLiteral("(?:[T ,]+\\d{1,2}:\\d\\d(?::\\d\\d(?:[.,]\\d+)?)?"
+                                               "\\s*(?:[ap]\\.?m\\.?|Z|UTC|GMT|[+-]\\d\\d:?\\d\\d)?)?");
+    static const QRegularExpression form(QStringLiteral("^\\s*") + day + first + between + second + between
+            + QStringLiteral("(\\d{1,4})") + time + QStringLiteral("\\.?\\s*$"),
+        QRegularExpression::CaseInsensitiveOption);
+    std::replace_if(
+        text.begin(), text.end(), [](QChar character) { return character.isSpace(); }, QChar(u' '));
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         return {};
@@ -59,9 +66,11 @@ int yearOf(const QString& digits)
     return year > now ? year - 100 : year;
 }
 
+// Programs write the first day of the year 1 for none, and spreadsheets the day from which they count.
 std::optional<Date> dateOf(int day, int month, int year)
 {
-    if (year == 0 || !QDate::isValid(year, month, day))
+    const QDate date(year, month, day);
+    if (year < 100 || !date.isValid() || date == QDate(1899, 12, 30))
         return {};
     return Date::fromDayMonthYear(day, month, year);
 }
@@ -106,6 +115,13 @@ bool allows(const Parts& parts, DateOrder order)
 QString invalid()
 {
     return QString::fromLatin1(asset_rules::InvalidDate);
+}
+
+// "44190": a date that the spreadsheet was not told to show as one.
+bool isDayNumber(const QString& text)
+{
+    static const QRegularExpression form(QStringLiteral("^\\s*\\d{5}([.,]\\d+)?\\s*$"));
+    return form.match(text).hasMatch();
 }
 
 // What a date without an order can be.
@@ -173,7 +189,9 @@ DateRead DateReader::read(const QString& text) const
 {
     const std::optional<Parts> parts = partsOf(text);
     if (!parts)
-        return {{}, invalid()};
+        return {{},
+            isDayNumber(text) ? QStringLiteral("It Is A Spreadsheet's Number Of A Day: Let The Column Show Dates")
+                              : invalid()};
     if (!tellsItself(*parts) && order_ == DateOrder::Unknown)
         return anyOf(*parts);
     const std::optional<Date> date = tellsItself(*parts) ? byItself(*parts) : inOrder(*parts, order_);
