@@ -10,6 +10,7 @@
 #include <QCommandLineParser>
 
 #include <algorithm>
+#include <map>
 
 namespace commands {
 
@@ -24,10 +25,9 @@ constexpr std::size_t LinesOfWrongRows = 20; // on the error output; all of them
     throw Refusal(exit_code::Usage, words + QStringLiteral("; see --help."));
 }
 
-/// "Heading=Field"; the heading may hold the sign itself.
-std::pair<QString, QString> pairIn(const QString& argument, const QString& option)
+/// What stands before a sign, and what stands behind.
+std::pair<QString, QString> pairAt(qsizetype at, const QString& argument, const QString& option)
 {
-    const qsizetype at = argument.lastIndexOf(u'=');
     if (at < 1)
         refuseUsage(QStringLiteral("\"%1\" has no \"=\" for %2").arg(argument, option));
     return {argument.first(at).simplified(), argument.sliced(at + 1).trimmed()};
@@ -50,10 +50,26 @@ std::vector<Mapped> mappedIn(const QStringList& arguments)
 {
     std::vector<Mapped> mapped;
     for (const QString& argument : arguments) {
-        const auto [heading, field] = pairIn(argument, QStringLiteral("--map"));
+        // A heading may hold the sign itself.
+        const auto [heading, field] = pairAt(argument.lastIndexOf(u'='), argument, QStringLiteral("--map"));
         mapped.push_back({heading, fieldNamed(field)});
     }
     return mapped;
+}
+
+std::map<Inventory::Column, QString> fillingIn(const QStringList& arguments)
+{
+    std::map<Inventory::Column, QString> filling;
+    for (const QString& argument : arguments) {
+        const auto [field, text] = pairAt(argument.indexOf(u'='), argument, QStringLiteral("--set"));
+        const Target target = fieldNamed(field);
+        if (target.kind != Target::Field)
+            refuseUsage(QStringLiteral("\"%1\" is no field that --set can fill").arg(field));
+        if (std::any_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; }))
+            refuseUsage(QStringLiteral("There is a control character in what --set gives to \"%1\"").arg(field));
+        filling[target.column] = text;
+    }
+    return filling;
 }
 
 std::size_t columnOf(const Source& source, const QString& heading)
@@ -73,6 +89,8 @@ std::vector<Target> targetsWith(const Source& source, const std::vector<Mapped>&
     std::vector<bool> isChosen(targets.size());
     for (const auto& [heading, target] : mapped) {
         const std::size_t at = columnOf(source, heading);
+        if (isChosen[at])
+            refuseUsage(QStringLiteral("The column \"%1\" can't go to two fields").arg(heading));
         for (std::size_t other = 0; other < targets.size(); ++other) {
             if (other == at || target.kind != Target::Field || targets[other] != target)
                 continue;
@@ -157,6 +175,17 @@ void carryOut(const Source& source, const Plan& plan, const QString& wrongFile)
         terminal::print(QStringLiteral("Wrong rows: %1").arg(sys::absolutePath(file)));
 }
 
+// What is wrong with all of the rows can be mended, too.
+int tellNothing(const Source& source, const Plan& plan, const QString& wrongFile)
+{
+    if (!plan.wrong.empty())
+        write_Wrong_Rows(source, plan, wrongFile);
+    terminal::print(QStringLiteral("There is nothing to import."));
+    if (!plan.wrong.empty())
+        terminal::print(QStringLiteral("Wrong rows: %1").arg(sys::absolutePath(wrongFile)));
+    return exit_code::Done;
+}
+
 struct Order {
     QString file;
     std::vector<Mapped> mapped;
@@ -173,6 +202,9 @@ int bringIn(Order order)
     for (const Mapped& mapped : order.mapped)
         headings += mapped.heading;
     const Source source(order.file, headings);
+    const bool isTold = !order.mapped.empty() || !order.choices.otherwise.empty();
+    if (isTold && source.kind() != Source::Kind::Table)
+        refuseUsage(QStringLiteral("An export of Kestrill comes as it is, without --map and --set"));
     order.choices.targets = targetsWith(source, order.mapped);
     const Plan plan = lookedThrough(source, order.choices);
     tellSource(source, order.choices);
@@ -187,10 +219,8 @@ int bringIn(Order order)
     if (order.isDryRun)
         return plan.isPossible() ? exit_code::Done : exit_code::Unreadable;
     refuseWrong(plan);
-    if (!plan.bringsAnything()) {
-        terminal::print(QStringLiteral("There is nothing to import."));
-        return exit_code::Done;
-    }
+    if (!plan.bringsAnything())
+        return tellNothing(source, plan, order.wrongFile);
     refuseUnconfirmed(order.isSaid);
     carryOut(source, plan, order.wrongFile);
     return exit_code::Done;
@@ -248,13 +278,7 @@ int importAll(const QStringList& arguments)
         order.choices.cutsTexts = parser.isSet(cut);
         order.choices.takesKnown = parser.isSet(again);
         order.choices.skipsWrong = parser.isSet(skip);
-        for (const QString& argument : parser.values(set)) {
-            const auto [field, text] = pairIn(argument, QStringLiteral("--set"));
-            const Target target = fieldNamed(field);
-            if (target.kind != Target::Field)
-                refuseUsage(QStringLiteral("\"%1\" is no field that --set can fill").arg(field));
-            order.choices.otherwise[target.column] = text;
-        }
+        order.choices.otherwise = fillingIn(parser.values(set));
         return bringIn(std::move(order));
     });
 }

@@ -3,12 +3,16 @@
 #include "platform/system/paths.h"
 #include "platform/values/csv.h"
 #include "platform/values/failure.h"
+#include "platform/values/file_name.h"
 #include "tools/exit_codes.h"
 #include "tools/importing.h"
 #include "tools/table_texts.h"
 #include "tools/text_file.h"
 
+#include <optional>
 #include <utility>
+
+#include <unistd.h>
 
 namespace importing {
 
@@ -61,21 +65,31 @@ Cells wrongRow(const Source& source, const WrongRow& wrong, std::size_t width)
     return cells;
 }
 
+// What could be written of it, where it isn't whole, is taken away again.
 template <class Write>
 void writeFile(const QString& path, Write write)
 {
     if (sys::kindOf(path) != sys::Kind::Nothing)
         throw Refusal(exit_code::Failed, QStringLiteral("%1 is there already. Give the name of a new file.").arg(path));
+    std::optional<TextFile> out;
     try {
-        TextFile out(path);
-        write(out);
-        out.finish();
+        out.emplace(path);
+        write(*out);
+        out->finish();
     } catch (const values::RuntimeFailure& failure) {
-        throw Refusal(exit_code::Failed, failure.text());
+        if (out)
+            remove_File(path);
+        throw Refusal(exit_code::Failed,
+            QStringLiteral("%1 can't be written: %2.").arg(path, failure.text().section(QStringLiteral(": "), -1)));
     }
 }
 
 } // namespace
+
+void remove_File(const QString& file)
+{
+    ::unlink(values::bytesOfName(file).constData());
+}
 
 void write_Wrong_Rows(const Source& source, const Plan& plan, const QString& file)
 {

@@ -8,8 +8,6 @@
 #include "tools/exit_codes.h"
 #include "tools/put_aside.h"
 
-#include <QFile>
-
 using values::Currency;
 
 namespace importing {
@@ -135,8 +133,8 @@ Result carry_Out(const Source& source, const Plan& plan, const QString& wrongFil
     write_Wrong_Rows(source, plan, wrongFile);
     try {
         return carry_Out(plan, progress);
-    } catch (const Refusal&) {
-        QFile::remove(wrongFile);
+    } catch (...) {
+        remove_File(wrongFile);
         throw;
     }
 }

@@ -25,6 +25,9 @@ Result carry_Out(const Source& source, const Plan& plan, const QString& wrongFil
 /// Refusal, where there is a file already and where the system refuses.
 void write_Wrong_Rows(const Source& source, const Plan& plan, const QString& file);
 
+/// Takes a file of wrong rows away again.
+void remove_File(const QString& file);
+
 /// Writes a table with the headings and two lines of example into a new file. Failures: Refusal.
 void write_Template(const QString& file);
 

@@ -84,6 +84,17 @@ void Aside::giveUp() const
     kept_.removeEmpty(folder_.name());
 }
 
+// What fails before there is a copy has changed nothing, either.
+template <class Step>
+auto orUnchanged(Step step)
+{
+    try {
+        return step();
+    } catch (const values::RuntimeFailure& failure) {
+        throw Refusal(exit_code::Failed, QStringLiteral("Nothing was changed: %1.").arg(failure.text()));
+    }
+}
+
 } // namespace
 
 void refuseStale()
@@ -94,11 +105,12 @@ void refuseStale()
 QString changeBehindCopy(const std::function<void(const Household& today)>& refuseStale,
     const std::function<void(qint64 generation)>& change)
 {
-    const sys::RunLock alone(sys::Folder::made(places::earlierBackupsFolder()), restoring::LockName);
+    const sys::RunLock alone = orUnchanged(
+        [] { return sys::RunLock(sys::Folder::made(places::earlierBackupsFolder()), restoring::LockName); });
     if (!alone.isHeld())
         throw Refusal(exit_code::InUse, QStringLiteral("A restore is under way."));
-    restoring::clear_Remains();
-    const Aside aside;
+    orUnchanged([] { restoring::clear_Remains(); });
+    const Aside aside = orUnchanged([] { return Aside(); });
     try {
         settle();
         change(aside.make(refuseStale));
