@@ -4,9 +4,9 @@
 #include "data/asset_rules.h"
 #include "data/name_markers.h"
 #include "platform/values/csv.h"
-#include "platform/values/text.h"
 #include "tools/printable.h"
 
+#include <QRegularExpression>
 #include <QStringTokenizer>
 
 #include <algorithm>
@@ -36,10 +36,17 @@ bool isControl(QChar character)
     return character.category() == QChar::Other_Control && character != u'\n' && character != u'\t';
 }
 
+// How programs keep a spreadsheet from taking "0012" for a number: ="0012".
+std::string_view withoutFormula(std::string_view cell)
+{
+    const bool isText = cell.size() >= 3 && cell.starts_with("=\"") && cell.find('"', 2) == cell.size() - 1;
+    return isText ? cell.substr(2, cell.size() - 3) : cell;
+}
+
 // As a box takes it: what has one line has no breaks in it.
 QString cleaned(const std::string& cell, bool hasLines)
 {
-    const std::string_view plain = values::csv::withoutApostrophe(cell);
+    const std::string_view plain = withoutFormula(values::csv::withoutApostrophe(cell));
     QString text = QString::fromUtf8(plain.data(), static_cast<qsizetype>(plain.size()));
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
     if (!hasLines)
@@ -86,6 +93,13 @@ QString faultOfWord(Inventory::Column column)
                                         : QStringLiteral("It Must Be New Or Used");
 }
 
+// Of a receipt.
+bool isPlace(const QString& text)
+{
+    const QString lower = text.toLower();
+    return !text.isEmpty() && lower != "none" && lower != "n/a" && storedWord(Inventory::Receipt, text) != "No";
+}
+
 void readWord(Asset& asset, Inventory::Column column, QStringList& reasons)
 {
     const QString stored = storedWord(column, asset[column]);
@@ -114,6 +128,40 @@ void require(const Asset& asset, QStringList& reasons)
     for (const Inventory::Column column : {Inventory::Location, Inventory::Category})
         if (asset[column] == names::Blank)
             reasons += reason(column, asset[column], QStringLiteral("The Lists Can't Hold This Name"));
+}
+
+// "3.56938E+14" is what a spreadsheet shows, and saves, of a number of 15 digits.
+bool isRounded(const QString& text)
+{
+    static const QRegularExpression form(QStringLiteral("^[0-9](?:[.,][0-9]+)?E\\+[0-9]{2}$"));
+    return text.contains(QStringLiteral("E+")) && form.match(text).hasMatch();
+}
+
+bool isLabelOfTotal(const QString& text)
+{
+    static const QRegularExpression label(
+        QStringLiteral(
+            "^(?:(?:grand|sub|over-?all)[ -]?)?(?:totals?|sum|summe|gesamt(?:summe|wert)?|zwischensumme|somme)"
+            "(?: (?:value|cost|price|amount|worth|(?:of|for) .*))?\\s*:?$|\\b(?:sub-?)?totals?\\s*:?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return label.match(text).hasMatch();
+}
+
+// Numbers alone beside a word for their sum. What all assets are given would make an asset of it.
+bool isTotal(const Row& row)
+{
+    bool isLabelled = false;
+    int numbers = 0;
+    for (const std::string& cell : row.cells) {
+        const QString text = cleaned(cell, false);
+        if (text.isEmpty())
+            continue;
+        if (isLabelled ? !isAmount(text) : !isLabelOfTotal(text))
+            return false;
+        numbers += isLabelled ? 1 : 0;
+        isLabelled = true;
+    }
+    return numbers > 0;
 }
 
 // What an export holds has been on the screen once: it is taken as it stands.
@@ -174,6 +222,10 @@ Asset AssetRows::assetOf(const Row& row, QStringList& reasons) const
         reasons += QStringLiteral("The Row Has %1 Cells Under %2 Headings").arg(row.cells.size()).arg(targets_.size());
         return {};
     }
+    if (isTable && isTotal(row)) {
+        reasons += QStringLiteral("The Row Holds A Total And No Asset");
+        return {};
+    }
     Asset asset = isTable ? fromTable(row, reasons) : fromExport(row, reasons);
     fillIn(asset);
     if (isTable)
@@ -226,15 +278,15 @@ void AssetRows::takeCell(const Row& row, std::size_t at, Asset& asset, QStringLi
     }
 }
 
-// What is chosen for an empty field goes before what the screen has in it; a place for a receipt means that there is
-// one.
+// What is chosen for an empty field goes before what the screen has in it, but in an export, which comes as it is; a
+// place for a receipt means that there is one.
 void AssetRows::fillIn(Asset& asset) const
 {
+    const bool isTable = source_.kind() == Source::Kind::Table;
     for (const auto& [column, text] : choices_.otherwise)
-        if (asset[column].isEmpty())
+        if (isTable && asset[column].isEmpty())
             asset[column] = text;
-    const QString& place = asset[Inventory::ReceiptLocation];
-    if (asset[Inventory::Receipt].isEmpty() && !place.isEmpty() && !values::equalUpper(place, QStringLiteral("None")))
+    if (asset[Inventory::Receipt].isEmpty() && isPlace(asset[Inventory::ReceiptLocation]))
         asset[Inventory::Receipt] = QStringLiteral("Yes");
     for (std::size_t i = Inventory::Area; i < asset.size(); ++i)
         if (asset[i].isEmpty())
@@ -247,6 +299,10 @@ void AssetRows::readTyped(Asset& asset, QStringList& reasons) const
         readWord(asset, Inventory::Area, reasons);
     readWord(asset, Inventory::Receipt, reasons);
     readWord(asset, Inventory::Purchased, reasons);
+    for (const Inventory::Column column : {Inventory::Model, Inventory::SerialVinId})
+        if (isRounded(asset[column]))
+            reasons += reason(column, asset[column],
+                QStringLiteral("The Spreadsheet Has Rounded It: Let The Column Show Whole Numbers"));
     const bool isNoReceipt = asset[Inventory::Receipt] == "No";
     QString& place = asset[Inventory::ReceiptLocation];
     place = asset_rules::receiptLocation(place, isNoReceipt && place.isEmpty()); // a text that stands there stays
@@ -297,6 +353,9 @@ void AssetRows::describe(Plan& plan) const
         return;
     if (dates_.order() != DateOrder::Unknown)
         plan.notes += QStringLiteral("Dates are read as %1.").arg(nameOf(dates_.order()));
+    if (const QStringList currencies = currenciesIn(columnOf(Inventory::Amount)); currencies.size() > 1)
+        plan.notes += QStringLiteral("There are several currencies, which are added up as one: %1.")
+                          .arg(printable(currencies.join(QStringLiteral(", "))));
     plan.needsDateOrder = dates_.isAmbiguous();
     plan.needsDecimalSign = amounts_.isAmbiguous();
     QStringList missing;

@@ -35,7 +35,7 @@ std::vector<const TableDefinition*> tablesOfExport()
 
 std::string_view headingsOf(std::string_view text)
 {
-    text.remove_prefix(text.starts_with("\xEF\xBB\xBF") ? 3 : 0);
+    text = withoutMark(text);
     return text.substr(0, text.find_first_of("\r\n"));
 }
 
@@ -108,6 +108,7 @@ public:
 private:
     void take(std::size_t at);
     void readRow(std::string_view object);
+    std::string cellIn(const QJsonObject& row, const storage::Column& column, const QString& name) const;
     void refuseOtherFrame() const;
 
     std::string_view json_;
@@ -171,14 +172,28 @@ void JsonRows::readRow(std::string_view object)
     std::vector<Row>& rows = tables_[word_];
     Row& taken = rows.emplace_back();
     taken.line = static_cast<qint64>(rows.size());
-    for (const storage::Column& column : (*table)->columns) {
-        const QJsonValue cell = row.value(QLatin1String(column.name));
-        if (cell.isUndefined())
-            refuse(path_, QStringLiteral("row %1 of %2 lacks \"%3\"").arg(taken.line).arg((*table)->name, column.name));
-        taken.cells.push_back(cell.toVariant().toString().toStdString());
-    }
+    const QString name = QStringLiteral("row %1 of %2").arg(taken.line).arg(QLatin1String((*table)->name));
+    if (row.isEmpty())
+        refuse(path_, name + QStringLiteral(" is damaged"));
+    for (const storage::Column& column : (*table)->columns)
+        taken.cells.push_back(cellIn(row, column, name));
+    if (row.size() > static_cast<qsizetype>(taken.cells.size()))
+        refuse(path_, name + QStringLiteral(" has entries that this version doesn't know"));
     if (*table == &databaseTable("Inventory"))
         refuseTooMany(rows.size(), path_);
+}
+
+// As the schema has it: numbers where the table has some, and else texts. Another one would be changed on the way.
+std::string JsonRows::cellIn(const QJsonObject& row, const storage::Column& column, const QString& name) const
+{
+    const QJsonValue cell = row.value(QLatin1String(column.name));
+    if (cell.isUndefined())
+        refuse(path_, QStringLiteral("%1 lacks \"%2\"").arg(name, column.name));
+    const bool mayBeNumber =
+        column.type == storage::ColumnType::Identity || column.type == storage::ColumnType::Integer;
+    if (!cell.isString() && !(mayBeNumber && cell.isDouble()))
+        refuse(path_, QStringLiteral("\"%1\" in %2 is no text").arg(column.name, name));
+    return cell.toVariant().toString().toStdString();
 }
 
 void JsonRows::refuseOtherFrame() const
@@ -190,9 +205,16 @@ void JsonRows::refuseOtherFrame() const
     if (frame.value(QStringLiteral("program")) != QStringLiteral("Kestrill"))
         refuse(path_, QStringLiteral("another program has written it"));
     const QJsonObject tables = frame.value(QStringLiteral("tables")).toObject();
-    for (const TableDefinition* table : tablesOfExport())
-        if (!tables.value(QLatin1String(table->name)).isArray())
+    for (const TableDefinition* table : tablesOfExport()) {
+        const QJsonValue found = tables.value(QLatin1String(table->name));
+        if (!found.isArray())
             refuse(path_, QStringLiteral("%1 is missing").arg(QLatin1String(table->name)));
+        const auto taken = tables_.find(table->name);
+        const std::size_t rows = taken == tables_.end() ? 0 : taken->second.size();
+        if (static_cast<std::size_t>(found.toArray().size()) != rows)
+            refuse(
+                path_, QStringLiteral("there is something else among the rows of %1").arg(QLatin1String(table->name)));
+    }
 }
 
 void refuseWithoutHousehold(const Tables& tables, const QString& path)

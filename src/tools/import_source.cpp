@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <tuple>
 
 namespace importing {
 
@@ -55,8 +56,10 @@ public:
     {
         try {
             values::csv::Reader reader = readerOf(text, separator);
-            for (Row row; rows_.size() < LinesAbove && reader.next(row.cells); rows_.push_back(row))
+            for (Row row; rows_.size() < LinesAbove && reader.next(row.cells); rows_.push_back(row)) {
                 row.line = reader.line();
+                row.cells.resize(std::min(row.cells.size(), MostColumns + 1)); // enough to be told from a table
+            }
         } catch (const values::RuntimeFailure&) {
             // What can be read so far tells enough; the failure is met again.
         }
@@ -66,8 +69,9 @@ public:
     char separator() const { return separator_; }
     qint64 headingLine() const { return headingLine_; }
 
-    /// How good a reading it is: by the headings that are known, then by their number.
-    std::pair<int, std::size_t> goodness() const { return {known_, width_}; }
+    /// How good a reading it is: by the headings that are known, then by the rows that are as long as these, then by
+    /// the length.
+    std::tuple<int, qint64, std::size_t> goodness() const { return {known_, alike_, width_}; }
 
 private:
     void look(const QStringList& named)
@@ -81,6 +85,9 @@ private:
             headingLine_ = row.line;
             width_ = row.cells.size();
         }
+        alike_ = std::count_if(rows_.begin(), rows_.end(), [this](const Row& row) {
+            return headingLine_ > 0 && row.line > headingLine_ && row.cells.size() == width_;
+        });
     }
 
     static int knownIn(const Row& row, const QStringList& named)
@@ -112,6 +119,7 @@ private:
     int known_ = 0;
     qint64 headingLine_ = 0;
     std::size_t width_ = 0;
+    qint64 alike_ = 0;
 };
 
 Beginning bestBeginning(std::string_view text, const QStringList& named)
@@ -153,6 +161,14 @@ void dropEmptyEnd(Row& row, std::size_t width)
         row.cells.pop_back();
 }
 
+// Some programs leave out empty cells at the end of a row. A last line without an end may lack others, too.
+void fillUp(std::vector<Row>& rows, std::size_t width, bool mayBeCutOff)
+{
+    for (Row& row : rows)
+        if (row.cells.size() < width && !(mayBeCutOff && &row == &rows.back()))
+            row.cells.resize(width);
+}
+
 } // namespace
 
 Source::Source(const QString& path, const QStringList& headings)
@@ -181,10 +197,12 @@ void Source::readTable(const std::string& bytes, const QStringList& headings)
         rows_ = inventoryRows(bytes, path_);
         return;
     }
-    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
-    if (first != std::string::npos && bytes[first] == '{') {
+    const std::string_view plain = withoutMark(bytes);
+    refuseOtherPrograms(plain, path_);
+    const std::size_t first = plain.find_first_not_of(" \t\r\n");
+    if (first != std::string::npos && plain[first] == '{') {
         kind_ = Kind::Export;
-        tables_ = tablesInJson(bytes, path_);
+        tables_ = tablesInJson(plain, path_);
         rows_ = std::move(tables_["Inventory"]);
         return;
     }
@@ -225,6 +243,8 @@ void Source::readRows(std::string_view text)
     }
     if (rows_.empty())
         refuse(path_, QStringLiteral("has headings and nothing below them"));
+    const bool mayBeCutOff = !text.ends_with('\n') && !text.ends_with('\r');
+    fillUp(rows_, columns_.size(), mayBeCutOff);
 }
 
 void Source::lookAtColumns()

@@ -20,6 +20,8 @@ namespace importing {
 
 namespace {
 
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
 [[noreturn]] void refuse(const QString& words)
 {
     throw Refusal(exit_code::Unreadable, words);
@@ -121,13 +123,35 @@ QStringConverter::Encoding utf16Of(std::string_view bytes)
     return QStringConverter::Utf8;
 }
 
-void refuseOtherPrograms(std::string_view bytes, const QString& path)
+// The length of the character in UTF-8 that begins there; 0 where none does.
+std::size_t lengthAt(std::string_view bytes, std::size_t at)
 {
-    const bool isSpreadsheet = bytes.starts_with("PK\x03\x04") || bytes.starts_with("\xD0\xCF\x11\xE0");
-    if (isSpreadsheet)
-        refuse(QStringLiteral("%1 is a spreadsheet program's own file. Open it there, save the sheet as CSV, and "
-                              "give that file.")
-                   .arg(path));
+    const auto lead = static_cast<unsigned char>(bytes[at]);
+    if (lead < 0x80)
+        return 1;
+    const std::size_t length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    return isUtf8(bytes.substr(at, length)) ? length : 0;
+}
+
+// A text in UTF-8 with some bytes that are none must not be taken for Windows-1252: every letter with an accent would
+// become two others.
+void refuseDamagedUtf8(std::string_view bytes, const QString& path)
+{
+    int whole = 0, broken = 0;
+    qint64 line = 1, firstBroken = 0;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t length = lengthAt(bytes, at);
+        whole += length > 1 ? 1 : 0;
+        if (length == 0 && broken++ == 0)
+            firstBroken = line;
+        line += bytes[at] == '\n' ? 1 : 0;
+        at += std::max<std::size_t>(length, 1);
+    }
+    if (broken > 0 && (whole >= broken || bytes.starts_with(ByteOrderMark)))
+        refuse(
+            QStringLiteral("%1 is UTF-8 but for line %2, where it is damaged. Mend that line, or save the list anew.")
+                .arg(path)
+                .arg(firstBroken));
 }
 
 // A byte or two may have got into a text that is one.
@@ -157,6 +181,24 @@ QString nameOf(Encoding encoding)
     return QStringLiteral("Windows-1252");
 }
 
+std::string_view withoutMark(std::string_view bytes)
+{
+    return bytes.substr(bytes.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0);
+}
+
+void refuseOtherPrograms(std::string_view bytes, const QString& path)
+{
+    const auto begins = [&bytes](const char* beginning) { return bytes.starts_with(beginning); };
+    if (begins("PK\x03\x04") || begins("\xD0\xCF\x11\xE0"))
+        refuse(QStringLiteral("%1 is a spreadsheet program's own file. Open it there, save the sheet as CSV, and "
+                              "give that file.")
+                   .arg(path));
+    if (begins("%PDF") || begins("{\\rtf") || begins("<?xml") || begins("<html") || begins("<!DOCTYPE"))
+        refuse(QStringLiteral("%1 is a document or a web page. Copy its table into a spreadsheet program, save the "
+                              "sheet as CSV, and give that file.")
+                   .arg(path));
+}
+
 std::string bytesOfFile(const QString& path)
 {
     refuseOthers(path);
@@ -181,7 +223,6 @@ std::string bytesOfFile(const QString& path)
 
 Text textOf(std::string_view bytes, const QString& path)
 {
-    refuseOtherPrograms(bytes, path);
     Text text;
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) {
         const bool isLittle = bytes.starts_with('\xFF');
@@ -189,11 +230,10 @@ Text textOf(std::string_view bytes, const QString& path)
             Encoding::Utf16};
     } else if (const auto utf16 = utf16Of(bytes); utf16 != QStringConverter::Utf8) {
         text = {fromUtf16(bytes, utf16, path), Encoding::Utf16};
-    } else if (bytes.starts_with("\xEF\xBB\xBF") || isUtf8(bytes)) {
-        if (!isUtf8(bytes))
-            refuseNoText(path);
-        text = {std::string(bytes.substr(bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0)), Encoding::Utf8};
+    } else if (isUtf8(bytes)) {
+        text = {std::string(withoutMark(bytes)), Encoding::Utf8};
     } else {
+        refuseDamagedUtf8(bytes, path);
         text = {fromWindows1252(bytes, path), Encoding::Windows1252};
     }
     refuseNoise(text.utf8, path);

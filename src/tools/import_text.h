@@ -25,7 +25,13 @@ struct Text {
     Encoding encoding = Encoding::Utf8;
 };
 
-/// Makes text of bytes. Failures: Refusal, where they are none: a picture, a spreadsheet program's own file.
+/// Refuses (Refusal) the files of other programs from which a list has to be saved as CSV.
+void refuseOtherPrograms(std::string_view bytes, const QString& path);
+
+/// What follows the mark of UTF-8, where there is one.
+std::string_view withoutMark(std::string_view bytes);
+
+/// Makes text of bytes. Failures: Refusal, where they are none, as those of a picture, or are damaged.
 Text textOf(std::string_view bytes, const QString& path);
 
 /// Whether bytes are UTF-8 throughout.
