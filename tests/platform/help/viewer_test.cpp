@@ -196,6 +196,7 @@ TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheD
     for (const QLabel* label : viewer_->findChildren<QLabel*>())
         EXPECT_TRUE(label->text() != "Find On This Page:" || label->buddy() == &part("findWords"));
     EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(0)->child(0)->toolTip(0), "Lists, long and short");
+    EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(1)->childCount(), 2);
     EXPECT_EQ(viewer_->y(), (desktop.height() - forms::look::grid(88)) / 2);
     EXPECT_NEAR(shareOfContents(), 2 / 7.0, 0.02);
     EXPECT_GT(part("print").x() - part("larger").x(), 700) << "the ways stand on the left";
