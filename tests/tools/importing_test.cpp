@@ -173,6 +173,20 @@ TEST_F(ImportingTest, LeavesNothingWhereItIsCancelledOrFails)
     EXPECT_EQ(refusal([&] { carry_Out(plan); }), exit_code::Failed) << "another file by now";
 }
 
+// Without the mark a spreadsheet program takes UTF-8 for something else.
+TEST_F(ImportingTest, WritesTablesWithTheMarkThatSpreadsheetProgramsLookFor)
+{
+    const QString path = table("list.csv", "Item,Place\nKäfig,Shed\n");
+    write_Wrong_Rows(Source(path), plannedFor(path), below("wrong.csv"));
+    EXPECT_TRUE(bytesOf(below("wrong.csv"))
+                    .startsWith("\xEF\xBB\xBF"
+                                "Item,Place,"));
+    write_Template(below("template.csv"));
+    EXPECT_TRUE(bytesOf(below("template.csv"))
+                    .startsWith("\xEF\xBB\xBF"
+                                "Area,"));
+}
+
 // What a text means, kept as a list: dates and amounts of a column, and where headings lead.
 TEST(ImportedTexts, AreReadAsTheListHasIt)
 {
