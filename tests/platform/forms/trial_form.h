@@ -7,6 +7,7 @@
 
 #include <QStringList>
 #include <QVBoxLayout>
+#include <QWidget>
 
 #include <functional>
 #include <map>
