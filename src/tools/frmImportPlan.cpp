@@ -30,11 +30,6 @@ QString freshWrongFile(const QString& source)
     return file;
 }
 
-QString worth(int assets, const values::Currency& sum)
-{
-    return counted(assets, QStringLiteral("asset"), QStringLiteral("assets")) + QStringLiteral(", ") + sum.toText();
-}
-
 QString whatToDo(const importing::Plan& plan)
 {
     if (!plan.isPossible())

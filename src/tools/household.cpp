@@ -84,10 +84,10 @@ int Household::assets() const
 
 QString Household::summary() const
 {
-    return summaryOf(assets(), total());
+    return worth(assets(), total());
 }
 
-QString summaryOf(int assets, const std::optional<Currency>& total)
+QString worth(int assets, const std::optional<Currency>& total)
 {
     return counted(assets, QStringLiteral("asset"), QStringLiteral("assets")) + QStringLiteral(", ")
         + (total ? total->toText() : QStringLiteral("more than can be counted"));

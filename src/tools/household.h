@@ -54,7 +54,7 @@ private:
 };
 
 /// The same of so many assets, and of a total where there is one.
-QString summaryOf(int assets, const std::optional<values::Currency>& total);
+QString worth(int assets, const std::optional<values::Currency>& total);
 
 /// "1 asset", "2 assets"
 QString counted(int count, const QString& one, const QString& many);

@@ -278,10 +278,8 @@ QStringList summaryOf(const Plan& plan)
     QStringList lines;
     for (const AreaCount& area : plan.areas)
         if (area.assets > 0)
-            lines +=
-                QStringLiteral("%1: %2, %3").arg(area.area, counted(area.assets, "asset", "assets"), area.sum.toText());
-    lines += QStringLiteral("To come: %1, %2")
-                 .arg(counted(static_cast<qsizetype>(plan.assets.size()), "asset", "assets"), plan.sum.toText());
+            lines += QStringLiteral("%1: %2").arg(area.area, worth(area.assets, area.sum));
+    lines += QStringLiteral("To come: %1").arg(worth(static_cast<int>(plan.assets.size()), plan.sum));
     lines += besidesAssetsOf(plan);
     lines += newNamesOf(plan);
     if (!plan.known.empty())

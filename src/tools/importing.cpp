@@ -119,7 +119,7 @@ Result carry_Out(const Plan& plan, const Progress& progress)
             aside::refuseStale();
         const std::optional<Currency> total = today.total();
         result.summary =
-            ::summaryOf(today.assets() + static_cast<int>(plan.assets.size()), total ? *total + plan.sum : total);
+            worth(today.assets() + static_cast<int>(plan.assets.size()), total ? *total + plan.sum : total);
     };
     result.putAside =
         aside::changeBehindCopy(look, [&](qint64 generation) { Writing(plan, progress).run(generation); });
