@@ -20,9 +20,6 @@ namespace {
 
 using Cells = std::vector<std::string>;
 
-// Tells a spreadsheet that the file is UTF-8.
-constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
-
 std::string lineOf(const Cells& cells, char separator)
 {
     std::string line;
@@ -96,7 +93,7 @@ void write_Wrong_Rows(const Source& source, const Plan& plan, const QString& fil
     const Cells headings = headingsOf(source);
     writeFile(file, [&](TextFile& out) {
         if (source.kind() == Source::Kind::Table)
-            out.write(byteOrderMark);
+            out.write(values::csv::ByteOrderMark);
         out.write(lineOf(headings, source.separator()));
         for (const WrongRow& wrong : plan.wrong)
             out.write(lineOf(wrongRow(source, wrong, headings.size() - 1), source.separator()));
@@ -114,7 +111,7 @@ void write_Template(const QString& file)
             "$85.50", "No", "", ""},
     };
     writeFile(file, [&lines](TextFile& out) {
-        out.write(byteOrderMark);
+        out.write(values::csv::ByteOrderMark);
         for (const Cells& cells : lines)
             out.write(lineOf(cells, ','));
     });

@@ -2,6 +2,7 @@
 #include "tools/import_text.h"
 
 #include "platform/system/paths.h"
+#include "platform/values/csv.h"
 #include "platform/values/file_name.h"
 #include "tools/exit_codes.h"
 #include "tools/system_words.h"
@@ -16,11 +17,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using values::csv::ByteOrderMark;
+
 namespace importing {
 
 namespace {
-
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 [[noreturn]] void refuse(const QString& words)
 {

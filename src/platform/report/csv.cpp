@@ -10,9 +10,6 @@ namespace report {
 
 namespace {
 
-// Tells a spreadsheet that the file is UTF-8.
-constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
-
 QByteArray lineOf(const QStringList& cells)
 {
     std::string line;
@@ -52,7 +49,7 @@ bool saveCsv(const Document& document, const QString& path)
     if (!file.open(QIODevice::WriteOnly))
         return false;
     const std::vector<const Field*> fields = fieldsOf(document.layout.detail);
-    file.write(byteOrderMark);
+    file.write(values::csv::ByteOrderMark.data());
     file.write(headingsOf(fields));
     for (int row = 0; row < document.rows->count(); ++row)
         file.write(rowOf(fields, *document.rows, row));

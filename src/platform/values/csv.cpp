@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::size_t BlockSize = std::size_t{1} << 16;
 constexpr int End = -1;
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 bool isDigit(char byte)
 {

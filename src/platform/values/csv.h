@@ -11,6 +11,9 @@
 /// Comma-separated values, as RFC 4180 has them, in bytes: what is written reads back bit for bit.
 namespace values::csv {
 
+/// What stands in front of a table for a spreadsheet program to know it for UTF-8.
+inline constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
 /// Adds a cell to a line, behind a separator where it isn't the first one. In quotation marks where it has to be.
 void addCell(std::string& line, std::string_view cell, bool isFirst, char separator = ',');
 
