@@ -45,13 +45,20 @@ private:
     sqlite3* handle_ = nullptr;
 };
 
-inline void readTable(BareDatabase& database, const storage::TableDefinition& definition)
+/// Hands each cell to `use`.
+template <class Use>
+void readTable(BareDatabase& database, const storage::TableDefinition& definition, Use use)
 {
     sqlite3_stmt* select = database.prepare(storage::sql::selectRows(definition));
     const int columns = sqlite3_column_count(select);
     while (sqlite3_step(select) == SQLITE_ROW) {
         for (int column = 0; column < columns; ++column)
-            benchmark::DoNotOptimize(sqlite3_column_text(select, column));
+            use(reinterpret_cast<const char*>(sqlite3_column_text(select, column)));
     }
     BareDatabase::check(sqlite3_finalize(select));
+}
+
+inline void readTable(BareDatabase& database, const storage::TableDefinition& definition)
+{
+    readTable(database, definition, [](const char* cell) { benchmark::DoNotOptimize(cell); });
 }

@@ -55,6 +55,18 @@ std::string_view cellOf(const Snapshot& table, int row, int column, std::string&
     return room;
 }
 
+// The toolkit writes whole documents, and no text alone; what it would write as it is needs no document.
+void appendJsonText(std::string& json, std::string_view text)
+{
+    if (std::ranges::all_of(text, isPlain)) {
+        json.append(1, '"').append(text).append(1, '"');
+        return;
+    }
+    const QJsonArray list{QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))};
+    const QByteArray document = QJsonDocument(list).toJson(QJsonDocument::Compact);
+    json.append(document.constData() + 1, static_cast<std::size_t>(document.size()) - 2);
+}
+
 void appendJsonCell(std::string& json, const Snapshot& table, int row, int column, std::string& room)
 {
     const std::string_view cell = cellOf(table, row, column, room);
@@ -63,7 +75,7 @@ void appendJsonCell(std::string& json, const Snapshot& table, int row, int colum
     if (isNumber)
         json.append(cell);
     else
-        json.append(jsonText(cell));
+        appendJsonText(json, cell);
 }
 
 bool holdsNumbers(const Snapshot& table, int column)
@@ -131,14 +143,11 @@ std::string csvRow(const Snapshot& table, int row)
     return line;
 }
 
-// The toolkit writes whole documents, and no text alone; what it would write as it is needs no document.
 std::string jsonText(std::string_view text)
 {
-    if (std::ranges::all_of(text, isPlain))
-        return '"' + std::string(text) + '"';
-    const QJsonArray list{QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))};
-    const QByteArray json = QJsonDocument(list).toJson(QJsonDocument::Compact);
-    return json.sliced(1, json.size() - 2).toStdString();
+    std::string json;
+    appendJsonText(json, text);
+    return json;
 }
 
 // Put together here, for the toolkit's own objects have their keys in the order of the alphabet, and a file of all rows

@@ -161,7 +161,7 @@ void Connection::shut()
         failure = std::current_exception();
     }
     handle_.reset(); // a journal with contents stays, for the next opening
-    texts_ = std::make_shared<TextPool>();
+    texts_.clear();
     if (failure)
         std::rethrow_exception(failure);
 }

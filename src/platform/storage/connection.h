@@ -61,7 +61,7 @@ private:
 
     QString path_;
     FileKey key_;
-    std::shared_ptr<TextPool> texts_ = std::make_shared<TextPool>(); // snapshots share it
+    TextPool texts_; // of all its views
     Handle handle_;
     FileIdentity file_; // the one that is open
     std::vector<TableView*> views_;

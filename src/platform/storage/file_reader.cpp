@@ -2,7 +2,6 @@
 #include "platform/storage/file_reader.h"
 
 #include "platform/storage/file_lock.h"
-#include "platform/storage/row_set.h"
 #include "platform/storage/schema.h"
 #include "platform/storage/sql.h"
 #include "platform/storage/sqlcipher.h"
@@ -55,15 +54,13 @@ void FileReader::readThrough()
 
 Snapshot FileReader::rows(const TableDefinition& table)
 {
-    RowSet rows(table.columns.size());
-    std::vector<TextId> cells(table.columns.size(), TextPool::empty);
+    Snapshot rows(table);
+    const int columns = static_cast<int>(table.columns.size());
     Statement select(handle_.get(), sql::selectRows(table));
-    while (select.step()) {
-        for (std::size_t i = 0; i < cells.size(); ++i)
-            cells[i] = texts_->intern(select.text(static_cast<int>(i) + 1));
-        rows.append(select.number(0), cells);
-    }
-    return {texts_, table, rows};
+    while (select.step())
+        for (int column = 1; column <= columns; ++column)
+            rows.append(select.text(column));
+    return rows;
 }
 
 qint64 FileReader::lastNumber(const TableDefinition& table)

@@ -51,7 +51,6 @@ private:
     JournalBeside journal_;
     std::optional<CopyWithJournal> copy_; // outlives the handle
     Handle handle_;
-    std::shared_ptr<TextPool> texts_ = std::make_shared<TextPool>();
 };
 
 } // namespace storage

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/storage/snapshot.h"
 
-#include "platform/storage/row_set.h"
 #include "platform/storage/table_view.h"
 #include "platform/values/currency.h"
 #include "platform/values/failure.h"
@@ -19,25 +18,18 @@ QString amountOf(const QString& tenThousandths)
 
 } // namespace
 
-Snapshot::Snapshot(std::shared_ptr<const TextPool> texts, const TableDefinition& definition, const RowSet& rows)
-    : texts_(std::move(texts))
-    , definition_(&definition)
-{
-    cells_.reserve(static_cast<std::size_t>(rows.count()) * columns());
-    for (int row = rows.first(); row != RowSet::none; row = rows.next(row))
-        cells_.insert(cells_.end(), rows.cells(row).begin(), rows.cells(row).end());
-}
-
 std::string_view Snapshot::utf8(int row, int ordinal) const
 {
     if (row < 0 || row >= rowCount())
         throw values::RuntimeFailure(values::FailureKind::NoCurrentRecord, QString::fromUtf8(definition_->name));
-    return texts_->utf8(cells_[static_cast<std::size_t>(row) * columns() + static_cast<std::size_t>(ordinal)]);
+    const std::size_t cell
+        = static_cast<std::size_t>(row) * definition_->columns.size() + static_cast<std::size_t>(ordinal);
+    const std::size_t begin = cell == 0 ? 0 : ends_[cell - 1];
+    return std::string_view(texts_).substr(begin, ends_[cell] - begin);
 }
 
 QString Snapshot::text(int row, int ordinal) const
 {
-    // Not by the pool's own texts, which stay in memory once they are looked at.
     const std::string_view bytes = utf8(row, ordinal);
     const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     const ColumnType type = definition_->columns[static_cast<std::size_t>(ordinal)].type;
@@ -46,7 +38,12 @@ QString Snapshot::text(int row, int ordinal) const
 
 Snapshot TableView::snapshot() const
 {
-    return {connection_.texts_, definition_, rows_};
+    Snapshot rows(definition_);
+    rows.reserve(static_cast<std::size_t>(RecordCount()) * definition_.columns.size());
+    for (int row = rows_.first(); row != RowSet::none; row = rows_.next(row))
+        for (const TextId cell : rows_.cells(row))
+            rows.append(texts().utf8(cell));
+    return rows;
 }
 
 } // namespace storage

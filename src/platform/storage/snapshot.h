@@ -2,24 +2,36 @@
 #pragma once
 
 #include "platform/storage/table_definition.h"
-#include "platform/storage/text_pool.h"
 
 #include <QString>
 
-#include <memory>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace storage {
 
-class RowSet;
-
 /// The rows of a table as they stood when it was taken. What happens to the view later doesn't reach it, nor does the
-/// end of the connection. A cell takes four bytes: the texts are the view's own, and are read when they are asked for.
+/// end of the connection. The cells lie in one piece, as the file holds them: a file is read by putting one behind the
+/// other, which is far less than to find out which texts are known already.
 class Snapshot {
 public:
-    Snapshot(std::shared_ptr<const TextPool> texts, const TableDefinition& definition, const RowSet& rows);
+    explicit Snapshot(const TableDefinition& definition)
+        : definition_(&definition)
+    {
+    }
 
-    int rowCount() const { return static_cast<int>(cells_.size() / columns()); }
+    /// Makes room for so many cells.
+    void reserve(std::size_t cells) { ends_.reserve(cells); }
+
+    /// The cell behind the last one, column by column, row by row.
+    void append(std::string_view utf8)
+    {
+        texts_.append(utf8);
+        ends_.push_back(texts_.size());
+    }
+
+    int rowCount() const { return static_cast<int>(ends_.size() / definition_->columns.size()); }
 
     /// The value as text, as `Field::text` gives it; what should be an amount and is none, as the file holds it.
     /// Failures: NoCurrentRecord, where there is no such row.
@@ -32,11 +44,9 @@ public:
     const TableDefinition& definition() const { return *definition_; }
 
 private:
-    std::size_t columns() const { return definition_->columns.size(); }
-
-    std::shared_ptr<const TextPool> texts_;
     const TableDefinition* definition_;
-    std::vector<TextId> cells_;
+    std::string texts_;
+    std::vector<std::size_t> ends_;
 };
 
 } // namespace storage

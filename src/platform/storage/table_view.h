@@ -148,7 +148,7 @@ private:
     enum class Edit { None, Row, New };
 
     const Column& column(int ordinal) const { return definition_.columns[static_cast<std::size_t>(ordinal)]; }
-    TextPool& texts() const { return *connection_.texts_; }
+    TextPool& texts() const { return connection_.texts_; }
     bool atEnd(Place end) const { return edit_ != Edit::New && (place_ == end || rows_.count() == 0); }
 
     TextId initial(ColumnType type) const;

@@ -40,9 +40,10 @@ void addCell(std::string& line, std::string_view cell, bool isFirst, char separa
 {
     if (!isFirst)
         line += separator;
-    const bool isPlain =
-        cell.find_first_of("\"\r\n") == std::string_view::npos && cell.find(separator) == std::string_view::npos;
-    if (isPlain && !cell.starts_with(' ') && !cell.ends_with(' ')) {
+    const auto needsQuotes = [separator](char byte) {
+        return byte == '"' || byte == '\r' || byte == '\n' || byte == separator;
+    };
+    if (std::ranges::none_of(cell, needsQuotes) && !cell.starts_with(' ') && !cell.ends_with(' ')) {
         line.append(cell);
         return;
     }
