@@ -6,9 +6,6 @@
 bool findAsset(qint64 id)
 {
     auto& assets = Data1.rsInventory;
-    if (assets.RecordCount() != 0)
-        assets.MoveFirst();
-    while (!assets.atEOF() && !(assets.Fields(Inventory::ID) == id))
-        assets.MoveNext();
+    assets.MoveTo(id);
     return !assets.atEOF();
 }

@@ -13,10 +13,15 @@ NewNames::NewNames(const forms::ComboBox& list)
 
 void NewNames::take(const QString& name)
 {
-    if (name.isEmpty() || name == names::Blank)
+    if (name.isEmpty() || name == names::Blank || !isNew(name, met_))
         return;
-    const qsizetype before = known_.size();
-    known_.insert(values::upper(name));
-    if (known_.size() > before)
+    if (isNew(values::upper(name), known_))
         names_.append(name);
+}
+
+bool NewNames::isNew(const QString& text, QSet<QString>& known)
+{
+    const qsizetype before = known.size();
+    known.insert(text);
+    return known.size() > before;
 }

@@ -17,6 +17,9 @@ public:
     const QStringList& names() const { return names_; }
 
 private:
+    static bool isNew(const QString& text, QSet<QString>& known);
+
+    QSet<QString> met_; // as they were written: most come many times over, and upper case is dear
     QSet<QString> known_; // in upper case
     QStringList names_;
 };

@@ -33,6 +33,17 @@ int RowSet::append(qint64 rowId, std::span<const TextId> cells)
     return row;
 }
 
+int RowSet::find(qint64 rowId) const
+{
+    for (auto found = rows_.begin();; ++found) {
+        found = std::ranges::find(found, rows_.end(), rowId, &Row::id);
+        if (found == rows_.end())
+            return none;
+        if (const auto row = static_cast<int>(found - rows_.begin()); isChained(row))
+            return row;
+    }
+}
+
 void RowSet::remove(int row)
 {
     const auto [id, before, after] = at(row);

@@ -9,7 +9,7 @@
 namespace storage {
 
 /// The rows of a table in memory, chained in the order in which they are walked. A row keeps its place until it is
-/// recycled; all operations but `arrange` and `inTableOrder` take the same time however many rows there are.
+/// recycled; all operations but `find`, `arrange` and `inTableOrder` take the same time however many rows there are.
 class RowSet {
 public:
     /// Behind the last row, before the first.
@@ -28,6 +28,10 @@ public:
 
     /// The number by which the file knows the row.
     qint64 rowId(int row) const { return at(row).id; }
+
+    /// The row that the file knows by this number, or `none`. It looks at one number after the other where they lie, far
+    /// faster than along the chain.
+    int find(qint64 rowId) const;
 
     TextId cell(int row, int column) const { return cells_[cellAt(row) + static_cast<std::size_t>(column)]; }
     std::span<const TextId> cells(int row) const { return {&cells_[cellAt(row)], columns_}; }
@@ -61,6 +65,7 @@ private:
     const Row& at(int row) const { return rows_[static_cast<std::size_t>(row)]; }
     Row& at(int row) { return rows_[static_cast<std::size_t>(row)]; }
     int place();
+    bool isChained(int row) const { return row == (at(row).previous == none ? first_ : next(at(row).previous)); }
 
     std::size_t columns_;
     std::vector<Row> rows_;

@@ -107,6 +107,12 @@ void TableView::MovePrevious()
         stand(place_ == Place::Behind ? rows_.last() : rows_.previous(row_), Place::Before);
 }
 
+void TableView::MoveTo(qint64 number)
+{
+    Update();
+    stand(rows_.find(number), Place::Behind);
+}
+
 void TableView::Sort(const QString& columnList)
 {
     const std::vector<SortKey> keys = parseSortOrder(columnList, definition_);

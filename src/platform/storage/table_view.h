@@ -107,6 +107,9 @@ public:
     }
     void MovePrevious();
 
+    /// Stands on the row that the database knows by this number, or else behind the last.
+    void MoveTo(qint64 number);
+
     /// Column `ordinal` of the current row, counted from 0. Failures: InvalidCall, where there is no such column.
     Field Fields(int ordinal)
     {

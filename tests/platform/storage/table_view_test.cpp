@@ -71,6 +71,8 @@ private:
             {"CancelUpdate", &TableView::CancelUpdate}, {"Delete", &TableView::Delete}};
         if (const auto known = steps.find(step); known != steps.end())
             (view.*known->second)();
+        else if (step == "MoveTo")
+            view.MoveTo(given.toLongLong());
         else if (step == "Sort")
             view.Sort(given);
         else if (step == "rows")
