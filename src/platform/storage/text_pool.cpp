@@ -3,6 +3,8 @@
 
 #include "platform/values/text.h"
 
+#include <algorithm>
+
 namespace storage {
 
 namespace {
@@ -45,16 +47,37 @@ const QString& TextPool::text(TextId id) const
 
 std::string_view TextPool::upper(TextId id)
 {
-    Text& text = texts_[id];
-    if (!text.upper)
-        text.upper = std::make_unique<const std::string>(values::upperUtf8(text.utf8));
-    return *text.upper;
+    if (id >= upper_.size())
+        upper_.resize(texts_.size());
+    std::string_view& known = upper_[id];
+    if (!known.data())
+        known = folded(texts_[id].utf8);
+    return known;
+}
+
+std::string_view TextPool::folded(std::string_view utf8)
+{
+    char* const bytes = room(utf8.size());
+    if (values::upperAscii(utf8, bytes))
+        return {bytes, utf8.size()};
+    const QByteArray upper = values::upper(textOf(utf8)).toUtf8();
+    char* const place = room(static_cast<std::size_t>(upper.size()));
+    std::ranges::copy(upper, place);
+    return {place, static_cast<std::size_t>(upper.size())};
+}
+
+// One byte more, so that there is a place for the empty text, too.
+char* TextPool::room(std::size_t bytes)
+{
+    return static_cast<char*>(upperBytes_.allocate(bytes + 1, 1));
 }
 
 void TextPool::clear()
 {
     numbers_.clear();
     texts_.clear();
+    upper_.clear();
+    upperBytes_.release();
     intern(std::string_view());
 }
 

@@ -4,10 +4,11 @@
 #include <QString>
 
 #include <deque>
-#include <memory>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace storage {
 
@@ -44,10 +45,15 @@ private:
     struct Text {
         std::string utf8;
         mutable QString text = {}; // once it has been looked at
-        std::unique_ptr<const std::string> upper = {}; // once it has been asked for
     };
 
+    std::string_view folded(std::string_view utf8);
+    char* room(std::size_t bytes);
+
     std::deque<Text> texts_; // by number
+    // The same in upper case, once they have been asked for, close together: a search looks at all of them.
+    std::vector<std::string_view> upper_;
+    std::pmr::monotonic_buffer_resource upperBytes_;
     std::unordered_map<std::string_view, TextId> numbers_;
 };
 

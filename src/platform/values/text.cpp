@@ -24,15 +24,15 @@ QString upper(const QString& text)
     return text.toUpper();
 }
 
-std::string upperUtf8(std::string_view utf8)
+bool upperAscii(std::string_view text, char* upper)
 {
-    const auto isPlain = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
-    if (!std::ranges::all_of(utf8, isPlain))
-        return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toUpper().toStdString();
-    std::string text(utf8);
-    for (char& letter : text)
-        letter = static_cast<char>(letter >= 'a' && letter <= 'z' ? letter - 'a' + 'A' : letter);
-    return text;
+    unsigned char all = 0;
+    for (const char letter : text) {
+        all |= static_cast<unsigned char>(letter);
+        const bool isSmall = letter >= 'a' && letter <= 'z';
+        *upper++ = static_cast<char>(letter - ('a' - 'A') * static_cast<int>(isSmall));
+    }
+    return all < 0x80;
 }
 
 bool equalUpper(const QString& a, const QString& b)

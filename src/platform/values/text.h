@@ -3,7 +3,6 @@
 
 #include <QString>
 
-#include <string>
 #include <string_view>
 
 namespace values {
@@ -12,8 +11,9 @@ namespace values {
 /// a character has no single capital by its capitals ("ß" becomes "SS").
 QString upper(const QString& text);
 
-/// The same of a text in UTF-8.
-std::string upperUtf8(std::string_view utf8);
+/// The same of a text of ASCII characters, into as many bytes at `upper`. False where others are among them; what stands
+/// at `upper` then means nothing. Without a branch at a letter, which can't be foretold.
+bool upperAscii(std::string_view text, char* upper);
 
 /// True where `upper(a) == upper(b)`, without making the two where the texts are ASCII.
 bool equalUpper(const QString& a, const QString& b);
