@@ -9,6 +9,7 @@
 #include "shared/frmCalendar.h"
 #include "support/files.h"
 #include "support/harness.h"
+#include "support/traits.h"
 
 #include <QApplication>
 #include <QMap>
@@ -68,6 +69,7 @@ protected:
         }
         screens_ += heading;
         screens_ += gathered(controls);
+        traits_.add(form);
     }
 
     /// What F1 opens.
@@ -147,6 +149,7 @@ protected:
     QStringList topics_{"frmProgress", "frmExit", "frmExport", "frmImport", "frmImportPlan", "frmImported",
         "frmRestore", "frmRestored", "CoverSheet", "AssetReport", "MsgBox"}; // of other programs, and without a control
     QStringList told_, screens_;
+    Traits traits_;
 };
 
 TEST_F(AllScreens, AreGoneThroughByKeysHaveTheirHelpAndShowAllThatTheyHave)
@@ -158,6 +161,7 @@ TEST_F(AllScreens, AreGoneThroughByKeysHaveTheirHelpAndShowAllThatTheyHave)
     list(screen<frmProgress>());
     list(screen<frmExit>());
     expectKept("core/screens_as_they_come.txt", screens_.join('\n') + '\n');
+    expectKept("core/traits.txt", traits_.told());
     for (const forms::Form* form : forms::madeScreens())
         expectRoomForLargeType(*form);
     const help::Book book(":/help");

@@ -4,6 +4,7 @@
 #include "platform/forms/looks/apply_look.h"
 #include "platform/forms/screens/painting.h"
 #include "support/files.h"
+#include "support/traits.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -57,6 +58,18 @@ TEST_F(Looks, AHandlerThatWorksOnKeepsItsScreenPainted)
         }
     };
     click(form.ok);
+}
+
+TEST_F(Looks, WidgetsAreMadeAsKept)
+{
+    forms::Form bare("Bare");
+    forms::MonthCalendar withoutDay(bare, "withoutDay");
+    withoutDay.setMonth(2);
+    withoutDay.setYear(2007);
+    Traits traits;
+    traits.add(form);
+    traits.add(bare);
+    expectKept("platform/forms/traits.txt", traits.told());
 }
 
 // ---- message boxes
