@@ -208,8 +208,7 @@ bool frmAddUpDel::leaving_Is_Confirmed()
 
 void frmAddUpDel::default_To_Update()
 {
-    cmdUpdate.setDefault(true);
-    cmdAdd.setDefault(false);
+    cmdUpdate.setDefault(true); // and cmdAdd no longer
 }
 
 void frmAddUpDel::check_Form_Type()

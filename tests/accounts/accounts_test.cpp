@@ -28,6 +28,17 @@ TEST_F(Accounts, AreGoneThroughWhereSomeAreThere)
     replay("accounts/several.txt");
 }
 
+TEST_F(Accounts, ArentOpenedInNoneOfTheThreeWays)
+{
+    screen<frmGenInfo>().show();
+    click(screen<frmGenInfo>().cmdBank);
+    for (const int mode : {-1, 3}) {
+        screen<frmEditBankBoxes>().AccountMode = mode;
+        clickTold(screen<frmEditBankBoxes>().cmdUpdate, "You Must Select An Option Before Continuing!", Exclamation);
+        EXPECT_EQ(front(), "15 frmEditBankBoxes");
+    }
+}
+
 // The boxes tell their limits themselves, but for this one.
 TEST_F(Accounts, HaveATypeThatIsCutToTheLengthOfItsColumn)
 {

@@ -77,6 +77,16 @@ TEST_F(Assets, HaveAWarranty)
     EXPECT_EQ(screen<frmCalendar>().DateTarget, 1);
 }
 
+TEST_F(Assets, AreAddedWithTheSettingsWhereverTheHouseholdsViewStands)
+{
+    put(Data1.rsGeneral, {{General::WarrantyCheck, "Checked"}, {General::ClearCheck, "Unchecked"}});
+    Data1.rsGeneral.MovePrevious();
+    openToAdd();
+    EXPECT_EQ(line(asset().chkWar.value(), asset().chkClear.value(), asset().cmdAdd.isDefault()), "1, 0, true");
+    asset().default_To_Update();
+    EXPECT_EQ(line(asset().cmdUpdate.isDefault(), asset().cmdAdd.isDefault()), "true, false");
+}
+
 TEST_F(Assets, HaveAPrice)
 {
     replay("assets/price.txt");

@@ -96,6 +96,19 @@ TEST_F(Closing, ReportsADatabaseThatWasMovedAwayAndMakesNoBackup)
     failToClose("(missing)", AllOf(HasSubstr("KTL.db was moved"), HasSubstr("There is no backup yet.\n")));
 }
 
+TEST_F(Closing, ReportsABackupThatLacksARowAndKeepsTheOldOne)
+{
+    putFile(backupFile(), "the last good copy");
+    const QByteArray before = bytesOf(file());
+    addNames(Data1.rsIndoor, {"Attic", "0", "0"});
+    putFile(file(), before);
+    closeProgram();
+    const auto failure = reportedFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_THAT(failure->failure.toStdString(), HasSubstr("the backup copy of Indoor_Items doesn't hold its"));
+    EXPECT_EQ(bytesOf(backupFile()), "the last good copy");
+}
+
 TEST_F(Closing, ReportsABackupThatIsOnlyALinkToTheDatabase)
 {
     closeData();

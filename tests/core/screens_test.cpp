@@ -4,6 +4,8 @@
 #include "frame/frmMain.h"
 #include "frame/frmProgress.h"
 #include "household/frmIntroduction.h"
+#include "household/frmKeyboard.h"
+#include "household/frmTotals.h"
 #include "platform/forms/look.h"
 #include "platform/help/book.h"
 #include "shared/frmCalendar.h"
@@ -169,6 +171,23 @@ TEST_F(AllScreens, AreGoneThroughByKeysHaveTheirHelpAndShowAllThatTheyHave)
         EXPECT_TRUE(book.knows(topic)) << topic.toStdString();
     for (const QString& topic : book.topics())
         EXPECT_TRUE(topic.toInt() == 0 || topics_.contains(topic)) << topic.toStdString() << " is of nothing";
+}
+
+// Number 19 is the start's, not that of the calendar, which has it while it is open.
+TEST_F(ScreenTest, TheMenuHidesTheScreenWhoseNumberIsTheCurrentOne)
+{
+    QStringList hidden;
+    for (int number = 1; number <= 20; ++number) {
+        for (forms::Form* form : std::initializer_list<forms::Form*>{
+                 &screen<frmTotals>(), &screen<frmKeyboard>(), &screen<frmCalendar>(), &screen<frmMain>()})
+            form->show();
+        CurrentScreen = number;
+        screen<frmMain>().Hide_Screens();
+        for (const forms::Form* form : forms::madeScreens())
+            if (form->name() != "frmProgress" && !form->isVisible())
+                hidden += QString("%1 %2").arg(number).arg(form->name());
+    }
+    EXPECT_EQ(hidden.join(", "), "2 frmMain, 6 frmTotals, 18 frmKeyboard");
 }
 
 } // namespace

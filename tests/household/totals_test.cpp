@@ -50,6 +50,27 @@ TEST_F(Totals, AreSummedUpAnewAtEachLookAndComparedWithTheCoverage)
         EXPECT_EQ(endOf(*number), endOf(totals.lblIndoorTots));
 }
 
+// Where a walk has left it.
+TEST_F(Totals, FindTheCoverageWhereverTheHouseholdsViewStands)
+{
+    put(Data1.rsGeneral, {{General::AssetValue, "$9.00"}, {General::PolicyCoverage, "$5.00"}});
+    addAssets(1, "Indoor", "$9.00");
+    screen<frmMain>().show();
+    for (const auto move : {&storage::TableView::MovePrevious, &storage::TableView::MoveNext}) {
+        (Data1.rsGeneral.*move)();
+        clickTold(screen<frmMain>().cmdValue,
+            "Your Assets Currently Exceed Your Policy Coverage Of $5.00...It Is Recommended You Increase Your "
+            "Insurance "
+            "Coverage!",
+            Exclamation);
+        click(screen<frmTotals>().cmdOK);
+    }
+    Data1.rsGeneral.MovePrevious();
+    click(screen<frmMain>().cmdPersonal);
+    EXPECT_EQ(front(), "1 frmGenInfo");
+    EXPECT_FALSE(Data1.rsGeneral.atBOF());
+}
+
 TEST_F(Totals, EndTheProgramOnACoverageThatIsNoAmountAndOnMoreAssetsThanACountHolds)
 {
     addAssets(1, "Indoor", "$2.00");

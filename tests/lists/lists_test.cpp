@@ -112,6 +112,38 @@ TEST_F(ListEditors, ARefusedRowEndsAChangeOrADeletionWithTheRowsBeforeItStored)
     EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Location).join(' '), "Steeple Spire Spire");
 }
 
+// No menu leads to them: what is for no list of the six counts as for the items.
+TEST_F(ListEditors, ForTheItemsFillTheListAnewAndPutInWhatWasAdded)
+{
+    for (const QString& area : Areas)
+        addRows(
+            namesOf(area), {"0|Sights|" + area + " Saw", "0|sights|Plane", "0|Sights|0", "0|Sights|" + area + " Saw"});
+    openToAdd();
+    auto& change = screen<frmUpdate>();
+    change.cmbCat.setText("Sights");
+    change.txtNew.setText("Workshop");
+    QStringList told;
+    for (const QString& area : Areas) {
+        change.lblHead4.setCaption("Change " + area + " Item");
+        change.reload_Combo_Boxes();
+        told += itemsOf(asset().cmbType).join('|');
+    }
+    EXPECT_EQ(
+        told.join(", "), "< Add/Edit Item >|Indoor Saw, < Add/Edit Item >|Outdoor Saw, < Add/Edit Item >|Mobile Saw");
+    EXPECT_EQ(line(asset().cmbLoc.text(), asset().cmbCat.text()), ", Workshop");
+
+    pick(asset().cmbLoc, "< Add/Edit Location >");
+    auto& menu = screen<frmEditCmbBoxes>();
+    for (const char* name : {"mobile saw", "Tower", ""}) {
+        menu.show();
+        screen<frmAddField>().txtAdd.setText(name);
+        asset().ListInEdit = "Item";
+        click(menu.cmdCancel);
+    }
+    EXPECT_EQ(itemsOf(asset().cmbType).join('|'), "|< Add/Edit Item >|mobile saw|Mobile Saw");
+    EXPECT_EQ(itemsOf(asset().cmbCat).first(), "");
+}
+
 // The names differ by case, by accents and by blanks, are no names, or have two letters for one capital.
 TEST_F(ListEditors, AListTakesEachNameInTheSpellingThatComesFirst)
 {
