@@ -80,9 +80,11 @@ TEST_F(Assets, HaveAWarranty)
 TEST_F(Assets, AreAddedWithTheSettingsWhereverTheHouseholdsViewStands)
 {
     put(Data1.rsGeneral, {{General::WarrantyCheck, "Checked"}, {General::ClearCheck, "Unchecked"}});
-    Data1.rsGeneral.MovePrevious();
-    openToAdd();
-    EXPECT_EQ(line(asset().chkWar.value(), asset().chkClear.value(), asset().cmdAdd.isDefault()), "1, 0, true");
+    for (const auto move : {&storage::TableView::MovePrevious, &storage::TableView::MoveNext}) {
+        (Data1.rsGeneral.*move)();
+        openToAdd();
+        EXPECT_EQ(line(asset().chkWar.value(), asset().chkClear.value(), asset().cmdAdd.isDefault()), "1, 0, true");
+    }
     asset().default_To_Update();
     EXPECT_EQ(line(asset().cmdUpdate.isDefault(), asset().cmdAdd.isDefault()), "true, false");
 }

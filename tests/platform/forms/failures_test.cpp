@@ -7,7 +7,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QDeadlineTimer>
 #include <QLabel>
+#include <QPointer>
 
 #include <cstdio>
 
@@ -52,6 +54,29 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
     EXPECT_EXIT(end(), testing::ExitedWithCode(3), "^cleaned up, $");
     EXPECT_DEATH(
         form.ok.Click = [] {}, "Form.ok_Click has a handler already");
+}
+
+TEST_F(Failures, ThereAreNoneWhereAScreenIsClosedWhileItsHandlerAsks)
+{
+    useRealBoxes();
+    auto& kept =
+        static_cast<TrialForm&>(forms::detail::keepScreen(typeid(TrialForm), std::make_unique<TrialForm>(journal)));
+    kept.show();
+    const QPointer<QWidget> window = kept.window();
+    kept.answers["ok.Click"] = [&] {
+        whileModal([&] {
+            kept.close();
+            settle();
+            EXPECT_EQ(forms::madeScreens().size(), 0U);
+            press(Qt::Key_Return);
+        });
+        forms::MsgBox("Sure?", forms::box::Question, "Title");
+        EXPECT_TRUE(window);
+    };
+    click(kept.ok);
+    for (const QDeadlineTimer patience(2000); window && !patience.hasExpired();)
+        settle();
+    EXPECT_FALSE(window);
 }
 
 TEST_F(Failures, ThereAreNoneWhereAListIsAskedForWhatItDoesNotHold)

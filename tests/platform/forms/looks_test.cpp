@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -129,6 +130,33 @@ TEST_F(Looks, AMessageBoxShowsItsWholeTextInTheMiddleOfItsScreenAtEveryTypeSize)
     EXPECT_FALSE(QApplication::quitOnLastWindowClosed()) << "a box that closes alone ends nothing";
 }
 
+// By the toolkit where it paints icons itself, and by the layer's own widgets; on a sharp screen from the sharp file,
+// and never larger than in the largest.
+TEST_F(Looks, APictureIsReadInTheDensityInWhichItIsShown)
+{
+    const QTemporaryDir folder;
+    const std::pair<const char*, QColor> densities[] = {{"", Qt::red}, {"@2x", Qt::green}, {"@3x", Qt::blue}};
+    for (int density = 0; density < 3; ++density) {
+        QPixmap picture(20 * (density + 1), 10 * (density + 1));
+        picture.fill(densities[density].second);
+        picture.save(folder.filePath(QString("sign%1.png").arg(densities[density].first)));
+    }
+    const QIcon icon = look::icon(folder.filePath("sign.png"));
+    const auto shown = [&icon](int width, int height, QIcon::Mode mode = QIcon::Normal) {
+        const QImage image = icon.pixmap(QSize(width, height), mode).toImage();
+        return QString("%1x%2 %3").arg(image.width()).arg(image.height()).arg(image.pixelColor(5, 5).name());
+    };
+    EXPECT_EQ(QStringList({shown(20, 10), shown(21, 10), shown(20, 11), shown(40, 40), shown(60, 30), shown(90, 90)})
+                  .join(", "),
+        "20x10 #ff0000, 20x10 #00ff00, 20x10 #00ff00, 40x20 #0000ff, 60x30 #0000ff, 60x30 #0000ff");
+    EXPECT_NE(shown(20, 10, QIcon::Disabled), shown(20, 10));
+    QImage painted(60, 30, QImage::Format_RGB32);
+    painted.setDevicePixelRatio(2);
+    QPainter painter(&painted);
+    icon.paint(&painter, QRect(0, 0, 30, 15));
+    EXPECT_EQ(painted.pixelColor(30, 15), QColor(Qt::blue));
+}
+
 // ---- sizes
 
 TEST_F(Looks, TypeIsNeverTooSmallAndEverythingGrowsWithItButColoursAndSidesAreItsOwn)
@@ -167,6 +195,7 @@ TEST_F(Looks, AScreenLargerThanTheDesktopShrinksItsPicturesThenItsGapsThenScroll
         ornament.setPicture(file, "A picture");
         inner->addWidget(ornament.widget());
         column->addLayout(inner);
+        column->insertSpacing(0, 40);
         const int full = ornament.widget()->height();
         const double gap = column->spacing();
         for (forms::Control* each : large.controls())
@@ -182,6 +211,7 @@ TEST_F(Looks, AScreenLargerThanTheDesktopShrinksItsPicturesThenItsGapsThenScroll
         const QSize seen = large.canvas()->parentWidget()->size();
         const QSize hidden = large.canvas()->size() - seen;
         const QSizeF bars = (window - seen).toSizeF() / QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        EXPECT_EQ(column->itemAt(0)->sizeHint().height() / 40.0, column->spacing() / gap);
         large.ok.setFocus(); // as a handler does; the toolkit itself follows the Tab key
         EXPECT_EQ(large.ok.widget()->visibleRegion().boundingRect().height(), large.ok.widget()->height());
         QString told = QString("picture %1, gap %2, cut %3 %4, bars %5 %6")

@@ -2,12 +2,15 @@
 #include "trial_form.h"
 
 #include "platform/forms/boxes/file_choice.h"
+#include "platform/forms/runtime/boundary.h"
 #include "platform/values/failure.h"
 #include "support/files.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDeadlineTimer>
+#include <QFileDialog>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QKeyEvent>
@@ -91,7 +94,7 @@ private:
     // Of what stands behind these words all belongs to them.
     static bool takesAll(const QString& steps)
     {
-        return QStringList{"when", "once", "run", "returning", "dropping"}.contains(steps.section(' ', 0, 0));
+        return QStringList{"when", "once", "run", "returning", "dropping", "inside"}.contains(steps.section(' ', 0, 0));
     }
 
     void playOrTell(const QString& step)
@@ -243,6 +246,16 @@ private:
         QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, widget.geometry().center());
     }
 
+    // The release of a press that was on something that has gone by now.
+    void lift(Words words)
+    {
+        QWidget& widget = *of(words).widget();
+        QWindow* window = widget.window()->windowHandle();
+        const QPointF at = widget.mapTo(widget.window(), place(words));
+        QMouseEvent release(QEvent::MouseButtonRelease, at, window->mapToGlobal(at), Qt::LeftButton, {}, {});
+        QCoreApplication::sendEvent(window, &release);
+    }
+
     void turnWheel(Words words)
     {
         QWidget& whole = *of(words).widget();
@@ -266,6 +279,50 @@ private:
             const QPointer<QWidget> modal = QApplication::activeModalWidget();
             playTo([&modal] { return !modal || !modal->isVisible(); });
         });
+    }
+
+    // What comes while the layer waits for the toolkit, and what comes of it once that has returned.
+    void inToolkitCall(const QString& steps)
+    {
+        const qsizetype before = journal.size();
+        {
+            const forms::ToolkitCall call;
+            answerBy(steps)();
+            note("returned");
+        }
+        for (const QDeadlineTimer patience(2000); journal.size() == before + 1 && !patience.hasExpired();)
+            settle();
+    }
+
+    // By an assistive tool, which has met the label before it leads to the help.
+    void pressHelp()
+    {
+        forms::Label& label = labels.back();
+        const auto found = [&label] { return QAccessible::queryAccessibleInterface(label.widget()); };
+        EXPECT_EQ(found()->role(), QAccessible::StaticText);
+        label.openHelp();
+        EXPECT_EQ(found()->role(), QAccessible::Link);
+        EXPECT_EQ(found()->actionInterface()->actionNames(), QStringList(QAccessibleActionInterface::pressAction()));
+        found()->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+        found()->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+
+    void chooseFile(const QString& start)
+    {
+        playInFront();
+        note("chosen (" + forms::chooseFile("Title", start, {"Pictures (*.png)"}) + ')');
+    }
+
+    // What the dialogue for files lets the user take, and how it calls that.
+    void lookAtChoice()
+    {
+        const auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+        note(QString("%1 %2 %3 %4")
+                 .arg(dialog.windowTitle(), dialog.labelText(QFileDialog::Accept))
+                 .arg(dialog.fileMode())
+                 .arg(dialog.nameFilters().join(',')));
+        if (dialog.testOption(QFileDialog::ShowDirsOnly))
+            note("folders alone");
     }
 
     void ask()
@@ -477,6 +534,7 @@ private:
         {"closeBox", [this](Words w) { closeBox(screen(w[0])); }},
         {"move", [this](Words w) { screen(w[0]).window()->move(w[1].toInt(), w[2].toInt()); }},
         {"raise", [this](Words w) { screen(w[0]).window()->windowHandle()->requestActivate(); }},
+        {"lift", [this](Words w) { lift(w); }}, {"pressHelp", [this](Words) { pressHelp(); }},
         // in other ways
         {"drop", [this](Words w) { note(drop(of(w), text(w)) ? "(taken)" : "(not taken)"); }},
         {"commit", [](Words w) { commit(text(w, 0)); }},
@@ -493,6 +551,7 @@ private:
         {"help", [this](Words w) { screen(w[0]).setHelpNumber(7); }}, {"ask", [this](Words) { ask(); }},
         {"another", [this](Words w) { another.setWindowTitle(w[0]), another.show(); }},
         {"choose", [this](Words w) { playInFront(), note("chosen (" + forms::chooseFolder("Title", w[0]) + ')'); }},
+        {"file", [this](Words w) { chooseFile(w[0]); }}, {"offer", [this](Words) { lookAtChoice(); }},
         // with every control
         {"focus", [this](Words w) { of(w).setFocus(); }}, {"enable", [this](Words w) { of(w).setEnabled(isYes(w)); }},
         {"visible", [this](Words w) { of(w).setVisible(isYes(w)); }},
@@ -544,7 +603,7 @@ private:
         {"note", [this](Words w) { noteEvents(w); }}, {"when", [this](Words w) { when(w[0], text(w)); }},
         {"run", [this](Words w) { forms::runAsHandler("signal", answerBy(text(w, 0))); }},
         {"returning", [this](Words w) { forms::onHandlerReturn(answerBy(text(w, 0))); }},
-        {"say", [this](Words w) { note(w[0]); }},
+        {"inside", [this](Words w) { inToolkitCall(text(w, 0)); }}, {"say", [this](Words w) { note(w[0]); }},
         {"try", [this](Words w) { EXPECT_THROW(play(text(w, 0)), values::RuntimeFailure); }},
         {"fail", [](Words w) { throw values::RuntimeFailure(values::FailureKind::InvalidCall, w[0]); }},
         {"crash", [](Words w) { throw std::runtime_error(w[0].toStdString()); }}, {"burst", [](Words) { throw 7; }},
