@@ -78,6 +78,18 @@ TEST_F(Closing, RemovesTheDeadRowsOfEachNameTableAndNoOthers)
         EXPECT_EQ(rows(*view), left);
 }
 
+TEST_F(Closing, RemovesTheOnlyRowOfATableToo)
+{
+    for (storage::TableView* view : {&Data1.rsIndoor, &Data1.rsOutdoor, &Data1.rsMobile})
+        removeRows(*view);
+    addNames(Data1.rsOutdoor, {"0", "0", "0"});
+    addNames(Data1.rsMobile, {"0", "0", "0"});
+    closeProgram();
+    EXPECT_EQ(front(), "2 frmExit");
+    openData();
+    EXPECT_EQ(line(Data1.rsOutdoor.RecordCount(), Data1.rsMobile.RecordCount()), "0, 0");
+}
+
 TEST_F(Closing, ReportsADatabaseThatDoesNotReadThroughAndKeepsTheOldBackup)
 {
     putFile(backupFile(), "the last good copy");

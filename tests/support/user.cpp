@@ -163,20 +163,22 @@ void wheel(QWidget& widget, int eighths)
     QCoreApplication::sendEvent(&widget, &turn);
 }
 
-bool rightClick(forms::Control& control, const QString& command)
+QStringList rightClick(forms::Control& control, const QString& command)
 {
-    bool opened = false;
+    QStringList offered;
     QTimer inMenu; // which has an event loop of its own, inside the click
     QObject::connect(&inMenu, &QTimer::timeout, &inMenu, [&] {
         if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-            opened = true;
+            for (const QAction* action : menu->actions())
+                if (action->isEnabled())
+                    offered += action->text();
             chooseIn(*menu, command);
         }
     });
     inMenu.start(0);
     const Spot spot = spotOf(control, control.widget()->rect().center());
     QTest::mouseClick(spot.window, Qt::RightButton, {}, spot.position);
-    return opened;
+    return offered;
 }
 
 bool drop(forms::Control& control, const QString& text)

@@ -33,8 +33,8 @@ void drag(forms::Control& control, QPoint from, QPoint to);
 /// The second click of a double click: at once and where the last one was, on whatever is there by now.
 void clickAgain();
 
-/// True when a menu opens; it is left without a choice, or with a command.
-bool rightClick(forms::Control& control, const QString& command = {});
+/// What the menu offers that opens, if one does; it is left without a choice, or with a command.
+QStringList rightClick(forms::Control& control, const QString& command = {});
 
 void clickArrow(forms::ComboBox& box);
 

@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
+#include "platform/forms/boxes/failure_box.h"
 #include "platform/values/failure.h"
+#include "support/files.h"
 
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QDeadlineTimer>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPointer>
+#include <QPushButton>
 
 #include <cstdio>
 
@@ -54,6 +60,63 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
     EXPECT_EXIT(end(), testing::ExitedWithCode(3), "^cleaned up, $");
     EXPECT_DEATH(
         form.ok.Click = [] {}, "Form.ok_Click has a handler already");
+}
+
+TEST_F(Failures, AreToldInTheWordsOfTheScreen)
+{
+    using Kind = values::FailureKind;
+    const std::pair<QString, std::optional<Kind>> reports[] = {{"Form.ok_Click", Kind::TypeMismatch},
+        {"Form.line_LostFocus", Kind::Overflow}, {"Form.memo_Click", Kind::NoCurrentRecord},
+        {"Form.check_GotFocus", Kind::Database}, {"Form_Activate", Kind::File}, {"Gone.ok_Click", Kind::System},
+        {"Form.gone_Click", Kind::InvalidCall}, {"signal_Event", {}}, {"", {}}};
+    auto& kept =
+        static_cast<TrialForm&>(forms::detail::keepScreen(typeid(TrialForm), std::make_unique<TrialForm>(journal)));
+    kept.label.setRole(forms::TextRole::Title);
+    kept.label.setCaption("Tower");
+    kept.label.nameFor(kept.line);
+    QString told;
+    for (const auto& [handler, kind] : reports) {
+        whileModal([&] {
+            QWidget& box = *QApplication::activeModalWidget();
+            QStringList parts;
+            for (const QLabel* words : box.findChildren<QLabel*>())
+                parts += words->text() + words->accessibleName();
+            for (const auto* button : box.findChildren<QPushButton*>())
+                parts += button->text() + button->toolTip();
+            told += parts.join(" | ").replace('\n', "\\n") + '\n';
+            press(Qt::Key_Escape);
+        });
+        forms::showFailure({handler, "why", kind}, "Title", "All is safe.");
+    }
+    expectKept("platform/forms/failures.txt", told);
+}
+
+TEST_F(FormInFront, IsReadOutWithWhatIsAnnouncedAndWithoutTheTextsOfBoxesElsewhere)
+{
+    QStringList told;
+    for (const forms::Control* each : std::initializer_list<forms::Control*>{&form.line, &form.memo}) {
+        auto* widget = each->widget();
+        const auto tell = [&told, each] {
+            const auto silence = QAccessible::installUpdateHandler({});
+            QAccessible::installUpdateHandler(silence);
+            told += each->name() + (silence ? " silent" : " read");
+        };
+        if (auto* memo = qobject_cast<QPlainTextEdit*>(widget))
+            QObject::connect(memo, &QPlainTextEdit::textChanged, memo, tell);
+        else
+            QObject::connect(qobject_cast<QLineEdit*>(widget), &QLineEdit::textChanged, widget, tell);
+    }
+    form.line.setText("here");
+    form.memo.setText("elsewhere");
+    for (const char* words : {"One", "Two"}) {
+        form.announce(words);
+        const auto parts = form.canvas()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        for (QWidget* part : parts)
+            if (const auto* spoken = QAccessible::queryAccessibleInterface(part);
+                spoken->role() == QAccessible::Notification && part->isVisible())
+                told += spoken->text(QAccessible::Name);
+    }
+    EXPECT_EQ(told.join(", "), "line read, memo silent, One, Two");
 }
 
 TEST_F(Failures, ThereAreNoneWhereAScreenIsClosedWhileItsHandlerAsks)

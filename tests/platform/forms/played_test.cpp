@@ -256,6 +256,12 @@ private:
         QCoreApplication::sendEvent(window, &release);
     }
 
+    void rightPress(Words words)
+    {
+        const QStringList offered = rightClick(of(words), text(words));
+        note(offered.isEmpty() ? "(no menu)" : '(' + offered.join(' ') + ')');
+    }
+
     void turnWheel(Words words)
     {
         QWidget& whole = *of(words).widget();
@@ -527,10 +533,9 @@ private:
         {"click", [this](Words w) { clickAt(of(w), place(w)); }}, {"again", [](Words) { clickAgain(); }},
         {"tremble", [this](Words w) { drag(of(w), QPoint(9, 16), QPoint(12, 16)); }},
         {"drag", [this](Words w) { drag(of(w), place(w), place(w, 3)); }},
-        {"right", [this](Words w) { note(rightClick(of(w), text(w)) ? "(menu)" : "(no menu)"); }},
-        {"arrow", [this](Words w) { clickArrow(combo(w)); }}, {"pick", [this](Words w) { pick(combo(w), text(w)); }},
-        {"wheel", [this](Words w) { turnWheel(w); }}, {"confirm", [](Words) { confirm(); }},
-        {"dismiss", [](Words) { QApplication::activeModalWidget()->close(); }},
+        {"right", [this](Words w) { rightPress(w); }}, {"arrow", [this](Words w) { clickArrow(combo(w)); }},
+        {"pick", [this](Words w) { pick(combo(w), text(w)); }}, {"wheel", [this](Words w) { turnWheel(w); }},
+        {"confirm", [](Words) { confirm(); }}, {"dismiss", [](Words) { QApplication::activeModalWidget()->close(); }},
         {"closeBox", [this](Words w) { closeBox(screen(w[0])); }},
         {"move", [this](Words w) { screen(w[0]).window()->move(w[1].toInt(), w[2].toInt()); }},
         {"raise", [this](Words w) { screen(w[0]).window()->windowHandle()->requestActivate(); }},
