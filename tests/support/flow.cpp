@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/screens/notice.h"
 #include "support/files.h"
 #include "support/rows.h"
 #include "support/scene.h"
@@ -134,13 +135,16 @@ public:
             if (const QStringList was = std::exchange(parts_[form.name() + '.' + control->name()], now); was != now)
                 told += changed(*control, was, now);
         }
+        for (const QWidget* part : form.canvas()->findChildren<QWidget*>())
+            if (dynamic_cast<const forms::Notice*>(part) && std::exchange(said_, part->accessibleName()) != said_)
+                told += "says \"" + said_ + '"';
         return gathered(told);
     }
 
 private:
     QMap<QString, QStringList> parts_ = screensAsTheyCome(), rows_;
     QMap<QString, bool> isGrey_;
-    QString frame_, focus_;
+    QString frame_, focus_, said_;
 };
 
 // Below 120 characters a line, where that can be.

@@ -20,6 +20,8 @@ QString valueOf(const forms::Control& control)
         return ": " + label->caption();
     if (const auto* group = dynamic_cast<const forms::GroupBox*>(&control))
         return ": " + group->caption();
+    if (const auto* bar = dynamic_cast<const forms::ProgressBar*>(&control))
+        return QString(" at %1 of %2").arg(bar->value()).arg(bar->max());
     const auto* button = dynamic_cast<const forms::Button*>(&control);
     return button ? ": " + button->caption() : QString();
 }
