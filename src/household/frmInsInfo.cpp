@@ -122,7 +122,6 @@ void frmInsInfo::reset_Notify()
 void frmInsInfo::cmdUpdate_Click()
 {
     try {
-        rewind(Data1.rsGeneral);
         if (orNone(txtPolicyExpire.text()) == None)
             chkNotify.setValue(0);
         write_Policy();

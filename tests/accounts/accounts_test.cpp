@@ -39,6 +39,21 @@ TEST_F(Accounts, ArentOpenedInNoneOfTheThreeWays)
     }
 }
 
+TEST_F(Accounts, AreLeftWithoutAQuestionWhereNoneIsTheCurrentOne)
+{
+    addRow(Data1.rsBank, Bank::FinancialInstitution, QString("None ").repeated(12).trimmed().split(' '));
+    screen<frmGenInfo>().show();
+    for (const auto move : {&storage::TableView::MovePrevious, &storage::TableView::MoveNext}) {
+        click(screen<frmGenInfo>().cmdBank);
+        click(screen<frmEditBankBoxes>().optEdit[AccountMenu::Update]);
+        click(screen<frmEditBankBoxes>().cmdUpdate);
+        screen<frmBank>().txtAddress.setText("1 Main St");
+        (Data1.rsBank.*move)();
+        click(screen<frmBank>().cmdBack);
+        EXPECT_EQ(front(), "1 frmGenInfo");
+    }
+}
+
 // The boxes tell their limits themselves, but for this one.
 TEST_F(Accounts, HaveATypeThatIsCutToTheLengthOfItsColumn)
 {
