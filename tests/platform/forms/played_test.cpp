@@ -249,11 +249,12 @@ private:
     // The release of a press that was on something that has gone by now.
     void lift(Words words)
     {
-        QWidget& widget = *of(words).widget();
-        QWindow* window = widget.window()->windowHandle();
-        const QPointF at = widget.mapTo(widget.window(), place(words));
-        QMouseEvent release(QEvent::MouseButtonRelease, at, window->mapToGlobal(at), Qt::LeftButton, {}, {});
-        QCoreApplication::sendEvent(window, &release);
+        QWidget& whole = *of(words).widget();
+        QWidget* under = whole.childAt(place(words));
+        QWidget& widget = under ? *under : whole;
+        const QPointF at = widget.mapFrom(&whole, place(words));
+        QMouseEvent release(QEvent::MouseButtonRelease, at, widget.mapToGlobal(at), Qt::LeftButton, {}, {});
+        QCoreApplication::sendEvent(&widget, &release);
     }
 
     void rightPress(Words words)

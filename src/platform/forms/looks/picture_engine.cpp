@@ -29,9 +29,7 @@ QImage readFor(const QString& resource, const QSize& shown)
         if (covers(size, shown))
             break;
     }
-    QImage picture(best);
-    picture.setDevicePixelRatio(1); // the toolkit has read it out of the file's name
-    return picture;
+    return QImage(best);
 }
 
 // Never larger than it is in its files.
