@@ -456,7 +456,7 @@ private:
         if (const auto* check = dynamic_cast<const forms::CheckBox*>(&control))
             return QString::number(check->value());
         if (const auto* bar = dynamic_cast<const forms::ProgressBar*>(&control))
-            return QString("%1 of %2").arg(bar->value()).arg(bar->max());
+            return QString("%1 of %2").arg(bar->value()).arg(bar->widget()->property("maximum").toInt()); // as is seen
         if (const auto* records = dynamic_cast<const forms::RecordList*>(&control))
             return stateOf(*records);
         if (const auto* month = dynamic_cast<const forms::MonthCalendar*>(&control))

@@ -215,7 +215,6 @@ void MonthPage::makeDays()
     days_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     days_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     days_->setTabKeyNavigation(false);
-    days_->setAttribute(Qt::WA_InputMethodEnabled, false);
     days_->installEventFilter(this);
     days_->viewport()->installEventFilter(this);
 }
