@@ -422,6 +422,13 @@ private:
         return all;
     }
 
+    // As it is seen, which follows at once where the bar is full.
+    static QString stateOf(const forms::ProgressBar& bar)
+    {
+        const auto seen = [&bar](const char* property) { return bar.widget()->property(property).toInt(); };
+        return QString("%1 of %2").arg(bar.value() == bar.max() ? seen("value") : bar.value()).arg(seen("maximum"));
+    }
+
     static QString stateOf(const forms::Picture& picture)
     {
         const QSizeF size = picture.widget()->size().toSizeF() / forms::look::pictureScale();
@@ -456,7 +463,7 @@ private:
         if (const auto* check = dynamic_cast<const forms::CheckBox*>(&control))
             return QString::number(check->value());
         if (const auto* bar = dynamic_cast<const forms::ProgressBar*>(&control))
-            return QString("%1 of %2").arg(bar->value()).arg(bar->widget()->property("maximum").toInt()); // as is seen
+            return stateOf(*bar);
         if (const auto* records = dynamic_cast<const forms::RecordList*>(&control))
             return stateOf(*records);
         if (const auto* month = dynamic_cast<const forms::MonthCalendar*>(&control))
