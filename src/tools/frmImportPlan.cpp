@@ -147,8 +147,6 @@ void frmImportPlan::cmdImport_Click()
         wrongFile_ = freshWrongFile(source_->path()); // somebody may have taken that name
         show_Buttons();
         MsgBox(refusal.words(), refusal.code() == exit_code::Declined ? forms::box::Information : forms::box::Stop);
-    } catch (const UnreadableHousehold& failure) {
-        MsgBox(QStringLiteral("Today's file can't be read: %1.").arg(failure.reason()), forms::box::Stop);
     }
 }
 

@@ -12,8 +12,10 @@
 #include "tools/frmRestore.h"
 #include "tools/terminal.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -25,6 +27,22 @@
 using forms::screen;
 
 namespace {
+
+// Cancels the next run that shows how far it is, as soon as its window is made.
+class Canceller : public QObject {
+public:
+    void expect() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* dialog = qobject_cast<QProgressDialog*>(object);
+        if (dialog && event->type() == QEvent::WindowTitleChange) {
+            qApp->removeEventFilter(this);
+            dialog->cancel();
+        }
+        return false;
+    }
+};
 
 // A test whose list tells what happens to the household and its files.
 class ListedTest : public ToolsTest {
@@ -65,11 +83,15 @@ protected:
             {"compare", [&] { seen = bytesOf(path) == bytesOf(rest) ? "| same" : "| different"; }},
             {"pdf", [&] { seen = inPdf(path + ' ' + words.value(2), words.mid(3).join(' ')); }},
             {"show", [&] { seen = "| " + QString::fromUtf8(bytesOf(path)).split('\n').filter(rest).join("\n| "); }},
+            {"table", [&] { seen = "| " + table(path); }},
             // And to the windows.
             {"open", [&] { open(path); }}, {"read", [&] { read(path.toInt()); }},
             {"begin", [&] { begin(), seen = QString("| asked %1").arg(asked_); }},
-            {"choose", [&] { forms::setChoiceHandler([this, path] { return ++asked_, path; }); }},
-            {"listed", [&] { seen = listed(path.toInt()); }}, {"records", [&] { seen = records(words[1]); }},
+            {"choose",
+                [&] { forms::setChoiceHandler([this, file = words.mid(1).join(' ')] { return ++asked_, file; }); }},
+            {"cancel", [&] { canceller_.expect(); }}, {"heard", [&] { seen = heard(); }},
+            {"bar", [&] { seen = bar(); }}, {"listed", [&] { seen = listed(path.toInt()); }},
+            {"records", [&] { seen = records(words[1]); }},
             {"status", [&] { seen = "| " + QString::number(endStatus().value_or(-1)); }}};
         const auto event = events.find(words[0]);
         if (event == events.end())
@@ -123,6 +145,38 @@ private:
         return seen.join('\n');
     }
 
+    // What a file is taken for, and where its columns go; or why it is refused.
+    static QString table(const QString& path)
+    {
+        try {
+            const importing::Source source(path);
+            QStringList told{source.described()};
+            for (const QStringList& column : importing::mapOf(source, source.targets()))
+                told += column[0] + " -> " + column[1] + (column[2].isEmpty() ? QString() : " (" + column[2] + ')');
+            return told.join(", ");
+        } catch (const Refusal& refusal) {
+            return refusal.words();
+        }
+    }
+
+    // What a screen reader says of the window in front, and what it was told to read out last.
+    static QString heard()
+    {
+        QWidget& window = *forms::activeForm()->window();
+        QString heard = "| " + QAccessible::queryAccessibleInterface(&window)->text(QAccessible::Name);
+        for (QWidget* each : window.findChildren<QWidget*>())
+            if (const auto* told = QAccessible::queryAccessibleInterface(each);
+                told->role() == QAccessible::Notification)
+                heard += "\n| " + each->accessibleName();
+        return heard;
+    }
+
+    static QString bar()
+    {
+        const auto& bar = screen<frmRestore>().pbRestore;
+        return QString("| %1 of %2").arg(bar.value()).arg(bar.max());
+    }
+
     // So many backups, or all.
     static void read(int count)
     {
@@ -149,6 +203,7 @@ private:
     }
 
     Disk disk_;
+    Canceller canceller_;
     std::optional<FullDisk> full_;
     std::optional<storage::FileLock> running_;
     std::optional<sys::RunLock> another_;
@@ -288,7 +343,7 @@ protected:
         }
         Disk::told.clear();
         QString meant = QString(step).replace("DATE_put-aside", aside_).replace("~/", below({}));
-        meant.replace("<E9>", QChar(0xDCE9)).replace("<FF>", QChar(0xDCFF));
+        meant.replace("<07>", "\a").replace("<E9>", QChar(0xDCE9)).replace("<FF>", QChar(0xDCFF));
         const QString told = obey(meant.split(' ').mid(1), next);
         const auto aside = QRegularExpression("\\S+_put-aside\\S*").match(told);
         aside_ = aside.hasMatch() ? aside.captured() : aside_;

@@ -51,7 +51,9 @@ TEST_F(ExportingTest, EndsWhereItIsCancelledAndReplacesNone)
     }
     EXPECT_EQ(told.first(10).join(' '), "256 512 768 1024 1280 1536 1792 2048 2060 2061") << "then page by page";
     EXPECT_EQ(everything(), before);
-    write();
+    int left = 0;
+    write(Former::Kept, [&left](int done, int all) { return left = all - done, true; });
+    EXPECT_EQ(left, 1) << "at the last page";
     EXPECT_EQ(refused(), exit_code::Failed) << "an export is there";
 }
 

@@ -4,6 +4,7 @@
 #include "data/earlier_backups.h"
 #include "support/disk.h"
 #include "tools/checking.h"
+#include "tools/commands.h"
 #include "tools/exporting.h"
 #include "tools/import_amounts.h"
 #include "tools/import_dates.h"
@@ -149,11 +150,20 @@ TEST_F(ImportingTest, LeavesNothingWhereItIsCancelledOrFails)
     QString rows = "Area,Location,Category,Item,Date,Price\n";
     for (int i = 0; i < 600; ++i)
         rows += QString("Outdoor,Shed,Tools,Rake %1,2006-07-04,1.25\n").arg(i);
-    const Plan plan = plannedFor(table("list.csv", rows));
+    const Source source(table("list.csv", rows));
+    QStringList told;
+    const auto lookThrough = [&](int most) {
+        planned(source, {}, Household(today()), [&](int done, int all) {
+            told += QString("%1/%2").arg(done).arg(all);
+            return done < most;
+        });
+    };
+    EXPECT_EQ(refusal([&] { lookThrough(512); }), exit_code::Declined);
+    EXPECT_EQ(std::exchange(told, {}).join(' '), "0/600 256/600 512/600");
+    const Plan plan = planned(source, {}, Household(today()));
     sys::Folder::made(places::earlierBackupsFolder());
     putFile(places::earlierBackupsFolder() + "/.restoring", {});
     const auto before = everything();
-    QStringList told;
     EXPECT_EQ(refusal([&] {
         carry_Out(plan, [&](int done, int all) {
             told += QString("%1/%2").arg(done).arg(all);
@@ -171,6 +181,24 @@ TEST_F(ImportingTest, LeavesNothingWhereItIsCancelledOrFails)
     }
     addAsset("Chair", "$5.50");
     EXPECT_EQ(refusal([&] { carry_Out(plan); }), exit_code::Failed) << "another file by now";
+}
+
+TEST_F(ImportingTest, NamesSomeNewNamesAndSomeWrongRowsAndCountsTheOthers)
+{
+    for (const int wrong : {20, 21}) {
+        QString rows = "Area,Location,Category,Item,Date,Price\n";
+        for (int i = 0; i < wrong; ++i)
+            rows += QString("Outdoor,Shed,Tools,Rake %1,2006-07-04,1\nx,Shed,Tools,Rake,2006-07-04,1\n")
+                        .arg(i % (wrong - 12));
+        const QString path = table("list.csv", rows);
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        commands::importAll({"kestrill-import", path, "--dry-run"});
+        const QStringList told = QString::fromStdString(testing::internal::GetCapturedStderr()).split('\n');
+        const QString items = QString::fromStdString(testing::internal::GetCapturedStdout()).section("items: ", 1);
+        EXPECT_EQ(line(told.size() - 1, told[20], items.section('\n', 0, 0).section(", ", 6)),
+            wrong == 20 ? "20, , Rake 6, Rake 7" : "21, And 1 more., Rake 6, Rake 7 and 1 more");
+    }
 }
 
 // Without the mark a spreadsheet program takes UTF-8 for something else.
@@ -208,6 +236,8 @@ TEST(ImportedTexts, AreReadAsTheListHasIt)
                 const AmountRead read = reader.read(text);
                 told += read.amount ? read.amount->toText() : read.fault.mid(3);
             }
+        } else if (step.startsWith("currencies")) {
+            told = currenciesIn(texts);
         } else {
             std::vector<ColumnSeen> columns;
             for (const QString& text : texts)

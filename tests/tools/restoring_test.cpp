@@ -6,6 +6,7 @@
 #include "platform/values/failure.h"
 #include "support/disk.h"
 #include "tools/household.h"
+#include "tools/mending.h"
 
 #include <algorithm>
 
@@ -156,6 +157,17 @@ TEST_F(RestoringTest, NobodyOpensTheFileFromItsPuttingAsideToItsLastStep)
     EXPECT_EQ(bytesOf(today()), old_);
     const storage::FileLock running(today());
     EXPECT_EQ(refused(), exit_code::InUse);
+}
+
+TEST_F(RestoringTest, AMendThatIsNotNeededAnyMoreChangesNothing)
+{
+    runOnFile(today(), "UPDATE Personal_Info SET AssetValue = 1");
+    const std::vector<mending::Mend> mends = mending::possible(Household(today()));
+    ASSERT_EQ(mends.size(), 1U);
+    runOnFile(today(), "UPDATE Personal_Info SET AssetValue = 155000");
+    const auto before = everything();
+    EXPECT_EQ(refusal([&] { mending::carry_Out(mends); }), exit_code::Failed);
+    EXPECT_EQ(everything(), before);
 }
 
 TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheFoldersOfBackups)
