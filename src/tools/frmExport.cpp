@@ -64,5 +64,6 @@ void frmExport::export_To(const QString& folder)
     }
     lblResult.setCaption(
         QStringLiteral("Written: %1, in the folder\n%2").arg(household.summary(), QDir::toNativeSeparators(folder)));
+    announce(lblResult.caption().replace(u'\n', u' '));
     cmdClose.setFocus();
 }

@@ -28,5 +28,6 @@ void frmRestored::tell(const QString& made, const restoring::Result& result)
             : QStringLiteral("The list that was there until now is put aside. To go back to it, choose Restore From "
                              "Backup again and pick the line \"Put aside\", or type this in a terminal:"));
     lblTell[2].setCaption(putAside.isEmpty() ? QString() : QStringLiteral("kestrill-restore --restore ") + putAside);
+    setSpokenState(lblTell[0].caption());
     show();
 }

@@ -16,7 +16,7 @@ import pyatspi
 
 BARE = {"filler", "panel", "scroll pane", "viewport", "separator", "scroll bar", "table cell", "list item", "label"}
 STATES = ("editable", "multi-line", "read-only", "checkable", "default")
-DATES = re.compile(r"\b(?:%s)\b" % "|".join([r"\d+", *calendar.month_name[1:], *calendar.day_name]))
+DATES = re.compile(r"\b(?:%s)\b" % "|".join([r"\d+", "AM", "PM", *calendar.month_name[1:], *calendar.day_name]))
 TAKEN = {"push button", "check box", "radio button", "text", "password text", "combo box", "table"}
 # What newer versions of the bus and of the toolkit tell besides.
 UNTOLD = {("combo box", "editable"), ("check box", "checkable"), ("radio button", "checkable")}
