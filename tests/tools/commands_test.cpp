@@ -49,6 +49,13 @@ class ListedTest : public ToolsTest {
 protected:
     ~ListedTest() override { forms::setChoiceHandler({}); }
 
+    static int command(const QStringList& words)
+    {
+        static const std::map<QString, int (*)(const QStringList&)> commands{{"check", commands::check},
+            {"export", commands::exportAll}, {"import", commands::importAll}, {"restore", commands::restore}};
+        return commands.at(words[0])(words);
+    }
+
     std::optional<QString> happen(const QString& line) override
     {
         const QStringList words = QString(line).replace("~/", below({})).split(' ');
@@ -217,13 +224,6 @@ protected:
             environment_.insert(variable, below({}));
     }
 
-    static int command(const QStringList& words)
-    {
-        static const std::map<QString, int (*)(const QStringList&)> commands{{"check", commands::check},
-            {"export", commands::exportAll}, {"import", commands::importAll}, {"restore", commands::restore}};
-        return commands.at(words[0])(words);
-    }
-
     static QString heard(int status, const std::string& output, const std::string& errors)
     {
         QString complaints = values::textOfName(QByteArrayView(errors));
@@ -383,6 +383,24 @@ INSTANTIATE_TEST_SUITE_P(Each, CommandsTest, testing::ValuesIn(partsOf("tools/co
 TEST_F(ListedTest, AndWindowsGoAsTheListHasIt)
 {
     replay("tools/windows.txt");
+}
+
+TEST_F(ListedTest, AndCommandsEndWhereTheyAreAskedAndLeaveNothing)
+{
+    addAsset("Lamp", "$10.00");
+    backUp();
+    putFile(below("list.csv"), "Area,Location,Category,Item,Date,Price\nIndoor,Attic,Art,Frame,2006-07-04,5\n");
+    const auto before = everything();
+    EXPECT_EQ(inProcess([&] {
+        const terminal::Count count;
+        std::raise(SIGTERM);
+        EXPECT_EQ(command({"export", below("out")}), exit_code::Declined);
+        EXPECT_EQ(command({"import", "--yes", below("list.csv")}), exit_code::Declined);
+        EXPECT_EQ(command({"restore", "--list"}), exit_code::Declined);
+        _exit(HasFailure() ? 1 : 0);
+    }),
+        0);
+    EXPECT_EQ(everything(), before);
 }
 
 TEST(Commands, EndAtTheNextStepWhenTheyAreAsked)
