@@ -47,7 +47,6 @@ void setInOrder(Backup& backup, const proofs::Contents& contents)
 {
     backup.assets = static_cast<int>(contents.assets);
     backup.total = contents.total;
-    backup.reason.clear();
     backup.state = QStringLiteral("In order");
 }
 
@@ -115,7 +114,7 @@ const Backup& find(const std::vector<Backup>& among, const QString& name)
     for (const Backup& backup : among) {
         if (backup.name == name || (name == "last" && backup.kind == "Last close"))
             return backup;
-        if (!name.isEmpty() && backup.name.startsWith(name))
+        if (backup.name.startsWith(name))
             found.push_back(&backup);
     }
     if (found.empty())

@@ -23,7 +23,7 @@ void frmImported::Form_Unload(bool& cancel)
 void frmImported::tell(const importing::Plan& plan, const importing::Result& result, const QString& wrongFile)
 {
     QStringList come(QStringLiteral("Imported: %1").arg(worth(static_cast<int>(plan.assets.size()), plan.sum)));
-    come += importing::besidesAssetsOf(plan);
+    come += importing::broughtBesidesAssets(plan);
     lblTell[0].setCaption(QStringLiteral("%1.\nThe household holds %2 now.").arg(come.join(", "), result.summary));
     lblTell[1].setCaption(wrongFile.isEmpty()
             ? QString()

@@ -225,6 +225,17 @@ QString counted(qsizetype count, const char* one, const char* many)
     return ::counted(static_cast<int>(count), QString::fromLatin1(one), QString::fromLatin1(many));
 }
 
+QString accountsOf(const Plan& plan)
+{
+    return counted(static_cast<qsizetype>(plan.accounts.size()), "account", "accounts");
+}
+
+QString entriesOf(const Plan& plan)
+{
+    return counted(static_cast<qsizetype>(plan.household.size()), "entry", "entries")
+        + QStringLiteral(" of the personal information and the policy");
+}
+
 QStringList newNamesOf(const Plan& plan)
 {
     constexpr qsizetype most = 8; // of a kind, in words
@@ -263,14 +274,22 @@ QStringList besidesAssetsOf(const Plan& plan)
 {
     QStringList lines;
     if (!plan.accounts.empty())
-        lines +=
-            counted(static_cast<qsizetype>(plan.accounts.size()), "account", "accounts") + QStringLiteral(" to come");
+        lines += accountsOf(plan) + QStringLiteral(" to come");
     if (plan.knownAccounts > 0)
         lines += counted(plan.knownAccounts, "account is", "accounts are") + QStringLiteral(" there already");
     if (!plan.household.empty())
-        lines += counted(static_cast<qsizetype>(plan.household.size()), "entry", "entries")
-            + QStringLiteral(" of the personal information and the policy to be filled in");
+        lines += entriesOf(plan) + QStringLiteral(" to be filled in");
     return lines;
+}
+
+QStringList broughtBesidesAssets(const Plan& plan)
+{
+    QStringList brought;
+    if (!plan.accounts.empty())
+        brought += accountsOf(plan);
+    if (!plan.household.empty())
+        brought += entriesOf(plan);
+    return brought;
 }
 
 QStringList summaryOf(const Plan& plan)

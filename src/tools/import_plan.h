@@ -91,8 +91,9 @@ Plan planned(const Source& source, const Choices& choices, const Household& toda
 QStringList summaryOf(const Plan& plan);
 QStringList wrongLinesOf(const Plan& plan);
 
-/// What comes beside assets out of an export.
+/// What comes beside assets out of an export, and what of it has come once the plan is carried out.
 QStringList besidesAssetsOf(const Plan& plan);
+QStringList broughtBesidesAssets(const Plan& plan);
 
 /// What goes where: a line of heading, target and example for each column.
 std::vector<QStringList> mapOf(const Source& source, const std::vector<Target>& targets);

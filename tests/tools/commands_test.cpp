@@ -140,7 +140,9 @@ private:
     static void begin()
     {
         const bool isImport = forms::activeForm()->name() == "frmImport";
-        (isImport ? screen<frmImport>().tmStart : screen<frmExport>().tmStart).elapse();
+        forms::Ticker& start = isImport ? screen<frmImport>().tmStart : screen<frmExport>().tmStart;
+        start.elapse();
+        start.elapse(); // and asks no more
     }
 
     static QString records(const QString& name)

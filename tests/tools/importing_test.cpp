@@ -31,7 +31,11 @@ protected:
 
     static Result imported(const QString& path, const Choices& choices = {})
     {
-        return carry_Out(plannedFor(path, choices));
+        int left = -1;
+        const Result result =
+            carry_Out(plannedFor(path, choices), [&left](int done, int all) { return left = all - done, true; });
+        EXPECT_EQ(left, 0);
+        return result;
     }
 
     static QString table(const QString& name, const QString& lines)
