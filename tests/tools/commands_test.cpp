@@ -14,13 +14,16 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QProcess>
 #include <QProgressDialog>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <set>
+#include <stdexcept>
 
+#include <fcntl.h>
 #include <pty.h>
 #include <termios.h>
 
@@ -418,4 +421,43 @@ TEST(Commands, EndAtTheNextStepWhenTheyAreAsked)
             _exit(HasFailure() ? 1 : 0);
         }),
             0);
+}
+
+TEST(Commands, AskOnlyWhereQuestionAndAnswerAreBothAtATerminal)
+{
+    int terminal = -1;
+    const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (child == 0) {
+        int attended = terminal::isAttended() ? 1 : 0;
+        for (const int stream : {STDIN_FILENO, STDERR_FILENO}) {
+            const int kept = ::dup(stream);
+            ::dup2(::open("/dev/null", O_RDWR), stream);
+            attended += terminal::isAttended() ? 2 : 0;
+            ::dup2(kept, stream);
+        }
+        _exit(attended);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ::close(terminal);
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+}
+
+TEST(Commands, TellInOrderWhereBothOutputsGoTogetherAndWhateverFails)
+{
+    const QTemporaryDir folder;
+    const QString all = folder.filePath("all");
+    EXPECT_EQ(inProcess([&all] {
+        ::dup2(::open(QFile::encodeName(all).constData(), O_WRONLY | O_CREAT, S_IRWXU), STDOUT_FILENO);
+        ::dup2(STDOUT_FILENO, STDERR_FILENO);
+        QCommandLineParser parser;
+        _exit(terminal::run(parser, {"command"}, []() -> int {
+            terminal::print("first");
+            terminal::complain("then");
+            terminal::print("last");
+            throw std::runtime_error("odd");
+        }));
+    }),
+        exit_code::Failed);
+    EXPECT_EQ(bytesOf(all), "first\nthen\nlast\nFailed: odd\n");
 }
