@@ -21,9 +21,8 @@ void frmExport::Form_Load()
     tmStart.setEnabled(true);
 }
 
-void frmExport::Form_Unload(bool& cancel)
+void frmExport::Form_Unload(bool& /*cancel*/)
 {
-    cancel = true;
     forms::endProcess(exit_code::Done);
 }
 

@@ -51,9 +51,8 @@ void frmImport::Form_Load()
     tmStart.setEnabled(true);
 }
 
-void frmImport::Form_Unload(bool& cancel)
+void frmImport::Form_Unload(bool& /*cancel*/)
 {
-    cancel = true;
     forms::endProcess(exit_code::Done);
 }
 

@@ -47,9 +47,8 @@ frmImportPlan::frmImportPlan()
     look();
 }
 
-void frmImportPlan::Form_Unload(bool& cancel)
+void frmImportPlan::Form_Unload(bool& /*cancel*/)
 {
-    cancel = true;
     forms::endProcess(exit_code::Done);
 }
 

@@ -14,9 +14,8 @@ frmImported::frmImported()
         {*this, lblHead, {&lblTell[0], &lblTell[1], &lblTell[2], &lblTell[3]}, cmdClose, lblSelIn, lblCopyright});
 }
 
-void frmImported::Form_Unload(bool& cancel)
+void frmImported::Form_Unload(bool& /*cancel*/)
 {
-    cancel = true;
     forms::endProcess(exit_code::Done);
 }
 

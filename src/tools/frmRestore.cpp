@@ -48,9 +48,8 @@ void frmRestore::tell_Trouble()
 }
 
 // What was read by then counts the next time.
-void frmRestore::Form_Unload(bool& cancel)
+void frmRestore::Form_Unload(bool& /*cancel*/)
 {
-    cancel = true;
     backups::remember(list_);
     forms::endProcess(exit_code::Done);
 }

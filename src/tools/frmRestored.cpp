@@ -11,9 +11,8 @@ frmRestored::frmRestored()
     outcome::lookOf({*this, lblHead, {&lblTell[0], &lblTell[1], &lblTell[2]}, cmdClose, lblSelIn, lblCopyright});
 }
 
-void frmRestored::Form_Unload(bool& cancel)
+void frmRestored::Form_Unload(bool& /*cancel*/)
 {
-    cancel = true;
     forms::endProcess(exit_code::Done);
 }
 
