@@ -3,9 +3,11 @@
 
 #include "platform/report/print_dialog.h"
 #include "platform/report/print_service.h"
+#include "platform/report/whole_file.h"
 
 #include <QApplication>
 #include <QPageLayout>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -42,18 +44,22 @@ void fitPictures(QTextDocument& copy, QTextBrowser& page, const QPageLayout& pap
         }
 }
 
-bool writePdf(QTextBrowser& page, const QPrinter& chosen, const QString& file)
+// By the toolkit's writer and not by its printer, which would ask the print service before it writes to a file.
+bool writePdf(QTextBrowser& page, const QPrinter& chosen, const QString& path)
 {
-    QPrinter pdf;
-    pdf.setOutputFormat(QPrinter::PdfFormat);
-    pdf.setOutputFileName(file);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QPdfWriter pdf(&file);
+    pdf.setResolution(page.logicalDpiX());
     pdf.setPageLayout(chosen.pageLayout());
-    pdf.setDocName(chosen.docName());
+    pdf.setTitle(chosen.docName());
+    pdf.setCreator(QApplication::applicationName());
     const std::unique_ptr<QTextDocument> copy(page.document()->clone(&page)); // which knows the pictures
     copy->setDefaultFont(QApplication::font());
     fitPictures(*copy, page, chosen.pageLayout());
     copy->print(&pdf);
-    return pdf.printerState() != QPrinter::Error && QFileInfo(file).size() > 0;
+    return report::commitWhole(file);
 }
 
 } // namespace

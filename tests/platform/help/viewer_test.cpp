@@ -4,9 +4,10 @@
 #include "platform/help/printing.h"
 #include "platform/help/viewer.h"
 #include "support/files.h"
-#include "support/pdf_text.h"
+#include "support/printer.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QImage>
 #include <QLabel>
@@ -34,7 +35,7 @@ protected:
         forms::setHelpHandler([this](int number, const QString&) { viewer_->open(QString::number(number)); });
         form.setHelpNumber(2001);
         modal.setHelpNumber(2001);
-        qputenv("CUPS_SERVER", "/nowhere");
+        printer::be(printer::State::Missing);
     }
 
     void makeViewer() { viewer_.emplace(help::Book(kept("platform/help/book")), "Help"); }
@@ -47,7 +48,28 @@ protected:
 
     QTextBrowser& text() { return part<QTextBrowser>("page"); }
 
-    /// "open TOPIC", "click PART", "choose CHAPTER", "hit NUMBER", "seek WORDS", "type TEXT", or keys.
+    /// In the dialogue: a key, "hang" for a service that doesn't answer then, or "to" a file.
+    void print(const QString& how)
+    {
+        whileModal([this, how] {
+            const QWidget& dialog = *QApplication::activeModalWidget();
+            EXPECT_EQ(dialog.objectName(), "helpPrintDialog");
+            if (how == "hang")
+                printer::hang(printer::User::GivesUp);
+            if (how == "to") {
+                auto* printers = dialog.findChild<QComboBox*>("printers");
+                printers->setCurrentText("Print to File (PDF)");
+                dialog.findChild<QLineEdit*>("filename")->setText(folder_.filePath("page.pdf"));
+            }
+            QTest::keySequence(dialog.windowHandle(), QKeySequence(how == "Esc" ? "Esc" : "Return"));
+        });
+        QTest::keySequence(viewer_->windowHandle(), QKeySequence("Ctrl+P"));
+        if (how == "hang")
+            printer::answer();
+        viewer_->activateWindow(); // as a window manager does
+    }
+
+    /// "open TOPIC", "click PART", "choose CHAPTER", "hit NUMBER", "seek WORDS", "type TEXT", "print HOW", or keys.
     void take(const QString& step)
     {
         const QString more = step.section(' ', 1);
@@ -65,7 +87,11 @@ protected:
         else if (step.startsWith("seek ")) {
             QTest::keySequence(viewer_->windowHandle(), QKeySequence("Ctrl+K"));
             QTest::keyClicks(QApplication::focusWidget(), more);
-        } else if (step == "minimise")
+        } else if (step.startsWith("print "))
+            print(more);
+        else if (step.startsWith("printer "))
+            printer::be(more == "ready" ? printer::State::Ready : printer::State::Refusing);
+        else if (step == "minimise")
             viewer_->showMinimized();
         else if (step.startsWith("type "))
             QTest::keyClicks(QApplication::focusWidget(), more);
@@ -98,7 +124,9 @@ protected:
                 + (part("findWords").palette().base() == forms::look::colours().field ? "" : " in red");
         for (const char* words : {"searchState", "findState", "status"})
             if (part(words).isVisible())
-                all += ", " + part<QLabel>(words).text();
+                all += ", " + part<QLabel>(words).text().replace(folder_.path(), "~");
+        if (const auto job = printer::job())
+            all += ", printed " + job->title + ": " + job->pages.at(0).text();
         if (const int size = qRound(100 * text().font().pointSizeF() / QApplication::font().pointSizeF()); size != 100)
             all += QString(", type of %1 %").arg(size);
         for (const char* way : {"back", "forward", "smaller", "larger"})
@@ -157,6 +185,7 @@ protected:
         settle();
     }
 
+    const QTemporaryDir folder_;
     QString hits_;
     TrialForm modal{journal, "Modal"};
     std::optional<help::Viewer> viewer_;
@@ -207,11 +236,10 @@ TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheD
 
 TEST_F(HelpViewer, PrintsAPageAsItIsChosenInTypeOfTheUsualSize)
 {
-    const QTemporaryDir folder;
     QPrinter chosen;
     chosen.setDocName("Pages");
     chosen.setPageSize(QPageSize(QPageSize::A5));
-    chosen.setOutputFileName(folder.filePath("page.pdf"));
+    chosen.setOutputFileName(folder_.filePath("page.pdf"));
     QList<int> heights;
     for (const char* step : {"open 1001", "Ctrl++"}) {
         take(step);
@@ -225,10 +253,14 @@ TEST_F(HelpViewer, PrintsAPageAsItIsChosenInTypeOfTheUsualSize)
     EXPECT_TRUE(pictures.contains(" image 320 80 ")) << pictures.toStdString();
     const QString told = pdf::output("pdfinfo", {chosen.outputFileName()}).simplified();
     EXPECT_TRUE(told.contains("Title: Pages") && told.contains("(A5)")) << told.toStdString();
-    for (const QString& nowhere : {folder.filePath("nowhere/page.pdf"), QString()}) {
+    printer::be(printer::State::Refusing);
+    for (const QString& nowhere : {folder_.filePath("nowhere/page.pdf"), QString()}) {
         chosen.setOutputFileName(nowhere);
         EXPECT_EQ(help::printTo(chosen, text()).outcome, Outcome::Failed) << "no folder, and no service that takes it";
     }
+    chosen.setOutputFileName(folder_.filePath("page.pdf"));
+    const FullDisk full(1000);
+    EXPECT_EQ(help::printTo(chosen, text()).outcome, Outcome::Failed);
 }
 
 TEST_F(HelpViewer, PaintsTheTitleOfAHitAboveItsExcerptAndTheChosenOneOnTheAccent)

@@ -4,6 +4,7 @@
 #include "support/files.h"
 #include "support/painted.h"
 #include "support/pdf_text.h"
+#include "support/printer.h"
 #include "trial_report.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -20,77 +22,9 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include <cups/cups.h>
-
 #include <cmath>
-#include <mutex>
-
-// The print service of this process, in place of the system's: it has one queue and keeps what it is handed.
-namespace {
-
-QStringList job;
-bool takesJobs = true;
-std::mutex answers; // locked while the service is silent
-
-// What most jobs are handed over with; the others are told.
-const QStringList usual{"media=A4", "copies=1", "collate=true", "sides=one-sided", "print-color-mode=monochrome",
-    "number-up=1", "number-up-layout=lrtb", "job-billing=", "job-priority=50", "job-sheets=none,none"};
-
-} // namespace
-
-extern "C" {
-
-int cupsGetDests(cups_dest_t** queues)
-{
-    const std::lock_guard hung(answers);
-    return cupsAddDest("Paper", nullptr, 0, queues);
-}
-
-cups_dest_t* cupsGetNamedDest(http_t*, const char* name, const char* instance)
-{
-    cups_dest_t* queue = nullptr;
-    cupsAddDest(name, instance, 0, &queue);
-    return queue;
-}
-
-const char* cupsGetPPD(const char*)
-{
-    static const QTemporaryDir folder;
-    static const QByteArray path = folder.filePath("printer.ppd").toLocal8Bit();
-    QFile::copy(kept("platform/report/printer.ppd"), path); // whoever asks deletes it
-    return path.constData();
-}
-
-int cupsPrintFile(const char* queue, const char* file, const char* title, int count, cups_option_t* options)
-{
-    const std::vector<pdf::Page> pages = pdf::read(file);
-    job =
-        QStringList{queue, title, QString("at %1:").arg(100 * std::lround(placesOf(pages[0], "Page")[0].top() / 100))};
-    for (const pdf::Page& page : pages)
-        job += page.text().section(u' ', 1, 1);
-    EXPECT_EQ(count, usual.size());
-    for (const cups_option_t* option = options; option != options + count; ++option)
-        if (const QString told = QString("%1=%2").arg(option->name, option->value); !usual.contains(told))
-            job += told;
-    return takesJobs ? 1 : 0;
-}
-
-} // extern "C"
 
 namespace {
-
-/// A user who has enough of a wait as soon as it is told, and by whom.
-class Impatience : public QObject {
-    bool eventFilter(QObject* shown, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show && shown->objectName() == "reportWait") {
-            const auto* wait = static_cast<QWidget*>(shown);
-            EXPECT_EQ(wait->windowTitle(), wait->parentWidget()->windowTitle());
-            QMetaObject::invokeMethod(shown, "cancel", Qt::QueuedConnection);
-        }
-        return false;
-    }
-};
 
 /// A screen from which a report of four pages is opened, on Letter and on A4, and its window.
 class ReportPreview : public FormInFront {
@@ -99,7 +33,8 @@ protected:
     {
         for (const char* variable : {"HOME", "XDG_CONFIG_HOME"})
             qputenv(variable, home_.path().toLocal8Bit());
-        takesJobs = true;
+        printer::be(printer::State::Ready);
+        forms::setHelpHandler([this](int, const QString& window) { journal += "(help of " + window + ')'; });
     }
 
     ~ReportPreview() override { delete preview_; }
@@ -112,8 +47,9 @@ protected:
 
     void open(int rows)
     {
+        document_ = trial::document(trial::rows(rows));
         delete preview_;
-        preview_ = new report::Preview("Trial", trial::document(trial::rows(rows)), [this] { journal += "(error)"; });
+        preview_ = new report::Preview("Trial", document_, [this] { journal += "(error)"; });
         preview_->resize(1000, 720);
         preview_->open();
     }
@@ -135,15 +71,15 @@ protected:
             turnWheel(object.section(u':', 0, 0).toInt(), object.section(u':', 1));
         else if (step.startsWith("folder:"))
             QDir().mkdir(object);
+        else if (step.startsWith("gone:"))
+            QDir(object).removeRecursively();
         else if (step == "refuse")
-            takesJobs = false;
-        else if (step == "hang") {
-            answers.lock();
-            qApp->installEventFilter(&impatience_);
-        } else if (step == "answer") {
-            qApp->removeEventFilter(&impatience_);
-            answers.unlock();
-        } else if (step == "behind")
+            printer::be(printer::State::Refusing);
+        else if (step == "hang" || step == "slow")
+            hang(step);
+        else if (step == "answer")
+            printer::answer();
+        else if (step == "behind")
             form.window()->activateWindow();
         else if (step == "ok")
             user::click(form.ok);
@@ -158,6 +94,11 @@ protected:
         settle();
     }
 
+    static void hang(const QString& step)
+    {
+        printer::hang(step == "hang" ? printer::User::GivesUp : printer::User::Waits);
+    }
+
     /// In the dialogue that is open: what its parts are to hold, by their names, the part to go to, a key, a button of
     /// the window behind that tells only now that it was pressed, or that window closed or at its end.
     void enter(const QStringList& entries)
@@ -165,6 +106,8 @@ protected:
         QWidget* dialog = QApplication::activeModalWidget();
         if (const auto* files = qobject_cast<QFileDialog*>(dialog))
             journal += "(as " + files->directory().filePath(part<QLineEdit>("fileNameEdit")->text()) + ')';
+        if (const auto* box = qobject_cast<QMessageBox*>(dialog))
+            journal += '(' + QString(box->text()).replace('\n', ' ') + ' ' + box->defaultButton()->text() + ')';
         if (const auto* sideways = dialog->findChild<QWidget*>("landscape"))
             journal += sideways->isVisible() ? "(sideways)" : "(upright)";
         for (const QString& entry : entries) {
@@ -173,6 +116,8 @@ protected:
                 delete preview_;
             else if (entry == "shut")
                 preview_->close();
+            else if (entry == "hang" || entry == "slow")
+                hang(entry);
             else if (entry.startsWith("late:"))
                 this->part<QPushButton>(entry.mid(5))->click();
             else if (part && entry.contains(u'='))
@@ -186,21 +131,57 @@ protected:
         }
     }
 
+    /// How the page is shown: as wide or as high as there is room, or by the factor that the list tells; always in the
+    /// middle and beside a bar to scroll it. And how far it is scrolled.
+    QString sizeOfPage()
+    {
+        const auto* view = part<QScrollArea>("pageView");
+        const QScrollBar& bar = *view->verticalScrollBar();
+        const QRect sheet = view->widget()->geometry();
+        const QSize rest = view->viewport()->size() - sheet.size();
+        const QString zoom = part<QComboBox>("zoom")->currentText();
+        const QPageSize paper(part<QComboBox>("paper")->currentIndex() == 0 ? QPageSize::Letter : QPageSize::A4);
+        const double inches = double(sheet.width() - 32) / view->logicalDpiX();
+        QString told = zoom;
+        if (std::abs(rest.width()) <= 1)
+            told += ", as wide";
+        else if (std::abs(rest.height()) <= 1)
+            told += ", as high";
+        else if (zoom != QString("%1 %").arg(qRound(100 * inches / paper.size(QPageSize::Inch).width())))
+            told += ", which it isn't";
+        if (rest.width() > 0 && std::abs(sheet.left() - rest.width() / 2) > 1)
+            told += ", aside";
+        if (!bar.isVisible())
+            told += ", without a bar";
+        return told
+            + (bar.maximum() == 0                 ? ""
+                    : bar.value() == 0            ? ", top"
+                    : bar.value() < bar.maximum() ? ""
+                                                  : ", end");
+    }
+
     /// The page with its number, the buttons that are off, the choices, and what the window tells.
     QStringList state()
     {
         if (!preview_)
             return {"closed"};
         const auto* number = part<QSpinBox>("page");
-        const auto* view = part<QScrollArea>("pageView");
-        const QSize rest = view->viewport()->size() - view->widget()->size();
-        const char* fit = std::abs(rest.width()) <= 1 ? ", as wide" : std::abs(rest.height()) <= 1 ? ", as high" : "";
         QString off = "off:";
         for (const QPushButton* button : preview_->findChildren<QPushButton*>())
             off += button->isEnabled() ? QString() : ' ' + button->objectName();
-        return {view->accessibleName(), QString("number %1 to %2").arg(number->text()).arg(number->maximum()),
-            part<QLabel>("count")->text(), off, part<QComboBox>("zoom")->currentText() + fit,
-            part<QComboBox>("paper")->currentText(), '[' + part<QLabel>("status")->text() + ']'};
+        return {part<QWidget>("pageView")->accessibleName(),
+            QString("number %1 to %2").arg(number->text()).arg(number->maximum()), part<QLabel>("count")->text(), off,
+            sizeOfPage(), part<QComboBox>("paper")->currentText(), '[' + part<QLabel>("status")->text() + ']'};
+    }
+
+    /// "Paper Trial at 1000: 1 2 3 4": how far down the first page begins, and which pages they are.
+    static QString told(const printer::Job& job)
+    {
+        QStringList words{job.queue, job.title,
+            QString("at %1:").arg(100 * std::lround(placesOf(job.pages[0], "Page")[0].top() / 100))};
+        for (const pdf::Page& page : job.pages)
+            words += page.text().section(u' ', 1, 1);
+        return (words + job.options).join(' ');
     }
 
     /// What comes after steps, with what is entered in a dialogue behind " | ", and in the next one behind " || ".
@@ -215,18 +196,19 @@ protected:
             whileModal([this, dialog] { enter(dialog.split(" | ")); });
         for (const QString& step : words)
             take(step);
-        if (const auto help = openedHelp())
-            journal += QString("(help %1)").arg(*help);
+        for (const QString& wait : printer::waits())
+            journal += '(' + wait + ')';
         const QStringList before = std::exchange(seen_, state());
         for (const QString& each : seen_)
             journal += before.contains(each) ? QString() : each;
-        journal += std::exchange(job, {}).join(' ');
+        if (const auto job = printer::job())
+            journal += told(*job);
         journal.removeAll({});
         return std::exchange(journal, {}).join("; ").replace(home_.path(), "~");
     }
 
     const QTemporaryDir home_;
-    Impatience impatience_;
+    std::shared_ptr<report::Document> document_;
     QPointer<report::Preview> preview_;
     QStringList seen_;
 };
@@ -242,7 +224,7 @@ TEST_F(ReportPreview, GoesAsItIsKept)
     EXPECT_TRUE(bytesOf(home_.filePath("Documents/Trial 2026-11-24.csv")).contains("Name,Amount,Note\r\n"));
     EXPECT_EQ(pdf::read(home_.filePath("Else/Mine 11.25.pdf")).size(), 4);
     const FullDisk full(10);
-    EXPECT_EQ(after("save | Return"), "(as ~/Else/Trial 2026-11-24.pdf); (error)");
+    EXPECT_EQ(after("save | Return"), "(as ~/Documents/Trial 2026-11-24.pdf); (error)");
 }
 
 // Room gives way first, then the words, then the single row; nothing is cut and nothing lies outside.
@@ -250,8 +232,15 @@ TEST_F(ReportPreview, FitsANarrowWindowWithAllItsButtons)
 {
     open(24);
     preview_->resize(1400, 720);
+    settle();
     const auto* print = part<QPushButton>("print");
-    const QWidget& bar = *print->parentWidget();
+    QWidget& bar = *print->parentWidget();
+    const QImage drawn = bar.grab().toImage();
+    QStringList dividers;
+    for (int dot = 1, y = print->geometry().center().y(); dot < drawn.width(); ++dot)
+        if (!bar.childAt(dot, y) && drawn.pixelColor(dot, y) != drawn.pixelColor(0, y))
+            dividers += bar.childAt(dot - forms::look::grid(1), y)->objectName();
+    EXPECT_EQ(dividers, QStringList({"last", "zoomIn"}));
     QStringList looks;
     for (int width = preview_->width(); width >= preview_->minimumSizeHint().width(); width -= 5) {
         preview_->resize(width, preview_->height());
@@ -281,16 +270,50 @@ TEST_F(ReportPreview, ZoomsAboutThePointerAndTellsTheWordsOfThePage)
     EXPECT_EQ(view->accessibleDescription().section(u'\n', -2), "row23 $1.00\nshort");
     take("zoomIn");
     const QPoint pointer(300, 200);
-    const auto share = [&] { return (pointer.y() - view->widget()->y()) / double(view->widget()->height()); };
-    const double before = share();
+    const auto share = [&] {
+        const QRectF sheet = view->widget()->geometry();
+        return QPointF((pointer.x() - sheet.x()) / sheet.width(), (pointer.y() - sheet.y()) / sheet.height());
+    };
+    const QPointF before = share();
     for (const int eighths : {50, 70}) {
-        EXPECT_NEAR(share(), before, 0.001);
+        EXPECT_EQ(share(), before);
         QWheelEvent turn(pointer, view->viewport()->mapToGlobal(pointer), {}, {0, eighths}, Qt::NoButton,
             Qt::ControlModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(view->viewport(), &turn);
     }
     EXPECT_GT(view->verticalScrollBar()->value(), 0);
-    EXPECT_NEAR(share(), before, 0.01);
+    EXPECT_NEAR(share().x(), before.x(), 0.01);
+    EXPECT_NEAR(share().y(), before.y(), 0.01);
+}
+
+/// Rows of which one can't be told from some moment on; and how often they were asked.
+struct BrokenTable : trial::Table {
+    QString text(int row, int column) const override
+    {
+        ++asked;
+        if (isBroken)
+            throw std::runtime_error("a value that can't be printed");
+        return trial::Table::text(row, column);
+    }
+
+    bool isBroken = false;
+    mutable int asked = 0;
+};
+
+TEST_F(ReportPreview, PaintsAPageAnewThatIsTurnedToAndTellsOnceThatOneCantBePainted)
+{
+    open(24);
+    const auto table = std::make_shared<BrokenTable>();
+    table->rows = trial::rows(24);
+    document_->rows = table;
+    take("next"); // tells its words, and paints them
+    EXPECT_GE(table->asked, 2 * 6 * 3);
+    table->isBroken = true;
+    for (int times = 0; times < 3; ++times)
+        part<QScrollArea>("pageView")->widget()->repaint();
+    settle();
+    EXPECT_EQ(std::exchange(journal, {}).join(' '), "(error)");
+    EXPECT_TRUE(after("save | Return").contains("; (error);"));
 }
 
 } // namespace
