@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/frmMain.h"
 #include "reports/frmPrint.h"
+#include "support/files.h"
 #include "support/harness.h"
+#include "support/pdf_text.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+
+#include <algorithm>
 
 using forms::screen;
 
@@ -20,6 +24,56 @@ protected:
     }
 
     static frmPrint& menu() { return screen<frmPrint>(); }
+
+    /// What stands in the window of the report, whether its file has the same, and how an inventory is emptied.
+    std::optional<QString> happen(const QString& line) override
+    {
+        if (line == "read")
+            return QString(title() + '\n' + page().accessibleName() + '\n' + words());
+        if (line == "save")
+            return saved();
+        if (line != "sell all")
+            return {};
+        removeRows(Data1.rsInventory);
+        return QString();
+    }
+
+private:
+    static QString title() { return reportWindow()->windowTitle(); }
+    static QWidget& page() { return *reportWindow()->findChild<QWidget*>("pageView"); }
+
+    static QString words()
+    {
+        return page().accessibleDescription().replace(QRegularExpression("\\d+:\\d\\d:\\d\\d [AP]M"), "(time)");
+    }
+
+    // Words that stand close to each other may be told as one.
+    static QString lettersOf(QString words)
+    {
+        std::ranges::sort(words.remove(QRegularExpression("\\s|\\d+:\\d\\d:\\d\\d[AP]M")));
+        return words;
+    }
+
+    QString saved()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("report.pdf");
+        QString told;
+        whileModal([&] {
+            auto& name = *QApplication::activeModalWidget()->findChild<QLineEdit*>("fileNameEdit");
+            told = name.text();
+            name.setText(file);
+            press(Qt::Key_Return);
+        });
+        reportWindow()->activateWindow();
+        settle();
+        QTest::keyClick(reportWindow()->windowHandle(), Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(lettersOf(pdf::read(file).at(0).text()), lettersOf(page().accessibleDescription()));
+        const QStringList about = pdf::output("pdfinfo", {file}).split('\n');
+        for (const QString& each : about.filter(QRegularExpression("^(Title|Author|Pages):")))
+            told += '\n' + each.simplified();
+        return told;
+    }
 };
 
 TEST_F(PrintMenu, GoesAsItIsKept)
@@ -28,6 +82,7 @@ TEST_F(PrintMenu, GoesAsItIsKept)
     for (const auto& [area, item] : {std::pair("OUTDOOR", "Rake"), {"Indoor", "Lamp"}, {"Outdoors", "Swing"}})
         addAssetRow({area, "", "", item});
     Data1.rsInventory.Sort("Type");
+    put(Data1.rsGeneral, {{General::First, "Ann"}, {General::Last, "Fairbanks"}, {General::AssetValue, "56.5"}});
     replay("reports/print_menu.txt");
 }
 
