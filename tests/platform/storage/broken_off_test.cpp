@@ -42,20 +42,29 @@ TEST_F(FailedWriteTest, AFullDiskLeavesViewAndFileAsTheyWereAndTheNextWriteWorks
     EXPECT_EQ(wordsInFile(), QStringList({"a", "b"}));
 }
 
+// Where the journal is there already, the folder is not the reason.
 TEST_F(FailedWriteTest, AFolderThatTakesNoNewFileIsToldAsOne)
 {
     QFile::setPermissions(path(), QFile::Permissions(0x6666));
-    QFile::setPermissions(folder.path(), QFile::Permissions(0x5555));
-    QFile::setPermissions(place.path(), QFile::Permissions(0x5555));
     const uid_t user = geteuid();
-    ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0) << "nothing is forbidden to root";
-    wordsView.Open();
-    EXPECT_THAT([this] { addWord(wordsView, "a"); },
-        testing::ThrowsMessage<values::RuntimeFailure>(testing::HasSubstr("(Permission denied)")));
-    wordsView.Close();
-    ASSERT_EQ(seteuid(user), 0);
-    QFile::setPermissions(folder.path(), QFile::Permissions(0x7700));
-    QFile::setPermissions(place.path(), QFile::Permissions(0x7700));
+    for (const char* reason : {"(Permission denied)", "(File too large)"}) {
+        wordsView.Open();
+        const bool isFull = QByteArray(reason) == "(File too large)";
+        if (isFull)
+            addWord(wordsView, "a");
+        for (const QString& each : {folder.path(), place.path()})
+            QFile::setPermissions(each, QFile::Permissions(0x5555));
+        ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0) << "nothing is forbidden to root";
+        {
+            const FullDisk full(isFull ? 16'384 : 1 << 24);
+            EXPECT_THAT([this] { addWord(wordsView, QString(200'000, 'x')); },
+                testing::ThrowsMessage<values::RuntimeFailure>(testing::HasSubstr(reason)));
+        }
+        wordsView.Close();
+        ASSERT_EQ(seteuid(user), 0);
+        for (const QString& each : {place.path(), folder.path()})
+            QFile::setPermissions(each, QFile::Permissions(0x7700));
+    }
 }
 
 // How a session can end whose last save has failed. An end that settles the file does it or tells that it couldn't.
@@ -154,6 +163,18 @@ TEST_F(FailedWriteTest, ABackupLaidOverTheFileIsNotTouchedByTheJournalOfASession
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     putFile(path(), backup);
+    const auto expectRefusal = [this](const char* words) {
+        EXPECT_THAT(
+            [this] { wordsInFile(); }, testing::ThrowsMessage<values::RuntimeFailure>(testing::HasSubstr(words)));
+    };
+    {
+        const FullDisk full(1000);
+        expectRefusal("no room to try the journal of ");
+    }
+    const QString aside = path() + "-foreign-journal";
+    QDir().mkdir(aside);
+    expectRefusal("a foreign journal lies beside ");
+    QDir().rmdir(aside);
     EXPECT_EQ(wordsInFile(), QStringList({"kept"}));
     EXPECT_EQ(files(),
         (std::map<std::string, std::string>{

@@ -59,6 +59,10 @@ TEST_F(ConnectionTest, RefusesADamagedCutOrForeignFileAndLeavesItAsItWas)
     expectRefusal("wrong key");
     home.setFile(folder.filePath("none.db"), key);
     expectRefusal("missing");
+    home.setFile(folder.filePath("none/none.db"), key);
+    expectRefusal("missing with its folder");
+    EXPECT_THAT([this] { wordsView.Open(); },
+        testing::ThrowsMessage<values::RuntimeFailure>(testing::HasSubstr("/none can't be opened (No such file")));
     home.setFile(folder.path(), key);
     expectRefusal("a folder");
     home.setFile(path(), key);

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "data/proofs.h"
+
+#include "data/places.h"
+#include "support/files.h"
+#include "support/print.h"
+
+#include <QTemporaryDir>
+
+TEST(Proofs, AreThoseOfTheLastFilesAndWrittenWhateverAWriteThatWasKilledHasLeft)
+{
+    const QTemporaryDir folder;
+    places::setFolders(folder.filePath("data"), folder.filePath("backup"));
+    const QString earlier = folder.filePath("earlier.db"), later = folder.filePath("later.db");
+    const QString leftover = places::earlierBackupsFolder() + "/.proofs.new";
+    for (const QString& file : {earlier, later, leftover, leftover + "-journal"})
+        putFile(file, "what is in it");
+    proofs::Book book;
+    book.enter(proofs::stateOf(earlier), {1, "$1.00"});
+    book.enter(proofs::stateOf(later), {2, "$1.00"});
+    book.enter(proofs::stateOf(later), {2, "$2.00"});
+    for (int others = 0; others < 199; ++others)
+        book.enter(QString::number(others), {});
+    book.enter("", {});
+    book.write();
+    const proofs::Book written;
+    EXPECT_FALSE(written.of(earlier));
+    ASSERT_TRUE(written.of(later));
+    EXPECT_EQ(written.of(later)->assets, 2);
+    EXPECT_EQ(written.of(later)->total, "$2.00");
+    EXPECT_FALSE(written.of(folder.filePath("none.db")));
+    EXPECT_EQ(QDir(places::earlierBackupsFolder()).entryList(QDir::Files | QDir::Hidden), QStringList(".proofs"));
+}
