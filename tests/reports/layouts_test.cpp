@@ -77,10 +77,11 @@ TEST_F(ReportLayouts, AScriptFromRightToLeftStandsWholeInItsFields)
     QString hebrew;
     for (int number = 10; number < 30; ++number)
         hebrew += QString::fromUtf8("ארון ספרים A%1 ").arg(number);
-    addRow(Data1.rsPrint, {{Print::Model, arabic}, {Print::Description, hebrew}});
+    addRow(Data1.rsPrint, {{Print::Type, "Lamp (old)."}, {Print::Model, arabic}, {Print::Description, hebrew}});
     ASSERT_EQ(report::savePdf(opened(layouts::AssetReport(), Data1.rsPrint, QPageSize(QPageSize::Letter)), path),
         report::Outcome::Done);
     const pdf::Page page = pdf::read(path).at(0);
+    EXPECT_EQ(placesOf(page, "(old).").size(), 1) << "and others keep their own direction";
     for (const auto& [field, text] :
         {std::pair(QRectF(4845, 690, 2100, 285), arabic), {QRectF(1770, 1380, 8445, 1500), hebrew}}) {
         const QRectF place = field.translated(6120 - 5445, 720 + 1725);

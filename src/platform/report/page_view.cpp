@@ -67,7 +67,6 @@ PageView::PageView(QWidget* parent)
     setObjectName(QStringLiteral("pageView"));
     setAlignment(Qt::AlignCenter);
     setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::StrongFocus);
     // The room for the page doesn't depend on the page.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setWidget(sheet_);

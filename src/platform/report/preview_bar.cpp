@@ -38,7 +38,6 @@ BarButton::BarButton(const QIcon& picture, const QString& words, QWidget* parent
     , words_(words)
     , width_(sizeHint().width())
 {
-    setAutoDefault(false);
 }
 
 void BarButton::showWords(bool shown)

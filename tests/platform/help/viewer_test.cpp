@@ -297,6 +297,10 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
     take("Ctrl+0");
     const QVariant usual = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
     EXPECT_LT(usual.value<QImage>().width(), picture.value<QImage>().width());
+    viewer_->resize(1200, 800);
+    settle();
+    const QVariant shown = text().document()->resource(QTextDocument::ImageResource, QUrl("wide.png"));
+    EXPECT_NEAR(shown.value<QImage>().deviceIndependentSize().width(), 320 / 2 * forms::look::pictureScale(), 4);
 }
 
 TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)

@@ -15,6 +15,8 @@
 
 #include <gmock/gmock.h>
 
+#include <clocale>
+
 namespace {
 
 using report::Outcome;
@@ -80,6 +82,8 @@ TEST_F(ReportPages, GrowByTheLinesOfANoteAndSplitOnlyARowThatIsHigherThanAPage)
         EXPECT_EQ(all.count(each + u' '), 1) << each.toStdString();
     for (const pdf::Page& page : pages)
         EXPECT_LE(page.words.back().place.bottom(), 15840 - 700);
+    lines = lines.first(int((13'440 - trial::NoteTop) / line)); // a page has room for all, but not for the rule below
+    EXPECT_EQ(placesOf(printed(trial::rows(1, lines.join(u'\n'))).at(1), lines.last()).size(), 1);
 }
 
 TEST_F(ReportPages, WrapEveryScriptWithinTheField)
@@ -87,12 +91,14 @@ TEST_F(ReportPages, WrapEveryScriptWithinTheField)
     const double right = 6120 - 4500 + trial::Left + trial::NoteWidth;
     for (const char* pattern : {"W", "Twenty-three pieces, one of which is chipped. ", "one\ttwo\t", "\u5BB6",
              "\u05E9\u05DC\u05D5\u05DD \U0001F98A \u0E01\u0E32\u0E23 ", "\u0627\u0644\u0628\u064E\u064A\u062A ",
-             "\u2764\uFE0F", "\u05D0-1\uFE0F\u20E3 "}) {
+             "\u05D0\u05D1", "\u2764\uFE0F", "\u05D0-1\uFE0F\u20E3 "}) {
         const QString note = QString(pattern).repeated(120);
         QString joined;
-        for (const QStringView line : report::linesOf(note, {9}, trial::NoteWidth))
+        const std::vector<QStringView> lines = report::linesOf(note, {9}, trial::NoteWidth);
+        for (const QStringView line : lines)
             joined += line;
         EXPECT_EQ(joined, note);
+        EXPECT_LT(double(lines.size()), 1.5 * report::widthOf(note, {9}) / trial::NoteWidth + 1) << "half empty";
         const double top = 700 + trial::HeaderHeight + trial::NoteTop - 50;
         const std::vector<pdf::Page> pages = printed(trial::rows(1, note));
         for (const pdf::Word& word : pages.at(0).words)
@@ -137,6 +143,16 @@ TEST_F(ReportPages, BreakLinesBehindBlanksAndHyphensAndElseWhereTheLineIsFull)
     }
 }
 
+TEST_F(ReportPages, AreOfThePaperOfTheCountry)
+{
+    const std::string usual = std::setlocale(LC_PAPER, nullptr);
+    for (const auto& [place, paper] : {std::pair("C", QPageSize::A4), {"de_DE.UTF-8", QPageSize::A4},
+             {"en_US.UTF-8", QPageSize::Letter}, {"en_CA.UTF-8", QPageSize::Letter}})
+        if (std::setlocale(LC_PAPER, place)) // else it isn't installed
+            EXPECT_EQ(report::localPaper().page.id(), paper) << place;
+    std::setlocale(LC_PAPER, usual.c_str());
+}
+
 TEST_F(ReportPages, SetALongValueSmallerAndThenCutIt)
 {
     EXPECT_EQ(report::fit("Attic", {9}, 1000).type.points, 9);
@@ -176,7 +192,8 @@ TEST_F(ReportPages, LeaveAnOlderFileUntilTheirsIsWholeWithAllItsNamesAndFonts)
     EXPECT_EQ(bytesOf(path("a.pdf")), "older");
     ASSERT_EQ(report::savePdf(pages, path("a.pdf")), Outcome::Done);
     const QString told = pdf::output("pdfinfo", {path("a.pdf")}).simplified();
-    for (const char* line : {"Title: Trial ", "Author: A. Author ", "Pages: 4 ", "Page size: 612 x 792 pts (letter) "})
+    for (const char* line : {"Title: Trial ", "Author: A. Author ", "Creator: test_report ", "Producer: test_report ",
+             "CreationDate: ", "Pages: 4 ", "Page size: 612 x 792 pts (letter) "})
         EXPECT_TRUE(told.contains(line)) << line << "is not in " << told.toStdString();
     const QStringList fonts = pdf::output("pdffonts", {path("a.pdf")}).split(u'\n', Qt::SkipEmptyParts).mid(2);
     EXPECT_EQ(fonts.filter(QRegularExpression(" yes +(yes|no) +yes ")).size(), 1) << "embedded, with its letters";

@@ -79,10 +79,14 @@ TEST_F(ConnectionTest, KeepsOthersOutOfItsOneFileAndShowsNothing)
     addWord(wordsView, "x");
     wordsView.Close();
     {
-        const storage::FileReader reader(path(), key);
+        storage::FileReader reader(path(), key);
+        EXPECT_EQ(reader.lastNumber(things::table), 0) << "none yet";
         EXPECT_EQ(failureOf(openAnother), FailureKind::Database) << "being read";
     }
     EXPECT_EQ(failureOf(openAnother), std::nullopt);
+    home.open();
+    home.close();
+    EXPECT_FALSE(home.isOpen());
     EXPECT_EQ(openFiles(), open);
     EXPECT_EQ(failureOf([this] { storage::createDatabase(path(), key, tables); }), FailureKind::File) << "is there";
     EXPECT_FALSE(whole.contains("wwww") || whole.contains("Words") || whole.startsWith("SQLite"));

@@ -144,10 +144,24 @@ TEST(Csv, ReadsBackBitForBitWhatIsWritten)
                      "a,b\r\rc\n\n\"d\"",
                   9),
         (Rows{{"a", "b"}, {"c"}, {"d"}}));
-    EXPECT_THAT(
-        [] { rowsIn("a\n\"b\n", 9); }, testing::ThrowsMessage<RuntimeFailure>(testing::HasSubstr("line 2: a quo")));
+    for (const auto& [before, number] : {std::pair("a\n", 2), {"a\r\n", 2}, {"a\r", 2}, {"a\n\n", 3}})
+        EXPECT_THAT([&] { rowsIn(before + std::string("\"b\n"), 9); },
+            testing::ThrowsMessage<RuntimeFailure>(testing::HasSubstr("line " + std::to_string(number) + ": a quo")));
     EXPECT_THAT([] { rowsIn("\"b\"c", 9); }, mismatches);
     EXPECT_THAT([] { rowsIn(std::string(11, 'x'), 9, 10); }, overflows);
+}
+
+// A spreadsheet takes a text for one that begins so; what an apostrophe stands before else keeps it.
+TEST(Csv, MakesFormulasNeutralAndBackAgain)
+{
+    for (const std::string formula : {"=1", "+a", "-a", "@x", "\tx", "\rx", "\nx", "-1.2.3", "+-1", "-"}) {
+        EXPECT_EQ(csv::neutral(formula), "'" + formula);
+        EXPECT_EQ(csv::withoutApostrophe("'" + formula), formula);
+    }
+    for (const std::string text : {"", "a=1", "-2.5", "+1", "'tis", "'", "'-2.5", "''=1"}) {
+        EXPECT_EQ(csv::neutral(text), text);
+        EXPECT_EQ(csv::withoutApostrophe(text), text);
+    }
 }
 
 TEST(FileName, KeepsEachByte)
