@@ -25,16 +25,19 @@ protected:
 
     static frmPrint& menu() { return screen<frmPrint>(); }
 
-    /// What stands in the window of the report, whether its file has the same, and how an inventory is emptied.
+    /// What stands in the window of the report, whether its file has the same, and what happens to the household.
     std::optional<QString> happen(const QString& line) override
     {
         if (line == "read")
             return QString(title() + '\n' + page().accessibleName() + '\n' + words());
         if (line == "save")
             return saved();
-        if (line != "sell all")
+        if (line == "sell all")
+            removeRows(Data1.rsInventory);
+        else if (line == "leave no name")
+            put(Data1.rsGeneral, {{General::First, "None"}, {General::Last, "None"}});
+        else
             return {};
-        removeRows(Data1.rsInventory);
         return QString();
     }
 
