@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/frmMain.h"
 #include "reports/frmPrint.h"
+#include "search/frmSearch.h"
 #include "support/files.h"
 #include "support/harness.h"
 #include "support/pdf_text.h"
@@ -25,13 +26,18 @@ protected:
 
     static frmPrint& menu() { return screen<frmPrint>(); }
 
-    /// What stands in the window of the report, whether its file has the same, and what happens to the household.
+    /// What stands in the window of the report, whether its file has the same, how far the search screen shows that a
+    /// run has come, and what happens to the household.
     std::optional<QString> happen(const QString& line) override
     {
         if (line == "read")
             return QString(title() + '\n' + page().accessibleName() + '\n' + words());
         if (line == "save")
             return saved();
+        if (line == "progress") {
+            const auto& bar = screen<frmSearch>().pbSearch;
+            return QString("%1 of %2, %3").arg(bar.value()).arg(bar.max()).arg(bar.isVisible() ? "up" : "away");
+        }
         if (line == "sell all")
             removeRows(Data1.rsInventory);
         else if (line == "leave no name")
