@@ -309,6 +309,7 @@ struct BrokenTable : trial::Table {
 TEST_F(ReportPreview, PaintsAPageAnewThatIsTurnedToAndTellsOnceThatOneCantBePainted)
 {
     open(24);
+    settle();
     const auto table = std::make_shared<BrokenTable>();
     table->rows = trial::rows(24);
     document_->rows = table;
