@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/proofs.h"
 
+#include "data/earlier_backups.h"
 #include "data/places.h"
 #include "support/files.h"
 #include "support/print.h"
@@ -30,4 +31,21 @@ TEST(Proofs, AreThoseOfTheLastFilesAndWrittenWhateverAWriteThatWasKilledHasLeft)
     EXPECT_EQ(written.of(later)->total, "$2.00");
     EXPECT_FALSE(written.of(folder.filePath("none.db")));
     EXPECT_EQ(QDir(places::earlierBackupsFolder()).entryList(QDir::Files | QDir::Hidden), QStringList(".proofs"));
+}
+
+TEST(KeptBackups, AreTheDatabasesInFoldersOfAMomentTheNewestFirst)
+{
+    const QTemporaryDir folder;
+    places::setFolders(folder.filePath("data"), folder.filePath("backup"));
+    const QString all = places::earlierBackupsFolder() + '/';
+    EXPECT_TRUE(earlier::all().empty()) << "no folder yet";
+    for (const char* name :
+        {"2026-01-02_03-04-05", "2026-01-02_03-04-05_2", "2027-01-01_00-00-00_put-aside", "letters"})
+        putFile(all + name + "/KTL.db", "");
+    putFile(all + "2028-01-01_00-00-00/letter.txt", "of a close that broke off");
+    QStringList told;
+    for (const earlier::KeptFile& kept : earlier::all())
+        told += kept.name + (kept.isPutAside ? ", put aside" : "") + kept.made.toString(" yyyy");
+    EXPECT_EQ(told.join("; "),
+        "2027-01-01_00-00-00_put-aside, put aside 2027; 2026-01-02_03-04-05_2 2026; 2026-01-02_03-04-05 2026");
 }
