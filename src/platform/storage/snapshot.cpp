@@ -22,8 +22,8 @@ std::string_view Snapshot::utf8(int row, int ordinal) const
 {
     if (row < 0 || row >= rowCount())
         throw values::RuntimeFailure(values::FailureKind::NoCurrentRecord, QString::fromUtf8(definition_->name));
-    const std::size_t cell
-        = static_cast<std::size_t>(row) * definition_->columns.size() + static_cast<std::size_t>(ordinal);
+    const std::size_t cell =
+        static_cast<std::size_t>(row) * definition_->columns.size() + static_cast<std::size_t>(ordinal);
     const std::size_t begin = cell == 0 ? 0 : ends_[cell - 1];
     return std::string_view(texts_).substr(begin, ends_[cell] - begin);
 }
