@@ -224,6 +224,14 @@ TEST_F(HelpViewer, HasNamesTipsAndPlacesForItsPartsAndStandsAtTheRightEdgeOfTheD
     expectKept("platform/help/parts.txt", parts().join('\n') + '\n');
     for (const QLabel* label : viewer_->findChildren<QLabel*>())
         EXPECT_TRUE(label->text() != "Find On This Page:" || label->buddy() == &part("findWords"));
+    for (const QWidget* whole : {&part("find"), &part("findWords"), &part("sought")}) {
+        QRegion covered;
+        for (const QWidget* each : whole->parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            if (each->isVisible()) {
+                EXPECT_FALSE(covered.intersects(each->geometry())) << each->objectName().toStdString();
+                covered += each->geometry();
+            }
+    }
     EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(0)->child(0)->toolTip(0), "Lists, long and short");
     EXPECT_EQ(part<QTreeWidget>("contents").topLevelItem(1)->childCount(), 2);
     EXPECT_EQ(viewer_->y(), (desktop.height() - forms::look::grid(88)) / 2);
