@@ -121,10 +121,11 @@ const char* cupsGetPPD(const char*)
 int cupsPrintFile(const char* queue, const char* file, const char* title, int count, cups_option_t* options)
 {
     const bool isSilent = !printer::answers.try_lock();
+    const bool isGivenUp = isSilent && printer::attendant().user == printer::User::GivesUp;
     if (isSilent)
         printer::answers.lock();
     const std::lock_guard answering(printer::answers, std::adopt_lock);
-    if (isSilent && printer::attendant().user == printer::User::GivesUp)
+    if (isGivenUp)
         return 0; // to nobody
     printer::handed = {queue, title, pdf::read(file), {}};
     for (const cups_option_t* option = options; option != options + count; ++option)
