@@ -147,9 +147,11 @@ TEST_F(ReportPages, AreOfThePaperOfTheCountry)
 {
     const std::string usual = std::setlocale(LC_PAPER, nullptr);
     for (const auto& [place, paper] : {std::pair("C", QPageSize::A4), {"de_DE.UTF-8", QPageSize::A4},
-             {"en_US.UTF-8", QPageSize::Letter}, {"en_CA.UTF-8", QPageSize::Letter}})
-        if (std::setlocale(LC_PAPER, place)) // else it isn't installed
+             {"en_US.UTF-8", QPageSize::Letter}, {"en_CA.UTF-8", QPageSize::Letter}}) {
+        if (std::setlocale(LC_PAPER, place)) { // else it isn't installed
             EXPECT_EQ(report::localPaper().page.id(), paper) << place;
+        }
+    }
     std::setlocale(LC_PAPER, usual.c_str());
 }
 
