@@ -29,8 +29,8 @@ public:
     /// The number by which the file knows the row.
     qint64 rowId(int row) const { return at(row).id; }
 
-    /// The row that the file knows by this number, or `none`. It looks at one number after the other where they lie, far
-    /// faster than along the chain.
+    /// The row that the file knows by this number, or `none`. It looks at one number after the other where they lie,
+    /// far faster than along the chain.
     int find(qint64 rowId) const;
 
     TextId cell(int row, int column) const { return cells_[cellAt(row) + static_cast<std::size_t>(column)]; }

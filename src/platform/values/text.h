@@ -11,8 +11,8 @@ namespace values {
 /// a character has no single capital by its capitals ("ß" becomes "SS").
 QString upper(const QString& text);
 
-/// The same of a text of ASCII characters, into as many bytes at `upper`. False where others are among them; what stands
-/// at `upper` then means nothing. Without a branch at a letter, which can't be foretold.
+/// The same of a text of ASCII characters, into as many bytes at `upper`. False where others are among them; what
+/// stands at `upper` then means nothing. Without a branch at a letter, which can't be foretold.
 bool upperAscii(std::string_view text, char* upper);
 
 /// True where `upper(a) == upper(b)`, without making the two where the texts are ASCII.
