@@ -38,13 +38,15 @@ QString valueOf(const QMetaProperty& property, const QWidget& widget)
                                                                                            : QString();
 }
 
-// Of the font, of what the user does, or told elsewhere. Of a group of options the toolkit changes the policy itself.
+// Of the font, of what the user does, of a version of the toolkit, or told elsewhere. Of a group of options the toolkit
+// changes the policy itself.
 bool isLeftOut(const QMetaProperty& property, const QWidget& widget)
 {
     static const QRegularExpression names(
         "(width|height|position|index|text|available|checked|sectionsize)$"
         "|^(x|y|enabled|visible|title|toolTip|objectName|windowTitle|caption|default|value|maximum|count|readOnly|focus"
-        "|isActiveWindow|mouseTracking|autoFillBackground|acceptDrops|defaultAlignment|highlightSections|frameShadow"
+        "|isActiveWindow|mouseTracking|autoFillBackground|acceptDrops|defaultAlignment|highlightSections|"
+        "sectionsClickable|frameShadow"
         "|accessibleDescription)$",
         QRegularExpression::CaseInsensitiveOption);
     return names.match(property.name()).hasMatch()

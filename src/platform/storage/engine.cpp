@@ -130,15 +130,15 @@ QByteArray keyFor(sqlite3* handle, const FileKey& key)
 }
 
 // What version 4 of the engine has to be told, and version 3 passes over: files have the form of 3, which either opens,
-// and failures are told by the caller instead of being written to the terminal.
+// and failures are told by the caller instead of being written to the terminal. The first key of a process makes its
+// cryptography, and with it the log anew, so that only then it can be told to be silent.
 int unlock(sqlite3* handle, const FileKey& key)
 {
-    int code = sqlite3_exec(handle, "PRAGMA cipher_log_level = NONE", nullptr, nullptr, nullptr);
     const QByteArray words = keyFor(handle, key);
-    if (code == SQLITE_OK)
-        code = sqlite3_key(handle, words.constData(), static_cast<int>(words.size()));
-    if (code == SQLITE_OK)
-        code = sqlite3_exec(handle, "PRAGMA cipher_compatibility = 3", nullptr, nullptr, nullptr);
+    int code = sqlite3_key(handle, words.constData(), static_cast<int>(words.size()));
+    for (const char* setting : {"PRAGMA cipher_log_level = NONE", "PRAGMA cipher_compatibility = 3"})
+        if (code == SQLITE_OK)
+            code = sqlite3_exec(handle, setting, nullptr, nullptr, nullptr);
     return code;
 }
 
