@@ -45,9 +45,13 @@ private:
     sqlite3* handle_ = nullptr;
 };
 
+inline void lookAt(const char* cell)
+{
+    benchmark::DoNotOptimize(cell);
+}
+
 /// Hands each cell to `use`.
-template <class Use>
-void readTable(BareDatabase& database, const storage::TableDefinition& definition, Use use)
+void readTable(BareDatabase& database, const storage::TableDefinition& definition, auto use)
 {
     sqlite3_stmt* select = database.prepare(storage::sql::selectRows(definition));
     const int columns = sqlite3_column_count(select);
@@ -56,9 +60,4 @@ void readTable(BareDatabase& database, const storage::TableDefinition& definitio
             use(reinterpret_cast<const char*>(sqlite3_column_text(select, column)));
     }
     BareDatabase::check(sqlite3_finalize(select));
-}
-
-inline void readTable(BareDatabase& database, const storage::TableDefinition& definition)
-{
-    readTable(database, definition, [](const char* cell) { benchmark::DoNotOptimize(cell); });
 }

@@ -134,7 +134,7 @@ void copyAndReadBare(benchmark::State& state)
         database.run("BEGIN; DELETE FROM Print");
         database.run(copy);
         database.run("COMMIT");
-        readTable(database, print);
+        readTable(database, print, lookAt);
     }
 }
 

@@ -42,7 +42,7 @@ void openBare(benchmark::State& state)
     for (auto _ : state) {
         BareDatabase database(path);
         for (const storage::TableDefinition* definition : databaseTables())
-            readTable(database, *definition);
+            readTable(database, *definition, lookAt);
     }
 }
 

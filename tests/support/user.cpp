@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDeadlineTimer>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
@@ -213,6 +214,12 @@ void closeBox(forms::Form& form)
 void settle()
 {
     QCoreApplication::processEvents();
+}
+
+void settleUntil(const std::function<bool()>& isSo)
+{
+    for (const QDeadlineTimer patience(30'000); !isSo() && !patience.hasExpired();)
+        settle();
 }
 
 void type(const QString& text)

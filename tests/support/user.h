@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QString>
 
+#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -91,7 +92,8 @@ QStringList itemsOf(const forms::ComboBox& box);
 /// Presses the close box in the title bar.
 void closeBox(forms::Form& form);
 
-/// Lets the program do what it has put off.
+/// Lets the program do what it has put off; until something is so, for half a minute at most.
 void settle();
+void settleUntil(const std::function<bool()>& isSo);
 
 } // namespace user

@@ -10,7 +10,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <QDeadlineTimer>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -29,8 +28,7 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
         std::fputs("cleaned up, ", stderr);
         forms::runAsHandler("late", [] { std::fputs("no handler may run any more", stderr); });
     };
-    auto& kept =
-        static_cast<TrialForm&>(forms::detail::keepScreen(typeid(TrialForm), std::make_unique<TrialForm>(journal)));
+    TrialForm& kept = madeScreen();
     kept.show();
     kept.answers["ok.Click"] = [] { throw values::RuntimeFailure(values::FailureKind::InvalidCall, "why"); };
     const auto run = [&] {
@@ -68,8 +66,7 @@ TEST_F(Failures, AreToldInTheWordsOfTheScreen)
         {"Form.line_LostFocus", Kind::Overflow}, {"Form.memo_Click", Kind::NoCurrentRecord},
         {"Form.check_GotFocus", Kind::Database}, {"Form_Activate", Kind::File}, {"Gone.ok_Click", Kind::System},
         {"Form.gone_Click", Kind::InvalidCall}, {"signal_Event", {}}, {"", {}}};
-    auto& kept =
-        static_cast<TrialForm&>(forms::detail::keepScreen(typeid(TrialForm), std::make_unique<TrialForm>(journal)));
+    TrialForm& kept = madeScreen();
     kept.label.setRole(forms::TextRole::Title);
     kept.label.setCaption("Tower");
     kept.label.nameFor(kept.line);
@@ -109,8 +106,7 @@ TEST_F(FormInFront, AssistiveToolsAreToldOfATextWhereTheFocusIs)
 TEST_F(Failures, ThereAreNoneWhereAScreenIsClosedWhileItsHandlerAsks)
 {
     useRealBoxes();
-    auto& kept =
-        static_cast<TrialForm&>(forms::detail::keepScreen(typeid(TrialForm), std::make_unique<TrialForm>(journal)));
+    TrialForm& kept = madeScreen();
     kept.show();
     const QPointer<QWidget> window = kept.window();
     kept.answers["ok.Click"] = [&] {
@@ -124,8 +120,7 @@ TEST_F(Failures, ThereAreNoneWhereAScreenIsClosedWhileItsHandlerAsks)
         EXPECT_TRUE(window);
     };
     click(kept.ok);
-    for (const QDeadlineTimer patience(2000); window && !patience.hasExpired();)
-        settle();
+    settleUntil([&window] { return !window; });
     EXPECT_FALSE(window);
 }
 

@@ -9,7 +9,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <QDeadlineTimer>
 #include <QFileDialog>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -297,8 +296,7 @@ private:
             answerBy(steps)();
             note("returned");
         }
-        for (const QDeadlineTimer patience(2000); journal.size() == before + 1 && !patience.hasExpired();)
-            settle();
+        settleUntil([this, before] { return journal.size() != before + 1; });
     }
 
     // By an assistive tool, which has met the label before it leads to the help.

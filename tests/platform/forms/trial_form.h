@@ -101,6 +101,13 @@ protected:
     /// What has happened since the last question, in order: "line.LostFocus ok.Click".
     QString taken() { return std::exchange(journal, {}).join(' '); }
 
+    /// One of the screens that the program has made, as `screen` makes them.
+    TrialForm& madeScreen()
+    {
+        return static_cast<TrialForm&>(
+            forms::detail::keepScreen(typeid(TrialForm), std::make_unique<TrialForm>(journal)));
+    }
+
     QStringList journal;
     TrialForm form{journal};
 };
