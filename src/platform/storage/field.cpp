@@ -75,21 +75,15 @@ TextId TableView::cellFor(const Column& column, const QString& value) const
     return texts().intern(value);
 }
 
-TextId Field::textId() const
+// An amount as it is shown.
+TextId Field::amountId() const
 {
-    if (view_.column(ordinal_).type == ColumnType::Currency)
-        return view_.texts().intern(currency().toText());
-    return view_.cell(ordinal_);
+    return view_.texts().intern(currency().toText());
 }
 
 const QString& Field::text() const
 {
     return view_.texts().text(textId());
-}
-
-std::string_view Field::upper() const
-{
-    return view_.texts().upper(textId());
 }
 
 bool Field::contains(const FoldedText& text) const

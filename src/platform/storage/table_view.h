@@ -60,6 +60,7 @@ public:
 private:
     qint64 storedInteger() const;
     TextId textId() const;
+    TextId amountId() const;
     std::string_view upper() const;
 
     TableView& view_;
@@ -220,6 +221,16 @@ inline qint64 TableView::rowNumber() const
 {
     requireRow();
     return rows_.rowId(row_);
+}
+
+inline TextId Field::textId() const
+{
+    return view_.column(ordinal_).type == ColumnType::Currency ? amountId() : view_.cell(ordinal_);
+}
+
+inline std::string_view Field::upper() const
+{
+    return view_.texts().upper(textId());
 }
 
 inline qint64 Field::integer() const

@@ -45,14 +45,12 @@ const QString& TextPool::text(TextId id) const
     return text.text;
 }
 
-std::string_view TextPool::upper(TextId id)
+std::string_view TextPool::fold(TextId id)
 {
     if (id >= upper_.size())
         upper_.resize(texts_.size());
-    std::string_view& known = upper_[id];
-    if (!known.data())
-        known = folded(texts_[id].utf8);
-    return known;
+    upper_[id] = folded(texts_[id].utf8);
+    return upper_[id];
 }
 
 std::string_view TextPool::folded(std::string_view utf8)

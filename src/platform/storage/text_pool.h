@@ -37,7 +37,7 @@ public:
     std::string_view utf8(TextId id) const { return texts_[id].utf8; }
 
     /// The same in upper case, by the rule of `values::upper`. It is made at the first question.
-    std::string_view upper(TextId id);
+    std::string_view upper(TextId id) { return id < upper_.size() && upper_[id].data() ? upper_[id] : fold(id); }
 
     void clear();
 
@@ -47,6 +47,7 @@ private:
         mutable QString text = {}; // once it has been looked at
     };
 
+    std::string_view fold(TextId id);
     std::string_view folded(std::string_view utf8);
     char* room(std::size_t bytes);
 
