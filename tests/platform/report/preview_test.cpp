@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -114,6 +115,8 @@ protected:
             auto* part = dialog->findChild<QWidget*>(entry.section(u'=', 0, 0));
             if (entry == "delete")
                 delete preview_;
+            else if (entry == "offer")
+                journal += offered(*dialog);
             else if (entry == "shut")
                 preview_->close();
             else if (entry == "hang" || entry == "slow")
@@ -160,7 +163,23 @@ protected:
                                                   : ", end");
     }
 
-    /// The page with its number, the buttons that are off, the choices, and what the window tells.
+    /// What a print dialogue offers of the pages.
+    static QString offered(const QWidget& dialog)
+    {
+        QStringList told;
+        for (const char* name : {"printAll", "printSelection", "printRange", "printCurrentPage", "pagesRadioButton"})
+            if (const auto* found = dialog.findChild<QRadioButton*>(name); !found->isHidden() && found->isEnabled())
+                told += found->isChecked() ? QString(name) + " on" : name;
+        for (const char* name : {"from", "to"}) {
+            const auto* number = dialog.findChild<QSpinBox*>(name);
+            told +=
+                QString("%1 %2 in %3-%4").arg(name).arg(number->value()).arg(number->minimum()).arg(number->maximum());
+        }
+        return '(' + told.join(", ") + ')';
+    }
+
+    /// The page with its number, the part that has the focus, the buttons that are off, the choices, and what the
+    /// window tells.
     QStringList state()
     {
         if (!preview_)
@@ -171,7 +190,8 @@ protected:
             off += button->isEnabled() ? QString() : ' ' + button->objectName();
         return {part<QWidget>("pageView")->accessibleName(),
             QString("number %1 to %2").arg(number->text()).arg(number->maximum()), part<QLabel>("count")->text(), off,
-            sizeOfPage(), part<QComboBox>("paper")->currentText(), '[' + part<QLabel>("status")->text() + ']'};
+            sizeOfPage(), part<QComboBox>("paper")->currentText(), '[' + part<QLabel>("status")->text() + ']',
+            "at " + preview_->focusWidget()->objectName()};
     }
 
     /// "Paper Trial at 1000: 1 2 3 4": how far down the first page begins, and which pages they are.
@@ -224,7 +244,7 @@ TEST_F(ReportPreview, GoesAsItIsKept)
     EXPECT_TRUE(bytesOf(home_.filePath("Documents/Trial 2026-11-24.csv")).contains("Name,Amount,Note\r\n"));
     EXPECT_EQ(pdf::read(home_.filePath("Else/Mine 11.25.pdf")).size(), 4);
     const FullDisk full(10);
-    EXPECT_EQ(after("save | Return"), "(as ~/Documents/Trial 2026-11-24.pdf); (error)");
+    EXPECT_EQ(after("save | Return"), "(as ~/Documents/Trial 2026-11-24.pdf); (error); at save");
 }
 
 // Room gives way first, then the words, then the single row; nothing is cut and nothing lies outside.
