@@ -47,11 +47,13 @@ void Painted::drawTextItem(const QPointF& base, const QTextItem& item)
     const QFontMetricsF metrics(item.font());
     const QPointF at = painter()->worldTransform().map(base - QPointF(0, metrics.ascent()));
     const QString type = told(item.font().pixelSize() / twipsPerPoint) + (item.font().bold() ? "bold " : "");
-    things_.push_back({"left", at.x(), metrics.horizontalAdvance(item.text()), told(at.y()) + type + item.text()});
+    const double width = metrics.horizontalAdvance(item.text()) * painter()->worldTransform().m11();
+    things_.push_back({"left", at.x(), width, told(at.y()) + type + item.text()});
 }
 
 void Painted::keep(const char* kind, const QRectF& place, const QString& rest)
 {
+    EXPECT_TRUE(painter()->renderHints().testFlags(QPainter::Antialiasing | QPainter::SmoothPixmapTransform));
     const QRectF at = painter()->worldTransform().mapRect(place);
     things_.push_back({kind, at.left(), 0, (told(at.top()) + told(at.width()) + told(at.height()) + rest).trimmed()});
 }

@@ -49,13 +49,15 @@ TEST_F(ReportPages, HoldAsManyWholeRowsAsFitBetweenTheirHeadAndFoot)
     document->layout.pageFooter.labels = {{"%P %T %%", {trial::Left, 20, 1400, 200}, {8, true}, report::Align::Centre}};
     document->layout.detail.rules.push_back({{trial::Left, 900, 500, 0}}); // above the note
     document->layout.detail.boxes = {{{trial::Left, 120, 30, 40}}};
-    const Pages pages(document, trial::letter);
-    ASSERT_EQ(pages.count(), 2);
-    for (const int page : {0, 1}) {
+    const report::Paper narrow{QPageSize(QPageSize::A6), 500}, low{QPageSize({8.5, 4}, QPageSize::Inch), 800};
+    for (const auto& [paper, page, count] :
+        {std::tuple(trial::letter, 1, 2), {trial::letter, 2, 2}, {narrow, 3, 3}, {low, 8, 8}}) {
+        const Pages pages(document, paper);
+        ASSERT_EQ(pages.count(), count);
         Painted sheet;
         QPainter painter(&sheet);
-        pages.paint(painter, page);
-        sheet.expect("platform/report/pages.txt", QString("page %1").arg(page + 1));
+        pages.paint(painter, page - 1);
+        sheet.expect("platform/report/pages.txt", QString("page %1").arg(page));
     }
 }
 
