@@ -191,7 +191,7 @@ protected:
         return {part<QWidget>("pageView")->accessibleName(),
             QString("number %1 to %2").arg(number->text()).arg(number->maximum()), part<QLabel>("count")->text(), off,
             sizeOfPage(), part<QComboBox>("paper")->currentText(), '[' + part<QLabel>("status")->text() + ']',
-            "at " + preview_->focusWidget()->objectName()};
+            "at " + preview_->focusWidget()->objectName(), preview_->windowTitle() + " as " + preview_->windowRole()};
     }
 
     /// "Paper Trial at 1000: 1 2 3 4": how far down the first page begins, and which pages they are.
@@ -237,9 +237,16 @@ protected:
 TEST_F(ReportPreview, GoesAsItIsKept)
 {
     expectSteps("platform/report/preview.txt", [this](const QString& step) { return after(step); });
-    const QImage sheet = part<QScrollArea>("pageView")->widget()->grab({40, 40, 300, 400}).toImage();
-    EXPECT_NE(sheet, sheet.scaled(1, 1).scaled(sheet.size())) << "a blank sheet";
-    EXPECT_EQ(sheet.pixelColor(0, 0), QColor(Qt::white));
+    const QImage sheet = part<QScrollArea>("pageView")->widget()->grab().toImage();
+    const auto lightness = [&sheet, scale = (sheet.width() - 32) / 12240.0](double left, double top, int dots) {
+        return sheet.pixelColor(qRound(16 + left * scale), qRound(16 + top * scale) + dots).lightness();
+    };
+    EXPECT_LT(std::min({lightness(6120, 3500, -1), lightness(6120, 3500, 0), lightness(6120, 3500, 1)}), 200)
+        << "a rule";
+    EXPECT_EQ(lightness(6120, 3450, 0) + lightness(10, 10, 0), 2 * 255);
+    const QRgb shadow = sheet.pixel(sheet.width() - 15, sheet.height() / 2);
+    EXPECT_NE(shadow, sheet.pixel(sheet.width() - 5, sheet.height() / 2));
+    EXPECT_EQ(shadow, sheet.pixel(sheet.width() / 2, sheet.height() - 15));
     EXPECT_TRUE(pdf::output("pdfinfo", {home_.filePath("printed.pdf")}).contains("(letter)"));
     EXPECT_TRUE(bytesOf(home_.filePath("Documents/Trial 2026-11-24.csv")).contains("Name,Amount,Note\r\n"));
     EXPECT_EQ(pdf::read(home_.filePath("Else/Mine 11.25.pdf")).size(), 4);
