@@ -108,7 +108,8 @@ protected:
         if (const auto* files = qobject_cast<QFileDialog*>(dialog))
             journal += "(as " + files->directory().filePath(part<QLineEdit>("fileNameEdit")->text()) + ')';
         if (const auto* box = qobject_cast<QMessageBox*>(dialog))
-            journal += '(' + QString(box->text()).replace('\n', ' ') + ' ' + box->defaultButton()->text() + ')';
+            journal += '(' + QString(box->text()).replace('\n', ' ') + ' ' + box->defaultButton()->text()
+                + (box->textFormat() == Qt::PlainText ? ")" : ", as it is meant)");
         if (const auto* sideways = dialog->findChild<QWidget*>("landscape"))
             journal += sideways->isVisible() ? "(sideways)" : "(upright)";
         for (const QString& entry : entries) {
