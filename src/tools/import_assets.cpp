@@ -150,18 +150,17 @@ bool isLabelOfTotal(const QString& text)
 // Numbers alone beside a word for their sum. What all assets are given would make an asset of it.
 bool isTotal(const Row& row)
 {
-    bool isLabelled = false;
-    int numbers = 0;
+    bool isLabelled = false, hasNumber = false;
     for (const std::string& cell : row.cells) {
         const QString text = cleaned(cell, false);
         if (text.isEmpty())
             continue;
         if (isLabelled ? !isAmount(text) : !isLabelOfTotal(text))
             return false;
-        numbers += isLabelled ? 1 : 0;
+        hasNumber = isLabelled;
         isLabelled = true;
     }
-    return numbers > 0;
+    return hasNumber;
 }
 
 // What an export holds has been on the screen once: it is taken as it stands.

@@ -36,7 +36,6 @@ protected:
         const QRect paper = rect().adjusted(gap, gap, -gap, -gap);
         painter.fillRect(paper.translated(shadow, shadow), forms::look::colours().line);
         painter.fillRect(paper, Qt::white);
-        painter.setClipRect(paper);
         painter.translate(paper.topLeft());
         const double scale = paper.width() / view_.pages_->paper().size().width();
         painter.scale(scale, scale);
@@ -139,7 +138,6 @@ void PageView::fitSheet()
         return;
     const QSizeF size = paperSize() * std::max(factor(), 0.05);
     sheet_->resize(size.toSize() + QSize(2 * gap, 2 * gap));
-    sheet_->update();
     if (Changed)
         Changed();
 }
@@ -200,9 +198,7 @@ bool PageView::turnsPage(int key)
 
 void PageView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->modifiers() == Qt::NoModifier && turnsPage(event->key()))
-        event->accept();
-    else
+    if (event->modifiers() != Qt::NoModifier || !turnsPage(event->key()))
         QScrollArea::keyPressEvent(event);
 }
 

@@ -136,9 +136,8 @@ int PreviewBar::heightForWidth(int width) const
 
 // ---- where its widgets stand
 
-void PreviewBar::resizeEvent(QResizeEvent* event)
+void PreviewBar::resizeEvent(QResizeEvent*)
 {
-    QWidget::resizeEvent(event);
     arrange();
 }
 
