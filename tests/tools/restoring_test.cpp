@@ -6,6 +6,7 @@
 #include "platform/values/failure.h"
 #include "support/disk.h"
 #include "tools/household.h"
+#include "tools/import_source.h"
 #include "tools/mending.h"
 
 #include <algorithm>
@@ -33,14 +34,19 @@ protected:
         return refusal([&steps] { restoring::lay_Down(last(), steps); });
     }
 
-    static QString refusedWords(const restoring::Steps& steps)
+    static QString wordsOf(const std::function<void()>& work)
     {
         try {
-            restoring::lay_Down(last(), steps);
+            work();
         } catch (const Refusal& refusal) {
             return refusal.words();
         }
         return {};
+    }
+
+    static QString refusedWords(const restoring::Steps& steps)
+    {
+        return wordsOf([&steps] { restoring::lay_Down(last(), steps); });
     }
 
     static restoring::Steps failingAt(int step)
@@ -123,6 +129,8 @@ TEST_F(RestoringTest, AFailureAtAnyStepLeavesTodaysFileWithItsJournal)
     EXPECT_TRUE(words.startsWith("The restore failed. Today's file is in its place, but its journal could not be put "
                                  "back beside it (File failure: keeping "));
     EXPECT_EQ(bytesOf(words.section("It lies in ", 1).chopped(1) + "/KTL.db-journal"), QByteArray(2000, 'j'));
+    damage(backupFile()); // since it was read
+    EXPECT_EQ(refusedWords({}), "This backup can't be restored: database disk image is malformed.");
     QDir().mkdir(today() + ".restoring-journal"); // which can't be cleared away
     EXPECT_TRUE(refusedWords({}).startsWith("File failure: removing "));
 }
@@ -170,7 +178,7 @@ TEST_F(RestoringTest, AMendThatIsNotNeededAnyMoreChangesNothing)
     EXPECT_EQ(everything(), before);
 }
 
-TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheFoldersOfBackups)
+TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheFoldersOfBackupsOrAList)
 {
     const auto setRights = [](mode_t rights) {
         for (const QString& folder : {places::backupFolder(), places::earlierBackupsFolder()})
@@ -178,13 +186,18 @@ TEST_F(RestoringTest, SaysThatThereIsNoRightToReadTheFoldersOfBackups)
     };
     ::chmod(QFile::encodeName(below({})), 0711);
     setRights(0);
-    const auto countClosed = [] {
+    const QString table = below("list.csv");
+    putFile(table, "Item\n");
+    ::chmod(QFile::encodeName(table), 0);
+    const auto countClosed = [&table] {
         if (::getuid() == 0 && ::setuid(65534) != 0) // nothing is closed to root
             _exit(9);
         std::vector<Backup> list = backups::all();
         std::ranges::for_each(list, backups::read);
-        _exit(static_cast<int>(std::ranges::count(list, "No permission", &Backup::state)));
+        const QString words = wordsOf([&table] { importing::Source source(table); });
+        _exit(static_cast<int>(std::ranges::count(list, "No permission", &Backup::state))
+            + (words.endsWith("/list.csv can't be read: Permission denied.") ? 1 : 0));
     };
-    EXPECT_EQ(inProcess(countClosed), 2);
+    EXPECT_EQ(inProcess(countClosed), 3);
     setRights(S_IRWXU);
 }
