@@ -80,8 +80,8 @@ TEST_F(ConnectionTest, KeepsOthersOutOfItsOneFileAndShowsNothing)
     wordsView.Close();
     {
         storage::FileReader reader(path(), key);
-        EXPECT_EQ(reader.lastNumber(things::table), 0) << "none yet";
         EXPECT_EQ(failureOf(openAnother), FailureKind::Database) << "being read";
+        EXPECT_EQ(reader.lastNumber(things::table), 0) << "none yet";
     }
     EXPECT_EQ(failureOf(openAnother), std::nullopt);
     home.open();
