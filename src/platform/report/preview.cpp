@@ -149,11 +149,11 @@ void Preview::zoomBy(int direction, std::optional<QPoint> about)
 void Preview::keyPressEvent(QKeyEvent* event)
 {
     const bool isBare = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && !event->isAutoRepeat();
-    if (!isBare || !answersKey(event->key()))
-        QWidget::keyPressEvent(event);
+    if (isBare)
+        answerKey(event->key());
 }
 
-bool Preview::answersKey(int key)
+void Preview::answerKey(int key)
 {
     auto* focused = qobject_cast<QPushButton*>(focusWidget());
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -163,9 +163,6 @@ bool Preview::answersKey(int key)
         focused->click();
     else if (key == Qt::Key_Escape)
         close();
-    else
-        return false;
-    return true;
 }
 
 // A number that is only half typed is given up.

@@ -57,7 +57,7 @@ private:
     void pickZoom(int index, std::optional<QPoint> about = {});
     void zoomBy(int direction, std::optional<QPoint> about = {});
     void backToPage();
-    bool answersKey(int key);
+    void answerKey(int key);
     void goTo(int page) { view_->setPage(page - 1); }
     void print();
     void saveAs();
