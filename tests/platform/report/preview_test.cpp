@@ -70,6 +70,8 @@ protected:
             open(object.toInt());
         else if (step.startsWith("wheel:"))
             turnWheel(object.section(u':', 0, 0).toInt(), object.section(u':', 1));
+        else if (step.startsWith("held:"))
+            repeat(QKeySequence(object)[0].key());
         else if (step.startsWith("folder:"))
             QDir().mkdir(object);
         else if (step.startsWith("gone:"))
@@ -93,6 +95,13 @@ protected:
             QTest::keySequence(preview_->windowHandle(), QKeySequence(step));
         }
         settle();
+    }
+
+    /// What comes of a key that is kept down, where the focus is.
+    void repeat(int key)
+    {
+        QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+        QApplication::sendEvent(preview_->focusWidget(), &again);
     }
 
     static void hang(const QString& step)

@@ -140,7 +140,8 @@ TEST_F(ReportPages, HaveEachEmojiAsOnePictureInColour)
 {
     const char* const emoji[] = {"\U0001F44D\U0001F3FD", "1\uFE0F\u20E3", "\u2764\uFE0F", "\u2764\u200D\U0001F525",
         "\U0001F468\u200D\U0001F469\u200D\U0001F467", "\U0001F3F3\uFE0F\u200D\U0001F308", "\U0001F1E9\U0001F1EA",
-        "\U0001F3F4\U000E0067\U000E0062\U000E0065\U000E006E\U000E0067\U000E007F", "\u261D\U0001F3FD", "\u26A1"};
+        "\U0001F3F4\U000E0067\U000E0062\U000E0065\U000E006E\U000E0067\U000E007F", "\u261D\U0001F3FD", "\u26A1",
+        "#\uFE0F\u20E3", "*\uFE0F\u20E3", "\u203C\uFE0F", "\u00A9\uFE0F", "\u00AE\uFE0F"};
     std::vector<QStringList> rows = trial::rows(1, "1 # \u00A9 \u2764 \u231A\uFE0E \u260E\uFE0E");
     const auto pictures = [&] {
         printed(rows);
