@@ -164,7 +164,9 @@ TEST_F(ReportPages, BreakLinesBehindBlanksAndHyphensAndElseWhereTheLineIsFull)
     const double width = 1.05 * report::widthOf("Twenty-three", {9});
     const std::pair<QString, QString> texts[] = {{"", ""}, {"a\r\n\nb\n", "a||b|"},
         {"Twenty-three   old ones", "Twenty-three   |old ones"}, {"An old twenty-three", "An old |twenty-three"},
-        {"An old one-and-twenty", "An old one-|and-twenty"}, {"Twenty-three\u5BB6\u5BB6", "Twenty-three|\u5BB6\u5BB6"}};
+        {"An old one-and-twenty", "An old one-|and-twenty"}, {"Twenty-three\u5BB6\u5BB6", "Twenty-three|\u5BB6\u5BB6"},
+        {"An old red-tre\u0301e", "An old red-|tre\u0301e"},
+        {"Twe\u0301nty-three\u5BB6\u5BB6", "Twe\u0301nty-three|\u5BB6\u5BB6"}};
     for (const auto& [text, broken] : texts) {
         QStringList lines;
         for (const QStringView line : report::linesOf(text, {9}, width))
