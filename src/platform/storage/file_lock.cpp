@@ -37,7 +37,7 @@ FileLock::FileLock(const QString& path)
     : file_(openedFile(path, O_RDWR))
 {
     struct ::flock bytes = engineBytes(F_WRLCK);
-    isHeld_ = file_ >= 0 && ::fcntl(file_, F_OFD_SETLK, &bytes) == 0;
+    isHeld_ = ::fcntl(file_, F_OFD_SETLK, &bytes) == 0; // no lock without a file
 }
 
 FileLock::~FileLock()
