@@ -100,8 +100,8 @@ protected:
             {"choose",
                 [&] { forms::setChoiceHandler([this, file = words.mid(1).join(' ')] { return ++asked_, file; }); }},
             {"cancel", [&] { canceller_.expect(); }}, {"heard", [&] { seen = heard(); }},
-            {"bar", [&] { seen = bar(); }}, {"listed", [&] { seen = listed(path.toInt()); }},
-            {"records", [&] { seen = records(words[1]); }},
+            {"bar", [&] { seen = bar(); }},
+            {"records", [&] { seen = records(words[1], words.value(2, "99").toInt()); }},
             {"status", [&] { seen = "| " + QString::number(endStatus().value_or(-1)); }}};
         const auto event = events.find(words[0]);
         if (event == events.end())
@@ -148,13 +148,14 @@ private:
         start.elapse(); // and asks no more
     }
 
-    static QString records(const QString& name)
+    // Of many the first, which stand for the others.
+    static QString records(const QString& name, int most)
     {
         const auto& list = dynamic_cast<forms::RecordList&>(control(*forms::activeForm(), name));
         QStringList seen;
         for (int i = 0; i < list.recordCount(); ++i)
             seen += (i == list.picked() ? "> " : "| ") + list.record(i).join('\t').replace('\n', "\\n");
-        return seen.join('\n');
+        return seen.mid(0, most).join('\n') + (seen.size() > most ? QString("\n| of %1").arg(seen.size()) : QString());
     }
 
     // What a file is taken for, and where its columns go; or why it is refused.
@@ -202,16 +203,6 @@ private:
         const auto pages = pdf::read(path);
         const auto has = [&text](const pdf::Page& page) { return page.text().contains(text); };
         return std::ranges::any_of(pages, has) ? "| it is there" : "| it is missing";
-    }
-
-    // So many backups, which stand for the others.
-    static QString listed(int count)
-    {
-        const auto& list = screen<frmRestore>().lstBackups;
-        QString seen = QString("| %1 backups").arg(list.recordCount());
-        for (int i = 0; i < count; ++i)
-            seen += (i == list.picked() ? "\n> " : "\n| ") + list.record(i).join('\t');
-        return seen;
     }
 
     Disk disk_;

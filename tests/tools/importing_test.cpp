@@ -4,7 +4,6 @@
 #include "data/earlier_backups.h"
 #include "support/disk.h"
 #include "tools/checking.h"
-#include "tools/commands.h"
 #include "tools/exporting.h"
 #include "tools/import_amounts.h"
 #include "tools/import_dates.h"
@@ -185,38 +184,6 @@ TEST_F(ImportingTest, LeavesNothingWhereItIsCancelledOrFails)
     }
     addAsset("Chair", "$5.50");
     EXPECT_EQ(refusal([&] { carry_Out(plan); }), exit_code::Failed) << "another file by now";
-}
-
-TEST_F(ImportingTest, NamesSomeNewNamesAndSomeWrongRowsAndCountsTheOthers)
-{
-    for (const int wrong : {20, 21}) {
-        QString rows = "Area,Location,Category,Item,Date,Price\n";
-        for (int i = 0; i < wrong; ++i)
-            rows += QString("Outdoor,Shed,Tools,Rake %1,2006-07-04,1\nx,Shed,Tools,Rake,2006-07-04,1\n")
-                        .arg(i % (wrong - 12));
-        const QString path = table("list.csv", rows);
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        commands::importAll({"kestrill-import", path, "--dry-run"});
-        const QStringList told = QString::fromStdString(testing::internal::GetCapturedStderr()).split('\n');
-        const QString items = QString::fromStdString(testing::internal::GetCapturedStdout()).section("items: ", 1);
-        EXPECT_EQ(line(told.size() - 1, told[20], items.section('\n', 0, 0).section(", ", 6)),
-            wrong == 20 ? "20, , Rake 6, Rake 7" : "21, And 1 more., Rake 6, Rake 7 and 1 more");
-    }
-}
-
-// Without the mark a spreadsheet program takes UTF-8 for something else.
-TEST_F(ImportingTest, WritesTablesWithTheMarkThatSpreadsheetProgramsLookFor)
-{
-    const QString path = table("list.csv", "Item,Place\nKäfig,Shed\n");
-    write_Wrong_Rows(Source(path), plannedFor(path), below("wrong.csv"));
-    EXPECT_TRUE(bytesOf(below("wrong.csv"))
-                    .startsWith("\xEF\xBB\xBF"
-                                "Item,Place,"));
-    write_Template(below("template.csv"));
-    EXPECT_TRUE(bytesOf(below("template.csv"))
-                    .startsWith("\xEF\xBB\xBF"
-                                "Area,"));
 }
 
 // What a text means, kept as a list: dates and amounts of a column, and where headings lead.

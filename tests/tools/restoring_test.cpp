@@ -44,11 +44,6 @@ protected:
         return {};
     }
 
-    static QString refusedWords(const restoring::Steps& steps)
-    {
-        return wordsOf([&steps] { restoring::lay_Down(last(), steps); });
-    }
-
     static restoring::Steps failingAt(int step)
     {
         return [step](int now) {
@@ -121,7 +116,10 @@ TEST_F(RestoringTest, AFailureAtAnyStepLeavesTodaysFileWithItsJournal)
         EXPECT_EQ(refused(failingAt(step)), exit_code::Failed);
         EXPECT_EQ(everything(), before);
     }
-    const QString words = refusedWords([](int step) {
+    const auto layDown = [](const restoring::Steps& steps = {}) {
+        return wordsOf([&steps] { restoring::lay_Down(last(), steps); });
+    };
+    const QString words = layDown([](int step) {
         Disk::refuse(step == 7 ? "link" : "never", EIO);
         failingAt(7)(step);
     });
@@ -130,9 +128,9 @@ TEST_F(RestoringTest, AFailureAtAnyStepLeavesTodaysFileWithItsJournal)
                                  "back beside it (File failure: keeping "));
     EXPECT_EQ(bytesOf(words.section("It lies in ", 1).chopped(1) + "/KTL.db-journal"), QByteArray(2000, 'j'));
     damage(backupFile()); // since it was read
-    EXPECT_EQ(refusedWords({}), "This backup can't be restored: database disk image is malformed.");
+    EXPECT_EQ(layDown(), "This backup can't be restored: database disk image is malformed.");
     QDir().mkdir(today() + ".restoring-journal"); // which can't be cleared away
-    EXPECT_TRUE(refusedWords({}).startsWith("File failure: removing "));
+    EXPECT_TRUE(layDown().startsWith("File failure: removing "));
 }
 
 // What can't be copied gets a second name, until the next look.

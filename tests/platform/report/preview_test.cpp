@@ -15,7 +15,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -70,9 +69,10 @@ protected:
             open(object.toInt());
         else if (step.startsWith("wheel:"))
             turnWheel(object.section(u':', 0, 0).toInt(), object.section(u':', 1));
-        else if (step.startsWith("held:"))
-            repeat(QKeySequence(object)[0].key());
-        else if (step.startsWith("folder:"))
+        else if (step.startsWith("held:")) {
+            QKeyEvent again(QEvent::KeyPress, QKeySequence(object)[0].key(), Qt::NoModifier, {}, true);
+            QApplication::sendEvent(preview_->focusWidget(), &again);
+        } else if (step.startsWith("folder:"))
             QDir().mkdir(object);
         else if (step.startsWith("gone:"))
             QDir(object).removeRecursively();
@@ -95,13 +95,6 @@ protected:
             QTest::keySequence(preview_->windowHandle(), QKeySequence(step));
         }
         settle();
-    }
-
-    /// What comes of a key that is kept down, where the focus is.
-    void repeat(int key)
-    {
-        QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
-        QApplication::sendEvent(preview_->focusWidget(), &again);
     }
 
     static void hang(const QString& step)
@@ -177,14 +170,13 @@ protected:
     static QString offered(const QWidget& dialog)
     {
         QStringList told;
-        for (const char* name : {"printAll", "printSelection", "printRange", "printCurrentPage", "pagesRadioButton"})
-            if (const auto* found = dialog.findChild<QRadioButton*>(name); !found->isHidden() && found->isEnabled())
-                told += found->isChecked() ? QString(name) + " on" : name;
-        for (const char* name : {"from", "to"}) {
-            const auto* number = dialog.findChild<QSpinBox*>(name);
-            told +=
-                QString("%1 %2 in %3-%4").arg(name).arg(number->value()).arg(number->minimum()).arg(number->maximum());
-        }
+        for (const char* name :
+            {"printAll", "printSelection", "printRange", "printCurrentPage", "pagesRadioButton", "from", "to"})
+            if (const auto* each = dialog.findChild<QWidget*>(name); !each->isHidden())
+                told += QStringList{name, each->metaObject()->userProperty().read(each).toString(),
+                    each->property("maximum").toString(), each->isEnabled() ? "" : "grey"}
+                            .join(' ')
+                            .simplified();
         return '(' + told.join(", ") + ')';
     }
 
