@@ -5,7 +5,6 @@
 #include "platform/storage/file_lock.h"
 #include "platform/values/file_name.h"
 #include "support/disk.h"
-#include "support/pdf_text.h"
 #include "tools/commands.h"
 #include "tools/frmExport.h"
 #include "tools/frmImport.h"
@@ -91,7 +90,6 @@ protected:
                 }},
             {"disk", [&] { seen = "| " + Disk::told.join(", "); }},
             {"compare", [&] { seen = bytesOf(path) == bytesOf(rest) ? "| same" : "| different"; }},
-            {"pdf", [&] { seen = inPdf(path + ' ' + words.value(2), words.mid(3).join(' ')); }},
             {"show", [&] { seen = "| " + QString::fromUtf8(bytesOf(path)).split('\n').filter(rest).join("\n| "); }},
             {"table", [&] { seen = "| " + table(path); }},
             // And to the windows.
@@ -196,13 +194,6 @@ private:
         forms::Ticker& reading = screen<frmRestore>().tmRead;
         for (int read = 0; reading.isEnabled() && (count == 0 || read < count); ++read)
             reading.elapse();
-    }
-
-    static QString inPdf(const QString& path, const QString& text)
-    {
-        const auto pages = pdf::read(path);
-        const auto has = [&text](const pdf::Page& page) { return page.text().contains(text); };
-        return std::ranges::any_of(pages, has) ? "| it is there" : "| it is missing";
     }
 
     Disk disk_;

@@ -24,11 +24,6 @@ protected:
         exporting::write(*household_, folder_, former, progress);
     }
 
-    std::optional<int> refused(Former former = Former::Kept, const exporting::Progress& progress = {}) const
-    {
-        return refusal([&] { write(former, progress); });
-    }
-
     static QStringList leftovers() { return QDir(below({})).entryList({".kestrill*"}, QDir::Dirs | QDir::Hidden); }
 
     QString folder_ = below("out");
@@ -47,14 +42,14 @@ TEST_F(ExportingTest, EndsWhereItIsCancelledAndReplacesNone)
             told.append(QString::number(done));
             return told.size() < count && done < all;
         };
-        EXPECT_EQ(refused(Former::Kept, cancel), exit_code::Declined);
+        EXPECT_EQ(refusal([&] { write(Former::Kept, cancel); }), exit_code::Declined);
     }
     EXPECT_EQ(told.first(10).join(' '), "256 512 768 1024 1280 1536 1792 2048 2060 2061") << "then page by page";
     EXPECT_EQ(everything(), before);
     int left = 0;
     write(Former::Kept, [&left](int done, int all) { return left = all - done, true; });
     EXPECT_EQ(left, 1) << "at the last page";
-    EXPECT_EQ(refused(), exit_code::Failed) << "an export is there";
+    EXPECT_EQ(refusal([this] { write(); }), exit_code::Failed) << "an export is there";
 }
 
 TEST_F(ExportingTest, ClearsWhatKilledOnesHaveLeftAndNothingElse)

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -79,7 +80,7 @@ protected:
         else if (step == "refuse")
             printer::be(printer::State::Refusing);
         else if (step == "hang" || step == "slow")
-            hang(step);
+            printer::hang(step == "hang" ? printer::User::GivesUp : printer::User::Waits);
         else if (step == "answer")
             printer::answer();
         else if (step == "behind")
@@ -97,13 +98,9 @@ protected:
         settle();
     }
 
-    static void hang(const QString& step)
-    {
-        printer::hang(step == "hang" ? printer::User::GivesUp : printer::User::Waits);
-    }
-
-    /// In the dialogue that is open: what its parts are to hold, by their names, the part to go to, a key, a button of
-    /// the window behind that tells only now that it was pressed, or that window closed or at its end.
+    /// In the dialogue that is open: what its parts are to hold, by their names, or what they hold, the part to go to,
+    /// a key, a button of the window behind that tells only now that it was pressed, or that window closed or at its
+    /// end.
     void enter(const QStringList& entries)
     {
         QWidget* dialog = QApplication::activeModalWidget();
@@ -115,15 +112,21 @@ protected:
         if (const auto* sideways = dialog->findChild<QWidget*>("landscape"))
             journal += sideways->isVisible() ? "(sideways)" : "(upright)";
         for (const QString& entry : entries) {
-            auto* part = dialog->findChild<QWidget*>(entry.section(u'=', 0, 0));
+            auto* part = dialog->findChild<QWidget*>(entry.section(QRegularExpression("[=?]"), 0, 0));
             if (entry == "delete")
                 delete preview_;
-            else if (entry == "offer")
-                journal += offered(*dialog);
+            else if (part && entry.endsWith(u'?'))
+                journal += QStringList{entry,
+                    part->isHidden()        ? "hidden"
+                        : part->isEnabled() ? ""
+                                            : "grey",
+                    part->metaObject()->userProperty().read(part).toString(), part->property("maximum").toString()}
+                               .join(' ')
+                               .simplified();
             else if (entry == "shut")
                 preview_->close();
             else if (entry == "hang" || entry == "slow")
-                hang(entry);
+                printer::hang(entry == "hang" ? printer::User::GivesUp : printer::User::Waits);
             else if (entry.startsWith("late:"))
                 this->part<QPushButton>(entry.mid(5))->click();
             else if (part && entry.contains(u'='))
@@ -164,20 +167,6 @@ protected:
                     : bar.value() == 0            ? ", top"
                     : bar.value() < bar.maximum() ? ""
                                                   : ", end");
-    }
-
-    /// What a print dialogue offers of the pages.
-    static QString offered(const QWidget& dialog)
-    {
-        QStringList told;
-        for (const char* name :
-            {"printAll", "printSelection", "printRange", "printCurrentPage", "pagesRadioButton", "from", "to"})
-            if (const auto* each = dialog.findChild<QWidget*>(name); !each->isHidden())
-                told += QStringList{name, each->metaObject()->userProperty().read(each).toString(),
-                    each->property("maximum").toString(), each->isEnabled() ? "" : "grey"}
-                            .join(' ')
-                            .simplified();
-        return '(' + told.join(", ") + ')';
     }
 
     /// The page with its number, the part that has the focus, the buttons that are off, the choices, and what the
