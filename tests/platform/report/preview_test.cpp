@@ -116,10 +116,7 @@ protected:
             if (entry == "delete")
                 delete preview_;
             else if (part && entry.endsWith(u'?'))
-                journal += QStringList{entry,
-                    part->isHidden()        ? "hidden"
-                        : part->isEnabled() ? ""
-                                            : "grey",
+                journal += QStringList{entry, part->isHidden() ? "hidden" : "", part->isEnabled() ? "" : "grey",
                     part->metaObject()->userProperty().read(part).toString(), part->property("maximum").toString()}
                                .join(' ')
                                .simplified();
