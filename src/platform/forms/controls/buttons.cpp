@@ -62,12 +62,6 @@ void CommandButton::setIcon(const QIcon& icon)
     button()->setIcon(icon);
 }
 
-void CommandButton::setBackColour(const QColor& colour)
-{
-    Button::setBackColour(colour);
-    button()->update();
-}
-
 void CommandButton::setDefault(bool isDefault)
 {
     if (isDefault == this->isDefault())

@@ -48,8 +48,6 @@ public:
     void setIcon(const QString& resource);
     void setIcon(const QIcon& icon);
 
-    void setBackColour(const QColor& colour) override;
-
     /// The default button answers Enter wherever the focus is, except in a box of several lines or on another button. A
     /// form has one at most: making this one the default takes it from any other.
     void setDefault(bool isDefault);

@@ -154,14 +154,12 @@ protected:
 private:
     void makeEditable()
     {
-        setEditable(true);
         entry_ = new ComboLine(this, box_);
         setLineEdit(entry_);
         setCompleter(nullptr);
         entry_->setContextMenuPolicy(Qt::DefaultContextMenu);
         // The toolkit would take a text that an item has for a pick of it.
         QObject::disconnect(entry_, &QLineEdit::editingFinished, this, nullptr);
-        QObject::disconnect(entry_, &QLineEdit::returnPressed, this, nullptr);
     }
 
     void showBeginning()
@@ -391,20 +389,6 @@ bool ComboBox::isLocked() const
 }
 
 // ---- looks
-
-void ComboBox::setBackColour(const QColor& colour)
-{
-    TextEntry::setBackColour(colour);
-    if (!combo_->entry())
-        return;
-    QPalette palette;
-    if (colour.isValid()) {
-        palette = combo_->entry()->palette();
-        palette.setColor(QPalette::Base, colour);
-    }
-    const ToolkitCall call;
-    combo_->entry()->setPalette(palette);
-}
 
 void ComboBox::setWidthInCharacters(int characters, int least)
 {

@@ -46,8 +46,6 @@ public:
     void setLocked(bool locked) override;
     bool isLocked() const override;
 
-    void setBackColour(const QColor& colour) override;
-
     /// Makes the box wide enough for so many average characters; `least` as for a box of text.
     void setWidthInCharacters(int characters, int least = 0);
 

@@ -188,7 +188,6 @@ QString Entry::cleaned(const QString& text) const
     ends.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
     ends.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
     QString clean;
-    clean.reserve(ends.size());
     for (const uint character : ends.toUcs4()) {
         const bool isLineEnd = character == '\n' && lines_ == Lines::Several;
         if (isLineEnd || isTextCharacter(static_cast<int>(character)))

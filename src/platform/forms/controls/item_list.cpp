@@ -72,8 +72,8 @@ void OpenList::fitItems(int desktop)
             longest = row;
         longestAdvance = std::max(advance, longestAdvance);
     }
-    const int beside = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-    setMinimumWidth(std::min({widthOf(model()->index(longest, 0)) + beside, look::fieldWidth(longestLine), desktop}));
+    const int bar = verticalScrollBar()->sizeHint().width();
+    setMinimumWidth(std::min({widthOf(model()->index(longest, 0)) + bar, look::fieldWidth(longestLine), desktop}));
 }
 
 bool OpenList::viewportEvent(QEvent* event)

@@ -87,7 +87,7 @@ public:
     int tabIndex() const { return tabIndex_; }
 
     /// The background; an invalid colour gives the control's normal one back.
-    virtual void setBackColour(const QColor& colour);
+    void setBackColour(const QColor& colour);
     QColor backColour() const { return backColour_; }
 
     /// The colour of what is written in the control; an invalid one gives the normal one back.
