@@ -94,6 +94,10 @@ QStringList traitsOf(const QWidget& widget, const QWidget& usual)
         traits += "keeps its place";
     if (qobject_cast<const QTableView*>(&widget) && !widget.testAttribute(Qt::WA_InputMethodEnabled))
         traits += "no input method";
+    if (widget.isWindow() && widget.windowRole() != widget.objectName())
+        traits += "role=" + widget.windowRole();
+    if (const auto* header = qobject_cast<const QHeaderView*>(&widget); header && header->count() > 0)
+        traits += "columns=" + QVariant::fromValue(header->sectionResizeMode(0)).toString();
     if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->buddy())
         traits += "names >" + label->buddy()->objectName();
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget); button && !button->icon().isNull())

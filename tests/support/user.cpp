@@ -182,19 +182,20 @@ QStringList rightClick(forms::Control& control, const QString& command)
     return offered;
 }
 
-bool drop(forms::Control& control, const QString& text)
+bool drop(forms::Control& control, const QString& text, Qt::DropActions offered)
 {
     const Spot spot = spotOf(control, control.widget()->rect().center());
-    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
     QMimeData data;
     data.setText(text);
     QDragEnterEvent enter(spot.position, offered, &data, Qt::LeftButton, {});
     QDragMoveEvent move(spot.position, offered, &data, Qt::LeftButton, {});
     QDropEvent end(spot.position, offered, &data, Qt::LeftButton, {});
-    bool copies = true;
+    bool goesOn = true, copies = true;
     for (QDropEvent* event : std::initializer_list<QDropEvent*>{&enter, &move, &end}) {
-        QCoreApplication::sendEvent(spot.window, event);
-        copies = copies && event->isAccepted() && event->dropAction() == Qt::CopyAction;
+        if (goesOn)
+            QCoreApplication::sendEvent(spot.window, event);
+        goesOn = goesOn && event->isAccepted();
+        copies = copies && goesOn && event->dropAction() == Qt::CopyAction;
     }
     settle();
     return copies;

@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QTableView>
 
 #include <cstdio>
 
@@ -59,6 +60,25 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
         form.ok.Click = [] {}, "Form.ok_Click has a handler already");
 }
 
+// The words below each other beside the picture, in lines that an eye can follow, and whole.
+void expectInOrder(const QWidget& box)
+{
+    QPoint corner;
+    for (const QLabel* words : box.findChildren<QLabel*>()) {
+        EXPECT_TRUE(box.rect().contains(words->geometry()));
+        if (words->text().isEmpty()) {
+            EXPECT_EQ(words->pixmap().size(), words->contentsRect().size());
+            corner = QPoint(words->geometry().right(), 0);
+            continue;
+        }
+        EXPECT_GT(words->x(), corner.x());
+        EXPECT_GT(words->y(), corner.y());
+        EXPECT_GE(words->height(), words->heightForWidth(words->width()));
+        EXPECT_NEAR(words->width(), box.fontMetrics().averageCharWidth() * 60, 9);
+        corner.setY(words->geometry().bottom());
+    }
+}
+
 TEST_F(Failures, AreToldInTheWordsOfTheScreen)
 {
     using Kind = values::FailureKind;
@@ -74,7 +94,8 @@ TEST_F(Failures, AreToldInTheWordsOfTheScreen)
     for (const auto& [handler, kind] : reports) {
         whileModal([&] {
             QWidget& box = *QApplication::activeModalWidget();
-            QStringList parts;
+            expectInOrder(box);
+            QStringList parts{box.windowRole()};
             for (const QLabel* words : box.findChildren<QLabel*>())
                 parts += words->text() + words->accessibleName();
             for (const auto* button : box.findChildren<QPushButton*>())
@@ -87,7 +108,7 @@ TEST_F(Failures, AreToldInTheWordsOfTheScreen)
     expectKept("platform/forms/failures.txt", told);
 }
 
-TEST_F(FormInFront, AssistiveToolsAreToldOfATextWhereTheFocusIs)
+TEST_F(FormInFront, AssistiveToolsAreToldOfATextWhereTheFocusIsAndOfADayInTheCellOfTheLast)
 {
     QStringList told;
     const auto tell = [&told] {
@@ -100,7 +121,17 @@ TEST_F(FormInFront, AssistiveToolsAreToldOfATextWhereTheFocusIs)
         form.memo.setText(text);
         form.memo.setFocus();
     }
-    EXPECT_EQ(told.join(' '), "silent told");
+    const QItemSelectionModel* days = form.month.widget()->findChild<QTableView*>()->selectionModel();
+    QObject::connect(days, &QItemSelectionModel::currentChanged, [&told](const QModelIndex& day) {
+        if (day.isValid())
+            told += "day";
+    });
+    for (const int month : {2, 3}) // of 2007, in which February is four whole weeks
+        form.month.setValue(values::Date::fromDayMonthYear(28, month, 2007));
+    for (const int column : {0, 6})
+        for (const int role : {Qt::DisplayRole, Qt::AccessibleTextRole})
+            told += days->model()->headerData(column, Qt::Horizontal, role).toString();
+    EXPECT_EQ(told.join(' '), "silent told day day Sun Sunday Sat Saturday");
 }
 
 TEST_F(Failures, ThereAreNoneWhereAScreenIsClosedWhileItsHandlerAsks)

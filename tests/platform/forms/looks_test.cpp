@@ -2,6 +2,7 @@
 #include "trial_form.h"
 
 #include "platform/forms/looks/apply_look.h"
+#include "platform/forms/looks/style_painting.h"
 #include "platform/forms/screens/painting.h"
 #include "support/files.h"
 #include "support/traits.h"
@@ -88,7 +89,8 @@ void expectWholeText(const QLabel& words, const QString& text)
     const QRect inNarrower = metrics.boundingRect(narrower, Qt::TextWordWrap, text);
     EXPECT_TRUE(inNarrower.height() > needed.height() || inNarrower.width() > narrower.width())
         << "a last line is shorter than it has to be: " << text.toStdString();
-    EXPECT_TRUE(words.window()->rect().contains(words.geometry())) << text.toStdString();
+    EXPECT_TRUE(words.rect().contains(place) && words.window()->rect().contains(words.geometry()))
+        << text.toStdString();
 }
 
 TEST_F(Looks, AMessageBoxShowsItsWholeTextInTheMiddleOfItsScreenAtEveryTypeSize)
@@ -114,7 +116,7 @@ TEST_F(Looks, AMessageBoxShowsItsWholeTextInTheMiddleOfItsScreenAtEveryTypeSize)
                 EXPECT_LE(box.width(), box.screen()->availableGeometry().width());
                 EXPECT_LE((box.geometry().center() - form.window()->geometry().center()).manhattanLength(), 2);
                 const auto& sign = *box.findChild<QLabel*>("qt_msgboxex_icon_label");
-                EXPECT_EQ(sign.accessibleName() + box.windowTitle(), name + "Title");
+                EXPECT_EQ(sign.accessibleName() + box.windowTitle() + box.windowRole(), name + "TitleMsgBox");
                 const QImage disc = sign.pixmap().toImage();
                 EXPECT_EQ(disc.pixelColor(disc.width() / 2, 3), colour);
                 EXPECT_NE(disc.createMaskFromColor(the.field.rgba()), disc.createMaskFromColor(absent)) << "no mark";
@@ -155,6 +157,8 @@ TEST_F(Looks, APictureIsReadInTheDensityInWhichItIsShown)
     QPainter painter(&painted);
     icon.paint(&painter, QRect(0, 0, 30, 15));
     EXPECT_EQ(painted.pixelColor(30, 15), QColor(Qt::blue));
+    const QPixmap sign = look::paint::sign(QStyle::SP_MessageBoxWarning, 32, 2);
+    EXPECT_EQ(sign.deviceIndependentSize() * 2, sign.size());
 }
 
 // ---- sizes
@@ -221,6 +225,7 @@ TEST_F(Looks, AScreenLargerThanTheDesktopShrinksItsPicturesThenItsGapsThenScroll
                            .arg(hidden.height() > 0)
                            .arg(bars.width())
                            .arg(bars.height());
+        EXPECT_FALSE(large.picture.isVisible()) << "no ornament, since it can be clicked, and so left alone";
         large.hide();
         memo.setFixedHeight(100);
         large.show();
@@ -295,7 +300,8 @@ TEST_F(Looks, ColoursAreAsKept)
     }
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         for (const auto role : {QPalette::Text, QPalette::Base, QPalette::HighlightedText, QPalette::Highlight,
-                 QPalette::ToolTipText, QPalette::ToolTipBase, QPalette::WindowText, QPalette::ButtonText})
+                 QPalette::ToolTipText, QPalette::ToolTipBase, QPalette::WindowText, QPalette::ButtonText,
+                 QPalette::PlaceholderText, QPalette::Window, QPalette::AlternateBase, QPalette::Mid})
             all += ' ' + QApplication::palette().color(group, role).name();
         all += '\n';
     }
@@ -386,6 +392,13 @@ TEST_F(Looks, TextsStandWhereTheyBelong)
     settle();
     form.ok.setFocus();
     form.line.setText("III");
+    form.memo.setText("III");
+    form.combo.setText("III");
+    form.choice.addItem("III");
+    form.choice.setText("III");
+    const auto left = [](const forms::Control& box) { return inkOf(picture(box).copy(5, 5, 50, 15)).left(); };
+    for (const forms::Control* box : std::initializer_list<forms::Control*>{&form.memo, &form.combo, &form.choice})
+        EXPECT_NEAR(left(*box), left(form.line), 1) << box->name().toStdString();
     for (const auto alignment : {forms::Alignment::Left, forms::Alignment::Centre, forms::Alignment::Right}) {
         form.line.setAlignment(alignment);
         const QImage inside = picture(form.line).copy(5, 5, form.line.widget()->width() - 10, 15);
@@ -405,8 +418,10 @@ TEST_F(Looks, TextsStandWhereTheyBelong)
     const std::tuple<forms::TextRole, QString, QString> amounts[] = {{forms::TextRole::Heading, "($5.00)", ")"},
         {forms::TextRole::Body, "($5.00)", ")"}, {forms::TextRole::Body, "$1,234.56", ""},
         {forms::TextRole::Heading, "8", ""}};
+    form.label.setCaption("8");
     form.label.alignAmounts();
     const QWidget& label = *form.label.widget();
+    EXPECT_EQ(label.contentsMargins().right(), room) << "of the caption that it has already";
     for (const auto& [role, amount, overhanging] : amounts) {
         form.label.setRole(role);
         form.label.setCaption(amount);

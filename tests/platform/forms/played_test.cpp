@@ -2,6 +2,7 @@
 #include "trial_form.h"
 
 #include "platform/forms/boxes/file_choice.h"
+#include "platform/forms/looks/light_style.h"
 #include "platform/forms/runtime/boundary.h"
 #include "platform/values/failure.h"
 #include "support/files.h"
@@ -16,6 +17,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QListView>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -256,6 +258,16 @@ private:
         QCoreApplication::sendEvent(&widget, &release);
     }
 
+    // Moves the mouse there, and holds it down until it is lifted.
+    void hover(Words words, bool presses = false)
+    {
+        QWidget& widget = *of(words).widget();
+        const QPoint at = widget.mapTo(widget.window(), place(words));
+        QTest::mouseMove(widget.window()->windowHandle(), at);
+        if (presses)
+            QTest::mousePress(widget.window()->windowHandle(), Qt::LeftButton, {}, at);
+    }
+
     void rightPress(Words words)
     {
         const QStringList offered = rightClick(of(words), text(words));
@@ -328,6 +340,8 @@ private:
                  .arg(dialog.nameFilters().join(',')));
         if (dialog.testOption(QFileDialog::ShowDirsOnly))
             note("folders alone");
+        if (dialog.width() == dialog.screen()->availableSize().width())
+            note("as wide as the desktop");
     }
 
     void ask()
@@ -364,6 +378,20 @@ private:
                 note(name);
     }
 
+    // Whether an arrow in a part of a control points up or down: at its tip it is narrow.
+    void followArrow(Words words)
+    {
+        const QImage part = of(words).widget()->grab({place(words), place(words, 3)}).toImage();
+        QRegion ink;
+        for (int dot = 0; dot < part.width() * part.height(); ++dot)
+            if (const QPoint at(dot % part.width(), dot / part.width()); qGray(part.pixel(at)) < 200)
+                ink += QRect(at, QSize(1, 1));
+        const QRect all = ink.boundingRect();
+        const auto widthAt = [&](int y) { return (ink & QRect(0, y, part.width(), 1)).boundingRect().width(); };
+        const int narrows = widthAt(all.top()) - widthAt(all.bottom());
+        note(narrows > 1 ? "down" : narrows < -1 ? "up" : "nowhere");
+    }
+
     // So that a number has a whole pixel of its colour.
     void enlargeDays()
     {
@@ -389,6 +417,8 @@ private:
         note(front ? front->name() : "nothing");
         if (front && !front->window()->isActiveWindow())
             note("behind");
+        if (front && front->window()->windowHandle()->transientParent())
+            note("over " + front->window()->windowHandle()->transientParent()->objectName());
         if (front && front->activeControl())
             note(front->activeControl()->name());
     }
@@ -400,7 +430,10 @@ private:
         text.insert(end, end > box.selectionStart() ? "]" : "|");
         text.insert(box.selectionStart(), end > box.selectionStart() ? "[" : "");
         const QString shown = text.size() < 99 ? text : QString("%1 characters").arg(text.size() - 1);
-        return '"' + shown + '"' + (box.toolTip().isEmpty() ? QString() : " tip " + box.toolTip());
+        const auto* memo = qobject_cast<const QPlainTextEdit*>(box.widget());
+        const bool isSeen = !memo || memo->viewport()->rect().contains(memo->cursorRect().center());
+        return '"' + shown + '"' + (box.toolTip().isEmpty() ? QString() : " tip " + box.toolTip())
+            + (isSeen ? "" : " elsewhere");
     }
 
     static QString stateOf(const QLabel& label)
@@ -443,8 +476,10 @@ private:
         if (!month.widget()->isAncestorOf(stop))
             return days.accessibleName();
         auto& spoken = *QAccessible::queryAccessibleInterface(stop);
-        if (stop != &days)
+        if (stop != &days) {
+            EXPECT_EQ(stop->toolTip(), spoken.text(QAccessible::Name));
             return spoken.text(QAccessible::Name) + ", " + spoken.text(QAccessible::Description);
+        }
         const QModelIndex day = days.currentIndex();
         auto* cell = day.isValid() ? spoken.tableInterface()->cellAt(day.row(), day.column()) : nullptr;
         return days.accessibleName() + (cell ? ": " + cell->text(QAccessible::Name) : QString());
@@ -538,6 +573,7 @@ private:
         // by mouse
         {"click", [this](Words w) { clickAt(of(w), place(w)); }}, {"again", [](Words) { clickAgain(); }},
         {"tremble", [this](Words w) { drag(of(w), QPoint(9, 16), QPoint(12, 16)); }},
+        {"over", [this](Words w) { hover(w); }}, {"grip", [this](Words w) { hover(w, true); }},
         {"drag", [this](Words w) { drag(of(w), place(w), place(w, 3)); }},
         {"right", [this](Words w) { rightPress(w); }}, {"arrow", [this](Words w) { clickArrow(combo(w)); }},
         {"pick", [this](Words w) { pick(combo(w), text(w)); }}, {"wheel", [this](Words w) { turnWheel(w); }},
@@ -548,6 +584,7 @@ private:
         {"lift", [this](Words w) { lift(w); }}, {"pressHelp", [this](Words) { pressHelp(); }},
         // in other ways
         {"drop", [this](Words w) { note(drop(of(w), text(w)) ? "(taken)" : "(not taken)"); }},
+        {"shift", [this](Words w) { drop(of(w), text(w), Qt::MoveAction); }},
         {"commit", [](Words w) { commit(text(w, 0)); }},
         {"assist", [this](Words w) { setByAssistant(of(w), text(w)); }},
         {"copied", [this](Words w) { copy(text(w, 0)); }},
@@ -624,6 +661,9 @@ private:
         {"where", [this](Words w) { note(QDebug::toString(screen(w[0]).window()->geometry())); }},
         {"parent", [this](Words) { note(nameOf(*QApplication::activeModalWidget()->parentWidget())); }},
         {"name", [this](Words) { note(nameOf(*screen("Form").window())); }}, {"seen", [this](Words w) { lookAt(w); }},
+        {"points", [this](Words w) { followArrow(w); }},
+        {"done", [this](Words w) { note(of(w).widget()->property("value").toString()); }},
+        {"card", [this](Words w) { of(w).widget()->setProperty(forms::look::choiceProperty, true); }},
         {"large", [this](Words) { enlargeDays(); }},
         {"see", [this](Words w) { note(of(w).widget()->grab().toImage().pixelColor(place(w)).name()); }},
         {"then", [](Words) {}}, // a box or a modal screen is gone
