@@ -182,20 +182,19 @@ QStringList rightClick(forms::Control& control, const QString& command)
     return offered;
 }
 
-bool drop(forms::Control& control, const QString& text, Qt::DropActions offered)
+bool drop(forms::Control& control, const QString& text)
 {
     const Spot spot = spotOf(control, control.widget()->rect().center());
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
     QMimeData data;
     data.setText(text);
     QDragEnterEvent enter(spot.position, offered, &data, Qt::LeftButton, {});
     QDragMoveEvent move(spot.position, offered, &data, Qt::LeftButton, {});
     QDropEvent end(spot.position, offered, &data, Qt::LeftButton, {});
-    bool goesOn = true, copies = true;
+    bool copies = true;
     for (QDropEvent* event : std::initializer_list<QDropEvent*>{&enter, &move, &end}) {
-        if (goesOn)
-            QCoreApplication::sendEvent(spot.window, event);
-        goesOn = goesOn && event->isAccepted();
-        copies = copies && goesOn && event->dropAction() == Qt::CopyAction;
+        QCoreApplication::sendEvent(spot.window, event);
+        copies = copies && event->isAccepted() && event->dropAction() == Qt::CopyAction;
     }
     settle();
     return copies;

@@ -69,7 +69,7 @@ void accessKey(char letter);
 void paste(const QString& text);
 
 /// Drags a text in from a program that would rather move it; true when the answer is a copy all along.
-bool drop(forms::Control& control, const QString& text, Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction);
+bool drop(forms::Control& control, const QString& text);
 
 /// Commits a text composed with an input method.
 void commit(const QString& text);

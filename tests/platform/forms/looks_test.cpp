@@ -354,6 +354,8 @@ TEST_F(Looks, BoxesAndListsHaveRoomForWhatTheyAreMadeFor)
     EXPECT_EQ(memo.viewport()->height() / memo.fontMetrics().lineSpacing(), 3);
     EXPECT_EQ(form.line.widget()->width(), form.combo.widget()->width());
     EXPECT_EQ(form.line.widget()->width(), form.memo.widget()->width());
+    form.records.setRows(5, 2);
+    EXPECT_EQ(tree.sizeHint().height(), tree.maximumHeight());
 }
 
 TEST_F(Looks, LongNamesAreToldApartInTheList)
@@ -391,14 +393,13 @@ TEST_F(Looks, TextsStandWhereTheyBelong)
 {
     settle();
     form.ok.setFocus();
-    form.line.setText("III");
-    form.memo.setText("III");
-    form.combo.setText("III");
     form.choice.addItem("III");
-    form.choice.setText("III");
     const auto left = [](const forms::Control& box) { return inkOf(picture(box).copy(5, 5, 50, 15)).left(); };
-    for (const forms::Control* box : std::initializer_list<forms::Control*>{&form.memo, &form.combo, &form.choice})
+    for (forms::TextEntry* box :
+        std::initializer_list<forms::TextEntry*>{&form.line, &form.memo, &form.combo, &form.choice}) {
+        box->setText("III");
         EXPECT_NEAR(left(*box), left(form.line), 1) << box->name().toStdString();
+    }
     for (const auto alignment : {forms::Alignment::Left, forms::Alignment::Centre, forms::Alignment::Right}) {
         form.line.setAlignment(alignment);
         const QImage inside = picture(form.line).copy(5, 5, form.line.widget()->width() - 10, 15);

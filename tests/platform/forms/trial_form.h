@@ -95,11 +95,8 @@ protected:
     FormInFront()
     {
         form.show();
-        taken();
+        journal.clear();
     }
-
-    /// What has happened since the last question, in order: "line.LostFocus ok.Click".
-    QString taken() { return std::exchange(journal, {}).join(' '); }
 
     /// One of the screens that the program has made, as `screen` makes them.
     TrialForm& madeScreen()
