@@ -110,10 +110,8 @@ OptionButton::OptionButton(Form& form, const QString& name)
 {
     auto* radio = new ButtonWidget<QRadioButton>(form.canvas(), *this);
     adopt(radio);
-    QObject::connect(radio, &QAbstractButton::toggled, radio, [this](bool chosen) {
-        if (!chosen)
-            chosen_ = false; // another of the group has been chosen
-    });
+    // A click that turns it on comes behind that.
+    QObject::connect(radio, &QAbstractButton::toggled, radio, [this] { chosen_ = false; });
     QObject::connect(radio, &QAbstractButton::clicked, radio, [this] {
         if (insideToolkitCall() || std::exchange(chosen_, true))
             return;
