@@ -11,7 +11,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
+#include <QListWidget>
 #include <QMetaProperty>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -19,7 +19,10 @@
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QSplitter>
+#include <QStackedWidget>
 #include <QTableView>
+#include <QTextBrowser>
 #include <QTreeWidget>
 
 #include <cmath>
@@ -47,7 +50,7 @@ bool isLeftOut(const QMetaProperty& property, const QWidget& widget)
         "|^(x|y|enabled|visible|title|toolTip|objectName|windowTitle|caption|default|value|maximum|count|readOnly|focus"
         "|isActiveWindow|mouseTracking|autoFillBackground|acceptDrops|defaultAlignment|highlightSections|"
         "sectionsClickable|frameShadow"
-        "|accessibleDescription)$",
+        "|accessibleDescription|html|markdown|documentTitle|modified)$",
         QRegularExpression::CaseInsensitiveOption);
     return names.match(property.name()).hasMatch()
         || (qobject_cast<const QRadioButton*>(&widget) && property.name() == QLatin1String("focusPolicy"));
@@ -132,31 +135,37 @@ Traits::Traits()
     add(new QCheckBox), add(new QComboBox), add(new QFrame), add(new QGroupBox), add(new QLabel);
     add(new QHeaderView(Qt::Horizontal)), add(new QLineEdit), add(new QListView), add(new QPlainTextEdit);
     add(new QProgressBar), add(new QPushButton), add(new QRadioButton), add(new QScrollArea);
-    add(new QTableView), add(new QTreeWidget), add(new QWidget);
+    add(new QTableView), add(new QTreeWidget), add(new QWidget), add(new QListWidget), add(new QSplitter);
+    add(new QStackedWidget), add(new QTextBrowser);
 }
 
 Traits::~Traits() = default;
 
 void Traits::add(const forms::Form& form)
 {
-    QWidgetList all = form.window()->findChildren<QWidget*>();
-    all.prepend(form.window());
+    add(*form.window(), form.name());
+}
+
+void Traits::add(const QWidget& window, const QString& name)
+{
+    QList<const QWidget*> all = window.findChildren<const QWidget*>();
+    all.prepend(&window);
     for (const QWidget* widget : all) {
         const QString own = widget->metaObject()->className();
         const auto usual = usual_.find(own);
         if (usual == usual_.end())
             continue; // a part that the toolkit makes for itself alone
         const QWidget* owner = widget;
-        while (owner->objectName().isEmpty() || owner->objectName().startsWith("qt_"))
+        while (owner->parentWidget() && (owner->objectName().isEmpty() || owner->objectName().startsWith("qt_")))
             owner = owner->parentWidget();
         const QString kind = owner == widget ? own : owner->metaObject()->className() + QString("/") + own;
-        const QString name = owner->objectName(), row = QString::number(name.section('(', 1).remove(')').toInt() + 1);
+        const QString part = owner->objectName(), row = QString::number(part.section('(', 1).remove(')').toInt() + 1);
         ++widgets_[kind];
         for (QString trait : traitsOf(*widget, *usual->second)) {
             trait.replace("row " + row, "row #");
             const qsizetype aim = trait.indexOf(" >");
             ++having_[kind + ' ' + trait.left(aim)];
-            owners_[kind + ' ' + trait.left(aim)][form.name()] += name + (aim < 0 ? QString() : trait.mid(aim + 1));
+            owners_[kind + ' ' + trait.left(aim)][name] += part + (aim < 0 ? QString() : trait.mid(aim + 1));
         }
     }
 }

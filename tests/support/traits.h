@@ -19,6 +19,7 @@ public:
 
     /// Of a screen as it is now, once.
     void add(const forms::Form& form);
+    void add(const QWidget& window, const QString& name);
 
     QString told() const;
 
