@@ -88,6 +88,7 @@ TEST(Termination, RunsTheCallbackOnceFromTheEventLoopAndSparesIgnoredSignals)
     EXPECT_EQ(calls, 1);
     sys::onTermination({});
     EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);
+    EXPECT_EQ(std::signal(SIGTERM, SIG_DFL), SIG_DFL) << "as it was before";
 }
 
 TEST(Folders, OfTheUsersDataDontDependOnWhereTheProgramIsStarted)
