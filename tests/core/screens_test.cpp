@@ -71,7 +71,7 @@ protected:
         }
         screens_ += heading;
         screens_ += gathered(controls);
-        traits_.add(form);
+        traits_.add(*form.window(), form.name());
     }
 
     /// What F1 opens.

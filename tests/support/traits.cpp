@@ -141,11 +141,6 @@ Traits::Traits()
 
 Traits::~Traits() = default;
 
-void Traits::add(const forms::Form& form)
-{
-    add(*form.window(), form.name());
-}
-
 void Traits::add(const QWidget& window, const QString& name)
 {
     QList<const QWidget*> all = window.findChildren<const QWidget*>();

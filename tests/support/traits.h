@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/forms/forms.h"
-
 #include <QMap>
 #include <QStringList>
+#include <QWidget>
 
 #include <map>
 #include <memory>
@@ -17,8 +16,7 @@ public:
     Traits();
     ~Traits();
 
-    /// Of a screen as it is now, once.
-    void add(const forms::Form& form);
+    /// Of a window as it is now, once.
     void add(const QWidget& window, const QString& name);
 
     QString told() const;

@@ -69,8 +69,8 @@ TEST_F(Looks, WidgetsAreMadeAsKept)
     withoutDay.setMonth(2);
     withoutDay.setYear(2007);
     Traits traits;
-    traits.add(form);
-    traits.add(bare);
+    traits.add(*form.window(), form.name());
+    traits.add(*bare.window(), bare.name());
     expectKept("platform/forms/traits.txt", traits.told());
 }
 
