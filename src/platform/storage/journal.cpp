@@ -70,7 +70,7 @@ QString fileWithJournal(const QString& path)
 bool isCopied(const QString& from, const QString& to)
 {
     std::error_code failure;
-    return std::filesystem::copy_file(pathOf(from), pathOf(to), failure) && !failure;
+    return std::filesystem::copy_file(pathOf(from), pathOf(to), failure);
 }
 
 } // namespace
