@@ -330,7 +330,7 @@ TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
     const auto& found = part<QListWidget>("found");
     EXPECT_EQ(found.visualItemRect(found.item(0)).height(), found.sizeHintForRow(0)) << "the hits overlap";
     const double narrow = widthOfPicture();
-    EXPECT_NEAR(narrow, text().viewport()->width() - 2 * text().document()->documentMargin(), 4);
+    EXPECT_NEAR(narrow, text().viewport()->width() - 4 * forms::look::grid(1), 4);
     EXPECT_FALSE(text().toHtml().contains("width=\"9\"")) << "a size of the page's";
     const QSize small = viewer_->size();
     const double whole = 320 / 2 * forms::look::pictureScale();

@@ -42,6 +42,7 @@ public:
         const std::map<QString, std::function<void()>> steps{
             {"keep", [this] { sys::Folder(place.path()).keep(sys::Folder(at("old")), "a", "kept"); }},
             {"copy", [this] { sys::Folder(at("new")).copy(sys::Folder(at("old")), "a", "a"); }},
+            {"make", [this] { sys::Folder::made(at("far/below/old")); }},
             {"enter", [this] { sys::Folder(place.path()).madeEntered("linked"); }},
             {"exchange", [this] { sys::Folder(place.path()).exchange("new", "old"); }},
             {"into", [&] { sys::copyFolder(at("new"), QDir(place.path()).filePath(step.section(':', 1))); }},

@@ -166,7 +166,7 @@ TEST(Csv, ReadsBackBitForBitWhatIsWritten)
     for (const std::size_t piece : {1, 2, 1000})
         EXPECT_EQ(rowsIn(text, piece), rows);
     EXPECT_EQ(rowsIn("\xEF\xBB\xBF\"d\"", 9), (Rows{{"d"}}));
-    for (const auto& [before, number] : {std::pair("a\n", 2), {"a\r\n", 2}, {"a\r", 2}, {"a\n\n", 3}})
+    for (const auto& [before, number] : {std::pair("a\n", 2), {"a\r\n", 2}, {"a\r", 2}, {"a\n\n", 3}, {"\"\n\"\n", 3}})
         EXPECT_THAT([&] { rowsIn(before + std::string("\"b\n"), 9); },
             testing::ThrowsMessage<RuntimeFailure>(testing::HasSubstr("line " + std::to_string(number) + ": a quo")));
 }
