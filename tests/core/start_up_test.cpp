@@ -70,7 +70,9 @@ TEST_F(StartUp, OpensEachViewOnItsFirstRowAndShowsTheMainMenu)
     EXPECT_EQ(scene(), "20 frmBW_Splash");
     screen<frmBW_Splash>().tmrLoad.elapse();
     EXPECT_EQ(line(scene(), screen<frmBW_Splash>().tmrLoad.isEnabled()), "2 frmMain: cmdIn, false");
-    EXPECT_EQ(reportTitles().AssetReport, "Asset Report - Kestrill by Brindlewick Software");
+    const auto& [report, cover, form] = reportTitles();
+    EXPECT_EQ(line(report, cover, form).remove(" - Kestrill by Brindlewick Software"),
+        "Asset Report, Cover Sheet, Asset Information Form");
     for (const storage::TableView* view : {&Data1.rsGeneral, &Data1.rsIndoor, &Data1.rsOutdoor, &Data1.rsMobile})
         EXPECT_FALSE(view->atBOF() || view->atEOF());
 }

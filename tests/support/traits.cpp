@@ -165,13 +165,13 @@ void Traits::add(const QWidget& window, const QString& name)
     }
 }
 
-QString Traits::told() const
+QString Traits::told()
 {
     QString all;
     for (auto trait = owners_.begin(); trait != owners_.end(); ++trait) {
         QStringList forms;
         for (auto form = trait->begin(); form != trait->end(); ++form)
-            forms += form.key() + ' ' + together(form.value());
+            form->removeDuplicates(), forms += form.key() + ' ' + together(*form);
         const bool isOfAll = having_[trait.key()] == widgets_[trait.key().section(' ', 0, 0)];
         all += trait.key() + (isOfAll ? QString() : ": " + forms.join("; ")) + '\n';
     }

@@ -16,10 +16,10 @@ public:
     Traits();
     ~Traits();
 
-    /// Of a window as it is now, once.
+    /// Of a window as it is now; what it has more at another time is added.
     void add(const QWidget& window, const QString& name);
 
-    QString told() const;
+    QString told();
 
 private:
     std::map<QString, std::unique_ptr<QWidget>> usual_; // as the toolkit makes them, by their kind
