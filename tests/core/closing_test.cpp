@@ -46,6 +46,7 @@ TEST_F(Closing, OverwritesTheLastBackupLeavesWhatIsNotItsOwnAndEndsWithTheGoodby
     putFile(backupFile(), "an older copy");
     putFile(places::backupFolder() + "/letter.txt", "not ours");
     putFile(file() + "-foreign-journal", "put aside");
+    putFile(file() + places::RestoringSuffix + '1', "of a restore that was killed");
     putFile(places::databaseFolder() + "/notes.txt", "beside it");
     closeProgram();
     EXPECT_EQ(bytesOf(backupFile()), bytesOf(file()));

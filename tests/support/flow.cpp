@@ -12,6 +12,8 @@
 #include <QRegularExpression>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace {
 
 forms::Control& named(const QString& name)
@@ -318,7 +320,10 @@ QStringList ScreenTest::seenOn(const QString& way, Walk& walk)
     walk.reactions = way.split(" | ");
     const QStringList steps = walk.reactions.takeFirst().split(nextStep);
     if (const qsizetype modal = walk.reactions.indexOf(QRegularExpression("^\\w+ .*")); modal >= 0)
-        whileModal([then = walk.reactions.takeAt(modal), &walk] { walk.look(), act(then); });
+        whileModal([then = walk.reactions.takeAt(modal).split(nextStep), &walk] {
+            walk.look();
+            std::ranges::for_each(then, act);
+        });
     QString meant;
     try {
         for (const QString& step : steps) {
