@@ -119,7 +119,7 @@ protected:
     QStringList tour(forms::Form& form)
     {
         expectToBeSeen(form);
-        traits_.add(form);
+        traits_.add(*form.window(), form.name());
         const bool hasDate = form.name() == "frmBank" && control(form, "txtDate").canTakeFocus(); // opens the calendar
         for (int times = 0; hasDate && times < 2; ++times)
             whileModal([] { press(Qt::Key_Return); });

@@ -47,10 +47,9 @@ bool isLeftOut(const QMetaProperty& property, const QWidget& widget)
 {
     static const QRegularExpression names(
         "(width|height|position|index|text|available|checked|sectionsize)$"
-        "|^(x|y|enabled|visible|title|toolTip|objectName|windowTitle|caption|default|value|maximum|count|readOnly|focus"
+        "|^(x|y|enabled|visible|title|toolTip|objectName|caption|default|value|maximum|count|readOnly|focus"
         "|isActiveWindow|mouseTracking|autoFillBackground|acceptDrops|defaultAlignment|highlightSections|"
-        "sectionsClickable|frameShadow"
-        "|accessibleDescription|html|markdown|documentTitle|modified)$",
+        "sectionsClickable|frameShadow|html|markdown|documentTitle|modified)$",
         QRegularExpression::CaseInsensitiveOption);
     return names.match(property.name()).hasMatch()
         || (qobject_cast<const QRadioButton*>(&widget) && property.name() == QLatin1String("focusPolicy"));
