@@ -4,12 +4,7 @@
 #include "shared/manual.h"
 #include "support/files.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QSet>
-#include <QTextBlock>
-#include <QTextBrowser>
-#include <QTextDocument>
+#include <QtWidgets>
 
 namespace {
 

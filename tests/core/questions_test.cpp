@@ -5,11 +5,8 @@
 #include "tools/frmRestore.h"
 #include "tools/tools_test.h"
 
-#include <QApplication>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
 #include <QTest>
+#include <QtWidgets>
 
 using forms::Answer;
 using forms::screen;

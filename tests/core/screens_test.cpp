@@ -13,9 +13,7 @@
 #include "support/harness.h"
 #include "support/traits.h"
 
-#include <QApplication>
-#include <QMap>
-#include <QPushButton>
+#include <QtWidgets>
 
 #include <algorithm>
 

@@ -8,9 +8,7 @@
 #include "support/painted.h"
 #include "support/pdf_text.h"
 
-#include <QMap>
-#include <QPainter>
-#include <QTemporaryDir>
+#include <QtWidgets>
 
 #include <tuple>
 

@@ -5,12 +5,7 @@
 #include "support/scene.h"
 #include "support/screen_test.h"
 
-#include <QApplication>
-#include <QKeySequence>
-#include <QMap>
-#include <QPointer>
-#include <QRegularExpression>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <algorithm>
 

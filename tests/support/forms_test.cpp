@@ -4,10 +4,7 @@
 #include "platform/forms/runtime/boundary.h"
 #include "shared/theme.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QMessageBox>
-#include <QProgressDialog>
+#include <QtWidgets>
 
 #include <algorithm>
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPaintDevice>
-#include <QPaintEngine>
-#include <QString>
+#include <QtWidgets>
 
 #include <vector>
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QRectF>
-#include <QString>
-#include <QStringList>
+#include <QtWidgets>
 
 #include <vector>
 

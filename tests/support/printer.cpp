@@ -4,10 +4,7 @@
 #include "support/files.h"
 #include "support/print.h"
 
-#include <QApplication>
-#include <QEvent>
-#include <QProgressDialog>
-#include <QTemporaryDir>
+#include <QtWidgets>
 
 #include <cups/cups.h>
 

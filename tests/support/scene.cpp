@@ -5,10 +5,7 @@
 #include "platform/forms/look.h"
 #include "support/user.h"
 
-#include <QApplication>
-#include <QMap>
-#include <QRegularExpression>
-#include <QWidget>
+#include <QtWidgets>
 
 namespace {
 

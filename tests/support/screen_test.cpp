@@ -7,12 +7,8 @@
 #include "shared/conventions.h"
 #include "support/scene.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QRegularExpression>
 #include <QTest>
-#include <QWidget>
+#include <QtWidgets>
 
 ScreenTest::ScreenTest()
 {

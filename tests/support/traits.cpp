@@ -3,27 +3,7 @@
 
 #include "platform/forms/look.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMetaProperty>
-#include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QScrollArea>
-#include <QSplitter>
-#include <QStackedWidget>
-#include <QTableView>
-#include <QTextBrowser>
-#include <QTreeWidget>
+#include <QtWidgets>
 
 #include <cmath>
 

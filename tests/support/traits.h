@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMap>
-#include <QStringList>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <map>
 #include <memory>

@@ -1,22 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/user.h"
 
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QDeadlineTimer>
-#include <QDropEvent>
-#include <QInputMethodEvent>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMimeData>
-#include <QScrollArea>
 #include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
-#include <QWidget>
-#include <QWindow>
+#include <QtWidgets>
 
 #include <stdexcept>
 

@@ -11,12 +11,7 @@
 #include "tools/frmRestore.h"
 #include "tools/terminal.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QCommandLineParser>
-#include <QProcess>
-#include <QProgressDialog>
-#include <QRegularExpression>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <set>

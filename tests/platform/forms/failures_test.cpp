@@ -6,15 +6,7 @@
 #include "support/files.h"
 
 #include <QAbstractItemModelTester>
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTableView>
+#include <QtWidgets>
 
 #include <cstdio>
 

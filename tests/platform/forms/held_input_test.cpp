@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trial_form.h"
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QCompleter>
-#include <QDialog>
-#include <QLineEdit>
-#include <QScrollBar>
 #include <QTest>
-#include <QWindow>
+#include <QtWidgets>
 
 namespace {
 

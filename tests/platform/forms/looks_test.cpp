@@ -7,16 +7,7 @@
 #include "support/files.h"
 #include "support/traits.h"
 
-#include <QApplication>
-#include <QHeaderView>
-#include <QHelpEvent>
-#include <QLabel>
-#include <QPainter>
-#include <QPlainTextEdit>
-#include <QScreen>
-#include <QTemporaryDir>
-#include <QToolTip>
-#include <QTreeWidget>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <cmath>

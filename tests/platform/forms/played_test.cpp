@@ -7,25 +7,8 @@
 #include "platform/values/failure.h"
 #include "support/files.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QFileDialog>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QKeyEvent>
-#include <QKeySequence>
-#include <QLabel>
-#include <QListView>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QSettings>
-#include <QTableView>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QWindow>
+#include <QtWidgets>
 
 #include <cmath>
 #include <deque>

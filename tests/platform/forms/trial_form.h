@@ -5,9 +5,7 @@
 #include "platform/forms/look.h"
 #include "support/forms_test.h"
 
-#include <QStringList>
-#include <QVBoxLayout>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <functional>
 #include <map>

@@ -7,22 +7,9 @@
 #include "support/printer.h"
 #include "support/traits.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPageLayout>
 #include <QPrinter>
-#include <QPushButton>
-#include <QSplitter>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTextBlock>
-#include <QTextBrowser>
-#include <QTreeWidget>
+#include <QtWidgets>
 
 using report::Outcome;
 

@@ -7,21 +7,8 @@
 #include "support/printer.h"
 #include "trial_report.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QWheelEvent>
+#include <QtWidgets>
 
 #include <cmath>
 

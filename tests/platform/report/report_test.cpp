@@ -9,9 +9,7 @@
 #include "support/print.h"
 #include "trial_report.h"
 
-#include <QPainter>
-#include <QRegularExpression>
-#include <QTemporaryDir>
+#include <QtWidgets>
 
 #include <gmock/gmock.h>
 

@@ -6,9 +6,7 @@
 #include "support/files.h"
 #include "support/print.h"
 
-#include <QEventLoop>
-#include <QTemporaryDir>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <unistd.h>
 
