@@ -3,6 +3,7 @@
 #include "platform/forms/trial_form.h"
 #include "platform/help/printing.h"
 #include "platform/help/viewer.h"
+#include "platform/help/words.h"
 #include "support/files.h"
 #include "support/printer.h"
 #include "support/traits.h"
@@ -366,6 +367,26 @@ TEST_F(HelpViewer, IsNoScreenAndServesBehindModalOnes)
         modal.hide();
     });
     modal.showModal(form);
+}
+
+TEST(HelpWords, HaveTheStemsAndSlipsOfTheList)
+{
+    expectSteps("platform/help/words.txt", [](const QString& step) {
+        const QString text = step.section(' ', 1);
+        const QStringList words = text.split(' ');
+        QStringList told;
+        if (step.startsWith("stems"))
+            for (const help::Word& word : help::wordsOf(text))
+                told += QString("%1 %2+%3").arg(word.stem).arg(word.at).arg(word.length);
+        else
+            for (const QString& word : words) {
+                int slips = 0;
+                while (!help::isSlipOf(words[0], word, slips))
+                    ++slips;
+                told += QString::number(slips);
+            }
+        return told.join(' ');
+    });
 }
 
 } // namespace
