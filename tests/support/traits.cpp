@@ -29,7 +29,7 @@ bool isLeftOut(const QMetaProperty& property, const QWidget& widget)
         "(width|height|position|index|text|available|checked|sectionsize)$"
         "|^(x|y|enabled|visible|title|toolTip|objectName|caption|default|value|maximum|count|readOnly|focus"
         "|isActiveWindow|mouseTracking|autoFillBackground|acceptDrops|defaultAlignment|highlightSections|"
-        "sectionsClickable|frameShadow|html|markdown|documentTitle|modified)$",
+        "sectionsClickable|sectionsMovable|frameShadow|html|markdown|documentTitle|modified)$",
         QRegularExpression::CaseInsensitiveOption);
     return names.match(property.name()).hasMatch()
         || (qobject_cast<const QRadioButton*>(&widget) && property.name() == QLatin1String("focusPolicy"));
