@@ -167,16 +167,16 @@ protected:
         return (part("ways").width() - before) / 700.0;
     }
 
-    /// The first and the last row of a hit in which a colour is.
-    std::pair<int, int> rowsOf(const QColor& colour)
+    /// Where a colour is in a hit.
+    QRect placeOf(const QColor& colour)
     {
         auto& found = part<QListWidget>("found");
         const QImage hit = found.viewport()->grab(found.visualItemRect(found.item(0))).toImage();
-        std::pair rows(-1, -1);
+        QRect place;
         for (int dot = 0; dot < hit.width() * hit.height(); ++dot)
-            if (hit.pixelColor(dot % hit.width(), dot / hit.width()) == colour)
-                rows = {rows.first < 0 ? dot / hit.width() : rows.first, dot / hit.width()};
-        return rows;
+            if (const QPoint at(dot % hit.width(), dot / hit.width()); hit.pixelColor(at) == colour)
+                place |= QRect(at, at);
+        return place;
     }
 
     /// F1, a search and Esc.
@@ -295,13 +295,23 @@ TEST_F(HelpViewer, PaintsTheTitleOfAHitAboveItsExcerptAndTheChosenOneOnTheAccent
     const forms::look::Colours& colours = forms::look::colours();
     viewer_->open("9");
     take("seek theft");
-    const auto [top, bottom] = std::pair(rowsOf(colours.accent).first, rowsOf(colours.text).second);
-    EXPECT_LT(rowsOf(colours.accent).second, rowsOf(colours.text).first);
-    EXPECT_NEAR(top, part<QListWidget>("found").sizeHintForRow(0) - 1 - bottom, 4);
+    auto& found = part<QListWidget>("found");
+    const QString hit = found.item(0)->text();
+    const QRect title = placeOf(colours.accent), excerpt = placeOf(colours.text);
+    QFont font = found.font();
+    const auto widthOf = [&](const QString& text) {
+        const QRect room(0, 0, found.viewport()->width() - forms::look::grid(1), 1000);
+        return QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, text).width();
+    };
+    EXPECT_NEAR(excerpt.width(), widthOf(hit.section('\n', 1)), 4);
+    font.setBold(true);
+    EXPECT_NEAR(title.width(), widthOf(hit.section('\n', 0, 0)), 4);
+    EXPECT_LT(title.bottom(), excerpt.top());
+    EXPECT_NEAR(title.top(), found.sizeHintForRow(0) - 1 - excerpt.bottom(), 4);
     take("Down");
-    part<QListWidget>("found").setCurrentRow(0);
-    EXPECT_EQ(rowsOf(colours.text), std::pair(-1, -1));
-    EXPECT_EQ(rowsOf(colours.field), std::pair(top, bottom));
+    found.setCurrentRow(0);
+    EXPECT_TRUE(placeOf(colours.text).isEmpty());
+    EXPECT_EQ(placeOf(colours.field), title | excerpt);
 }
 
 TEST_F(HelpViewer, KeepsTheSizeOfTypeWhileItLivesAndFitsPicturesIntoThePage)
