@@ -58,7 +58,7 @@ RunLock::RunLock(const Folder& folder)
 
 RunLock::RunLock(int file, const QString& path)
     : file_(file)
-    , isHeld_(::flock(file_, LOCK_EX | LOCK_NB) == 0)
+    , isHeld_(file_ >= 0 && ::flock(file_, LOCK_EX | LOCK_NB) == 0)
 {
     if (file_ < 0)
         throw refused("writing", pathOf(path));

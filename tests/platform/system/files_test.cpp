@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Steps on files and folders where the system refuses a part of them, as files.txt has them: the step, the calls that
 // are refused and why; what is done on the disk in which order, or how the step fails; and what is there then.
+#include "platform/system/files.h"
 #include "platform/system/folder.h"
 #include "platform/system/folder_copy.h"
 #include "platform/values/failure.h"
@@ -43,6 +44,7 @@ public:
             {"keep", [this] { sys::Folder(place.path()).keep(sys::Folder(at("old")), "a", "kept"); }},
             {"copy", [this] { sys::Folder(at("new")).copy(sys::Folder(at("old")), "a", "a"); }},
             {"make", [this] { sys::Folder::made(at("far/below/old")); }},
+            {"lock", [this] { const sys::RunLock alone(sys::Folder(at("new")), "below"); }},
             {"enter", [this] { sys::Folder(place.path()).madeEntered("linked"); }},
             {"exchange", [this] { sys::Folder(place.path()).exchange("new", "old"); }},
             {"into", [&] { sys::copyFolder(at("new"), QDir(place.path()).filePath(step.section(':', 1))); }},
