@@ -30,7 +30,9 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
         forms::onEnd(cleanUp);
         whileModal([&] {
             const QWidget& box = *QApplication::activeModalWidget();
-            std::fputs(qPrintable(box.windowTitle() + box.findChildren<QLabel*>().at(2)->text()), stderr);
+            std::fputs(qPrintable(box.windowTitle()), stderr);
+            for (const QLabel* words : box.findChildren<QLabel*>())
+                std::fputs(qPrintable(words->text() + u'\n'), stderr);
             press({Qt::Key_Tab, Qt::Key_Space}); // Copy Details
             std::fputs(qPrintable(QGuiApplication::clipboard()->text()), stderr);
             press(Qt::Key_Return);
@@ -38,7 +40,8 @@ TEST_F(Failures, ThatNobodyCatchesCleanUpShowTheReportAndEndWithStatusOne)
         click(kept.ok);
     };
     EXPECT_EXIT(run(), testing::ExitedWithCode(1),
-        "^cleaned up, Form.ok_Click: (.*why)\nTitle, All is safe.(.*why)\nForm.ok_Click$");
+        "^cleaned up, Form.ok_Click: (.*why)\nTitle, \n“OK” could not be carried out. The program has to close.\nAll "
+        "is safe.\nFor whoever helps you:\n.*why\nForm.ok_Click\n.*why\nForm.ok_Click$");
     const auto end = [&] {
         forms::setProcessEnder({});
         forms::onEnd(cleanUp);
