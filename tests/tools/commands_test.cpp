@@ -236,7 +236,7 @@ protected:
         }
         EXPECT_EQ(::write(terminal, typed.constData(), static_cast<std::size_t>(typed.size())), typed.size());
         std::string said;
-        for (char byte = 0; ::read(terminal, &byte, 1) == 1;)
+        for (char byte = 0; TEMP_FAILURE_RETRY(::read(terminal, &byte, 1)) == 1;) // the child's end may come between
             said += byte;
         int status = 0;
         ::waitpid(child, &status, 0);
