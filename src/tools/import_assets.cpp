@@ -214,25 +214,28 @@ QString AssetRows::screenDefault(Inventory::Column column) const
     }
 }
 
-Asset AssetRows::assetOf(const Row& row, QStringList& reasons) const
+AssetRows::Read AssetRows::read(const Row& row) const
 {
+    Read read;
+    Asset& asset = read.asset;
+    QStringList& reasons = read.reasons;
     const bool isTable = source_.kind() == Source::Kind::Table;
     if (isTable && row.cells.size() != targets_.size()) {
         reasons += QStringLiteral("The Row Has %1 Cells Under %2 Headings").arg(row.cells.size()).arg(targets_.size());
-        return {};
+        return read;
     }
     if (isTable && isTotal(row)) {
         reasons += QStringLiteral("The Row Holds A Total And No Asset");
-        return {};
+        return read;
     }
-    Asset asset = isTable ? fromTable(row, reasons) : fromExport(row, reasons);
+    asset = isTable ? fromTable(row, reasons) : fromExport(row, reasons);
     fillIn(asset);
     if (isTable)
         readTyped(asset, reasons);
     require(asset, reasons);
     if (isTable)
-        limit(asset, reasons);
-    return asset;
+        limit(read);
+    return read;
 }
 
 // ---- a table
@@ -327,8 +330,9 @@ void AssetRows::readDate(QString& text, QStringList& reasons) const
     text = read.date ? read.date->toText() : values::Today().toText();
 }
 
-void AssetRows::limit(Asset& asset, QStringList& reasons) const
+void AssetRows::limit(Read& read) const
 {
+    Asset& asset = read.asset;
     for (std::size_t i = Inventory::Location; i < asset.size(); ++i) {
         const auto column = static_cast<Inventory::Column>(i);
         const int most = asset_rules::limitOf(column);
@@ -336,8 +340,10 @@ void AssetRows::limit(Asset& asset, QStringList& reasons) const
             continue;
         const bool isPair = asset[i][most].isLowSurrogate();
         const QString kept = asset[i].left(most - (isPair ? 1 : 0)).trimmed();
-        if (!choices_.cutsTexts)
-            reasons += reason(column, asset[i],
+        if (choices_.cutsTexts)
+            ++read.cutTexts;
+        else
+            read.reasons += reason(column, asset[i],
                 QStringLiteral("The Text Has %1 Characters, And %2 Is The Most. \"%3\" Would Be Cut")
                     .arg(asset[i].size())
                     .arg(most)

@@ -10,8 +10,13 @@ class AssetRows {
 public:
     AssetRows(const Source& source, const Choices& choices);
 
-    /// The asset of a row; what is wrong with it is added to the reasons.
-    Asset assetOf(const Row& row, QStringList& reasons) const;
+    /// What a row is read as.
+    struct Read {
+        Asset asset;
+        QStringList reasons; ///< why it can't go in
+        int cutTexts = 0;
+    };
+    Read read(const Row& row) const;
 
     /// Tells a plan how rows are read, as far as a user should know it.
     void describe(Plan& plan) const;
@@ -24,7 +29,7 @@ private:
     void fillIn(Asset& asset) const;
     void readTyped(Asset& asset, QStringList& reasons) const;
     void readDate(QString& text, QStringList& reasons) const;
-    void limit(Asset& asset, QStringList& reasons) const;
+    void limit(Read& read) const;
     QStringList columnOf(Inventory::Column column) const;
 
     const Source& source_;

@@ -81,6 +81,7 @@ private:
     QHash<QString, int> there_; // how many assets of an identity are there already
     std::map<QString, KnownNames> names_;
     qint64 lastNumber_ = 0;
+    int cutTexts_ = 0; // in the assets that come
     Currency runningTotal_;
     Currency total_;
 };
@@ -118,14 +119,15 @@ Plan Planning::run()
         take(static_cast<std::size_t>(at), rows);
     }
     rows.describe(plan_);
+    if (cutTexts_ > 0)
+        plan_.notes += ::counted(cutTexts_, "text is", "texts are") + QStringLiteral(" too long and will be cut.");
     return std::move(plan_);
 }
 
 void Planning::take(std::size_t at, const AssetRows& rows)
 {
     const Row& row = source_.rows()[at];
-    QStringList reasons;
-    const Asset asset = rows.assetOf(row, reasons);
+    auto [asset, reasons, cutTexts] = rows.read(row);
     if (reasons.isEmpty() && isKnown(asset)) {
         plan_.known.push_back({row.line, asset[Inventory::Type]});
         if (!choices_.takesKnown)
@@ -138,6 +140,7 @@ void Planning::take(std::size_t at, const AssetRows& rows)
         return;
     }
     learn(asset);
+    cutTexts_ += cutTexts;
     plan_.assets.push_back(asset);
 }
 

@@ -60,7 +60,7 @@ struct Plan {
     std::array<AreaCount, 3> areas;
     values::Currency sum;
     std::vector<NewName> newNames;
-    QStringList notes; ///< what else is worth knowing: the order of dates that was found, what no column gives
+    QStringList notes; ///< what else is worth knowing: the order of dates, what no column gives, what is cut
     bool needsDateOrder = false; ///< it can't be found out, and has to be chosen
     bool needsDecimalSign = false; ///< the same
 
