@@ -131,9 +131,9 @@ void drag(forms::Control& control, QPoint from, QPoint to)
     QTest::mouseRelease(end.window, Qt::LeftButton, {}, end.position);
 }
 
-void clickAgain()
+void clickAgain(int milliseconds)
 {
-    QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval; // which the release has added
+    QTest::lastMouseTimestamp += milliseconds - QTest::mouseDoubleClickInterval; // which the release has added
     QWindow& window = frontWindow();
     QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(lastPlace));
 }

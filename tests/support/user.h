@@ -31,8 +31,9 @@ void click(forms::Control& control);
 void clickAt(forms::Control& control, QPoint position);
 void drag(forms::Control& control, QPoint from, QPoint to);
 
-/// The second click of a double click: at once and where the last one was, on whatever is there by now.
-void clickAgain();
+/// The second click of a double click: at once or so much later, and where the last one was, on whatever is there by
+/// now.
+void clickAgain(int milliseconds = 0);
 
 /// What the menu offers that opens, if one does; it is left without a choice, or with a command.
 QStringList rightClick(forms::Control& control, const QString& command = {});

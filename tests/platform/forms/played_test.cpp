@@ -549,7 +549,8 @@ private:
         {"untimed", [this](Words w) { tell(QEvent::KeyPress, w[0], 0), tell(QEvent::KeyRelease, w[0], 0); }},
         {"type", [](Words w) { type(text(w, 0)); }},
         // by mouse
-        {"click", [this](Words w) { clickAt(of(w), place(w)); }}, {"again", [](Words) { clickAgain(); }},
+        {"click", [this](Words w) { clickAt(of(w), place(w)); }},
+        {"again", [](Words w) { clickAgain(w.value(0).toInt()); }},
         {"tremble", [this](Words w) { drag(of(w), QPoint(9, 16), QPoint(12, 16)); }},
         {"over", [this](Words w) { mouse(QTest::MouseMove, w); }},
         {"grip", [this](Words w) { mouse(QTest::MousePress, w); }},

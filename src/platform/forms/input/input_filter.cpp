@@ -217,21 +217,24 @@ void InputFilter::noteRelease(const QKeyEvent& stroke)
 
 // ---- presses
 
-// The second press of a double click whose first has closed what it was on, or has brought something else. A press that
-// closes a list from outside is sent again to what lies below, with the time that it has.
+// The second press of a double click, or the third of a triple one, whose first has closed what it was on, or has
+// brought something else. A press that closes a list from outside is sent again to what lies below, with the time that
+// it has.
 bool InputFilter::isStray(QWindow& window, const QMouseEvent& press) const
 {
     const QStyleHints& hints = *QGuiApplication::styleHints();
     const auto distance = (press.globalPosition() - pressedAt_).manhattanLength();
-    const bool isSecond = press.timestamp() != pressedWhen_ && distance <= hints.mouseDoubleClickDistance()
-        && press.timestamp() - pressedWhen_ < static_cast<unsigned long>(hints.mouseDoubleClickInterval());
+    const bool isNext = press.timestamp() != pressedWhen_ && distance <= hints.mouseDoubleClickDistance()
+        && press.timestamp() - lastWhen_ < static_cast<unsigned long>(hints.mouseDoubleClickInterval());
     const bool isElsewhere = &window != pressedIn_ && (pressedInList_ || homeOf(&window) != pressedIn_);
-    return isSecond && isElsewhere;
+    return isNext && isElsewhere;
 }
 
 void InputFilter::deliver(QWindow& window, QMouseEvent& press)
 {
-    if (isStray(window, press))
+    const bool isDropped = isStray(window, press);
+    lastWhen_ = press.timestamp();
+    if (isDropped)
         return;
     if (press.timestamp() != pressedWhen_) {
         pressedIn_ = &window;

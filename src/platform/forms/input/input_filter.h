@@ -20,8 +20,9 @@ class Control;
 /// What the user's hands do comes through here before a window has it; for the layer itself, not for screens.
 ///
 /// A key that is held belongs to the window in which it went down: what it repeats answers no box and no screen that
-/// has opened since, and an access key doesn't repeat at all. A key that closes a list does nothing else. The second
-/// press of a double click belongs to the window of the first, and to none where that was a list, which has closed.
+/// has opened since, and an access key doesn't repeat at all. A key that closes a list does nothing else. The further
+/// presses of a double or triple click belong to the window of the first, and to none where that was a list, which has
+/// closed.
 /// What comes behind the answer to a question waits for the handler that asked.
 ///
 /// The focus that a press brings waits until the press has put the caret, so that a handler's selection stays, and at
@@ -71,6 +72,7 @@ private:
     bool pressedInList_ = false; // or in a menu
     QPointF pressedAt_;
     unsigned long pressedWhen_ = 0;
+    unsigned long lastWhen_ = 0; // any press, also one that belonged to no window
 
     bool delivering_ = false;
     int interruptions_ = 0; // of the stage when the press came that is being delivered
