@@ -59,15 +59,16 @@ TEST_F(HelpPages, AnswerTheQuestionsOfAHouseholder)
 
 TEST(Manual, OpensByTheNumberOfAControlAndWithoutOneByTheNameOfItsWindow)
 {
-    const auto opened = [](int number) {
-        manual::open(number, "frmExport");
+    const auto opened = [](int number, const char* name) {
+        manual::open(number, name);
         for (const QWidget* window : QApplication::topLevelWidgets())
             if (const auto* page = window->findChild<QTextBrowser*>("page"); page && window->isVisible())
                 return page->source().path() + "#" + page->source().fragment();
         return QString();
     };
-    EXPECT_EQ(opened(3001), "/help/totals.html#top");
-    EXPECT_EQ(opened(0), "/help/export.html#window");
+    EXPECT_EQ(opened(0, "frmExit"), "") << "the goodbye answers no key";
+    EXPECT_EQ(opened(3001, "frmExport"), "/help/totals.html#top");
+    EXPECT_EQ(opened(0, "frmExport"), "/help/export.html#window");
     QApplication::closeAllWindows();
 }
 

@@ -147,8 +147,8 @@ protected:
         return told;
     }
 
-    QStringList topics_{"frmProgress", "frmExit", "frmExport", "frmImport", "frmImportPlan", "frmImported",
-        "frmRestore", "frmRestored", "CoverSheet", "AssetReport", "MsgBox"}; // of other programs, and without a control
+    QStringList topics_{"frmProgress", "frmExport", "frmImport", "frmImportPlan", "frmImported", "frmRestore",
+        "frmRestored", "CoverSheet", "AssetReport", "MsgBox"}; // of other programs, and without a control
     QStringList told_, screens_;
     Traits traits_;
 };
