@@ -53,6 +53,7 @@ asset_by_mouse() {
     click frmAddUpDel 'Purchased: Used'
     click frmAddUpDel 'Purchase Date'
     see frmCalendar calendar
+    xprop -id "$(active_window)" WM_TRANSIENT_FOR | grep -q 'window id' || fail "the calendar belongs to no screen"
     go frmAddUpDel Prior Home Return
     enter frmAddUpDel 'Purchase Price' 1234.567 # the third decimal is refused
     click frmAddUpDel 'Receipt On File: Yes'

@@ -157,6 +157,7 @@ void Form::showModal(Form& owner)
     {
         const ToolkitCall call;
         window_->setWindowModality(Qt::ApplicationModal);
+        window_->becomeDialog();
         window_->fitAndPlace();
         window_->winId(); // makes the native window, which then can name its owner
         window_->windowHandle()->setTransientParent(owner.window()->windowHandle());

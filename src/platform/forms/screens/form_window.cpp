@@ -47,6 +47,11 @@ void FormWindow::reveal(QWidget* widget)
     scroller_->ensureWidgetVisible(widget);
 }
 
+void FormWindow::becomeDialog()
+{
+    setWindowFlags((windowFlags() & ~(Qt::WindowType_Mask | Qt::WindowMinimizeButtonHint)) | Qt::Dialog);
+}
+
 void FormWindow::fitAndPlace()
 {
     QScreen* under = centre_.isNull() ? nullptr : QGuiApplication::screenAt(centre_);

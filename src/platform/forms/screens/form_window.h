@@ -29,6 +29,10 @@ public:
     /// first one takes the middle of the desktop.
     void fitAndPlace();
 
+    /// From its next showing on the window is one that belongs to another. The toolkit tells the window system of no
+    /// other kind whose it is, and minimised by itself it would leave its owner there, which answers nothing.
+    void becomeDialog();
+
     /// Gives the native window up; the next showing makes another.
     void giveUp() { destroy(); }
 
