@@ -6,6 +6,7 @@
 #include "platform/forms/input/keyboard.h"
 #include "platform/forms/runtime/boundary.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QShortcutEvent>
@@ -63,9 +64,10 @@ protected:
             return;
         }
         Base::mousePressEvent(event);
-        pressed_ = event->button() == Qt::LeftButton;
-        if (pressed_)
-            fromToolkit([this] { button_.MouseDown.fire(); });
+        if (event->button() != Qt::LeftButton)
+            return; // another one is no press, and doesn't end one
+        pressed_ = true;
+        fromToolkit([this] { button_.MouseDown.fire(); });
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
@@ -76,6 +78,17 @@ protected:
                 if (isOurs)
                     button_.MouseUp.fire();
             });
+    }
+
+    // The press ends when a box opens over it, and a release that comes then doesn't get here. A move of the focus that
+    // the layer makes leaves the hand its release.
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        Base::focusOutEvent(event);
+        if (!pressed_ || insideToolkitCall() || button_.turns())
+            return;
+        pressed_ = false;
+        fromToolkit([this] { button_.MouseUp.fire(); });
     }
 
 private:
