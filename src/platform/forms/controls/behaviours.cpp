@@ -42,7 +42,7 @@ void takeUpTo(const TextEntry& box, int length, int& keyAscii)
 void takeTwoLetterCode(ComboBox& box, int& keyAscii)
 {
     const bool letter = (keyAscii >= 'A' && keyAscii <= 'Z') || (keyAscii >= 'a' && keyAscii <= 'z');
-    if (keyAscii == key::Backspace || (letter && box.text().size() >= 2))
+    if (keyAscii == key::Backspace || (letter && box.text().size() == 2))
         box.setText({});
     if (!letter && keyAscii != key::Backspace)
         keyAscii = key::Refused;

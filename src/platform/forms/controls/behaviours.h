@@ -27,8 +27,8 @@ void takeDigits(int& keyAscii);
 /// For KeyPress: refuses all but Backspace once the text is so long.
 void takeUpTo(const TextEntry& box, int length, int& keyAscii);
 
-/// For KeyPress of a two-letter code: Backspace empties the box, a letter begins a new code when two stand there, and
-/// all else is refused.
+/// For KeyPress of a two-letter code: Backspace empties the box, a letter begins a new code when exactly two characters
+/// stand there (a longer text, which no code is, stays), and all else is refused.
 void takeTwoLetterCode(ComboBox& box, int& keyAscii);
 
 // ---- behaviours
