@@ -567,7 +567,7 @@ private:
         {"commit", [](Words w) { commit(text(w, 0)); }},
         {"assist", [this](Words w) { setByAssistant(of(w), text(w)); }},
         {"copied", [this](Words w) { copy(text(w, 0)); }},
-        {"fill", [this](Words w) { copy(QString(w[0].toInt(), 'x')); }},
+        {"fill", [this](Words w) { copy(QString(w[0].toInt(), 'x') + text(w)); }},
         // the code, with screens
         {"show", [this](Words w) { screen(w[0]).show(); }}, {"hide", [this](Words w) { screen(w[0]).hide(); }},
         {"open", [this](Words w) { screen(w[0]).showModal(screen("Form")); }},

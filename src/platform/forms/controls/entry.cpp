@@ -138,12 +138,16 @@ QString Entry::clipboardText(QClipboard::Mode mode)
     return QGuiApplication::clipboard()->text(mode);
 }
 
+qsizetype Entry::ceiling() const
+{
+    return lines_ == Lines::One ? longestLine : std::numeric_limits<int>::max();
+}
+
 QString Entry::fitting(const QString& wanted) const
 {
     const QString text = content();
     const QString replaced = selectedText(); // makes room
-    const qsizetype ceiling = lines_ == Lines::One ? longestLine : std::numeric_limits<int>::max();
-    qsizetype room = ceiling - (text.size() - replaced.size());
+    qsizetype room = ceiling() - (text.size() - replaced.size());
     qsizetype characters = std::numeric_limits<qsizetype>::max();
     if (box_.maxLength() > 0)
         characters = box_.maxLength() - (countOf(text) - countOf(replaced));
@@ -205,14 +209,16 @@ void Entry::takeText(const QString& wanted)
         inserts(cleaned(wanted));
 }
 
-// What is left is dropped when a handler moves the focus away, shows a box or brings another screen forward, and when
-// a character finds the box full.
+// What is left is dropped when a handler moves the focus away, shows a box or brings another screen forward, when a
+// character finds the box full, and behind as many as a line can hold: a box whose handlers let nothing stay is never
+// full.
 void Entry::takeOneByOne(const QString& text)
 {
     const Stage& stage = Stage::instance();
     const int interruptions = stage.interruptions();
     const bool focused = box_.hasFocus();
-    for (const uint character : text.toUcs4()) {
+    const auto characters = text.toUcs4();
+    for (const uint character : characters.first(std::min(characters.size(), ceiling()))) {
         const bool isIn = takesCharacter(character == '\n' ? key::Enter : static_cast<int>(character));
         if (stage.interruptions() != interruptions || box_.hasFocus() != focused)
             return;

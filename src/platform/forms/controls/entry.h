@@ -94,6 +94,7 @@ private:
     static QString clipboardText(QClipboard::Mode mode);
     void takeOneByOne(const QString& text);
     QString cleaned(const QString& text) const;
+    qsizetype ceiling() const;
     QString fitting(const QString& wanted) const;
     void replaceByUser(const QString& text);
     bool refusesDelete();
