@@ -112,6 +112,25 @@ TEST_F(ListEditors, ARefusedRowEndsAChangeOrADeletionWithTheRowsBeforeItStored)
     EXPECT_EQ(columnOf(Data1.rsInventory, Inventory::Location).join(' '), "Steeple Spire Spire");
 }
 
+TEST_F(ListEditors, StayPaintedWhileRowsAreWritten)
+{
+    addRows(Data1.rsIndoor, QStringList(200, "Tower|Bells|0"));
+    open(2);
+    static int turns = 0; // of what waits for its turn to be painted
+    const auto wait = [](void*) {
+        QMetaObject::invokeMethod(
+            qApp, [] { ++turns; }, Qt::QueuedConnection);
+        return 0; // goes on
+    };
+    sqlite3_commit_hook(Data1.Home.handle(), wait, nullptr);
+    forms::setMessageHandler([](const forms::Message& box) {
+        EXPECT_EQ(turns > 0, box.flags == Information);
+        return Answer::Yes;
+    });
+    screen<frmDelField>().cmbCat.setText("Tower");
+    click(screen<frmDelField>().cmdUpdate);
+}
+
 // No menu leads to them: what is for no list of the six counts as for the items.
 TEST_F(ListEditors, ForTheItemsFillTheListAnewAndPutInWhatWasAdded)
 {
