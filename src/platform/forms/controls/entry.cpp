@@ -50,6 +50,12 @@ private:
     const QAccessible::UpdateHandler before_;
 };
 
+/// Lines and cells stay words of their own; the end behind the last one, which comes with a row of a table, is nothing.
+QString asOneLine(QString text)
+{
+    return text.replace(u'\t', u'\n').split(u'\n', Qt::SkipEmptyParts).join(u' ');
+}
+
 } // namespace
 
 bool isTextCharacter(int character)
@@ -191,10 +197,10 @@ QString Entry::cleaned(const QString& text) const
     QString ends = text;
     ends.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
     ends.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
+    ends = lines_ == Lines::One ? asOneLine(ends) : ends.replace(u'\t', u' ');
     QString clean;
     for (const uint character : ends.toUcs4()) {
-        const bool isLineEnd = character == '\n' && lines_ == Lines::Several;
-        if (isLineEnd || isTextCharacter(static_cast<int>(character)))
+        if (character == '\n' || isTextCharacter(static_cast<int>(character)))
             clean += textOf(static_cast<int>(character));
     }
     return clean;
