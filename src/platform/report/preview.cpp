@@ -60,6 +60,12 @@ QString savedAs(const QString& path)
     return QStringLiteral("The report has been saved as %1.").arg(QDir::toNativeSeparators(path));
 }
 
+QString notSavedAs(const QString& path)
+{
+    return QStringLiteral("The report could not be saved as %1. Choose another name or folder.")
+        .arg(QDir::toNativeSeparators(path));
+}
+
 } // namespace
 
 Preview::Preview(const QString& name, std::shared_ptr<const Document> document, std::function<void()> error)
@@ -178,9 +184,9 @@ void Preview::print()
 {
     finish([this] {
         const Printing printing = report::print(*pages_, view_->page(), this);
-        const bool isFile = !printing.file.isEmpty();
-        return Ending{printing.outcome,
-            isFile ? savedAs(printing.file) : QStringLiteral("The report has been handed to the printer.")};
+        if (!printing.file.isEmpty())
+            return Ending{printing.outcome, savedAs(printing.file), notSavedAs(printing.file)};
+        return Ending{printing.outcome, QStringLiteral("The report has been handed to the printer.")};
     });
 }
 
@@ -190,7 +196,7 @@ void Preview::saveAs()
     if (!path)
         return;
     remembered().folder = QFileInfo(*path).path();
-    finish([this, path] { return Ending{save(*path), savedAs(*path)}; });
+    finish([this, path] { return Ending{save(*path), savedAs(*path), notSavedAs(*path)}; });
 }
 
 Outcome Preview::save(const QString& path)
@@ -219,6 +225,7 @@ void Preview::finish(const std::function<Ending()>& run)
 void Preview::tell(const Ending& ending)
 {
     if (ending.outcome == Outcome::Failed) {
+        status_->setText(ending.failed); // the box behind it speaks of printers alone
         forms::takeForActive(this); // not a dialogue that has just gone
         error_();
     }

@@ -49,6 +49,7 @@ private:
     struct Ending {
         Outcome outcome = Outcome::Failed;
         QString done{};
+        QString failed{};
     };
 
     void showState();

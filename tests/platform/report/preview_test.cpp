@@ -226,7 +226,9 @@ TEST_F(ReportPreview, GoesAsItIsKept)
     EXPECT_TRUE(bytesOf(home_.filePath("Documents/Trial 2026-11-24.csv")).contains("Name,Amount,Note\r\n"));
     EXPECT_EQ(pdf::read(home_.filePath("Else/Mine 11.25.pdf")).size(), 4);
     const FullDisk full(10);
-    EXPECT_EQ(after("save | Return"), "(as ~/Documents/Trial 2026-11-24.pdf); (error); at save");
+    EXPECT_EQ(after("save | Return"),
+        "(as ~/Documents/Trial 2026-11-24.pdf); (error); [The report could not be saved as "
+        "~/Documents/Trial 2026-11-24.pdf. Choose another name or folder.]; at save");
 }
 
 // Room gives way first, then the words, then the single row; nothing is cut and nothing lies outside.
