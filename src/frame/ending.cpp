@@ -36,6 +36,7 @@ constexpr ViewOfTable closingOrder[] = {
 struct LastSeen {
     std::vector<TableCount> rows;
     QString failure;
+    bool lacksBackup = false;
 };
 
 LastSeen& lastSeen()
@@ -91,7 +92,21 @@ QString backupPlace()
     return QStringLiteral("The backup of the last normal close: ") + backup.filePath();
 }
 
+QString missingBackup()
+{
+    if (!lastSeen().lacksBackup)
+        return {};
+    return QStringLiteral("\nNo backup of it could be made in %1.").arg(places::backupFolder());
+}
+
 } // namespace
+
+void makeBackup(const std::function<void()>& step)
+{
+    lastSeen().lacksBackup = true;
+    step();
+    lastSeen().lacksBackup = false;
+}
 
 std::vector<TableCount> closeViews()
 {
@@ -121,7 +136,7 @@ QString whatIsKnown()
     try {
         if (wrong.isEmpty()) {
             readThrough();
-            return QStringLiteral("Everything that you saved is safe.");
+            return QStringLiteral("Everything that you saved is safe.") + missingBackup();
         }
     } catch (const values::RuntimeFailure& failure) {
         wrong = failure.text();

@@ -3,6 +3,8 @@
 
 #include "platform/storage/schema.h"
 
+#include <functional>
+
 /// The end of the data store, whatever ends the program.
 namespace ending {
 
@@ -11,6 +13,9 @@ inline constexpr int NotLoaded = 3;
 
 /// Closes all views, which closes the file, and tells how many rows each table has.
 std::vector<storage::TableCount> closeViews();
+
+/// Takes the step that makes the backup; the run-time report of one that fails says that it is missing.
+void makeBackup(const std::function<void()>& step);
 
 /// Closes what is open where no failure can be handled any more: says on the error output what failed. Whether all is
 /// well.
