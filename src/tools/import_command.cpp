@@ -28,8 +28,10 @@ constexpr std::size_t LinesOfWrongRows = 20; // on the error output; all of them
 /// What stands before a sign, and what stands behind.
 std::pair<QString, QString> pairAt(qsizetype at, const QString& argument, const QString& option)
 {
-    if (at < 1)
+    if (at < 0)
         refuseUsage(QStringLiteral("\"%1\" has no \"=\" for %2").arg(argument, option));
+    if (at == 0)
+        refuseUsage(QStringLiteral("\"%1\" has nothing before its \"=\" for %2").arg(argument, option));
     return {argument.first(at).simplified(), argument.sliced(at + 1).trimmed()};
 }
 

@@ -170,6 +170,7 @@ DateReader::DateReader(const QStringList& column)
 {
     std::vector<DateOrder> possible(std::begin(orders), std::end(orders));
     bool isNeeded = false;
+    bool differ = false;
     for (const QString& text : column) {
         const std::optional<Parts> parts = partsOf(text);
         if (!parts || tellsItself(*parts))
@@ -178,11 +179,12 @@ DateReader::DateReader(const QStringList& column)
         if (std::all_of(std::begin(orders), std::end(orders), refuses))
             continue;
         isNeeded = true;
+        differ = differ || !anyOf(*parts).date;
         std::erase_if(possible, refuses);
     }
     if (isNeeded && possible.size() == 1)
         order_ = possible.front();
-    isAmbiguous_ = isNeeded && possible.size() != 1;
+    isAmbiguous_ = isNeeded && (possible.empty() || (possible.size() > 1 && differ)); // 1/1/2020 is one day in each
 }
 
 DateRead DateReader::read(const QString& text) const
