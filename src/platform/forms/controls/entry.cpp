@@ -26,11 +26,17 @@ qsizetype countOf(const QString& text)
     return std::count_if(text.begin(), text.end(), [](QChar unit) { return !unit.isLowSurrogate(); });
 }
 
-// A key that takes out a word or the rest of a line.
+bool takesBack(const QKeyEvent& event)
+{
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
+// A key that takes out a word, the rest of a line, or what was typed.
 bool takesOutMore(const QKeyEvent& event)
 {
-    return event.matches(QKeySequence::DeleteStartOfWord) || event.matches(QKeySequence::DeleteEndOfWord)
-        || event.matches(QKeySequence::DeleteEndOfLine) || event.matches(QKeySequence::DeleteCompleteLine)
+    return takesBack(event) || event.matches(QKeySequence::DeleteStartOfWord)
+        || event.matches(QKeySequence::DeleteEndOfWord) || event.matches(QKeySequence::DeleteEndOfLine)
+        || event.matches(QKeySequence::DeleteCompleteLine)
         || (event.key() == Qt::Key_Backspace && Keyboard::isCommand(event));
 }
 
@@ -208,8 +214,7 @@ QString Entry::cleaned(const QString& text) const
 
 void Entry::takeText(const QString& wanted)
 {
-    const bool atOnce = !box_.KeyPress && !box_.Change; // no handler looks at single characters
-    if (!atOnce)
+    if (!isPlain())
         takeOneByOne(cleaned(wanted)); // through a locked box too, since a handler may unlock it
     else if (!isLocked())
         inserts(cleaned(wanted));
@@ -286,14 +291,19 @@ void Entry::handleKey(QKeyEvent& event)
     }
 }
 
-// What the handlers have let in is not taken back behind them, an access key that nothing on the screen has is no text,
-// and Alt+Tab is the window manager's.
+// Whether what is typed changes the text and nothing else.
+bool Entry::isPlain() const
+{
+    return !box_.KeyPress && !box_.Change;
+}
+
+// What handlers have let in is not taken back behind them, an access key that nothing on the screen has is no text, and
+// Alt+Tab is the window manager's.
 bool Entry::isPassedOver(const QKeyEvent& event) const
 {
     const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
     const bool isStrange = Keyboard::isCommand(event) && (isTab || Keyboard::hasText(event));
-    return isStrange || event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo)
-        || (box_.isDeleteRefused() && event.key() == Qt::Key_Delete);
+    return isStrange || (takesBack(event) && !isPlain()) || (box_.isDeleteRefused() && event.key() == Qt::Key_Delete);
 }
 
 // The character of a key that types none; 0 for all others.

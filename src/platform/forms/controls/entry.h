@@ -86,6 +86,7 @@ private:
     virtual void toolkitInput(QInputMethodEvent& event) = 0;
 
     void byToolkit(const ToolkitStep& act);
+    bool isPlain() const;
     bool isPassedOver(const QKeyEvent& event) const;
     int codeOf(const QKeyEvent& event) const;
     bool takesCharacter(int character);

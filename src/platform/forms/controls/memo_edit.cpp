@@ -23,7 +23,6 @@ MemoEdit::MemoEdit(QWidget* parent, TextEntry& box)
     : OwnWidth(parent)
     , Entry(box, Lines::Several)
 {
-    setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     document()->setDocumentMargin(look::textInset() - frameWidth()); // as far in as the text of other boxes
