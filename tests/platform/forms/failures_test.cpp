@@ -88,6 +88,21 @@ TEST_F(Failures, AreToldInTheWordsOfTheScreen)
     expectKept("platform/forms/failures.txt", told);
 }
 
+TEST_F(Failures, KeepTheirButtonsOnTheDesktopHoweverLongTheirWordsAre)
+{
+    whileModal([&] {
+        const QWidget& box = *QApplication::activeModalWidget();
+        const QRect desktop = box.screen()->availableGeometry();
+        EXPECT_LT(box.height(), desktop.height());
+        EXPECT_GT(box.height(), desktop.height() / 2) << "and the words have the rest";
+        for (const auto* button : box.findChildren<QPushButton*>())
+            EXPECT_TRUE(box.rect().contains({button->mapTo(&box, QPoint()), button->size()}))
+                << qPrintable(button->text());
+        press(Qt::Key_Escape);
+    });
+    forms::showFailure({"", QString("why\n").repeated(200), {}}, "Title", "All is safe.");
+}
+
 TEST_F(FormInFront, AssistiveToolsAreToldOfATextWhereTheFocusIsAndOfADayInTheCellOfTheLast)
 {
     QStringList told;

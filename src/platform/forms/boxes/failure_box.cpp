@@ -14,7 +14,10 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -131,18 +134,11 @@ QDialogButtonBox* buttons(QDialog& box, const QString& details)
     return buttons;
 }
 
-} // namespace
-
-void showFailure(const FailureReport& report, const QString& title, const QString& closingWords)
+QWidget* words(const QDialog& box, const FailureReport& report, const QString& closingWords)
 {
-    const QString details = detailsOf(report);
-    QDialog box;
-    box.setObjectName(QStringLiteral("FailureBox"));
-    box.setWindowRole(box.objectName());
-    box.setWindowTitle(title);
-    auto* rows = new QGridLayout(&box);
-    rows->setSizeConstraint(QLayout::SetFixedSize);
-    rows->setContentsMargins(look::grid(2), look::grid(2), look::grid(2), look::grid(2));
+    auto* words = new QWidget;
+    auto* rows = new QGridLayout(words);
+    rows->setContentsMargins({});
     rows->setHorizontalSpacing(look::grid(2));
     rows->setVerticalSpacing(look::grid(1));
     rows->addWidget(picture(box), 0, 0, Qt::AlignTop);
@@ -151,9 +147,44 @@ void showFailure(const FailureReport& report, const QString& title, const QStrin
     addWords(*rows, 0, TextRole::Heading, what);
     addWords(
         *rows, 1, TextRole::Body, reason.isEmpty() ? closingWords : reason + QStringLiteral("\n\n") + closingWords);
-    QLabel* small = addWords(*rows, 2, TextRole::Hint, QStringLiteral("For whoever helps you:\n") + details);
+    QLabel* small = addWords(*rows, 2, TextRole::Hint, QStringLiteral("For whoever helps you:\n") + detailsOf(report));
     small->setForegroundRole(QPalette::PlaceholderText);
-    rows->addWidget(buttons(box, details), 3, 0, 1, 2);
+    return words;
+}
+
+// Words for which the desktop is too low scroll, so that the buttons below them stay on it.
+QWidget* fitted(QWidget* words, int room)
+{
+    const QSize size = words->sizeHint();
+    if (size.height() <= room)
+        return words;
+    auto* scroller = new QScrollArea;
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setWidget(words);
+    scroller->setFixedSize(size.width() + scroller->verticalScrollBar()->sizeHint().width(), std::max(room, 0));
+    return scroller;
+}
+
+} // namespace
+
+void showFailure(const FailureReport& report, const QString& title, const QString& closingWords)
+{
+    QDialog box;
+    box.setObjectName(QStringLiteral("FailureBox"));
+    box.setWindowRole(box.objectName());
+    box.setWindowTitle(title);
+    auto* rows = new QVBoxLayout(&box);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+    rows->setContentsMargins(look::grid(2), look::grid(2), look::grid(2), look::grid(2));
+    rows->setSpacing(look::grid(1));
+    QDialogButtonBox* below = buttons(box, detailsOf(report));
+    const int withoutWords = below->sizeHint().height() + look::grid(10); // margins and the frame
+    const int room = box.screen()->availableGeometry().height() - withoutWords;
+    QWidget* above = fitted(words(box, report, closingWords), room);
+    rows->addWidget(above);
+    rows->addWidget(below);
+    above->stackUnder(below); // and before it for assistive tools
     box.exec();
 }
 
