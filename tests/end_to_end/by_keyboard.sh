@@ -47,3 +47,14 @@ on_heard "Welcome To Kestrill Main Menu"
 expect "select City from Personal_Info" Albany
 until_true "the button Exit" is_placed Exit
 tell_to_end
+
+# What has been installed lays the database itself.
+[ "$Build" != /usr ] || {
+    step "a home in which none can be laid: the start says so, and leads to the backups"
+    use_home "$Place/refused"
+    : >"$HOME/.local"
+    start_program
+    on_heard "$Message" Return
+    on_heard "Restore From Backup" alt+c
+    ends_with 3
+}
