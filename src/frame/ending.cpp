@@ -36,7 +36,7 @@ constexpr ViewOfTable closingOrder[] = {
 struct LastSeen {
     std::vector<TableCount> rows;
     QString failure;
-    bool lacksBackup = false;
+    bool lacksBackup = false; // closed, and not backed up yet
 };
 
 LastSeen& lastSeen()
@@ -101,13 +101,6 @@ QString missingBackup()
 
 } // namespace
 
-void makeBackup(const std::function<void()>& step)
-{
-    lastSeen().lacksBackup = true;
-    step();
-    lastSeen().lacksBackup = false;
-}
-
 std::vector<TableCount> closeViews()
 {
     rememberRows();
@@ -115,7 +108,13 @@ std::vector<TableCount> closeViews()
         for (const ViewOfTable& closing : closingOrder)
             (Data1.*closing.view).Close();
     });
+    lastSeen().lacksBackup = true;
     return lastSeen().rows;
+}
+
+void noteBackup()
+{
+    lastSeen().lacksBackup = false;
 }
 
 bool closeStore()

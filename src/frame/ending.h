@@ -3,8 +3,6 @@
 
 #include "platform/storage/schema.h"
 
-#include <functional>
-
 /// The end of the data store, whatever ends the program.
 namespace ending {
 
@@ -14,8 +12,8 @@ inline constexpr int NotLoaded = 3;
 /// Closes all views, which closes the file, and tells how many rows each table has.
 std::vector<storage::TableCount> closeViews();
 
-/// Takes the step that makes the backup; the run-time report of one that fails says that it is missing.
-void makeBackup(const std::function<void()>& step);
+/// The backup of what `closeViews` has closed is made; a run-time report before says that it is missing.
+void noteBackup();
 
 /// Closes what is open where no failure can be handled any more: says on the error output what failed. Whether all is
 /// well.

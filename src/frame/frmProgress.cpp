@@ -94,9 +94,8 @@ void frmProgress::close_Program()
     purge_Blank_Names({&DataStore::rsOutdoor, true, true});
     purge_Blank_Names({&DataStore::rsMobile, true, false});
     const proofs::Contents contents = proofs::contentsOf(Data1.rsInventory.snapshot());
-    const std::vector<TableCount> counts = ending::closeViews();
-    QString trouble;
-    ending::makeBackup([&] { trouble = back_Up_Database(counts, contents); });
+    const QString trouble = back_Up_Database(ending::closeViews(), contents);
+    ending::noteBackup();
     hide();
     forms::screen<frmExit>().tell(trouble);
 }

@@ -112,8 +112,8 @@ bool frmDelField::is_In_Use(const editing::List& list) const
     return false;
 }
 
-// The rows stay, with the other names in them, except that the items of a category go with it. Each of them waits for
-// the disk.
+// The rows stay, with the other names in them, except that the items of a category go with it. Each row waits for the
+// disk.
 void frmDelField::blank_Name(const editing::List& list)
 {
     const forms::WaitPointer wait;
